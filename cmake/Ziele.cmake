@@ -1,0 +1,29 @@
+# One target a folder: the link graph is the architecture.
+
+set(TOLVEK_WARNUNGEN -Wall -Wextra -Wpedantic -Wconversion)
+if(TOLVEK_WARNUNG_IST_FEHLER)
+  list(APPEND TOLVEK_WARNUNGEN -Werror)
+endif()
+
+# tolvek_ordner(NAME [target ...]): a static library of all sources below this folder (subfolders with a
+# CMakeLists.txt of their own excepted), linked with the targets it may see.
+function(tolvek_ordner name)
+  file(GLOB_RECURSE quellen CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+  file(GLOB_RECURSE unterziele ${CMAKE_CURRENT_SOURCE_DIR}/*/CMakeLists.txt)
+  foreach(unterziel ${unterziele})
+    get_filename_component(ordner ${unterziel} DIRECTORY)
+    list(FILTER quellen EXCLUDE REGEX "^${ordner}/")
+  endforeach()
+  if(WIN32)
+    list(FILTER quellen EXCLUDE REGEX "_posix\\.cpp$")
+  else()
+    list(FILTER quellen EXCLUDE REGEX "_windows\\.cpp$")
+  endif()
+  add_library(${name} STATIC ${quellen})
+  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_compile_options(${name} PRIVATE ${TOLVEK_WARNUNGEN})
+  if(ARGN)
+    target_link_libraries(${name} PUBLIC ${ARGN})
+  endif()
+endfunction()

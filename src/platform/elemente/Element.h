@@ -1,0 +1,94 @@
+#pragma once
+
+#include "platform/elemente/Farbe.h"
+#include "platform/elemente/Melder.h"
+#include "platform/elemente/Taste.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+class Bildschirm;
+class Elementbesucher;
+
+/// What every element of a screen has in common. An element is a value with a change notification: the
+/// surface subscribes to `geändert` and draws; a person's action comes back through the doors (`klicke`,
+/// `doppelklicke`, `taste`, and those of the kinds), which tests and scenarios use as well. The screen puts
+/// its rules into the handlers (`beiKlick`, …).
+///
+/// Doors do not test whether a person could reach the element (Bildschirm::istErreichbar tells that), and
+/// they do not move the focus (Bildschirm::fokussiere does). All texts are code page.
+class Element {
+public:
+    Element() = default;
+    Element(const Element&) = delete;
+    Element& operator=(const Element&) = delete;
+    virtual ~Element() = default;
+
+    /// The element's own name on its screen, as "cmdOK" or "optHDohne(2)"; set by the screen.
+    const std::string& name() const { return m_name; }
+    Bildschirm* bildschirm() const { return m_bildschirm; }
+
+    bool istSichtbar() const { return m_sichtbar; }
+    void zeige(bool sichtbar = true);
+    void verberge() { zeige(false); }
+
+    bool istFrei() const { return m_frei; }
+    void gibFrei(bool frei = true);
+    void sperre() { gibFrei(false); }
+
+    /// Text, caption or value, as a scenario reads it.
+    virtual std::string text() const { return {}; }
+
+    const std::string& hinweis() const { return m_hinweis; }
+    void setzeHinweis(std::string_view hinweis);
+
+    /// The background colour, white where none was set.
+    Farbe hintergrund() const { return m_hintergrund.value_or(farbe::weiß); }
+    bool hatHintergrund() const { return m_hintergrund.has_value(); }
+    void setzeHintergrund(Farbe farbe);
+
+    /// Whether it takes the keyboard focus at all.
+    virtual bool nimmtFokus() const { return true; }
+    /// Whether it is the element of its screen that has the focus.
+    bool hatFokus() const;
+
+    virtual void besuche(Elementbesucher& besucher) = 0;
+
+    // doors
+    virtual void klicke() { rufe(beiKlick); }
+    virtual void doppelklicke() { rufe(beiDoppelklick); }
+    /// A key. False when the element has no use for it (the screen then has: Return, Escape, Tab).
+    virtual bool taste(const Taste& taste);
+
+    // rules
+    std::function<void()> beiKlick;
+    std::function<void()> beiDoppelklick;
+    /// Asked before the focus leaves; false keeps the focus here and stops the action that would move it.
+    std::function<bool()> beiVerlassen;
+
+    /// Told after every change that a surface has to draw.
+    Melder<> geändert;
+    /// Told when the focus comes or goes (true: it came).
+    virtual void fokusGewechselt(bool /*gekommen*/) {}
+
+protected:
+    void meldeÄnderung() { geändert.melde(); }
+    static void rufe(const std::function<void()>& regel)
+    {
+        if (regel) {
+            regel();
+        }
+    }
+
+private:
+    friend class Bildschirm;
+
+    std::string m_name;
+    Bildschirm* m_bildschirm = nullptr;
+    bool m_sichtbar = true;
+    bool m_frei = true;
+    std::string m_hinweis;
+    std::optional<Farbe> m_hintergrund;
+};

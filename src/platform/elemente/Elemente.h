@@ -1,0 +1,352 @@
+#pragma once
+
+// The kinds of elements; see Element.h for what they share.
+
+#include "platform/elemente/Element.h"
+#include "platform/text/Datum.h"
+#include "platform/text/Text.h"
+
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// A label. Clickable where a screen gives it a rule (the rows of the diagnosis listing).
+class Beschriftung : public Element {
+public:
+    explicit Beschriftung(std::string_view text = {}) : m_text(text) {}
+
+    std::string text() const override { return m_text; }
+    void setzeText(std::string_view text);
+    bool nimmtFokus() const override { return false; }
+    void besuche(Elementbesucher& besucher) override;
+
+    /// How a listing draws the row of the label.
+    enum class Zeilenart { Gewöhnlich, Hauptdiagnose, Markiert };
+    Zeilenart zeilenart() const { return m_zeilenart; }
+    void setzeZeilenart(Zeilenart art);
+
+private:
+    std::string m_text;
+    Zeilenart m_zeilenart = Zeilenart::Gewöhnlich;
+};
+
+/// A push button. "&" in the caption marks the mnemonic letter.
+class Schaltfläche : public Element {
+public:
+    enum class Rolle { Gewöhnlich, Haupt, Gefahr, Füller, Weg, Decke, Gedrückt };
+
+    explicit Schaltfläche(std::string_view text = {}, Rolle rolle = Rolle::Gewöhnlich) : m_text(text), m_rolle(rolle) {}
+
+    std::string text() const override { return m_text; }
+    void setzeText(std::string_view text);
+    Rolle rolle() const { return m_rolle; }
+    void setzeRolle(Rolle rolle) { m_rolle = rolle; }
+    bool taste(const Taste& taste) override;
+    void besuche(Elementbesucher& besucher) override;
+
+private:
+    std::string m_text;
+    Rolle m_rolle;
+};
+
+enum class Zeilenzahl { Einzeilig, Mehrzeilig };
+inline constexpr Zeilenzahl Mehrzeilig = Zeilenzahl::Mehrzeilig;
+inline constexpr Zeilenzahl Einzeilig = Zeilenzahl::Einzeilig;
+
+/// A text box. In one of several lines a line break is carriage return and line feed.
+class Textfeld : public Element {
+public:
+    explicit Textfeld(Zeilenzahl zeilen = Einzeilig, std::size_t höchstlänge = 0) : m_zeilen(zeilen), m_höchstlänge(höchstlänge) {}
+
+    std::string text() const override { return m_text; }
+    void setzeText(std::string_view text);
+    bool istMehrzeilig() const { return m_zeilen == Mehrzeilig; }
+    std::size_t höchstlänge() const { return m_höchstlänge; }
+    /// Cursor as a number of characters to its left.
+    std::size_t schreibmarke() const { return m_schreibmarke; }
+
+    /// The user's text replaces the old one (typed or pasted); the text is code page already (nimmEingabe).
+    void gibEin(std::string_view text, std::size_t schreibmarke);
+    bool taste(const Taste& taste) override;
+    void besuche(Elementbesucher& besucher) override;
+    void fokusGewechselt(bool gekommen) override;
+
+    std::function<void()> beiÄnderung;
+
+private:
+    bool füge(std::string_view zeichen);
+
+    std::string m_text;
+    Zeilenzahl m_zeilen;
+    std::size_t m_höchstlänge;
+    std::size_t m_schreibmarke = 0;
+};
+
+/// A combo box: a list and a text. Choose-only, unless `Tippbar`; it shows any text the program gives it,
+/// in the list or not.
+///
+/// Keys: up and down pick the entry before or after. In a choose-only box Home and End pick the first and
+/// the last, a letter the next entry that begins with it. In a typeable box left, right, Home and End move
+/// the cursor, and backspace and characters go to `beiTastendruck` (the type-ahead), which decides.
+class Auswahlfeld : public Element {
+public:
+    enum class Art { NurWahl, Tippbar };
+
+    explicit Auswahlfeld(Art art = Art::NurWahl) : m_art(art) {}
+
+    std::string text() const override { return m_text; }
+    /// Shows the text; cursor to its start. Tells no rule.
+    void setzeText(std::string_view text);
+    const std::vector<std::string>& liste() const { return m_liste; }
+    /// Replaces the list; the text stays.
+    void setzeListe(std::vector<std::string> liste);
+    /// List and text at once.
+    void fülle(std::vector<std::string> liste, std::string_view vorgabe);
+    bool istTippbar() const { return m_art == Art::Tippbar; }
+
+    std::size_t schreibmarke() const { return m_schreibmarke; }
+    void setzeSchreibmarke(std::size_t ort);
+
+    /// The user picks the entry (from 0).
+    void wähle(std::size_t eintrag);
+    /// The user's own text, past any key handling (pasting).
+    void gibEin(std::string_view text, std::size_t schreibmarke);
+    bool taste(const Taste& taste) override;
+    void besuche(Elementbesucher& besucher) override;
+    void fokusGewechselt(bool gekommen) override;
+
+    /// After the user has picked an entry (also with the keys).
+    std::function<void()> beiWahl;
+    /// A key press of a typeable box: code 8 for backspace, else the character; what is left in `code` at
+    /// the end is put in as usual, 0 swallows it.
+    std::function<void(int& code)> beiTastendruck;
+
+    /// While the message about a wrong value stands, and the box has to be red.
+    bool istFalsch() const { return hatHintergrund() && hintergrund() == farbe::rot; }
+
+private:
+    bool tasteNurWahl(const Taste& taste);
+    bool tasteTippbar(const Taste& taste);
+    void wähleNachbar(bool vor);
+    void setzeEin(int code);
+
+    Art m_art;
+    std::string m_text;
+    std::vector<std::string> m_liste;
+    std::size_t m_schreibmarke = 0;
+};
+
+/// Option buttons of which at most one is marked; the group unmarks the others.
+class Optionsfeld;
+class Optionsgruppe {
+public:
+    void füge(Optionsfeld& feld) { m_felder.push_back(&feld); }
+    void markiereNur(const Optionsfeld& feld);
+
+private:
+    std::vector<Optionsfeld*> m_felder;
+};
+
+/// An option button. A click (or Space) marks it. Arrow keys move the focus within the group; they mark as
+/// well, unless the group was told that a mark has consequences (`pfeileMarkieren` = false).
+class Optionsfeld : public Element {
+public:
+    explicit Optionsfeld(std::string_view text = {}) : m_text(text) {}
+
+    std::string text() const override { return m_text; }
+    void setzeText(std::string_view text);
+    bool istAn() const { return m_an; }
+    /// Marks or unmarks; marking unmarks the others of the group. Tells no rule.
+    void setze(bool an);
+    void trittBei(Optionsgruppe& gruppe);
+    bool pfeileMarkieren() const { return m_pfeileMarkieren; }
+    void setzePfeileMarkieren(bool an) { m_pfeileMarkieren = an; }
+
+    /// Marks and tells `beiKlick`.
+    void klicke() override;
+    bool taste(const Taste& taste) override;
+    void besuche(Elementbesucher& besucher) override;
+
+    /// Backspace or Delete on the option, where the screen has a use for it.
+    std::function<void()> beiLöschtaste;
+
+private:
+    std::string m_text;
+    bool m_an = false;
+    bool m_pfeileMarkieren = true;
+    Optionsgruppe* m_gruppe = nullptr;
+};
+
+/// A check box. `beiÄnderung` is told of every change, the program's own too.
+class Ankreuzfeld : public Element {
+public:
+    explicit Ankreuzfeld(std::string_view text = {}) : m_text(text) {}
+
+    std::string text() const override { return m_text; }
+    bool istAn() const { return m_an; }
+    void setze(bool an);
+    void klicke() override { setze(!m_an); }
+    bool taste(const Taste& taste) override;
+    void besuche(Elementbesucher& besucher) override;
+
+    std::function<void()> beiÄnderung;
+
+private:
+    std::string m_text;
+    bool m_an = false;
+};
+
+/// A date input: always a valid day of the calendar.
+class Datumsfeld : public Element {
+public:
+    Datum datum() const { return m_datum; }
+    std::string text() const override { return alsDatumstext(m_datum); }
+    void setzeDatum(const Datum& datum);
+    /// Struck out while an open end stands beside it.
+    bool istDurchgestrichen() const { return m_durchgestrichen; }
+    void streicheDurch(bool ja);
+
+    /// The user picks or types the date.
+    void wähle(const Datum& datum);
+    void besuche(Elementbesucher& besucher) override;
+
+    std::function<void()> beiWahl;
+
+private:
+    Datum m_datum{2000, 1, 1};
+    bool m_durchgestrichen = false;
+};
+
+class Fortschrittsbalken : public Element {
+public:
+    int kleinstes() const { return m_kleinstes; }
+    int größtes() const { return m_größtes; }
+    int wert() const { return m_wert; }
+    void setzeBereich(int kleinstes, int größtes);
+    void setzeWert(int wert);
+    std::string text() const override;
+    bool nimmtFokus() const override { return false; }
+    void besuche(Elementbesucher& besucher) override;
+
+private:
+    int m_kleinstes = 0;
+    int m_größtes = 100;
+    int m_wert = 0;
+};
+
+class Bildlaufleiste : public Element {
+public:
+    int kleinstes() const { return m_kleinstes; }
+    int größtes() const { return m_größtes; }
+    int wert() const { return m_wert; }
+    int kleinerSchritt() const { return m_kleinerSchritt; }
+    int großerSchritt() const { return m_großerSchritt; }
+    void setzeBereich(int kleinstes, int größtes, int kleinerSchritt, int großerSchritt);
+    /// Also the user's door; tells `beiÄnderung` when the value changes.
+    void setzeWert(int wert);
+    std::string text() const override;
+    bool taste(const Taste& taste) override;
+    void besuche(Elementbesucher& besucher) override;
+
+    std::function<void()> beiÄnderung;
+
+private:
+    int m_kleinstes = 0;
+    int m_größtes = 1;
+    int m_wert = 0;
+    int m_kleinerSchritt = 1;
+    int m_großerSchritt = 1;
+};
+
+/// A frame that holds others (`frameVorne`); heights and place in twips, for the scrolled listing.
+class Fläche : public Element {
+public:
+    double höhe() const { return m_höhe; }
+    void setzeHöhe(double höhe);
+    double oben() const { return m_oben; }
+    void setzeOben(double oben);
+    bool nimmtFokus() const override { return false; }
+    void besuche(Elementbesucher& besucher) override;
+
+    std::function<void()> beiGrößenänderung;
+
+private:
+    double m_höhe = 0;
+    double m_oben = 0;
+};
+
+/// A list of rows with columns; one row selected at most. A row is one text whose cells are separated by
+/// `trenner`, so that ten thousand clients are ten thousand small texts and no object per cell.
+class Liste : public Element {
+public:
+    explicit Liste(std::vector<std::string> spalten = {}) : m_spalten(std::move(spalten)) {}
+
+    const std::vector<std::string>& spalten() const { return m_spalten; }
+    std::size_t anzahl() const { return m_zeilen.size(); }
+    bool istLeer() const { return m_zeilen.empty(); }
+
+    /// Replaces all rows; nothing is selected, no sort stays.
+    void setzeZeilen(std::vector<std::string> zeilen);
+    /// The row, counted from 1, cells joined by `trenner`.
+    const std::string& zeile(std::size_t nummer) const { return m_zeilen.at(nummer - 1); }
+    /// The cell; row and column from 1.
+    std::string_view zelle(std::size_t zeile, std::size_t spalte) const;
+
+    /// The selected row, 0 for none.
+    std::size_t auswahl() const { return m_auswahl; }
+    void wähle(std::size_t nummer);
+    /// Selects and scrolls into view.
+    void wähleUndZeige(std::size_t nummer);
+
+    /// The column (from 1) of the last header click since the rows were read, 0 for none; for the arrow.
+    std::size_t sortierteSpalte() const { return m_sortierteSpalte; }
+    /// One sort, ascending, as text without case, umlauts as their base letters, stable; the selection
+    /// stays with its row.
+    void sortiereNach(std::size_t spalte);
+
+    // doors
+    void klickeZeile(std::size_t nummer);
+    /// The double click proper; the single click before it comes from klickeZeile.
+    void doppelklickeZeile(std::size_t nummer);
+    void klickeKopf(std::size_t spalte);
+    bool taste(const Taste& taste) override;
+    void besuche(Elementbesucher& besucher) override;
+
+    std::function<void(std::size_t spalte)> beiKopfklick;
+    /// A key before the list itself moves; true swallows it.
+    std::function<bool(const Taste&)> beiTastendruck;
+    /// Told when the rows themselves have changed (after setzeZeilen and a sort).
+    Melder<> zeilenGeändert;
+    /// Told when the selected row is to be scrolled into view.
+    Melder<> inSicht;
+
+private:
+    std::vector<std::string> m_spalten;
+    std::vector<std::string> m_zeilen;
+    std::size_t m_auswahl = 0;
+    std::size_t m_sortierteSpalte = 0;
+};
+
+class Menüeintrag : public Element {
+public:
+    explicit Menüeintrag(std::string_view text = {}) : m_text(text) {}
+    std::string text() const override { return m_text; }
+    bool nimmtFokus() const override { return false; }
+    void besuche(Elementbesucher& besucher) override;
+
+private:
+    std::string m_text;
+};
+
+/// A picture of the program's own, by the name of its file among the program's resources.
+class Bild : public Element {
+public:
+    explicit Bild(std::string_view quelle = {}) : m_quelle(quelle) {}
+    const std::string& quelle() const { return m_quelle; }
+    bool nimmtFokus() const override { return false; }
+    void besuche(Elementbesucher& besucher) override;
+
+private:
+    std::string m_quelle;
+};

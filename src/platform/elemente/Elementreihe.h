@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+#include <deque>
+
+/// An array of elements with the index range of its design: `triJaNeinKosten(1)` to `(9)`.
+template <class E> class Elementreihe {
+public:
+    template <class... A> Elementreihe(int von, int bis, const A&... werte) : m_von(von)
+    {
+        for (int i = von; i <= bis; ++i) {
+            m_felder.emplace_back(werte...);
+        }
+    }
+
+    E& operator()(int i) { return m_felder.at(static_cast<std::size_t>(i - m_von)); }
+    const E& operator()(int i) const { return m_felder.at(static_cast<std::size_t>(i - m_von)); }
+    int von() const { return m_von; }
+    int bis() const { return m_von + static_cast<int>(m_felder.size()) - 1; }
+
+    auto begin() { return m_felder.begin(); }
+    auto end() { return m_felder.end(); }
+    auto begin() const { return m_felder.begin(); }
+    auto end() const { return m_felder.end(); }
+
+private:
+    int m_von;
+    std::deque<E> m_felder;
+};

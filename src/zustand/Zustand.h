@@ -1,0 +1,109 @@
+#pragma once
+
+#include "platform/Ressourcen.h"
+#include "platform/bildschirm/Ablauf.h"
+#include "platform/bildschirm/Bildschirmfolge.h"
+#include "platform/bildschirm/Rahmen.h"
+#include "platform/text/Text.h"
+#include "platform/umgebung/Umgebung.h"
+#include "zustand/Bildschirmwechsel.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+/// The absolute paths of a run, all below the program folder.
+struct Pfade {
+    std::filesystem::path programm;         ///< the program folder itself
+    std::filesystem::path ini;              ///< Tolvek7.ini
+    std::filesystem::path dummyIni;         ///< Tolvhek7Dummy.ini
+    std::filesystem::path daten;            ///< Daten
+    std::filesystem::path kernDat;          ///< Daten/kernDat.txt
+    std::filesystem::path betrDat;          ///< Daten/betrDat.txt
+    std::filesystem::path diagDat;          ///< Daten/diagDat.txt
+    std::filesystem::path kernBak;          ///< Daten/kernDat.bak
+    std::filesystem::path betrBak;          ///< Daten/betrDat.bak
+    std::filesystem::path diagBak;          ///< Daten/diagDat.bak
+    std::filesystem::path dummyDatei;       ///< dummyFile.txt
+    std::filesystem::path importListe;      ///< importDatenListe.txt
+};
+
+/// The working copy of the one care episode in flight. The care record is cut into one piece per page; each
+/// piece is text, its fields in order, each followed by the delimiter (also the last one). Nothing of it
+/// reaches the tables before the care main page's OK.
+struct Arbeitskopie {
+    std::string aktKernDS;   ///< client record as read at opening
+    std::string aktBetrDS;   ///< care record as read at opening, or the default
+    std::string aktDiagDS;   ///< diagnosis record as read at opening, or the default
+    std::string DSBetrHaupt; ///< care fields 5 to 24
+    std::string DSBetrA;     ///< care fields 25 to 104
+    std::string DSBetrB;     ///< care fields 105 to 117
+    std::string DSBetrC;     ///< care fields 118 to 149
+    std::string DSBetrDiag;  ///< care fields 150 to 163
+    std::string DSBetrE;     ///< care fields 164 to 191
+    std::string DSDiag;      ///< diagnosis fields 3 to 247
+    std::string betrBeg;     ///< begin in flight, TT.MM.JJJJ
+    std::string betrEnd;     ///< end in flight, TT.MM.JJJJ or "offen"
+};
+
+/// The state of a program run, filled once at start and read by all.
+class Zustand {
+public:
+    explicit Zustand(Umgebung& umgebungDesLaufs) : umgebung(umgebungDesLaufs), ablauf(umgebungDesLaufs, folge) {}
+    Zustand(const Zustand&) = delete;
+    Zustand& operator=(const Zustand&) = delete;
+
+    Umgebung& umgebung;
+    Bildschirmfolge folge;
+    Rahmen rahmen;
+    Ablauf ablauf;
+    Ressourcen ressourcen;
+    /// Hand-over from screen to screen; set by the frame before the first screen opens.
+    Bildschirmwechsel* wechsel = nullptr;
+
+    /// Title of every message box and of the frame, "Tolvek7 v7.0.0"; empty before initialisation.
+    std::string titel;
+    Pfade pfade;
+    std::string defaultKernDS;
+    std::string defaultBetrDS;
+    std::string defaultDiagDS;
+    std::int16_t anzahlKernFelder = 0;
+    std::int16_t anzahlBetrFelder = 0;
+    /// Field counts that the start-up repair found in the files; kept, read by nobody.
+    std::int16_t gefundeneKernFelder = 0;
+    std::int16_t gefundeneBetrFelder = 0;
+
+    Arbeitskopie arbeitskopie;
+    /// The two memo texts while a memo can be edited; line breaks as character 182.
+    std::string memoKText;
+    std::string memoBText;
+    /// The two paths of the last import; read by nobody.
+    std::string importKernPfad;
+    std::string importBetrPfad;
+
+    /// The selected client and care episode of the main menu (0: none); they outlive its unloading.
+    std::int32_t aktKernID = 0;
+    std::int32_t aktBetrID = 0;
+    bool sitzungGesichert = false;
+};
+
+/// The state of the run that is going on.
+Zustand& zustand();
+
+/// Makes a state the current one for its own lifetime (one per program run).
+class Zustandsplatz {
+public:
+    explicit Zustandsplatz(Zustand& zustand);
+    Zustandsplatz(const Zustandsplatz&) = delete;
+    Zustandsplatz& operator=(const Zustandsplatz&) = delete;
+    ~Zustandsplatz();
+
+private:
+    Zustand* m_vorher;
+};
+
+/// Shows a message box under the program's title and returns the answer.
+Antwort zeigeMeldung(std::string_view text, Symbol symbol = Symbol::Keins, Knöpfe knöpfe = Knöpfe::OK);
+/// The same with a default button of its own.
+Antwort zeigeMeldung(std::string_view text, Symbol symbol, Knöpfe knöpfe, Antwort vorgabe);
