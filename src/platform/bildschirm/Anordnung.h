@@ -27,7 +27,7 @@ struct Anordnung {
         Spalte,       ///< parts below each other
         Zeile,        ///< parts side by side
         Formular,     ///< rows of label and field on one grid
-        Feld,         ///< a row of a Formular: label (text, or `beschriftung`), then its parts
+        Feld,         ///< a row of a Formular: label (`text`, or the label `element`), then its parts
         Trennlinie,   ///< a hairline between groups of a Formular
         Karte,        ///< a titled card; the part may be a list that fills the page
         Karten,       ///< columns (Spalte) of cards, side by side; below each other where they don't fit
@@ -35,13 +35,14 @@ struct Anordnung {
         Tabellenzeile,
         Decke,        ///< the first part, covered by the second (a button) while that one is visible
         Stapel,       ///< parts that share one place, at most one visible at a time
-        Listung,      ///< the diagnosis listing: see `listung`
+        Listung,      ///< the diagnosis listing: `element` is the scroll bar, `köpfe` are frameVorne and
+                      ///< frameHinten, `text` the two headings, separated by a line feed
         Dehnung,      ///< takes the space that is left
     };
 
     Wort wort = Wort::Spalte;
     std::string text;                       ///< label, title or fixed text
-    Element* element = nullptr;             ///< Element; label of a Feld or Tabellenzeile; scroll bar of a Listung
+    Element* element = nullptr;             ///< Element; label of a Feld or Tabellenzeile
     std::vector<Anordnung> teile;
     double breite = 0;                      ///< em: width of an element or label column, of a card at most
     bool füllt = false;                     ///< takes the height (or width) that is left

@@ -122,9 +122,12 @@ private:
     void sammleTabFolge(const Anordnung& a, std::vector<Element*>& folge) const;
     bool istUnterDecke(const Anordnung& a, const Element& element, bool verdeckt) const;
 
+    bool geheWeiter(bool vor);
+
     std::string m_name;
     std::string m_titel;
     std::vector<Element*> m_elemente;
     std::map<std::string, Element*, std::less<>> m_nachName;
     Element* m_fokus = nullptr;
+    bool m_prüftVerlassen = false;
 };

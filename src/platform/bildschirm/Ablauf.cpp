@@ -1,0 +1,38 @@
+#include "platform/bildschirm/Ablauf.h"
+
+#include "platform/text/Text.h"
+#include "platform/umgebung/Laufzeitfehler.h"
+
+bool Ablauf::ereignis(const std::function<void()>& aktion)
+{
+    if (!m_läuft) {
+        return false;
+    }
+    ++m_tiefe;
+    try {
+        aktion();
+        if (m_tiefe == 1 && m_läuft) {
+            m_folge.führeAktivierungenAus();
+        }
+    } catch (const Laufzeitfehler& fehler) {
+        stürzeAb(fehler.text());
+    }
+    --m_tiefe;
+    return m_läuft;
+}
+
+void Ablauf::beende()
+{
+    if (m_läuft) {
+        m_läuft = false;
+        beendet.melde();
+    }
+}
+
+void Ablauf::stürzeAb(const std::string& text)
+{
+    m_absturz = verbinde("Laufzeitfehler: "_t, text);
+    m_status = 1;
+    m_umgebung.zeigeMeldung({m_absturz, Symbol::Stop, Knöpfe::OK, Antwort::OK, m_titel});
+    beende();
+}

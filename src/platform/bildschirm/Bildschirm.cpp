@@ -1,0 +1,173 @@
+#include "platform/bildschirm/Bildschirm.h"
+
+#include <algorithm>
+
+namespace {
+
+void nimmAuf(Element* element, std::vector<Element*>& folge)
+{
+    if (element != nullptr && element->nimmtFokus()) {
+        folge.push_back(element);
+    }
+}
+
+} // namespace
+
+void Bildschirm::setzeTitel(std::string_view titel)
+{
+    m_titel = titel;
+    titelGeändert.melde();
+}
+
+void Bildschirm::benenne(std::string_view name, Element& element)
+{
+    element.m_name = name;
+    element.m_bildschirm = this;
+    m_elemente.push_back(&element);
+    m_nachName.emplace(name, &element);
+}
+
+Element* Bildschirm::finde(std::string_view name) const
+{
+    const auto ort = m_nachName.find(name);
+    return ort == m_nachName.end() ? nullptr : ort->second;
+}
+
+void Bildschirm::sammleTabFolge(const Anordnung& a, std::vector<Element*>& folge) const
+{
+    for (auto* kopf : a.köpfe) {
+        nimmAuf(kopf, folge);
+    }
+    for (const auto& spalte : a.spalten) {
+        nimmAuf(spalte.füller, folge);
+    }
+    const bool istListung = a.wort == Anordnung::Wort::Listung;
+    if (!istListung) {
+        nimmAuf(a.element, folge);
+    }
+    // a cover is read out where the covered fields would be
+    for (const auto& teil : a.teile) {
+        sammleTabFolge(teil, folge);
+    }
+    if (istListung) {
+        nimmAuf(a.element, folge);
+    }
+}
+
+std::vector<Element*> Bildschirm::tabFolge() const
+{
+    std::vector<Element*> folge;
+    sammleTabFolge(aufbau, folge);
+    for (auto* element : leiste.links) {
+        nimmAuf(element, folge);
+    }
+    for (auto* element : leiste.rechts) {
+        nimmAuf(element, folge);
+    }
+    nimmAuf(kopfband.knopf, folge);
+    return folge;
+}
+
+bool Bildschirm::istUnterDecke(const Anordnung& a, const Element& element, bool verdeckt) const
+{
+    if (a.wort == Anordnung::Wort::Decke) {
+        const auto& decke = *a.teile.back().element;
+        if (istUnterDecke(a.teile.front(), element, verdeckt || decke.istSichtbar())) {
+            return true;
+        }
+        return verdeckt && &decke == &element;
+    }
+    if (verdeckt && a.element == &element) {
+        return true;
+    }
+    return std::any_of(a.teile.begin(), a.teile.end(),
+                       [&](const Anordnung& teil) { return istUnterDecke(teil, element, verdeckt); });
+}
+
+bool Bildschirm::istVerdeckt(const Element& element) const
+{
+    return istUnterDecke(aufbau, element, false);
+}
+
+bool Bildschirm::fokussiere(Element* element)
+{
+    if (element == m_fokus) {
+        return true;
+    }
+    // The rule may show a message, in which the surface reports focus changes of its own.
+    if (m_fokus != nullptr && m_fokus->beiVerlassen && !m_prüftVerlassen) {
+        m_prüftVerlassen = true;
+        const bool darf = m_fokus->beiVerlassen();
+        m_prüftVerlassen = false;
+        if (!darf) {
+            fokusGeändert.melde();
+            return false;
+        }
+    }
+    setzeFokus(element);
+    return true;
+}
+
+void Bildschirm::setzeFokus(Element* element)
+{
+    if (element == m_fokus) {
+        return;
+    }
+    auto* vorher = m_fokus;
+    m_fokus = element;
+    if (vorher != nullptr) {
+        vorher->fokusGewechselt(false);
+    }
+    if (m_fokus != nullptr) {
+        m_fokus->fokusGewechselt(true);
+    }
+    fokusGeändert.melde();
+}
+
+void Bildschirm::fokussiereErstes()
+{
+    for (auto* element : tabFolge()) {
+        if (istErreichbar(*element)) {
+            setzeFokus(element);
+            return;
+        }
+    }
+}
+
+bool Bildschirm::taste(const Taste& taste)
+{
+    const auto drücke = [](Schaltfläche* knopf) {
+        if (knopf == nullptr || !knopf->istSichtbar() || !knopf->istFrei()) {
+            return false;
+        }
+        knopf->klicke();
+        return true;
+    };
+    switch (taste.art) {
+    case Taste::Art::Eingabe:
+        return drücke(beiEingabe);
+    case Taste::Art::Esc:
+        return drücke(beiEscape);
+    case Taste::Art::Tab:
+    case Taste::Art::RückTab:
+        return geheWeiter(taste.art == Taste::Art::Tab);
+    default:
+        return false;
+    }
+}
+
+bool Bildschirm::geheWeiter(bool vor)
+{
+    auto folge = tabFolge();
+    std::erase_if(folge, [this](const Element* element) { return element != m_fokus && !istErreichbar(*element); });
+    if (folge.empty()) {
+        return false;
+    }
+    const auto ort = std::find(folge.begin(), folge.end(), m_fokus);
+    std::size_t stelle = 0;
+    if (ort != folge.end()) {
+        const auto jetzt = static_cast<std::size_t>(ort - folge.begin());
+        stelle = (jetzt + (vor ? 1 : folge.size() - 1)) % folge.size();
+    }
+    return fokussiere(folge[stelle]);
+}

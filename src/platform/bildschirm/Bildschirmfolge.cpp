@@ -1,0 +1,118 @@
+#include "platform/bildschirm/Bildschirmfolge.h"
+
+#include <algorithm>
+#include <iterator>
+
+Bildschirmfolge::Stand* Bildschirmfolge::stand(const Bildschirm& bildschirm)
+{
+    const auto ort = std::find_if(m_stände.begin(), m_stände.end(), [&](const Stand& s) { return s.bildschirm == &bildschirm; });
+    return ort == m_stände.end() ? nullptr : &*ort;
+}
+
+const Bildschirmfolge::Stand* Bildschirmfolge::stand(const Bildschirm& bildschirm) const
+{
+    return const_cast<Bildschirmfolge*>(this)->stand(bildschirm);
+}
+
+void Bildschirmfolge::zeige(Bildschirm& bildschirm)
+{
+    Stand neu;
+    if (const auto* s = stand(bildschirm)) {
+        neu = *s;
+        std::erase_if(m_stände, [&](const Stand& alt) { return alt.bildschirm == &bildschirm; });
+    }
+    neu.bildschirm = &bildschirm;
+    neu.sichtbar = true;
+    neu.sollAktivWerden = true;
+    m_stände.push_back(neu);
+    geändert.melde(bildschirm);
+}
+
+void Bildschirmfolge::verberge(Bildschirm& bildschirm)
+{
+    if (auto* s = stand(bildschirm)) {
+        s->sichtbar = false;
+        geändert.melde(bildschirm);
+    }
+}
+
+void Bildschirmfolge::sperre(Bildschirm& bildschirm)
+{
+    if (auto* s = stand(bildschirm)) {
+        s->frei = false;
+        geändert.melde(bildschirm);
+    }
+}
+
+void Bildschirmfolge::gibFrei(Bildschirm& bildschirm)
+{
+    if (auto* s = stand(bildschirm); s != nullptr && !s->frei) {
+        s->frei = true;
+        s->sollAktivWerden = true;
+        geändert.melde(bildschirm);
+    }
+}
+
+void Bildschirmfolge::entlade(Bildschirm& bildschirm)
+{
+    if (stand(bildschirm) == nullptr) {
+        return;
+    }
+    verberge(bildschirm);
+    bildschirm.beiEntladen();
+    entladen.melde(bildschirm);
+    std::erase_if(m_stände, [&](const Stand& s) { return s.bildschirm == &bildschirm; });
+}
+
+bool Bildschirmfolge::istGeladen(const Bildschirm& bildschirm) const
+{
+    return stand(bildschirm) != nullptr;
+}
+
+bool Bildschirmfolge::istSichtbar(const Bildschirm& bildschirm) const
+{
+    const auto* s = stand(bildschirm);
+    return s != nullptr && s->sichtbar;
+}
+
+bool Bildschirmfolge::istFrei(const Bildschirm& bildschirm) const
+{
+    const auto* s = stand(bildschirm);
+    return s != nullptr && s->frei;
+}
+
+Bildschirm* Bildschirmfolge::inGebrauch() const
+{
+    const auto ort = std::find_if(m_stände.rbegin(), m_stände.rend(), [](const Stand& s) { return s.sichtbar && s.frei; });
+    return ort == m_stände.rend() ? nullptr : ort->bildschirm;
+}
+
+Bildschirm* Bildschirmfolge::finde(std::string_view name) const
+{
+    const auto ort = std::find_if(m_stände.rbegin(), m_stände.rend(), [&](const Stand& s) { return s.bildschirm->name() == name; });
+    return ort == m_stände.rend() ? nullptr : ort->bildschirm;
+}
+
+std::vector<Bildschirm*> Bildschirmfolge::geladene() const
+{
+    std::vector<Bildschirm*> alle;
+    std::transform(m_stände.begin(), m_stände.end(), std::back_inserter(alle), [](const Stand& s) { return s.bildschirm; });
+    return alle;
+}
+
+void Bildschirmfolge::führeAktivierungenAus()
+{
+    const auto nächster = [this] {
+        const auto ort = std::find_if(m_stände.begin(), m_stände.end(),
+                                      [](const Stand& s) { return s.sollAktivWerden && s.sichtbar && s.frei; });
+        return ort == m_stände.end() ? nullptr : &*ort;
+    };
+    while (auto* s = nächster()) {
+        auto& bildschirm = *s->bildschirm;
+        s->sollAktivWerden = false;
+        if (bildschirm.fokus() == nullptr) {
+            bildschirm.fokussiereErstes();
+        }
+        bildschirm.beiAktivierung();
+    }
+}

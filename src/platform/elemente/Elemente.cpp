@@ -1,0 +1,212 @@
+#include "platform/elemente/Elemente.h"
+
+#include <algorithm>
+#include <string>
+
+void Beschriftung::setzeText(std::string_view text)
+{
+    if (m_text != text) {
+        m_text = text;
+        meldeÄnderung();
+    }
+}
+
+void Beschriftung::setzeZeilenart(Zeilenart art)
+{
+    if (m_zeilenart != art) {
+        m_zeilenart = art;
+        meldeÄnderung();
+    }
+}
+
+void Schaltfläche::setzeText(std::string_view text)
+{
+    m_text = text;
+    meldeÄnderung();
+}
+
+bool Schaltfläche::taste(const Taste& taste)
+{
+    if (taste.art != Taste::Art::Zeichen || taste.zeichen != ' ') {
+        return false;
+    }
+    klicke();
+    return true;
+}
+
+void Optionsgruppe::markiereNur(const Optionsfeld& feld)
+{
+    for (auto* anderes : m_felder) {
+        if (anderes != &feld) {
+            anderes->setze(false);
+        }
+    }
+}
+
+void Optionsfeld::setzeText(std::string_view text)
+{
+    m_text = text;
+    meldeÄnderung();
+}
+
+void Optionsfeld::setze(bool an)
+{
+    if (an && m_gruppe != nullptr) {
+        m_gruppe->markiereNur(*this);
+    }
+    if (m_an != an) {
+        m_an = an;
+        meldeÄnderung();
+    }
+}
+
+void Optionsfeld::trittBei(Optionsgruppe& gruppe)
+{
+    m_gruppe = &gruppe;
+    gruppe.füge(*this);
+}
+
+void Optionsfeld::klicke()
+{
+    setze(true);
+    rufe(beiKlick);
+}
+
+bool Optionsfeld::taste(const Taste& taste)
+{
+    if (taste.art == Taste::Art::Zeichen && taste.zeichen == ' ') {
+        klicke();
+        return true;
+    }
+    if ((taste.art == Taste::Art::Rück || taste.art == Taste::Art::Entf) && beiLöschtaste) {
+        beiLöschtaste();
+        return true;
+    }
+    return false;
+}
+
+void Ankreuzfeld::setze(bool an)
+{
+    if (m_an != an) {
+        m_an = an;
+        meldeÄnderung();
+        rufe(beiÄnderung);
+    }
+}
+
+bool Ankreuzfeld::taste(const Taste& taste)
+{
+    if (taste.art != Taste::Art::Zeichen || taste.zeichen != ' ') {
+        return false;
+    }
+    klicke();
+    return true;
+}
+
+void Datumsfeld::setzeDatum(const Datum& datum)
+{
+    if (m_datum != datum) {
+        m_datum = datum;
+        meldeÄnderung();
+    }
+}
+
+void Datumsfeld::streicheDurch(bool ja)
+{
+    if (m_durchgestrichen != ja) {
+        m_durchgestrichen = ja;
+        meldeÄnderung();
+    }
+}
+
+void Datumsfeld::wähle(const Datum& datum)
+{
+    setzeDatum(datum);
+    rufe(beiWahl);
+}
+
+void Fortschrittsbalken::setzeBereich(int kleinstes, int größtes)
+{
+    m_kleinstes = kleinstes;
+    m_größtes = größtes;
+    meldeÄnderung();
+}
+
+void Fortschrittsbalken::setzeWert(int wert)
+{
+    m_wert = wert;
+    meldeÄnderung();
+}
+
+std::string Fortschrittsbalken::text() const
+{
+    return std::to_string(m_wert);
+}
+
+void Bildlaufleiste::setzeBereich(int kleinstes, int größtes, int kleinerSchritt, int großerSchritt)
+{
+    m_kleinstes = kleinstes;
+    m_größtes = größtes;
+    m_kleinerSchritt = kleinerSchritt;
+    m_großerSchritt = großerSchritt;
+    meldeÄnderung();
+    setzeWert(m_wert);
+}
+
+void Bildlaufleiste::setzeWert(int wert)
+{
+    const int erlaubt = std::max(m_kleinstes, std::min(wert, m_größtes));
+    if (erlaubt != m_wert) {
+        m_wert = erlaubt;
+        meldeÄnderung();
+        rufe(beiÄnderung);
+    }
+}
+
+std::string Bildlaufleiste::text() const
+{
+    return std::to_string(m_wert);
+}
+
+bool Bildlaufleiste::taste(const Taste& taste)
+{
+    switch (taste.art) {
+    case Taste::Art::Auf:
+        setzeWert(m_wert - m_kleinerSchritt);
+        return true;
+    case Taste::Art::Ab:
+        setzeWert(m_wert + m_kleinerSchritt);
+        return true;
+    case Taste::Art::BildAuf:
+        setzeWert(m_wert - m_großerSchritt);
+        return true;
+    case Taste::Art::BildAb:
+        setzeWert(m_wert + m_großerSchritt);
+        return true;
+    case Taste::Art::Pos1:
+        setzeWert(m_kleinstes);
+        return true;
+    case Taste::Art::Ende:
+        setzeWert(m_größtes);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void Fläche::setzeHöhe(double höhe)
+{
+    if (m_höhe != höhe) {
+        m_höhe = höhe;
+        meldeÄnderung();
+        rufe(beiGrößenänderung);
+    }
+}
+
+void Fläche::setzeOben(double oben)
+{
+    if (m_oben != oben) {
+        m_oben = oben;
+        meldeÄnderung();
+    }
+}

@@ -1,0 +1,80 @@
+#include "platform/elemente/triCtlJaNein.h"
+
+#include "platform/text/Text.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+struct Antwortwert {
+    std::string_view text;
+    Farbe hintergrund;
+};
+
+constexpr std::array<Antwortwert, 3> antwortwerte{{
+    {"k.A."_t, farbe::rot},
+    {"ja"_t, farbe::weiß},
+    {"nein"_t, farbe::grau},
+}};
+
+constexpr Farbe randMitFokus = 13394787;
+constexpr Farbe randOhneFokus = 4325412;
+
+} // namespace
+
+triCtlJaNein::triCtlJaNein() : m_randfarbe(randOhneFokus)
+{
+    färbe();
+}
+
+std::string triCtlJaNein::text() const
+{
+    return std::string(antwortwerte[m_stelle].text);
+}
+
+void triCtlJaNein::setzeText(std::string_view text)
+{
+    const auto ort = std::find_if(antwortwerte.begin(), antwortwerte.end(), [&](const auto& wert) { return wert.text == text; });
+    setzeStelle(ort == antwortwerte.end() ? 0 : static_cast<std::size_t>(ort - antwortwerte.begin()));
+}
+
+void triCtlJaNein::setzeStelle(std::size_t stelle)
+{
+    const bool anders = m_stelle != stelle;
+    m_stelle = stelle;
+    färbe();
+    if (anders) {
+        rufe(beiÄnderung);
+    }
+}
+
+void triCtlJaNein::färbe()
+{
+    setzeHintergrund(antwortwerte[m_stelle].hintergrund);
+}
+
+void triCtlJaNein::klicke()
+{
+    setzeStelle((m_stelle + 1) % antwortwerte.size());
+    doppelklicke();
+}
+
+bool triCtlJaNein::taste(const Taste& taste)
+{
+    if (taste.art == Taste::Art::Rechts) {
+        setzeStelle((m_stelle + 1) % antwortwerte.size());
+        return true;
+    }
+    if (taste.art == Taste::Art::Links) {
+        setzeStelle((m_stelle + antwortwerte.size() - 1) % antwortwerte.size());
+        return true;
+    }
+    return false;
+}
+
+void triCtlJaNein::fokusGewechselt(bool gekommen)
+{
+    m_randfarbe = gekommen ? randMitFokus : randOhneFokus;
+    meldeÄnderung();
+}

@@ -1,0 +1,90 @@
+#include "platform/text/Datum.h"
+
+#include "platform/text/Text.h"
+#include "platform/text/Zahl.h"
+
+#include <array>
+#include <chrono>
+
+namespace {
+
+std::chrono::year_month_day alsKalendertag(const Datum& datum)
+{
+    return std::chrono::year(datum.jahr) / std::chrono::month(static_cast<unsigned>(datum.monat)) /
+           std::chrono::day(static_cast<unsigned>(datum.tag));
+}
+
+constexpr std::chrono::sys_days nullpunkt = std::chrono::year(1899) / std::chrono::December / std::chrono::day(30);
+
+std::string aufgefüllt(int zahl, std::size_t stellen)
+{
+    auto text = std::to_string(zahl);
+    if (text.size() < stellen) {
+        text.insert(0, stellen - text.size(), '0');
+    }
+    return text;
+}
+
+bool sindZiffern(std::string_view text, std::size_t höchstens)
+{
+    return !text.empty() && text.size() <= höchstens && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+/// The three parts of d.m.y, or nothing.
+std::optional<std::array<std::string_view, 3>> dreiTeile(std::string_view text)
+{
+    const auto erster = text.find('.');
+    if (erster == std::string_view::npos) {
+        return std::nullopt;
+    }
+    const auto zweiter = text.find('.', erster + 1);
+    if (zweiter == std::string_view::npos) {
+        return std::nullopt;
+    }
+    return std::array{text.substr(0, erster), text.substr(erster + 1, zweiter - erster - 1), text.substr(zweiter + 1)};
+}
+
+} // namespace
+
+bool istTagImKalender(const Datum& datum)
+{
+    return datum.jahr >= 1 && datum.jahr <= 9999 && datum.monat >= 1 && datum.tag >= 1 && alsKalendertag(datum).ok();
+}
+
+std::int64_t alsTageszahl(const Datum& datum)
+{
+    return (std::chrono::sys_days(alsKalendertag(datum)) - nullpunkt).count();
+}
+
+Datum ausTageszahl(std::int64_t tage)
+{
+    const std::chrono::year_month_day tag{nullpunkt + std::chrono::days(tage)};
+    return {static_cast<int>(tag.year()), static_cast<int>(static_cast<unsigned>(tag.month())),
+            static_cast<int>(static_cast<unsigned>(tag.day()))};
+}
+
+std::string alsDatumstext(const Datum& datum)
+{
+    return verbinde(aufgefüllt(datum.tag, 2), '.', aufgefüllt(datum.monat, 2), '.', aufgefüllt(datum.jahr, 4));
+}
+
+std::optional<Datum> leseDatum(std::string_view text)
+{
+    const auto teile = dreiTeile(getrimmt(text));
+    if (!teile) {
+        return std::nullopt;
+    }
+    const auto& [tag, monat, jahr] = *teile;
+    const bool kurzesJahr = jahr.size() == 2;
+    if (!sindZiffern(tag, 2) || !sindZiffern(monat, 2) || !sindZiffern(jahr, 4) || (!kurzesJahr && jahr.size() != 4)) {
+        return std::nullopt;
+    }
+    Datum datum{*leseGanzzahl32(jahr), *leseGanzzahl32(monat), *leseGanzzahl32(tag)};
+    if (kurzesJahr) {
+        datum.jahr += datum.jahr < 30 ? 2000 : 1900;
+    }
+    if (!istTagImKalender(datum)) {
+        return std::nullopt;
+    }
+    return datum;
+}
