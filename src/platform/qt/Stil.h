@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+
+class QApplication;
+
+/// The colours of a theme by the names that the style sheet uses.
+struct Farbtafel {
+    QColor grund, flaeche, feld, zebra, linie, rand, feldrand, schrift, schrift2, gesperrt;
+    QColor akzent, akzentH, aufakzent, wahl, band, aufband, band2, fokus, fehler;
+};
+
+enum class Thema { Hell, Dunkel };
+
+/// Prepares the application once, at start: German locale and button texts, base style, palette and style sheet. The
+/// theme is the system's: dark when its window colour is darker than half.
+void richteStilEin(QApplication& anwendung);
+/// The same with a chosen theme.
+void richteStilEin(QApplication& anwendung, Thema thema);
+
+/// The colours in use.
+const Farbtafel& farben();
+Thema thema();
+
+/// Length in logical pixels; 1 em is the height of a line of the system's font.
+int em(double länge);
+
+enum class Schriftrolle { Grund, Bandtitel, Bandname, Kartentitel, Spaltenkopf, Wert, Decke };
+/// The font of a role, derived from the system's font by size and weight alone.
+QFont schrift(Schriftrolle rolle);
