@@ -3,6 +3,8 @@
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 
+#include <exception>
+
 bool Ablauf::ereignis(const std::function<void()>& aktion)
 {
     if (!m_läuft) {
@@ -16,6 +18,8 @@ bool Ablauf::ereignis(const std::function<void()>& aktion)
         }
     } catch (const Laufzeitfehler& fehler) {
         stürzeAb(fehler.text());
+    } catch (const std::exception& fehler) {
+        stürzeAb(verbinde("interner Fehler, bitte melden: "_t, std::string_view(fehler.what())));
     }
     --m_tiefe;
     return m_läuft;
@@ -33,6 +37,7 @@ void Ablauf::stürzeAb(const std::string& text)
 {
     m_absturz = verbinde("Laufzeitfehler: "_t, text);
     m_status = 1;
+    m_läuft = false; // before the box: nothing may be written while it stands
     m_umgebung.zeigeMeldung({m_absturz, Symbol::Stop, Knöpfe::OK, Antwort::OK, m_titel});
-    beende();
+    beendet.melde();
 }

@@ -110,9 +110,10 @@ void Bildschirmfolge::führeAktivierungenAus()
     while (auto* s = nächster()) {
         auto& bildschirm = *s->bildschirm;
         s->sollAktivWerden = false;
-        if (bildschirm.fokus() == nullptr) {
+        bildschirm.beiAktivierung();
+        const bool ohneFokus = bildschirm.fokus() == nullptr || !bildschirm.istErreichbar(*bildschirm.fokus());
+        if (istGeladen(bildschirm) && ohneFokus) {
             bildschirm.fokussiereErstes();
         }
-        bildschirm.beiAktivierung();
     }
 }
