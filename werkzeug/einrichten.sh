@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# Installs what building, testing and the demonstration need, from Debian's packages. Does nothing when all is there.
+set -euo pipefail
+
+pakete=(
+    # building
+    g++ clang cmake ninja-build make ccache pkg-config qt6-base-dev qt6-translations-l10n libxlsxwriter-dev
+    # tests and benchmarks
+    libgtest-dev libgmock-dev libbenchmark-dev libclang-rt-14-dev g++-mingw-w64-x86-64-win32 locales
+    # opening workbooks, windows without a display, pictures
+    libreoffice-calc xvfb xauth x11-utils xdotool fonts-noto-core fontconfig unzip
+)
+
+fehlend=()
+for paket in "${pakete[@]}"; do
+    dpkg-query -W -f='${Status}' "$paket" 2>/dev/null | grep -q 'install ok installed' || fehlend+=("$paket")
+done
+
+als_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    als_root=(sudo)
+fi
+
+if [ "${#fehlend[@]}" -gt 0 ]; then
+    "${als_root[@]}" apt-get update
+    "${als_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${fehlend[@]}"
+fi
+
+# the locales that the tests run under
+for gebiet in de_DE tr_TR; do
+    if ! locale -a | grep -qi "^${gebiet}.utf-\?8$"; then
+        "${als_root[@]}" localedef -i "$gebiet" -f UTF-8 "$gebiet.UTF-8"
+    fi
+done
