@@ -40,8 +40,8 @@ extern const Werteliste artEnd1;
 extern const Werteliste artEnd2;
 extern const Werteliste problEnde;
 extern const Werteliste konsumart;  ///< keine Angaben, Injektion, …
-extern const Werteliste icdZusatz;  ///< digits 4 and 5 of F10 to F19: texts as the dialogue shows them, "10 (Schädlicher Gebrauch)", code "10"
-extern const Werteliste essstörung; ///< digit of F50: "0 (Anorexia nervosa)", code "0"
+extern const Werteliste icdZusatz;  ///< digits 4 and 5 of F10 to F19: texts as the dialogue shows them, "10 (Schädlicher Gebrauch)", code "10"; without "k.A."
+extern const Werteliste essstörung; ///< digit of F50: "0 (Anorexia nervosa)", code "0"; without "k.A."
 
 /// The texts in order, for the list of a combo box.
 std::vector<std::string> texte(Werteliste liste);
