@@ -104,6 +104,8 @@ public:
     /// List and text at once.
     void fülle(std::vector<std::string> liste, std::string_view vorgabe);
     bool istTippbar() const { return m_art == Art::Tippbar; }
+    /// For arrays of boxes of both kinds; before the screen is first shown.
+    void setzeArt(Art art) { m_art = art; }
 
     std::size_t schreibmarke() const { return m_schreibmarke; }
     void setzeSchreibmarke(std::size_t ort);

@@ -1,0 +1,359 @@
+#include "diagnosis/frmBetrDiagnose.h"
+
+#include "diagnosis/Diagnosesatz.h"
+#include "diagnosis/WeitereDiagnosen.h"
+#include "store/Wertelisten.h"
+#include "store/moHelferlein.h"
+#include "zustand/Zustand.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+#include <vector>
+
+namespace {
+
+// Positions in DSBetrDiag.
+constexpr int ersterGrund = 1;
+constexpr int platzICDPoly = 7;
+constexpr int platzHIVInfekt = 8;
+constexpr int platzHepatB = 9;
+constexpr int platzHepatC = 10;
+constexpr int ersterIVKonsum = 11;
+
+/// Rows that the search for the mark looks at. The listing once had no more, and the rows behind have never
+/// been edited or deleted from here.
+constexpr int letzteMarkierbare = 15;
+
+std::string& DSDiag()
+{
+    return zustand().arbeitskopie.DSDiag;
+}
+
+std::string& DSBetrDiag()
+{
+    return zustand().arbeitskopie.DSBetrDiag;
+}
+
+constexpr std::string_view wahr = "Wahr"_t;
+constexpr std::string_view falsch = "Falsch"_t;
+
+bool istWahr(std::string_view text)
+{
+    return klein(text) == klein(wahr);
+}
+
+/// None true leaves none marked; of several the last one is marked.
+void zeigeOptionen(Elementreihe<Optionsfeld>& optionen, std::string_view satz, int ersterPlatz)
+{
+    for (int i = optionen.von(); i <= optionen.bis(); ++i) {
+        optionen(i).setze(istWahr(getFeld(satz, ersterPlatz + i)));
+    }
+}
+
+std::string sammleOptionen(const Elementreihe<Optionsfeld>& optionen)
+{
+    std::string ergebnis;
+    for (const Optionsfeld& option : optionen) {
+        ergebnis += verbinde(option.istAn() ? wahr : falsch, trenner);
+    }
+    return ergebnis;
+}
+
+/// The page offers "ja" before "nein", the other way round than the data set lists the answers; staff know
+/// the box that way.
+std::vector<std::string> jaVorNein()
+{
+    std::vector<std::string> texte = werte::texte(werte::lang);
+    std::ranges::reverse(texte.begin() + 1, texte.end());
+    return texte;
+}
+
+} // namespace
+
+void frmBetrDiagnose::beiAktivierung()
+{
+    if (!m_istEingerichtet) {
+        m_alteDSDiag = DSDiag();
+        m_alteDSBetrDiag = DSBetrDiag();
+    }
+    zustand().wechsel->setzeFensterPosition(*this);
+    if (!m_istEingerichtet) {
+        richteEin();
+        m_istEingerichtet = true;
+    }
+    setFrmData();
+}
+
+void frmBetrDiagnose::beiEntladen()
+{
+    zustand().wechsel->speichereRahmenlage(*this);
+}
+
+void frmBetrDiagnose::richteEin()
+{
+    const Arbeitskopie& kopie = zustand().arbeitskopie;
+    setzeTitel(zustand().titel);
+    lblHeader.setzeText("Diagnose und Konsum"_t);
+    lblName.setzeText(verbinde(getFeld(kopie.aktKernDS, 4), ", "_t, getFeld(kopie.aktKernDS, 5)));
+    lblBetrBeg.setzeText(kopie.betrBeg);
+    lblBetrEnd.setzeText(kopie.betrEnd);
+    setzeRollbereich();
+    VScroll1.setzeWert(0);
+    comboICDPoly.setzeListe(jaVorNein());
+    comboHIVInfekt.setzeListe(werte::texte(werte::test));
+    comboHepatB.setzeListe(werte::texte(werte::test));
+    comboHepatC.setzeListe(werte::texte(werte::hepatitisC));
+}
+
+void frmBetrDiagnose::setzeRollbereich()
+{
+    const double höhe = frameVorne.höhe();
+    const double überstand = std::max(0.0, höhe - frameHinten.höhe());
+    VScroll1.setzeBereich(0, static_cast<int>(std::floor(überstand)) + 1, static_cast<int>(höhe / letzteZeile),
+                          static_cast<int>(höhe * 7 / letzteZeile));
+}
+
+void frmBetrDiagnose::setFrmData()
+{
+    zeigeBetrDiag();
+    for (int i = 1; i <= tbandereDiagnose.bis(); ++i) {
+        tbandereDiagnose(i).setzeText(getFeld(DSDiag(), weitereDiagnose(i)));
+    }
+    zeigeDiagnosen();
+    const bool hatHauptdiagnose = getHDGruppenNr() != -1;
+    cmdIsHDGestellt.zeige(hatHauptdiagnose);
+    if (hatHauptdiagnose) {
+        optHDohne(0).setze(true);
+    }
+}
+
+void frmBetrDiagnose::zeigeBetrDiag()
+{
+    zeigeOptionen(optHDohne, DSBetrDiag(), ersterGrund);
+    comboICDPoly.setzeText(getFeld(DSBetrDiag(), platzICDPoly));
+    comboHIVInfekt.setzeText(getFeld(DSBetrDiag(), platzHIVInfekt));
+    comboHepatB.setzeText(getFeld(DSBetrDiag(), platzHepatB));
+    comboHepatC.setzeText(getFeld(DSBetrDiag(), platzHepatC));
+    zeigeOptionen(optIVKonsum, DSBetrDiag(), ersterIVKonsum);
+}
+
+std::string frmBetrDiagnose::sammleBetrDiag()
+{
+    if (!comboICDPoly.istFrei()) {
+        comboICDPoly.setzeText("keine Angaben"_t);
+    }
+    return verbinde(sammleOptionen(optHDohne), comboICDPoly.text(), trenner, comboHIVInfekt.text(), trenner, comboHepatB.text(),
+                    trenner, comboHepatC.text(), trenner, sammleOptionen(optIVKonsum));
+}
+
+std::string frmBetrDiagnose::sammleDSDiag() const
+{
+    std::string weitere;
+    for (const Textfeld& feld : tbandereDiagnose) {
+        weitere += verbinde(feld.text(), trenner);
+    }
+    return verbinde(felder(DSDiag(), 1, weitereDiagnose(1) - 1), weitere, getFeld(DSDiag(), bitfeldposition), trenner);
+}
+
+void frmBetrDiagnose::sammle()
+{
+    DSBetrDiag() = sammleBetrDiag();
+    DSDiag() = sammleDSDiag();
+}
+
+void frmBetrDiagnose::zeigeDiagnosen()
+{
+    const std::string& satz = DSDiag();
+    const auto zeigeGruppe = [&](int zeile, int gruppe) {
+        schreibeZeile(zeile, verbinde(aryProblem.at(static_cast<std::size_t>(gruppe)), trenner, zerlegeDSDiag(satz, gruppe).block));
+    };
+    const int hauptgruppe = getHDGruppenNr();
+    if (hauptgruppe < 1) {
+        schreibeZeile(0, {});
+    } else {
+        zeigeGruppe(0, hauptgruppe);
+    }
+    int zeile = 0;
+    for (const int gruppe : vorhandeneGruppen(satz)) {
+        if (gruppe != hauptgruppe) {
+            zeigeGruppe(++zeile, gruppe);
+        }
+    }
+    while (++zeile <= letzteZeile) {
+        schreibeZeile(zeile, {});
+    }
+    markiereZeile(-1);
+}
+
+void frmBetrDiagnose::schreibeZeile(int zeile, std::string_view text)
+{
+    for (int spalte = 1; Elementreihe<Beschriftung>* beschriftungen : m_spalten) {
+        (*beschriftungen)(zeile).setzeText(getFeld(text, spalte++));
+    }
+}
+
+std::string frmBetrDiagnose::leseZeile(int zeile) const
+{
+    std::string ergebnis;
+    for (const Elementreihe<Beschriftung>* beschriftungen : m_spalten) {
+        ergebnis += verbinde((*beschriftungen)(zeile).text(), trenner);
+    }
+    return ergebnis;
+}
+
+/// The colour of a row is its mark. Rows behind `letzteMarkierbare` keep theirs until the page closes.
+void frmBetrDiagnose::markiereZeile(int zeile)
+{
+    const auto färbe = [this](int z, Beschriftung::Zeilenart art) {
+        for (Elementreihe<Beschriftung>* beschriftungen : m_spalten) {
+            (*beschriftungen)(z).setzeZeilenart(art);
+        }
+    };
+    färbe(0, Beschriftung::Zeilenart::Hauptdiagnose);
+    for (int z = 1; z <= letzteMarkierbare; ++z) {
+        färbe(z, Beschriftung::Zeilenart::Gewöhnlich);
+    }
+    if (zeile >= 0) {
+        färbe(zeile, Beschriftung::Zeilenart::Markiert);
+    }
+}
+
+int frmBetrDiagnose::getMarkierteZeile() const
+{
+    for (int zeile = 0; zeile <= letzteMarkierbare; ++zeile) {
+        if (lblProblem(zeile).zeilenart() == Beschriftung::Zeilenart::Markiert) {
+            return zeile;
+        }
+    }
+    return -1;
+}
+
+void frmBetrDiagnose::beiZeilenklick(int zeile)
+{
+    if (leseZeile(zeile) != std::string(spaltenzahl, trenner)) {
+        markiereZeile(zeile);
+    }
+}
+
+std::int16_t frmBetrDiagnose::getHDGruppenNr() const
+{
+    return ::getHDGruppenNr(DSDiag());
+}
+
+void frmBetrDiagnose::schreibeGruppeInDSDiag(int gruppe, std::string_view block)
+{
+    ::schreibeGruppeInDSDiag(DSDiag(), gruppe, block);
+}
+
+void frmBetrDiagnose::schreibeBitFeldInDSDiag(std::string_view text)
+{
+    ::schreibeBitFeldInDSDiag(DSDiag(), text);
+}
+
+void frmBetrDiagnose::steuereNeueDiagnose(bool neu)
+{
+    if (neu) {
+        m_gruppeGemerkt = gruppeAktuell;
+        zustand().wechsel->zeigeCodeAuswahl(*this, m_auswahl.neu(*this));
+        zustand().folge.verberge(*this);
+    } else if (gruppeAktuell == -1) {
+        gruppeAktuell = m_gruppeGemerkt;
+    } else {
+        // The page has come up again behind the chooser, which always fills it anew: what is collected now are
+        // the working strings, not what stood on the page before.
+        setFrmData();
+        bearbeiteGruppe();
+    }
+}
+
+void frmBetrDiagnose::zeigeWieder()
+{
+    zustand().wechsel->zeigeAufrufer();
+    zustand().folge.zeige(*this);
+}
+
+void frmBetrDiagnose::bearbeiteGruppe()
+{
+    sammle();
+    frmBetrDiagnoseErstellen& dialog = m_erstellen.neu(*this);
+    dialog.gruppeAktuell = gruppeAktuell;
+    zustand().wechsel->zeigeDiagnoseErstellen(*this, dialog);
+    zustand().folge.verberge(*this);
+}
+
+void frmBetrDiagnose::beiBearbeiten()
+{
+    const int zeile = getMarkierteZeile();
+    if (zeile == -1 || !verlasseFeld()) {
+        return;
+    }
+    gruppeAktuell = static_cast<std::int16_t>(gruppeZuName(lblProblem(zeile).text()));
+    bearbeiteGruppe();
+}
+
+void frmBetrDiagnose::beiLöschen()
+{
+    const int zeile = getMarkierteZeile();
+    if (zeile == -1) {
+        return;
+    }
+    const std::string name = lblProblem(zeile).text();
+    if (zeigeMeldung(verbinde("Eintrag: "_t, name, " wird gelöscht"_t), Symbol::Keins, Knöpfe::OKAbbrechen) != Antwort::OK) {
+        zeigeMeldung("Nichts wurde verändert"_t);
+        return;
+    }
+    löscheGruppe(DSDiag(), gruppeZuName(name));
+    zeigeDiagnosen();
+}
+
+bool frmBetrDiagnose::prüfeWeitereDiagnose(int nummer)
+{
+    Textfeld& feld = tbandereDiagnose(nummer);
+    std::string& angenommen = m_angenommen.at(static_cast<std::size_t>(nummer - 1));
+    const std::string text = feld.text();
+    if (istWeitereDiagnose(nummer, text)) {
+        angenommen = text;
+        return true;
+    }
+    zeigeMeldung(meldungZuWeitererDiagnose(nummer), Symbol::Info);
+    feld.setzeText(angenommen);
+    return false;
+}
+
+/// The leave test of the field that has the focus, for actions that a key or a double click starts without
+/// moving the focus.
+bool frmBetrDiagnose::verlasseFeld()
+{
+    return fokus() == nullptr || !fokus()->beiVerlassen || fokus()->beiVerlassen();
+}
+
+void frmBetrDiagnose::beiOK()
+{
+    if (!verlasseFeld()) {
+        return;
+    }
+    sammle();
+    schließe();
+}
+
+void frmBetrDiagnose::beiExit()
+{
+    if (sammleBetrDiag() != m_alteDSBetrDiag || sammleDSDiag() != m_alteDSDiag) {
+        const auto antwort = zeigeMeldung(
+            "Sollen alle Veränderungen, die nach Aufruf dieses Fensters vorgenommen wurden, verworfen werden ?"_t, Symbol::Keins,
+            Knöpfe::OKAbbrechen);
+        if (antwort != Antwort::OK) {
+            return;
+        }
+    }
+    DSBetrDiag() = m_alteDSBetrDiag;
+    DSDiag() = m_alteDSDiag;
+    schließe();
+}
+
+void frmBetrDiagnose::schließe()
+{
+    zustand().folge.zeige(m_betreuung);
+    zustand().folge.entlade(*this);
+}

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "diagnosis/frmBetrDiagnoseCodeAuswahl.h"
+#include "diagnosis/frmBetrDiagnoseErstellen.h"
+#include "platform/bildschirm/Bildschirm.h"
+#include "platform/bildschirm/Bildschirmplatz.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// The page "Diagnose und Konsum" of a care episode: the listing of the problem areas, the further diagnoses
+/// and the answers about infection and intravenous use. It works on DSDiag and DSBetrDiag of the working copy;
+/// nothing reaches the tables before the care main page's OK.
+///
+/// Each time the page comes up it is filled from the two working strings, so whatever was not collected before
+/// is dropped: the memo and the chooser open without collecting, only the dialogue is preceded by it.
+class frmBetrDiagnose : public Bildschirm {
+public:
+    Beschriftung lblHeader, lblName, lblBetrBeg, lblBetrEnd;
+
+    // The listing: row 0 is the main diagnosis, rows 1 to 30 are the others.
+    Elementreihe<Beschriftung> lblProblem{0, letzteZeile};
+    Elementreihe<Beschriftung> lblKonsumart{0, letzteZeile};
+    Elementreihe<Beschriftung> lblKonsumtageBeg{0, letzteZeile};
+    Elementreihe<Beschriftung> lblKonsumtageEnd{0, letzteZeile};
+    Elementreihe<Beschriftung> lblICDxxx4{0, letzteZeile};
+    Elementreihe<Beschriftung> lblAlterStörungsbeginn{0, letzteZeile};
+    Elementreihe<Beschriftung> lblRiskanterKonsum{0, letzteZeile};
+    Elementreihe<Beschriftung> lblAlterErstkonsum{0, letzteZeile};
+    Fläche frameVorne, frameHinten;
+    Bildlaufleiste VScroll1;
+
+    Schaltfläche cmdNeueDiagnose{"neuer Problembereich"_t};
+    Schaltfläche cmdDiagnoseBearbeiten{"Problembereich bearbeiten"_t};
+    Schaltfläche cmdDiagnoseLöschen{"Problembereich löschen"_t, Schaltfläche::Rolle::Gefahr};
+
+    Elementreihe<Optionsfeld> optHDohne{0, 5};
+    /// Lies over the options while there is a main diagnosis; has no action.
+    Schaltfläche cmdIsHDGestellt{"eine Hauptdiagnose wurde gestellt"_t, Schaltfläche::Rolle::Decke};
+
+    Elementreihe<Textfeld> tbandereDiagnose{1, 12};
+    Beschriftung lblWeitereICD{"Weitere ICD-10-Diagnosen"_t};
+    Beschriftung lblICDPoly{"Politoxikomanie"_t};
+    Auswahlfeld comboICDPoly, comboHIVInfekt, comboHepatB, comboHepatC;
+    Elementreihe<Optionsfeld> optIVKonsum{0, 3};
+
+    Schaltfläche cmdMemo{"&Memo"_t};
+    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{"&Exit"_t};
+
+    /// The group in hand, -1 for none; the chooser hands its choice back here.
+    std::int16_t gruppeAktuell = -1;
+
+    /// `betreuung` is the care main page, which comes back when this page closes.
+    explicit frmBetrDiagnose(Bildschirm& betreuung);
+
+    /// The group of the main diagnosis, the lowest if a record marks several; -1 for none.
+    std::int16_t getHDGruppenNr() const;
+    /// Replaces the group's block in DSDiag by eight fields, each followed by the delimiter.
+    void schreibeGruppeInDSDiag(int gruppe, std::string_view block);
+    /// Replaces the bit field of DSDiag.
+    void schreibeBitFeldInDSDiag(std::string_view text);
+    /// The switching point between page, chooser and dialogue: with `neu` the chooser opens; without, it has
+    /// closed, and the dialogue opens for the group chosen, or the group in hand is the earlier one again.
+    void steuereNeueDiagnose(bool neu);
+    /// Chooser or dialogue have closed: the page comes back into view.
+    void zeigeWieder();
+
+private:
+    static constexpr int letzteZeile = 30;
+    static constexpr int spaltenzahl = 8;
+
+    void beiAktivierung() override;
+    void beiEntladen() override;
+
+    // captions and arrangement (frmBetrDiagnose_Aufbau.cpp)
+    void benenneElemente();
+    void ordneAn();
+    Anordnung listungskarte();
+    Anordnung antwortkarten();
+    void bestimmeRegeln();
+    void bestimmeZeilenregeln(int zeile);
+
+    void richteEin();
+    void setzeRollbereich();
+
+    // the elements and the two working strings
+    void setFrmData();
+    void zeigeBetrDiag();
+    std::string sammleBetrDiag();
+    std::string sammleDSDiag() const;
+    void sammle();
+
+    // the listing
+    void zeigeDiagnosen();
+    void schreibeZeile(int zeile, std::string_view text);
+    std::string leseZeile(int zeile) const;
+    void markiereZeile(int zeile);
+    int getMarkierteZeile() const;
+    void beiZeilenklick(int zeile);
+    void bearbeiteGruppe();
+
+    // the further diagnoses
+    bool prüfeWeitereDiagnose(int nummer);
+    bool verlasseFeld();
+
+    void beiBearbeiten();
+    void beiLöschen();
+    void beiOK();
+    void beiExit();
+    void schließe();
+
+    Bildschirm& m_betreuung;
+    Optionsgruppe m_hdOhne, m_ivKonsum;
+    Bildschirmplatz<frmBetrDiagnoseCodeAuswahl> m_auswahl;
+    Bildschirmplatz<frmBetrDiagnoseErstellen> m_erstellen;
+
+    /// The labels in the order of a row's fields.
+    const std::array<Elementreihe<Beschriftung>*, spaltenzahl> m_spalten{
+        &lblProblem, &lblKonsumart,           &lblKonsumtageBeg,   &lblKonsumtageEnd,
+        &lblICDxxx4, &lblAlterStörungsbeginn, &lblRiskanterKonsum, &lblAlterErstkonsum};
+
+    std::int16_t m_gruppeGemerkt = -1;
+    bool m_istEingerichtet = false;
+    /// Both working strings as the page found them; Exit goes back to them.
+    std::string m_alteDSDiag, m_alteDSBetrDiag;
+    /// The last accepted text of each further diagnosis. Starts empty, whatever the record holds.
+    std::array<std::string, 12> m_angenommen;
+};

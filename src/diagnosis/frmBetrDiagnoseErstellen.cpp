@@ -1,0 +1,292 @@
+#include "diagnosis/frmBetrDiagnoseErstellen.h"
+
+#include "diagnosis/Diagnosesatz.h"
+#include "diagnosis/frmBetrDiagnose.h"
+#include "platform/text/Zahl.h"
+#include "store/Wertelisten.h"
+#include "store/moHelferlein.h"
+#include "zustand/Zustand.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace {
+
+constexpr std::string_view keineAngabe = "k.A."_t;
+constexpr std::string_view keineAngaben = "keine Angaben"_t;
+
+constexpr std::array<std::string_view, 8> fragen{
+    "Problem:"_t,
+    "Überwiegende Konsumart in den letzten 30 Tagen vor Betreuungsbeginn:"_t,
+    "Anzahl Konsumtage in den letzten 30 Tagen vor Betreuungsbeginn:"_t,
+    "Anzahl Konsumtage in den letzten 30 Tagen vor Betreuungsende:"_t,
+    "ICD10-Diagnose (Stelle 4+5):"_t,
+    "Alter bei Störungsbeginn:"_t,
+    "Riskanter Konsum:"_t,
+    "Alter Erstkonsum:"_t};
+
+/// The questions whose answer is a number from a list, or not given; they take typing.
+constexpr std::array zahlenfragen{TageBeginn, TageEnde, AlterStörung, AlterErstkonsum};
+
+enum class Gruppenart { Substanz, MissbrauchOderSpiel, Essstörung };
+
+Gruppenart artVon(int gruppe)
+{
+    if (gruppe <= 20) {
+        return Gruppenart::Substanz;
+    }
+    return gruppe <= 28 ? Gruppenart::MissbrauchOderSpiel : Gruppenart::Essstörung;
+}
+
+bool wirdGefragt(Gruppenart art, int frage)
+{
+    switch (art) {
+    case Gruppenart::Substanz:
+        return true;
+    case Gruppenart::MissbrauchOderSpiel:
+        return frage != Konsumart && frage != Riskant;
+    case Gruppenart::Essstörung:
+        return frage == ICDStelle4 || frage == AlterStörung;
+    }
+    return false;
+}
+
+std::vector<std::string> mitKeinerAngabe(Werteliste liste)
+{
+    std::vector<std::string> texte = werte::texte(liste);
+    texte.insert(texte.begin(), std::string(keineAngabe));
+    return texte;
+}
+
+std::vector<std::string> icdListe(Gruppenart art)
+{
+    switch (art) {
+    case Gruppenart::Substanz:
+        return mitKeinerAngabe(werte::icdZusatz);
+    case Gruppenart::MissbrauchOderSpiel:
+        return werte::texte(werte::kurz);
+    case Gruppenart::Essstörung:
+        return mitKeinerAngabe(werte::essstörung);
+    }
+    return {};
+}
+
+bool istKurzeAntwort(std::string_view text)
+{
+    return werte::codeZu(werte::kurz, text) != nullptr;
+}
+
+bool beginntMitZiffer(std::string_view text)
+{
+    return !text.empty() && text.front() >= '0' && text.front() <= '9';
+}
+
+} // namespace
+
+frmBetrDiagnoseErstellen::frmBetrDiagnoseErstellen(frmBetrDiagnose& seite)
+    : Bildschirm("frmBetrDiagnoseErstellen"_t), m_seite(seite)
+{
+    for (int i = 0; i <= lblFrage.bis(); ++i) {
+        lblFrage(i).setzeText(fragen[static_cast<std::size_t>(i)]);
+    }
+    for (const int i : zahlenfragen) {
+        Auswahlfeld& antwort = comboAntwort(i);
+        antwort.setzeArt(Auswahlfeld::Art::Tippbar);
+        antwort.beiTastendruck = [&antwort](int& code) { ergänzeComboText(antwort, code); };
+    }
+    bestimmeAufbau();
+
+    benenne("lblFrage"_t, lblFrage);
+    benenne("lblAntwort"_t, lblAntwort);
+    benenne("comboAntwort"_t, comboAntwort);
+    benenne("cbHD"_t, cbHD);
+    benenne("cmdOK"_t, cmdOK);
+    benenne("cmdExit"_t, cmdExit);
+
+    cbHD.beiÄnderung = [this] { prüfeHDWechsel(); };
+    cmdOK.beiKlick = [this] { beiOK(); };
+    cmdExit.beiKlick = [this] { beiExit(); };
+}
+
+void frmBetrDiagnoseErstellen::bestimmeAufbau()
+{
+    constexpr double zahlenbreite = 4.6;
+    constexpr double kurzeBreite = 4.6;
+    constexpr double icdBreite = 24;
+    istKindfenster = true;
+    breiteEm = 49;
+    kopfband.vortitel = &lblFrage(0);
+    kopfband.titel = &lblAntwort;
+    std::vector<Anordnung> zeilen;
+    for (int i = 1; i <= comboAntwort.bis(); ++i) {
+        const bool istZahl = std::ranges::find(zahlenfragen, i) != zahlenfragen.end();
+        const double breiteDerAntwort = istZahl ? zahlenbreite : i == Riskant ? kurzeBreite : i == Konsumart ? 16 : icdBreite;
+        zeilen.push_back(anordnung::feld(lblFrage(i), comboAntwort(i), breiteDerAntwort));
+    }
+    zeilen.push_back(anordnung::trennlinie());
+    zeilen.push_back(anordnung::feld({}, cbHD));
+    aufbau = anordnung::karte({}, anordnung::formular(std::move(zeilen), 19));
+    leiste.rechts = {&cmdOK, &cmdExit};
+    beiEscape = &cmdExit;
+}
+
+void frmBetrDiagnoseErstellen::beiAktivierung()
+{
+    zustand().wechsel->holeFensterlage(*this);
+    setzeTitel(verbinde(zustand().titel, " - Diagnose erstellen"_t));
+    m_hdGruppeAlt = m_seite.getHDGruppenNr();
+    m_block = zerlegeDSDiag(zustand().arbeitskopie.DSDiag, gruppeAktuell).block;
+    bereiteFragenVor();
+    fülleAntworten();
+}
+
+void frmBetrDiagnoseErstellen::beiEntladen()
+{
+    zustand().wechsel->speichereFensterlage(*this);
+}
+
+void frmBetrDiagnoseErstellen::bereiteFragenVor()
+{
+    const Gruppenart art = artVon(gruppeAktuell);
+    lblAntwort.setzeText(aryProblem.at(static_cast<std::size_t>(gruppeAktuell)));
+    for (int i = 1; i <= comboAntwort.bis(); ++i) {
+        lblFrage(i).zeige(wirdGefragt(art, i));
+        comboAntwort(i).zeige(wirdGefragt(art, i));
+    }
+    if (art == Gruppenart::Substanz) {
+        comboAntwort(Konsumart).fülle(werte::texte(werte::konsumart), keineAngaben);
+        comboAntwort(Riskant).fülle(werte::texte(werte::kurz), keineAngabe);
+    }
+    for (const int i : {TageBeginn, TageEnde}) {
+        comboAntwort(i).fülle(werte::zahlen(keineAngabe, 0, 30), keineAngabe);
+    }
+    for (const int i : {AlterStörung, AlterErstkonsum}) {
+        comboAntwort(i).fülle(werte::zahlen(keineAngabe, 1, 99), keineAngabe);
+    }
+    comboAntwort(ICDStelle4).fülle(icdListe(art), keineAngabe);
+}
+
+void frmBetrDiagnoseErstellen::fülleAntworten()
+{
+    for (int i = 1; i <= comboAntwort.bis(); ++i) {
+        const std::string_view wert = getrimmt(getFeld(m_block, i));
+        if (!wert.empty() && comboAntwort(i).istSichtbar() && !fülleAntwort(i, wert)) {
+            break;
+        }
+    }
+    const std::string_view marke = getFeld(m_block, HDMarke);
+    cbHD.setze(!marke.empty() && marke != "0"_t);
+}
+
+/// False when the loading ends here: with an answer of "ja", "nein" or "k.A." to question 4, the answers behind
+/// it have never been loaded (and OK empties them). Facilities know the dialogue that way.
+bool frmBetrDiagnoseErstellen::fülleAntwort(int frage, std::string_view wert)
+{
+    if (frage == ICDStelle4 && !istKurzeAntwort(wert)) {
+        wähleICD(wert);
+        return true;
+    }
+    comboAntwort(frage).setzeText(wert);
+    return frage != ICDStelle4;
+}
+
+void frmBetrDiagnoseErstellen::wähleICD(std::string_view wert)
+{
+    Auswahlfeld& antwort = comboAntwort(ICDStelle4);
+    const auto gesucht = führendeZahl(wert);
+    const auto fund = std::ranges::find_if(antwort.liste(), [gesucht](const std::string& eintrag) {
+        return beginntMitZiffer(eintrag) && führendeZahl(eintrag) == gesucht;
+    });
+    if (fund != antwort.liste().end()) {
+        antwort.setzeText(*fund);
+    }
+}
+
+void frmBetrDiagnoseErstellen::prüfeHDWechsel()
+{
+    if (m_prüftHDWechsel) {
+        return;
+    }
+    m_prüftHDWechsel = true;
+    if (m_hdGruppeAlt >= 1 && m_hdGruppeAlt != gruppeAktuell) {
+        frageHDWechsel();
+    }
+    m_prüftHDWechsel = false;
+}
+
+void frmBetrDiagnoseErstellen::frageHDWechsel()
+{
+    const std::string& alt = aryProblem.at(static_cast<std::size_t>(m_hdGruppeAlt));
+    const std::string& neu = aryProblem.at(static_cast<std::size_t>(gruppeAktuell));
+    if (!cbHD.istAn()) {
+        zeigeMeldung(verbinde(alt, " wird wieder als Hauptdiagnose gesetzt"_t), Symbol::Info);
+        return;
+    }
+    const std::string frage = verbinde("Es wurde schon "_t, alt, " als Hauptdiagnose gestellt.\r\nSoll nun stattdessen "_t, neu,
+                                       " als Hauptdiagnose gestellt werden ?"_t);
+    if (zeigeMeldung(frage, Symbol::Keins, Knöpfe::JaNein) != Antwort::Ja) {
+        cbHD.setze(false);
+    }
+}
+
+/// Hidden answers are looked at as well.
+bool frmBetrDiagnoseErstellen::prüfeAntworten()
+{
+    return std::ranges::all_of(zahlenfragen, [this](int i) { return prüfeComboWert(comboAntwort(i)); });
+}
+
+/// The answer as the block holds it; an answer that was not given is empty.
+std::string frmBetrDiagnoseErstellen::sammleAntwort(int frage) const
+{
+    const std::string antwort = comboAntwort(frage).text();
+    const std::string_view text = getrimmt(antwort);
+    if (text.empty() || text == (frage == Konsumart ? keineAngaben : keineAngabe)) {
+        return {};
+    }
+    if (frage == ICDStelle4 && !istKurzeAntwort(text)) {
+        return alsText(führendeZahl(text));
+    }
+    return std::string(text);
+}
+
+std::string frmBetrDiagnoseErstellen::sammleAntworten() const
+{
+    std::string block;
+    for (int i = 1; i <= comboAntwort.bis(); ++i) {
+        block += verbinde(sammleAntwort(i), trenner);
+    }
+    return verbinde(block, cbHD.istAn() ? "1"_t : ""_t, trenner);
+}
+
+void frmBetrDiagnoseErstellen::beiOK()
+{
+    if (!prüfeAntworten()) {
+        return;
+    }
+    m_seite.schreibeGruppeInDSDiag(gruppeAktuell, sammleAntworten());
+    std::string& dsDiag = zustand().arbeitskopie.DSDiag;
+    if (cbHD.istAn() && m_hdGruppeAlt > 0 && m_hdGruppeAlt != gruppeAktuell) {
+        nimmHDMarke(dsDiag, m_hdGruppeAlt);
+    }
+    trageGruppeEin(dsDiag, gruppeAktuell);
+    schließe();
+}
+
+void frmBetrDiagnoseErstellen::beiExit()
+{
+    if (zeigeMeldung("Es werden alle Veränderungen verworfen, die nach Aufruf dieses Fensters vorgenommen wurden"_t, Symbol::Keins,
+                     Knöpfe::OKAbbrechen) != Antwort::OK) {
+        zeigeMeldung("Níchts wurde verändert"_t, Symbol::Info);
+        return;
+    }
+    schließe();
+}
+
+void frmBetrDiagnoseErstellen::schließe()
+{
+    zustand().folge.entlade(*this);
+    m_seite.zeigeWieder();
+}
