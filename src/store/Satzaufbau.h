@@ -10,13 +10,29 @@
 /// instructions and column headers are derived from these tables. Field numbers count from 1; field n is
 /// element n-1.
 enum class Feldart {
-    idKern, idBetr, datum, option, zuvor, kinder, zahl, kontakte, nation, hdOhne, ivKonsum, memo, // care
-    hdAlter, icd0000, icdPsy, icdNeu, text, leer,                                                 // diagnosis
-    klient                                                                                        // client, free of coding
+    idKern,
+    idBetr,
+    datum,
+    option,
+    zuvor,
+    kinder,
+    zahl,
+    kontakte,
+    nation,
+    hdOhne,
+    ivKonsum,
+    memo, // care
+    hdAlter,
+    icd0000,
+    icdPsy,
+    icdNeu,
+    text,
+    leer,  // diagnosis
+    klient // client, free of coding
 };
 
 struct Satzfeld {
-    std::string name;    ///< "Kosten2"; empty where the field has none
+    std::string name; ///< "Kosten2"; empty where the field has none
     Feldart art = Feldart::text;
     std::string quelle;  ///< "K16": column 16 of the core row; "D124": of the diagnosis row; empty: none
     Werteliste werte;    ///< for Feldart::option
@@ -34,7 +50,10 @@ int betreuungsfeld(std::string_view name);
 inline constexpr int diagnosegruppen = 29;
 inline constexpr int felderJeGruppe = 8;
 /// The record field of slot 1 to 8 of group 1 to 29.
-constexpr int diagnosefeld(int gruppe, int platz) { return 2 + felderJeGruppe * (gruppe - 1) + platz; }
+constexpr int diagnosefeld(int gruppe, int platz)
+{
+    return 2 + felderJeGruppe * (gruppe - 1) + platz;
+}
 
 /// The default records: all fields' values joined by the delimiter.
 std::string erstelleDefaultKernDS(); ///< with its 11 delimiters: reads as 12 fields

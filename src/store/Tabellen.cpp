@@ -18,7 +18,7 @@ namespace {
 /// A table of the store: where it lies, and how messages name its records.
 struct Tabelle {
     std::string_view satzname;
-    fs::path Pfade::* pfad;
+    fs::path Pfade::*pfad;
 
     const fs::path& ort() const { return zustand().pfade.*pfad; }
 };
@@ -100,8 +100,8 @@ void lösche(const Tabelle& tabelle, const Schlüssel& schlüssel)
 }
 
 struct Sicherung {
-    fs::path Pfade::* tabelle;
-    fs::path Pfade::* bak;
+    fs::path Pfade::*tabelle;
+    fs::path Pfade::*bak;
 };
 constexpr Sicherung sicherungen[] = {
     {&Pfade::kernDat, &Pfade::kernBak}, {&Pfade::betrDat, &Pfade::betrBak}, {&Pfade::diagDat, &Pfade::diagBak}};

@@ -39,6 +39,8 @@ void sichereDateien();
 void verwerfeSitzung();
 
 /// Walks a table's lines in file order (line number from 1).
-void fürJedeZeile(const std::filesystem::path& tabelle, const std::function<void(std::string_view zeile, std::size_t nummer)>& tue);
+void fürJedeZeile(const std::filesystem::path& tabelle,
+                  const std::function<void(std::string_view zeile, std::size_t nummer)>& tue);
 /// A key field read as the tables read it. `bits` is 16 or 32. Laufzeitfehler names file, line, field.
-std::int32_t leseSchlüssel(std::string_view zeile, int feld, int bits, const std::filesystem::path& tabelle, std::size_t nummer);
+std::int32_t leseSchlüssel(std::string_view zeile, int feld, int bits, const std::filesystem::path& tabelle,
+                           std::size_t nummer);

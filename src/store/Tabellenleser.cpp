@@ -14,7 +14,8 @@ std::unique_ptr<Dateiinhalt> öffneTabelle(const fs::path& tabelle)
     auto& dateien = zustand().umgebung.dateien();
     const auto& arbeitsdatei = zustand().pfade.dummyDatei;
     if (!dateien.istDatei(tabelle) && dateien.istDatei(arbeitsdatei)) {
-        throw Laufzeitfehler(verbinde("Die Tabelle \""_t, pfadtext(tabelle), "\" fehlt. Wahrscheinlich liegt ihr Inhalt in der Arbeitsdatei \""_t,
+        throw Laufzeitfehler(verbinde("Die Tabelle \""_t, pfadtext(tabelle),
+                                      "\" fehlt. Wahrscheinlich liegt ihr Inhalt in der Arbeitsdatei \""_t,
                                       pfadtext(arbeitsdatei), "\""_t));
     }
     return dateien.lies(tabelle);
@@ -36,8 +37,7 @@ void prüfeSatzlänge(std::string_view satz, std::string_view ort)
 
 Tabellenleser::Tabellenleser(const fs::path& tabelle)
     : m_tabelle(tabelle), m_inhalt(öffneTabelle(tabelle)), m_zeilen(m_inhalt->text())
-{
-}
+{}
 
 std::optional<std::string_view> Tabellenleser::nächste()
 {

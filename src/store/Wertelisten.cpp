@@ -35,23 +35,14 @@ constexpr std::array betrGruWerte{
 };
 
 constexpr std::array angehoWerte{
-    Wertepaar{"keine Angaben"_t, "0"_t},
-    Wertepaar{"Partner"_t, "1"_t},
-    Wertepaar{"Kind"_t, "2"_t},
-    Wertepaar{"Geschwister"_t, "3"_t},
-    Wertepaar{"Eltern(teil)"_t, "4"_t},
-    Wertepaar{"Andere"_t, "5"_t},
+    Wertepaar{"keine Angaben"_t, "0"_t}, Wertepaar{"Partner"_t, "1"_t},      Wertepaar{"Kind"_t, "2"_t},
+    Wertepaar{"Geschwister"_t, "3"_t},   Wertepaar{"Eltern(teil)"_t, "4"_t}, Wertepaar{"Andere"_t, "5"_t},
 };
 
 constexpr std::array problemWerte{
-    Wertepaar{"keine Angaben"_t, "0"_t},
-    Wertepaar{"Alkohol"_t, "1"_t},
-    Wertepaar{"Medikamente"_t, "2"_t},
-    Wertepaar{"Cannabis"_t, "3"_t},
-    Wertepaar{"Sonstige Drogen"_t, "4"_t},
-    Wertepaar{"Tabak"_t, "5"_t},
-    Wertepaar{"Glücksspielen"_t, "6"_t},
-    Wertepaar{"Essen"_t, "7"_t},
+    Wertepaar{"keine Angaben"_t, "0"_t}, Wertepaar{"Alkohol"_t, "1"_t},         Wertepaar{"Medikamente"_t, "2"_t},
+    Wertepaar{"Cannabis"_t, "3"_t},      Wertepaar{"Sonstige Drogen"_t, "4"_t}, Wertepaar{"Tabak"_t, "5"_t},
+    Wertepaar{"Glücksspielen"_t, "6"_t}, Wertepaar{"Essen"_t, "7"_t},
 };
 
 constexpr std::array vermittWerte{
@@ -177,12 +168,8 @@ constexpr std::array erwerbWerte{
 };
 
 constexpr std::array schuldenWerte{
-    Wertepaar{"keine Angaben"_t, "0"_t},
-    Wertepaar{"Keine"_t, "1"_t},
-    Wertepaar{"bis 10.000 €"_t, "2"_t},
-    Wertepaar{"bis 25.000 €"_t, "3"_t},
-    Wertepaar{"bis 50.000 €"_t, "4"_t},
-    Wertepaar{"Mehr"_t, "5"_t},
+    Wertepaar{"keine Angaben"_t, "0"_t}, Wertepaar{"Keine"_t, "1"_t},        Wertepaar{"bis 10.000 €"_t, "2"_t},
+    Wertepaar{"bis 25.000 €"_t, "3"_t},  Wertepaar{"bis 50.000 €"_t, "4"_t}, Wertepaar{"Mehr"_t, "5"_t},
 };
 
 constexpr std::array testWerte{
@@ -193,10 +180,8 @@ constexpr std::array testWerte{
 };
 
 constexpr std::array hepatitisCWerte{
-    Wertepaar{"keine Angaben"_t, "0"_t},
-    Wertepaar{"Getestet, negativ"_t, "1"_t},
-    Wertepaar{"Getestet, akut"_t, "2"_t},
-    Wertepaar{"Getestet, chronisch"_t, "3"_t},
+    Wertepaar{"keine Angaben"_t, "0"_t},    Wertepaar{"Getestet, negativ"_t, "1"_t},
+    Wertepaar{"Getestet, akut"_t, "2"_t},   Wertepaar{"Getestet, chronisch"_t, "3"_t},
     Wertepaar{"Status unbekannt"_t, "4"_t},
 };
 
@@ -220,11 +205,8 @@ constexpr std::array artEnd2Werte{
 };
 
 constexpr std::array problEndeWerte{
-    Wertepaar{"keine Angaben"_t, "0"_t},
-    Wertepaar{"Erfolgreich"_t, "1"_t},
-    Wertepaar{"Gebessert"_t, "2"_t},
-    Wertepaar{"Unverändert"_t, "3"_t},
-    Wertepaar{"Verschlechtert"_t, "4"_t},
+    Wertepaar{"keine Angaben"_t, "0"_t}, Wertepaar{"Erfolgreich"_t, "1"_t},    Wertepaar{"Gebessert"_t, "2"_t},
+    Wertepaar{"Unverändert"_t, "3"_t},   Wertepaar{"Verschlechtert"_t, "4"_t},
 };
 
 constexpr std::array konsumartWerte{

@@ -17,8 +17,8 @@ using Werteliste = std::span<const Wertepaar>;
 
 namespace werte {
 
-extern const Werteliste kurz;       ///< k.A., nein, ja
-extern const Werteliste lang;       ///< keine Angaben, nein, ja
+extern const Werteliste kurz; ///< k.A., nein, ja
+extern const Werteliste lang; ///< keine Angaben, nein, ja
 extern const Werteliste geschlecht;
 extern const Werteliste betrGru;
 extern const Werteliste angeho;
@@ -33,14 +33,15 @@ extern const Werteliste wohnung;
 extern const Werteliste schule;
 extern const Werteliste ausbild;
 extern const Werteliste erwerb;
-extern const Werteliste schulden;   ///< "bis 10.000 €" with the blank
-extern const Werteliste test;       ///< HIV and hepatitis B
+extern const Werteliste schulden; ///< "bis 10.000 €" with the blank
+extern const Werteliste test;     ///< HIV and hepatitis B
 extern const Werteliste hepatitisC;
 extern const Werteliste artEnd1;
 extern const Werteliste artEnd2;
 extern const Werteliste problEnde;
-extern const Werteliste konsumart;  ///< keine Angaben, Injektion, …
-extern const Werteliste icdZusatz;  ///< digits 4 and 5 of F10 to F19: texts as the dialogue shows them, "10 (Schädlicher Gebrauch)", code "10"; without "k.A."
+extern const Werteliste konsumart; ///< keine Angaben, Injektion, …
+extern const Werteliste icdZusatz; ///< digits 4 and 5 of F10 to F19: texts as the dialogue shows them, "10 (Schädlicher
+                                   ///< Gebrauch)", code "10"; without "k.A."
 extern const Werteliste essstörung; ///< digit of F50: "0 (Anorexia nervosa)", code "0"; without "k.A."
 
 /// The texts in order, for the list of a combo box.

@@ -172,7 +172,8 @@ void ergänzeComboText(Auswahlfeld& feld, int& code)
     const auto anfang = klein(getippterAnfang(feld, code));
     code = 0;
     const auto& liste = feld.liste();
-    const auto ort = std::ranges::find_if(liste, [&](const std::string& eintrag) { return beginntMit(eintrag, anfang); });
+    const auto ort =
+        std::ranges::find_if(liste, [&](const std::string& eintrag) { return beginntMit(eintrag, anfang); });
     if (ort != liste.end()) {
         feld.setzeText(*ort);
         feld.setzeSchreibmarke(anfang.size());
