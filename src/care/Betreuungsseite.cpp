@@ -1,0 +1,99 @@
+#include "care/Betreuungsseite.h"
+
+#include "platform/text/Text.h"
+#include "store/moHelferlein.h"
+
+namespace {
+
+constexpr int feldNachname = 4;
+constexpr int feldVorname = 5;
+
+} // namespace
+
+std::string klientenname(std::string_view kernDS)
+{
+    return verbinde(getFeld(kernDS, feldNachname), ", "_t, getFeld(kernDS, feldVorname));
+}
+
+Betreuungsseite::Betreuungsseite(std::string_view name, std::string_view überschrift, Bildschirm& betreuung,
+                                 std::string Arbeitskopie::*stück)
+    : Bildschirm(name), lblHeader(überschrift), m_betreuung(betreuung), m_stück(stück)
+{
+    benenne("lblHeader"_t, lblHeader);
+    benenne("lblName"_t, lblName);
+    benenne("lblBetrBeg"_t, lblBetrBeg);
+    benenne("lblBetrEnd"_t, lblBetrEnd);
+    benenne("cmdMemo"_t, cmdMemo);
+    benenne("cmdOK"_t, cmdOK);
+    benenne("cmdExit"_t, cmdExit);
+
+    kopfband.titel = &lblHeader;
+    kopfband.name = &lblName;
+    kopfband.werte = {{std::string("Betreuungszeitraum von:"_t), &lblBetrBeg}, {std::string("bis:"_t), &lblBetrEnd}};
+    leiste.links = {&cmdMemo};
+    leiste.rechts = {&cmdOK, &cmdExit};
+    beiEscape = &cmdExit;
+
+    cmdMemo.beiKlick = [this] { zustand().wechsel->zeigeMemo(*this); };
+    cmdOK.beiKlick = [this] { beiOK(); };
+    cmdExit.beiKlick = [this] { beiExit(); };
+}
+
+void Betreuungsseite::beiAktivierung()
+{
+    zustand().wechsel->setzeFensterPosition(*this);
+    setzeTitel(zustand().titel);
+    if (!m_istEingerichtet) { // a return from the memo keeps what is on the screen
+        m_istEingerichtet = true;
+        setFrmData();
+    }
+}
+
+void Betreuungsseite::beiEntladen()
+{
+    zustand().wechsel->speichereRahmenlage(*this);
+}
+
+void Betreuungsseite::setFrmData()
+{
+    const Arbeitskopie& kopie = zustand().arbeitskopie;
+    lblName.setzeText(klientenname(kopie.aktKernDS));
+    lblBetrBeg.setzeText(kopie.betrBeg);
+    lblBetrEnd.setzeText(kopie.betrEnd);
+    tafel.fülleListen();
+    tafel.lade(kopie.*m_stück);
+    nachLaden();
+}
+
+std::string Betreuungsseite::sammleSeitenDaten()
+{
+    vorSammeln();
+    return tafel.sammle();
+}
+
+void Betreuungsseite::beiOK()
+{
+    if (tafel.prüfeZahlen()) {
+        zustand().arbeitskopie.*m_stück = sammleSeitenDaten();
+        kehreZurück();
+    }
+}
+
+void Betreuungsseite::beiExit()
+{
+    if (sammleSeitenDaten() != zustand().arbeitskopie.*m_stück) {
+        const Antwort antwort = zeigeMeldung("Sollen alle Veränderungen, die nach Aufruf dieses Fensters "
+                                             "vorgenommen wurden, verworfen werden ?"_t,
+                                             Symbol::Frage, Knöpfe::OKAbbrechen);
+        if (antwort != Antwort::OK) {
+            return;
+        }
+    }
+    kehreZurück();
+}
+
+void Betreuungsseite::kehreZurück()
+{
+    zustand().folge.zeige(m_betreuung);
+    zustand().folge.entlade(*this);
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "care/Seitenfelder.h"
+#include "platform/bildschirm/Bildschirm.h"
+#include "zustand/Zustand.h"
+
+#include <string>
+#include <string_view>
+
+/// What the pages A, B, C and E of a care episode share. A page edits its piece of the working copy and
+/// nothing else: it takes the piece when it opens, gives it back on OK, and on Exit leaves it as it was
+/// (asking first when the screen differs from it). No page writes to a table.
+class Betreuungsseite : public Bildschirm {
+public:
+    Beschriftung lblHeader;
+    Beschriftung lblName, lblBetrBeg, lblBetrEnd;
+    Schaltfläche cmdMemo{"&Memo"_t};
+    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{"&Exit"_t};
+
+protected:
+    /// `betreuung` is the care main page, which is shown again at the end; `stück` the page's piece.
+    Betreuungsseite(std::string_view name, std::string_view überschrift, Bildschirm& betreuung,
+                    std::string Arbeitskopie::*stück);
+
+    /// The page's table of fields; filled by the constructor of the page.
+    Seitenfelder tafel;
+
+    void beiAktivierung() override;
+    void beiEntladen() override;
+
+    /// Rules that follow from what the fields have taken from the piece.
+    virtual void nachLaden() {}
+    /// Rules that set fields before they are collected.
+    virtual void vorSammeln() {}
+
+private:
+    void setFrmData();
+    std::string sammleSeitenDaten();
+    void beiOK();
+    void beiExit();
+    void kehreZurück();
+
+    Bildschirm& m_betreuung;
+    std::string Arbeitskopie::*m_stück;
+    bool m_istEingerichtet = false;
+};
+
+/// Surname and given name of a client record, as the care screens show them.
+std::string klientenname(std::string_view kernDS);

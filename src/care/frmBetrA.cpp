@@ -1,0 +1,153 @@
+#include "care/frmBetrA.h"
+
+#include "platform/text/Text.h"
+
+#include <array>
+
+namespace {
+
+constexpr std::array maßnahmenarten{
+    "Medizinische Notfallhilfe"_t,
+    "Substitutionsbehandlung (Mittelvergabe)"_t,
+    "Psychosoziale Begleitbetreuung bei Substitution"_t,
+    "Sonstige medizinische Maßnahmen"_t,
+    "Entzug / Entgiftung"_t,
+    "Ambulante Beratung"_t,
+    "Ambulante Entwöhungsbehandlung (Rehabitilation)"_t,
+    "Teilstationäre Entwöhnungsbehandlung (Rehabitilation)"_t,
+    "Stationäre Entwöhungsbehandlung (Rehabitilation)"_t,
+    "Kombinationstherapie (Rehabitilation)"_t,
+    "Adaptionsbehandlung"_t,
+    "Ambulante sozialtherapeutische Maßnahmen"_t,
+    "Teilstationäre sozialtherapeutische Maßnahmen"_t,
+    "Stationäre sozialtherapeutische Maßnahmen"_t,
+    "Psychiatrische Behandlung"_t,
+    "Psychotherapeutische Behandlung"_t,
+    "Regelmäßiger Besuch von Selbsthilfegruppe(n) - Angabe in Jahren"_t,
+    "sonstige Maßnahmen"_t,
+};
+
+constexpr std::array kooperationspartner{
+    "Familie"_t,
+    "Arbeitgeber, Betrieb, Schule"_t,
+    "Selbsthilfegruppe"_t,
+    "Ärztliche oder psychotherapeutische Praxis"_t,
+    "Niedrigschwelige Einrichtung  (Notschlafstelle, Konsumraum, Streetwork etc.)"_t,
+    "Beratungs- und/oder Behandlungsstelle, Fachambulanz"_t,
+    "Institutsambulanz"_t,
+    "Ambulantes betreutes Wohnen"_t,
+    "Arbeits- und Beschäftigungsprojekt"_t,
+    "Krankenhaus / Krankenhausabteilung"_t,
+    "Teilstationäre Rehabilitationseinrichtung"_t,
+    "Stationäre Rehabilitationseinrichtung"_t,
+    "Adaptionseinrichtung"_t,
+    "Teilstationäre Einrichtung der Sozialtherapie (Tagestätte etc.)"_t,
+    "Stationäre Einrichung der Sozialtherapie"_t,
+    "Pflegeheim"_t,
+    "Internen oder externen Diensten zur Beratung/Behandlung im Straf-/Maßregelvollzug"_t,
+    "Sozialpsychatrischer Dienst"_t,
+    "Andere Beratungsdienste (z.B. Ehe-, Familie-, Erziehungsberatung, Schuldnerberatung etc.)"_t,
+    "Einrichtung der Jugendhilfe/Jugendamt"_t,
+    "Soziale Verwaltung (Sozialamt, Wohnungsamt, Gesundheitsamt)"_t,
+    "Arbeitsagentur / Arbeitsgemeinschaft (ARGE) / Job-Center (Fallmanager für ALG II etc.)"_t,
+    "Straßenverkehrsbehörde / Führerscheinstelle"_t,
+    "Justizbehörden / Bewährungshilfe"_t,
+    "Kosten-, Leistungsträger"_t,
+    "Sonstige"_t,
+};
+
+/// The rows from top to bottom; the two of the substitution stand behind the self-help groups.
+constexpr std::array zeilenfolge{1, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 2, 3, 18};
+
+/// Self-help groups are no measure of a facility: the row has a number of years, but no answers, so the
+/// answers of the row behind it are one number lower.
+constexpr int zeileSelbsthilfe = 17;
+
+constexpr int höchsteMaßnahmenzahl = 99;
+
+} // namespace
+
+frmBetrA::frmBetrA(Bildschirm& betreuung)
+    : Betreuungsseite("frmBetrA"_t, "Maßnahmen und Interventionen"_t, betreuung, &Arbeitskopie::DSBetrA)
+{
+    beschrifte(lblZuvor, maßnahmenarten);
+    beschrifte(lblKooper, kooperationspartner);
+    benenneElemente();
+    baueTafel();
+    richteFüllerEin();
+    aufbau = anordnung::karten({anordnung::spalte({maßnahmen()}), anordnung::spalte({kooperationen()})});
+}
+
+void frmBetrA::benenneElemente()
+{
+    benenne("comboSubstitut"_t, comboSubstitut);
+    benenne("comboZuvorNULL"_t, comboZuvorNULL);
+    benenne("lblZuvor"_t, lblZuvor);
+    benenne("triJaNeinMasInt"_t, triJaNeinMasInt);
+    benenne("triJaNeinMasExt"_t, triJaNeinMasExt);
+    benenne("comboZuvor"_t, comboZuvor);
+    benenne("lblKooper"_t, lblKooper);
+    benenne("triJaNeinKooper"_t, triJaNeinKooper);
+    benenne("cmdSchnellFüller"_t, cmdSchnellFüller);
+}
+
+void frmBetrA::baueTafel()
+{
+    tafel.fügeWahl(comboSubstitut, werte::substitut);
+    tafel.fügeWahl(comboZuvorNULL, werte::kurz);
+    tafel.fügeAntworten(triJaNeinMasInt);
+    tafel.fügeAntworten(triJaNeinMasExt);
+    for (Auswahlfeld& feld : comboZuvor) {
+        tafel.fügeZahl(feld, 0, höchsteMaßnahmenzahl, Seitenfelder::Leer::LässtVorgabe);
+    }
+    tafel.fügeAntworten(triJaNeinKooper);
+}
+
+void frmBetrA::richteFüllerEin()
+{
+    int i = cmdSchnellFüller.von();
+    for (auto* antworten : {&triJaNeinMasInt, &triJaNeinMasExt, &triJaNeinKooper}) {
+        cmdSchnellFüller(i).setzeHinweis("setzt alle \"k.A.\" auf \"nein\""_t);
+        cmdSchnellFüller(i++).beiKlick = [antworten] { setzeOhneAngabeAufNein(*antworten); };
+    }
+    cmdSchnellFüller(i).setzeHinweis("setzt alle \"k.A.\" auf \"0\""_t);
+    cmdSchnellFüller(i).beiKlick = [this] { setzeZuvorAufNull(); };
+}
+
+Anordnung frmBetrA::maßnahmen()
+{
+    using namespace anordnung;
+    std::vector<Anordnung> zeilen;
+    for (const int i : zeilenfolge) {
+        const int antwort = i < zeileSelbsthilfe ? i : i - 1;
+        const bool hatAntworten = i != zeileSelbsthilfe;
+        zeilen.push_back(tabellenzeile(lblZuvor(i), {hatAntworten ? &triJaNeinMasInt(antwort) : nullptr,
+                                                     hatAntworten ? &triJaNeinMasExt(antwort) : nullptr, &comboZuvor(i)}));
+    }
+    const std::vector<Tabellenspalte> köpfe{
+        {std::string("intern"_t), {}, &cmdSchnellFüller(0)},
+        {std::string("extern"_t), {}, &cmdSchnellFüller(1)},
+        {std::string("Anzahl bisheriger Maßnahmen (inkl. aktuelle)"_t), {}, &cmdSchnellFüller(3), 7.5}};
+    return karte({}, spalte({formular({feld("Wenn Substitution, welches Mittel"_t, comboSubstitut),
+                                       feld("Jemals zuvor suchtbezogene Hilfe beansprucht"_t, comboZuvorNULL, 10)}),
+                             füllend(tabelle("Art der Betreuung"_t, köpfe, zeilen))}));
+}
+
+Anordnung frmBetrA::kooperationen()
+{
+    using namespace anordnung;
+    std::vector<Anordnung> zeilen;
+    for (int i = lblKooper.von(); i <= lblKooper.bis(); ++i) {
+        zeilen.push_back(tabellenzeile(lblKooper(i), {&triJaNeinKooper(i)}));
+    }
+    return karte({}, tabelle("Kooperation während der Betreuung mit..."_t, {{{}, {}, &cmdSchnellFüller(2)}}, zeilen));
+}
+
+void frmBetrA::setzeZuvorAufNull()
+{
+    for (Auswahlfeld& feld : comboZuvor) {
+        if (feld.text() == "k.A."_t) {
+            feld.setzeText("0"_t);
+        }
+    }
+}

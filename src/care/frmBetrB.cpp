@@ -1,0 +1,93 @@
+#include "care/frmBetrB.h"
+
+#include "platform/text/Text.h"
+
+#include <array>
+
+namespace {
+
+constexpr std::array lebenssituationen{
+    "Lebenssituation: Alleinlebend"_t, "Lebenssituation: Partner/in"_t, "Kind(ern)"_t,
+    "Eltern(teil)"_t,                  "Sonstiger/n Bezugsperson/en"_t, "Sonstiger/n Person/en"_t};
+
+constexpr int alleinlebend = 0;
+constexpr int höchsteKinderzahl = 98; // 99 is the code of "k.A."
+
+} // namespace
+
+frmBetrB::frmBetrB(Bildschirm& betreuung)
+    : Betreuungsseite("frmBetrB"_t, "Soziodemografische Daten 1"_t, betreuung, &Arbeitskopie::DSBetrB)
+{
+    beschrifte(lblLebensit, lebenssituationen);
+    benenneElemente();
+    baueTafel();
+    ordneAn();
+    for (Auswahlfeld& feld : comboLebensit) {
+        feld.beiWahl = [this] { zeigeLebensit(); };
+    }
+}
+
+void frmBetrB::benenneElemente()
+{
+    benenne("comboFamsta"_t, comboFamsta);
+    benenne("comboPartner"_t, comboPartner);
+    benenne("lblLebensit"_t, lblLebensit);
+    benenne("comboLebensit"_t, comboLebensit);
+    benenne("comboKinder1"_t, comboKinder1);
+    benenne("comboKinder2"_t, comboKinder2);
+    benenne("comboWohnung1"_t, comboWohnung1);
+    benenne("comboWohnung2"_t, comboWohnung2);
+    benenne("comboWohnung3"_t, comboWohnung3);
+}
+
+void frmBetrB::baueTafel()
+{
+    tafel.fügeWahl(comboFamsta, werte::famSta);
+    tafel.fügeWahl(comboPartner, werte::partner);
+    for (Auswahlfeld& feld : comboLebensit) {
+        tafel.fügeWahl(feld, werte::lang);
+    }
+    tafel.fügeZahl(comboKinder1, 0, höchsteKinderzahl);
+    tafel.fügeZahl(comboKinder2, 0, höchsteKinderzahl);
+    tafel.fügeWahl(comboWohnung1, werte::wohnung);
+    tafel.fügeWahl(comboWohnung2, werte::wohnung);
+    tafel.fügeWahl(comboWohnung3, werte::wohnung);
+}
+
+void frmBetrB::ordneAn()
+{
+    using namespace anordnung;
+    constexpr double kurz = 10;
+    std::vector<Anordnung> zusammenlebend;
+    for (int i = alleinlebend + 1; i <= lblLebensit.bis(); ++i) {
+        zusammenlebend.push_back(feld(lblLebensit(i), {platzhaltend(element(comboLebensit(i), kurz))}));
+    }
+    aufbau = karten(
+        {spalte({karte({}, formular({feld("Familienstand"_t, comboFamsta), feld("Partnerbeziehung"_t, comboPartner)})),
+                 karte("Lebenssituation"_t,
+                       spalte({formular({feld(lblLebensit(alleinlebend), comboLebensit(alleinlebend), kurz)}),
+                               text("Zusammenlebend mit:"_t), formular(zusammenlebend)}))}),
+         spalte({karte("Kinder:"_t, formular({feld("Anzahl der eigenen Kinder unter 18 Jahren"_t, comboKinder1, 4.6),
+                                              feld("Anzahl der Kinder im Haushalt unter 18 Jahren"_t, comboKinder2, 4.6)})),
+                 karte("Wohnverhältnis"_t,
+                       formular({feld("Überwiegend in den letzten 6 Monaten vor Betreuungsbeginn"_t, comboWohnung1),
+                                 feld("Am Tag vor Betreuungsbeginn"_t, comboWohnung2),
+                                 feld("Am Tag nach Betreuungsende"_t, comboWohnung3)}))})});
+}
+
+void frmBetrB::zeigeLebensit()
+{
+    const bool allein = comboLebensit(alleinlebend).text() == "ja"_t;
+    for (int i = alleinlebend + 1; i <= comboLebensit.bis(); ++i) {
+        comboLebensit(i).zeige(!allein);
+    }
+}
+
+void frmBetrB::vorSammeln()
+{
+    for (Auswahlfeld& feld : comboLebensit) {
+        if (!feld.istSichtbar()) {
+            feld.setzeText("nein"_t); // who lives alone lives with nobody else
+        }
+    }
+}

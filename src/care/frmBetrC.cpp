@@ -1,0 +1,132 @@
+#include "care/frmBetrC.h"
+
+#include "platform/text/Text.h"
+
+#include <array>
+
+namespace {
+
+constexpr std::array lebensunterhalte{
+    "Lehn, Gehalt, Einkünfte aus freiberuflicher Tätigkeit"_t,
+    "Ausbildungsbeihilfe, Unterhalt"_t,
+    "Gelegenheitsjobs, unregelmäßige Einkünfte"_t,
+    "Krankengeld, Übergangsgeld"_t,
+    "Leistungen der Pflegeversicherung"_t,
+    "Rente, Pension"_t,
+    "Arbeitslosengeld I (SGB III 117)"_t,
+    "Arbeitslosengeld II (SGB II 19) / Sozialgeld (SGB II 28)"_t,
+    "Sozialhilfe (u.a. staatliche Leistungen, z.B. AsylbLG)"_t,
+    "Angehörige"_t,
+    "Vermögen"_t,
+    "Sonstiges (z.B. Betteln)"_t,
+};
+
+/// Ties the mark of a row to its answer.
+void verbindeZeile(Optionsfeld& haupt, triCtlJaNein& antwort, Optionsgruppe& gruppe)
+{
+    haupt.trittBei(gruppe);
+    haupt.setzePfeileMarkieren(false); // a mark answers as well, so walking over the options must not mark
+    haupt.beiKlick = [&haupt, &antwort] {
+        if (haupt.istAn()) {
+            antwort.setzeText("ja"_t);
+        }
+    };
+    haupt.beiDoppelklick = [&haupt] { haupt.setze(false); };
+    haupt.beiLöschtaste = [&haupt] { haupt.setze(false); };
+    antwort.beiÄnderung = [&haupt, &antwort] {
+        if (antwort.text() != "ja"_t && haupt.istAn()) {
+            haupt.setze(false);
+        }
+    };
+}
+
+} // namespace
+
+frmBetrC::frmBetrC(Bildschirm& betreuung)
+    : Betreuungsseite("frmBetrC"_t, "Soziodemografische Daten 2"_t, betreuung, &Arbeitskopie::DSBetrC)
+{
+    beschrifte(lblLebUnt, lebensunterhalte);
+    benenneElemente();
+    baueTafel();
+    for (int i = lblLebUnt.von(); i <= lblLebUnt.bis(); ++i) {
+        verbindeZeile(optLebunterV(i), triJaNeinLebuntv(i), m_hauptVor);
+        verbindeZeile(optLebunterN(i), triJaNeinLebuntn(i), m_hauptNach);
+    }
+    richteFüllerEin();
+    ordneAn();
+}
+
+void frmBetrC::benenneElemente()
+{
+    benenne("lblLebUnt"_t, lblLebUnt);
+    benenne("triJaNeinLebuntv"_t, triJaNeinLebuntv);
+    benenne("optLebunterV"_t, optLebunterV);
+    benenne("triJaNeinLebuntn"_t, triJaNeinLebuntn);
+    benenne("optLebunterN"_t, optLebunterN);
+    benenne("comboSchule"_t, comboSchule);
+    benenne("comboAusbild"_t, comboAusbild);
+    benenne("comboErwerb1"_t, comboErwerb1);
+    benenne("comboErwerb2"_t, comboErwerb2);
+    benenne("comboErwerb3"_t, comboErwerb3);
+    benenne("comboSchulden"_t, comboSchulden);
+    benenne("cmdSchnellFüller"_t, cmdSchnellFüller);
+}
+
+void frmBetrC::baueTafel()
+{
+    tafel.fügeAntworten(triJaNeinLebuntv);
+    tafel.fügeAntworten(triJaNeinLebuntn);
+    tafel.fügeOptionen(optLebunterV);
+    tafel.fügeOptionen(optLebunterN);
+    tafel.fügeWahl(comboSchule, werte::schule);
+    tafel.fügeWahl(comboAusbild, werte::ausbild);
+    tafel.fügeWahl(comboErwerb1, werte::erwerb);
+    tafel.fügeWahl(comboErwerb2, werte::erwerb);
+    tafel.fügeWahl(comboErwerb3, werte::erwerb);
+    tafel.fügeWahl(comboSchulden, werte::schulden);
+}
+
+void frmBetrC::richteFüllerEin()
+{
+    int i = cmdSchnellFüller.von();
+    for (auto* antworten : {&triJaNeinLebuntv, &triJaNeinLebuntn}) {
+        cmdSchnellFüller(i).setzeHinweis("setzt alle \"k.A.\" auf \"nein\""_t);
+        cmdSchnellFüller(i++).beiKlick = [antworten] { setzeOhneAngabeAufNein(*antworten); };
+    }
+}
+
+void frmBetrC::ordneAn()
+{
+    using namespace anordnung;
+    constexpr double breite = 13;
+    aufbau = karten(
+        {spalte({karte({}, lebensunterhalt())}),
+         spalte({karte({}, formular({feld("Höchster bisher erreichter allgemeiner Schulabschluss"_t, comboSchule),
+                                     feld("Höchster Ausbildungsabschluss"_t, comboAusbild)},
+                                    breite)),
+                 karte("Erwerbssituation"_t,
+                       formular({feld("Überwiegend die letzten 6 Monate vor Betreuungsbeginn"_t, comboErwerb1),
+                                 feld("Am Tag vor Betreuungsbeginn"_t, comboErwerb2),
+                                 feld("Am Tag nach Betreuungsende"_t, comboErwerb3)},
+                                breite)),
+                 karte({}, formular({feld("Problematische Schulden"_t, comboSchulden)}, breite))})});
+}
+
+Anordnung frmBetrC::lebensunterhalt()
+{
+    using namespace anordnung;
+    const std::string vor("in der Woche VOR BetreuungsBEGINN"_t);
+    const std::string nach("in der Woche NACH BetreuungsENDE"_t);
+    const std::string einer("Lebens- unterhalt"_t);
+    const std::string haupt("Haupt- lebens- unterhalt"_t);
+    const std::vector<Tabellenspalte> köpfe{{einer, vor, &cmdSchnellFüller(0), 4.6},
+                                            {haupt, vor, nullptr, 4.6},
+                                            {einer, nach, &cmdSchnellFüller(1), 4.6},
+                                            {haupt, nach, nullptr, 4.6}};
+    std::vector<Anordnung> zeilen;
+    for (int i = lblLebUnt.von(); i <= lblLebUnt.bis(); ++i) {
+        zeilen.push_back(tabellenzeile(lblLebUnt(i), {&triJaNeinLebuntv(i), &optLebunterV(i), &triJaNeinLebuntn(i),
+                                                      &optLebunterN(i)}));
+    }
+    return tabelle("Lebensunterhalt"_t, köpfe, zeilen);
+}

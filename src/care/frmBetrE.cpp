@@ -1,0 +1,99 @@
+#include "care/frmBetrE.h"
+
+#include "platform/text/Text.h"
+
+#include <array>
+
+namespace {
+
+constexpr std::array vermittlungen{
+    "Selbsthilfegruppe"_t,
+    "Ärztliche oder psychotherapeutische Praxis"_t,
+    "Niedrigschwellige Einrichtung (Notschlafstelle, Konsumraum, Streetwork etc.)"_t,
+    "Beratungs- und/oder Behandlungsstelle, Fachambulanz"_t,
+    "Institutsambulanz"_t,
+    "Ambulant betreutes Wohnen"_t,
+    "Arbeits- und Beschäftigungsprojekt"_t,
+    "Krankenhaus / Krankenhausabteilung"_t,
+    "Teilstationäre Rehabilitationseinrichtung"_t,
+    "Stationäre Rehabilitationseinrichtung"_t,
+    "Adaptionseinrichtung"_t,
+    "Teilstationäre Einrichtung der Sozialtherapie (Tagesstätte etc.)"_t,
+    "Stationäre Einrichtung der Sozialtherapie (Wohnheim / Übergangsheim)"_t,
+    "Pflegeheim"_t,
+    "Internen oder externen Diensten zur Beratung / Behandlung im Straf- / Maßregelvollzug"_t,
+    "Sozialpsychatrischer Dienst"_t,
+    "Andere Beratungsdienste (z.B. Ehe-, Familien-, Erziehungsberatung, Schuldnerberatung etc.)"_t,
+    "Einrichtung der Jugendhilfe / Jugendamt"_t,
+    "Soziale Verwaltung (Sozialamt, Wohnungsamt, Gesundheitsamt)"_t,
+    "Arbeitsagentur / Arbeitsgemeinschaft (ARGE) / Job-Center (Fallmanager für ALG II etc.)"_t,
+    "Justizbehörden / Bewährungshilfe"_t,
+    "Kosten-, Leistungsträger"_t,
+    "Sonstige"_t,
+};
+
+constexpr int wenigsteKontakte = 1; // a care without any contact is none
+constexpr int meisteKontakte = 999;
+
+} // namespace
+
+frmBetrE::frmBetrE(Bildschirm& betreuung)
+    : Betreuungsseite("frmBetrE"_t, "Daten zu Bereuungsende"_t, betreuung, &Arbeitskopie::DSBetrE)
+{
+    beschrifte(lblVermitt, vermittlungen);
+    benenneElemente();
+    baueTafel();
+    richteVermittlungenEin();
+    ordneAn();
+}
+
+void frmBetrE::benenneElemente()
+{
+    benenne("comboKontakte"_t, comboKontakte);
+    benenne("comboArtEnd1"_t, comboArtEnd1);
+    benenne("comboArtEnd2"_t, comboArtEnd2);
+    benenne("comboProblEnde"_t, comboProblEnde);
+    benenne("comboWeiter"_t, comboWeiter);
+    benenne("lblVermitt"_t, lblVermitt);
+    benenne("triJaNeinVermitt"_t, triJaNeinVermitt);
+    benenne("cmdSchnellFüller"_t, cmdSchnellFüller);
+}
+
+void frmBetrE::baueTafel()
+{
+    tafel.fügeZahl(comboKontakte, wenigsteKontakte, meisteKontakte);
+    tafel.fügeWahl(comboArtEnd1, werte::artEnd1);
+    tafel.fügeWahl(comboArtEnd2, werte::artEnd2);
+    tafel.fügeWahl(comboProblEnde, werte::problEnde);
+    tafel.fügeWahl(comboWeiter, werte::lang);
+    tafel.fügeAntworten(triJaNeinVermitt);
+}
+
+void frmBetrE::richteVermittlungenEin()
+{
+    cmdSchnellFüller.setzeHinweis("setzt alle \"k.A.\" auf \"nein\""_t);
+    cmdSchnellFüller.beiKlick = [this] { setzeOhneAngabeAufNein(triJaNeinVermitt); };
+    for (triCtlJaNein& antwort : triJaNeinVermitt) {
+        antwort.beiÄnderung = [this, &antwort] {
+            if (antwort.text() == "ja"_t) {
+                comboWeiter.setzeText("ja"_t); // a named referral is a referral
+            }
+        };
+    }
+}
+
+void frmBetrE::ordneAn()
+{
+    using namespace anordnung;
+    std::vector<Anordnung> zeilen;
+    for (int i = lblVermitt.von(); i <= lblVermitt.bis(); ++i) {
+        zeilen.push_back(tabellenzeile(lblVermitt(i), {&triJaNeinVermitt(i)}));
+    }
+    aufbau = karten(
+        {spalte({karte({}, formular({feld("Kontaktanzahl"_t, comboKontakte, 4.6),
+                                     feld("Art der Beendigung"_t, comboArtEnd1),
+                                     feld("Steht die vorzeitige Beendigung im Zusammenhang mit"_t, comboArtEnd2),
+                                     feld("Problematik am Tag des Betreuungsendes"_t, comboProblEnde)}))}),
+         spalte({karte({}, spalte({formular({feld("Weitervermittlung am Betreuungsende"_t, comboWeiter, 10)}),
+                                   füllend(tabelle({}, {{{}, {}, &cmdSchnellFüller}}, zeilen))}))})});
+}

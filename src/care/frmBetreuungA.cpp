@@ -1,0 +1,345 @@
+#include "care/frmBetreuungA.h"
+
+#include "care/Arbeitssatz.h"
+#include "platform/text/Text.h"
+#include "platform/text/Zahl.h"
+#include "platform/umgebung/Laufzeitfehler.h"
+#include "store/Tabellen.h"
+#include "store/moHelferlein.h"
+#include "zustand/Zustand.h"
+
+#include <array>
+
+namespace {
+
+constexpr std::array kostenträgerarten{
+    "Pauschal / institutionell finanziert (z.B. OGD)"_t,
+    "Selbstzahler"_t,
+    "Rentenversicherung"_t,
+    "Krankenversicherung"_t,
+    "Sozialhilfe"_t,
+    "Jugendhilfe"_t,
+    "Arbeitsagenturen, Jobcenter"_t,
+    "Pflegeversicherung"_t,
+    "Sonstiges"_t,
+};
+
+constexpr int feldKernID = 2; // of the client record
+constexpr int feldBetrBeg = 3;
+constexpr int feldBetrEnd = 4;
+
+/// The names of the nation table behind "keine Angaben". A record stores the name; the code that stands in
+/// front of it in the table is the export's business.
+std::vector<std::string> nationen()
+{
+    constexpr int tabellenanfang = 1000;
+    constexpr std::size_t codelänge = 4;
+    const std::string anzahltext = ladeResText(tabellenanfang);
+    const auto anzahl = leseGanzzahl16(anzahltext);
+    if (!anzahl) {
+        throw Laufzeitfehler(verbinde("Die Ländertabelle hat keine Anzahl, sondern \""_t, anzahltext, '"'));
+    }
+    std::vector<std::string> liste{std::string("keine Angaben"_t)};
+    for (int i = 1; i <= *anzahl; ++i) {
+        const std::string eintrag = ladeResText(tabellenanfang + i);
+        liste.push_back(eintrag.substr(std::min(codelänge, eintrag.size())));
+    }
+    return liste;
+}
+
+} // namespace
+
+frmBetreuungA::frmBetreuungA(Bildschirm& hauptmenü) : Bildschirm("frmBetreuungA"_t), m_hauptmenü(hauptmenü)
+{
+    beschrifte(lblKosten, kostenträgerarten);
+    benenneElemente();
+    baueTafel();
+    ordneAn();
+    richteKnöpfeEin();
+}
+
+void frmBetreuungA::benenneElemente()
+{
+    benenne("lblHeader"_t, lblHeader);
+    benenne("lblName"_t, lblName);
+    benenne("lblBetrBeg"_t, lblBetrBeg);
+    benenne("lblBetrEnd"_t, lblBetrEnd);
+    benenne("comboWieder"_t, comboWieder);
+    benenne("comboBetrGru"_t, comboBetrGru);
+    benenne("comboAngeho"_t, comboAngeho);
+    benenne("comboProblem"_t, comboProblem);
+    benenne("comboNation"_t, comboNation);
+    benenne("comboSprache"_t, comboSprache);
+    benenne("comboMigrant1"_t, comboMigrant1);
+    benenne("comboMigrant2"_t, comboMigrant2);
+    benenne("comboVermitt"_t, comboVermitt);
+    benenne("comboAuflagen1"_t, comboAuflagen1);
+    benenne("comboAuflagen2"_t, comboAuflagen2);
+    benenne("lblKosten"_t, lblKosten);
+    benenne("triJaNeinKosten"_t, triJaNeinKosten);
+    benenne("cmdSchnellFüller"_t, cmdSchnellFüller);
+    benenne("cmdIsEigeneProblematik"_t, cmdIsEigeneProblematik);
+    benenne("cmdBearbeiteZeitraum"_t, cmdBearbeiteZeitraum);
+    benenne("cmdBetrA"_t, cmdBetrA);
+    benenne("cmdBetrB"_t, cmdBetrB);
+    benenne("cmdBetrC"_t, cmdBetrC);
+    benenne("cmdBetrDiagnose"_t, cmdBetrDiagnose);
+    benenne("cmdBetrE"_t, cmdBetrE);
+    benenne("cmdMemo"_t, cmdMemo);
+    benenne("cmdOK"_t, cmdOK);
+    benenne("cmdExit"_t, cmdExit);
+}
+
+void frmBetreuungA::baueTafel()
+{
+    m_tafel.fügeWahl(comboWieder, werte::kurz);
+    m_tafel.fügeWahl(comboBetrGru, werte::betrGru);
+    m_tafel.fügeWahl(comboAngeho, werte::angeho);
+    m_tafel.fügeWahl(comboProblem, werte::problem);
+    m_tafel.fügeWahl(comboNation, nationen());
+    m_tafel.fügeWahl(comboSprache, werte::lang);
+    m_tafel.fügeWahl(comboMigrant1, werte::lang);
+    m_tafel.fügeWahl(comboMigrant2, werte::lang);
+    m_tafel.fügeWahl(comboVermitt, werte::vermitt);
+    m_tafel.fügeWahl(comboAuflagen1, werte::auflagen1);
+    m_tafel.fügeWahl(comboAuflagen2, werte::auflagen2);
+    m_tafel.fügeAntworten(triJaNeinKosten);
+}
+
+void frmBetreuungA::ordneAn()
+{
+    using namespace anordnung;
+    kopfband.titel = &lblHeader;
+    kopfband.name = &lblName;
+    kopfband.werte = {{std::string("Beginn"_t), &lblBetrBeg}, {std::string("Ende"_t), &lblBetrEnd}};
+    kopfband.knopf = &cmdBearbeiteZeitraum;
+    aufbau = karten({spalte({angaben()}), spalte({kostenträger()}),
+                     spalte({element(cmdBetrA), element(cmdBetrB), element(cmdBetrC), element(cmdBetrDiagnose),
+                             element(cmdBetrE)})});
+    leiste.links = {&cmdMemo};
+    leiste.rechts = {&cmdOK, &cmdExit};
+}
+
+Anordnung frmBetreuungA::angaben()
+{
+    using namespace anordnung;
+    constexpr double breite = 16.5;
+    return karte({}, spalte({
+        formular({feld("Wiederaufnahme in dieser Einrichtung"_t, comboWieder), feld("Betreuungsgrund"_t, comboBetrGru)}, breite),
+        decke(formular({feld("Angehöriger kommt als"_t, comboAngeho),
+                        feld("(Vorrangiges) Suchtproblem aus Sicht des Angehörigen"_t, comboProblem)},
+                       breite),
+              cmdIsEigeneProblematik),
+        formular({trennlinie(), feld("Aktuelle Staatsangehörigkeit des Klienten"_t, comboNation),
+                  feld("Klient ist der deutschen Sprache mächtig"_t, comboSprache),
+                  feld("Klient ist selbst migriert"_t, comboMigrant1),
+                  feld("Klient ist als Kind von Migranten geboren"_t, comboMigrant2), trennlinie(),
+                  feld("Vermittelnde Instanz:"_t, comboVermitt),
+                  feld("Auflagen durch Gerichtsbeschluss zur Abwendung freiheitsbeschränkender Folgen"_t, comboAuflagen1),
+                  feld("Weitere Auflagen durch"_t, comboAuflagen2)},
+                 breite)}));
+}
+
+Anordnung frmBetreuungA::kostenträger()
+{
+    using namespace anordnung;
+    std::vector<Anordnung> zeilen;
+    for (int i = lblKosten.von(); i <= lblKosten.bis(); ++i) {
+        zeilen.push_back(tabellenzeile(lblKosten(i), {&triJaNeinKosten(i)}));
+    }
+    return karte({}, tabelle("Kosten-/Leistungsträger"_t, {{{}, {}, &cmdSchnellFüller}}, zeilen));
+}
+
+void frmBetreuungA::richteKnöpfeEin()
+{
+    beiEscape = &cmdExit;
+    comboBetrGru.beiWahl = [this] { zeigeBetrGru(); };
+    cmdSchnellFüller.setzeHinweis("setzt alle \"k.A.\" auf \"nein\""_t);
+    cmdSchnellFüller.beiKlick = [this] { setzeOhneAngabeAufNein(triJaNeinKosten); };
+    cmdBearbeiteZeitraum.beiKlick = [this] { bearbeiteZeitraum(); };
+    cmdBetrA.beiKlick = [this] { öffneSeite(m_betrA); };
+    cmdBetrB.beiKlick = [this] { öffneSeite(m_betrB); };
+    cmdBetrC.beiKlick = [this] { öffneSeite(m_betrC); };
+    cmdBetrDiagnose.beiKlick = [this] { öffneSeite(m_betrDiagnose); };
+    cmdBetrE.beiKlick = [this] { öffneEnde(); };
+    cmdMemo.beiKlick = [this] { öffneMemo(); };
+    cmdOK.beiKlick = [this] { beiOK(); };
+    cmdExit.beiKlick = [this] { beiExit(); };
+}
+
+void frmBetreuungA::beiAktivierung()
+{
+    zustand().wechsel->setzeFensterPosition(*this);
+    setzeTitel(zustand().titel);
+    if (startMitZeitraum) {
+        startMitZeitraum = false;
+        bearbeiteZeitraum();
+    } else if (!zeitraumGesetzt) {
+        zeigeMeldung("Es wurde keine Betreuung angelegt, nichts wurde verändert"_t);
+        kehreZurück();
+    } else if (zurückVomMemo) {
+        zurückVomMemo = false;
+    } else {
+        if (zurückVomZeitraum) {
+            zeigeZeitraum();
+            zurückVomZeitraum = false;
+        }
+        ladeSeite();
+    }
+}
+
+void frmBetreuungA::beiEntladen()
+{
+    zustand().wechsel->speichereRahmenlage(*this);
+}
+
+void frmBetreuungA::ladeSeite()
+{
+    lblHeader.setzeText("Betreuung Hauptseite"_t);
+    if (!datenLaden) { // a return from a page changes nothing here
+        return;
+    }
+    ladeArbeitskopie();
+    m_tafel.fülleListen();
+    zeigeZeitraum();
+    zeigeDaten();
+    datenLaden = false;
+}
+
+void frmBetreuungA::ladeArbeitskopie()
+{
+    Arbeitskopie& kopie = zustand().arbeitskopie;
+    kopie.aktKernDS = getKernDS(kernID);
+    if (istNeu) {
+        kopie.aktBetrDS = zustand().defaultBetrDS;
+        kopie.aktDiagDS = zustand().defaultDiagDS;
+    } else {
+        kopie.aktBetrDS = getBetrDS(kernID, betrID);
+        kopie.aktDiagDS = getDiagDS(kernID, betrID);
+        kopie.betrBeg = getFeld(kopie.aktBetrDS, feldBetrBeg);
+        kopie.betrEnd = getFeld(kopie.aktBetrDS, feldBetrEnd);
+    }
+    zerlegeBetrDS(kopie);
+    zustand().memoBText = memoBAus(kopie.aktBetrDS);
+    zustand().memoKText = memoKAus(kopie.aktKernDS);
+}
+
+void frmBetreuungA::zeigeZeitraum()
+{
+    lblBetrBeg.setzeText(zustand().arbeitskopie.betrBeg);
+    lblBetrEnd.setzeText(zustand().arbeitskopie.betrEnd);
+}
+
+void frmBetreuungA::zeigeDaten()
+{
+    lblName.setzeText(klientenname(zustand().arbeitskopie.aktKernDS));
+    if (istNeu) { // the lists' defaults count, not those of the default record
+        return;
+    }
+    m_tafel.lade(zustand().arbeitskopie.DSBetrHaupt);
+    zeigeBetrGru();
+}
+
+void frmBetreuungA::zeigeBetrGru()
+{
+    cmdIsEigeneProblematik.zeige(!hatProblemImUmfeld());
+}
+
+bool frmBetreuungA::hatProblemImUmfeld() const
+{
+    return comboBetrGru.text() == "Problematik von Personen im sozialen Umfeld"_t;
+}
+
+std::string frmBetreuungA::sammleSeitenDaten()
+{
+    if (!hatProblemImUmfeld()) {
+        comboAngeho.setzeText("keine Angaben"_t);
+        comboProblem.setzeText("keine Angaben"_t);
+    }
+    return m_tafel.sammle();
+}
+
+template <class F> void frmBetreuungA::öffneSeite(Bildschirmplatz<F>& platz)
+{
+    zustand().folge.verberge(*this);
+    zustand().folge.zeige(platz.neu(*this));
+}
+
+void frmBetreuungA::öffneEnde()
+{
+    if (klein(zustand().arbeitskopie.betrEnd) == "offen"_t) {
+        zeigeMeldung("Das Betreuungsende ist offen, bitte erst einen Zeitpunkt fürs Betreuungsende eintragen"_t, Symbol::Info);
+        return;
+    }
+    öffneSeite(m_betrE);
+}
+
+void frmBetreuungA::öffneMemo()
+{
+    zurückVomMemo = true;
+    zustand().wechsel->zeigeMemo(*this);
+}
+
+void frmBetreuungA::bearbeiteZeitraum()
+{
+    Arbeitskopie& kopie = zustand().arbeitskopie;
+    const std::string heute = alsDatumstext(zustand().umgebung.heute());
+    if (!zeitraumGesetzt) { // nothing of the episode edited before
+        kopie.betrBeg.clear();
+        kopie.betrEnd.clear();
+    }
+    auto& dialog = m_zeitraum.neu();
+    dialog.istNeu = istNeu;
+    dialog.strVon = istNeu ? heute : kopie.betrBeg;
+    dialog.strBis = istNeu ? heute : kopie.betrEnd;
+    dialog.betrID = betrID;
+    dialog.kernID = kernID;
+    dialog.beiÜbernahme = [this](const std::string& von, const std::string& bis) {
+        zeitraumGesetzt = true;
+        zustand().arbeitskopie.betrBeg = von;
+        zustand().arbeitskopie.betrEnd = bis;
+    };
+    zurückVomZeitraum = true;
+    zustand().wechsel->zeigeZeitraum(*this, dialog);
+}
+
+void frmBetreuungA::beiOK()
+{
+    zustand().arbeitskopie.DSBetrHaupt = sammleSeitenDaten();
+    speichere();
+    kehreZurück();
+}
+
+void frmBetreuungA::speichere()
+{
+    const Arbeitskopie& kopie = zustand().arbeitskopie;
+    const Betreuungsschlüssel schlüssel{kernID, betrID};
+    const auto betrDS = baueBetrDS(schlüssel, lblBetrBeg.text(), lblBetrEnd.text(), kopie, zustand().memoBText);
+    const auto diagDS = baueDiagDS(schlüssel, kopie);
+    if (istNeu) {
+        anfügeBetrDS(betrDS);
+        anfügeDiagDS(diagDS);
+    } else {
+        ersetzeBetrDS(kernID, betrID, betrDS);
+        ersetzeDiagDS(kernID, betrID, diagDS);
+    }
+    // the state is read from the care table, so the episode has to lie there by now
+    const auto betrao = betrStatusVon(getFeld(kopie.aktKernDS, feldKernID));
+    ersetzeKernDS(kernID, baueKernDS(kopie.aktKernDS, betrao, zustand().memoKText));
+}
+
+void frmBetreuungA::beiExit()
+{
+    const Antwort antwort = zeigeMeldung("Es werden alle Veränderungen, die nach Aufruf dieser BETREUUNG "
+                                         "vorgenommen wurden, verworfen"_t,
+                                         Symbol::Frage, Knöpfe::OKAbbrechen);
+    if (antwort == Antwort::OK) {
+        kehreZurück();
+    }
+}
+
+void frmBetreuungA::kehreZurück()
+{
+    zustand().folge.zeige(m_hauptmenü);
+    zustand().folge.entlade(*this);
+}

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "care/Seitenfelder.h"
+#include "care/frmBetrA.h"
+#include "care/frmBetrB.h"
+#include "care/frmBetrC.h"
+#include "care/frmBetrE.h"
+#include "care/frmBetreuungZeitraum.h"
+#include "diagnosis/frmBetrDiagnose.h"
+#include "platform/bildschirm/Bildschirm.h"
+#include "platform/bildschirm/Bildschirmplatz.h"
+
+#include <cstdint>
+#include <string>
+
+/// The main page of one care episode, and the only screen of it that writes to the tables.
+///
+/// It loads the three records into the working copy and leads to the period dialogue, the pages, the
+/// diagnosis page and the memo. OK writes care, diagnosis and client record in one go; Exit throws the
+/// working copy away, and nothing has to be restored, since nothing was written.
+class frmBetreuungA : public Bildschirm {
+public:
+    Beschriftung lblHeader, lblName, lblBetrBeg, lblBetrEnd;
+    Auswahlfeld comboWieder, comboBetrGru, comboAngeho, comboProblem, comboNation, comboSprache;
+    Auswahlfeld comboMigrant1, comboMigrant2, comboVermitt, comboAuflagen1, comboAuflagen2;
+    Elementreihe<Beschriftung> lblKosten{1, 9};
+    Elementreihe<triCtlJaNein> triJaNeinKosten{1, 9};
+    Schaltfläche cmdSchnellFüller{"!"_t, Schaltfläche::Rolle::Füller};
+    /// Blank cover over comboAngeho and comboProblem while the reason is not a person's surroundings.
+    Schaltfläche cmdIsEigeneProblematik{{}, Schaltfläche::Rolle::Decke};
+    Schaltfläche cmdBearbeiteZeitraum{"bearbeite Zeitraum"_t};
+    Schaltfläche cmdBetrA{"Maßnahmen und Interventionen"_t, Schaltfläche::Rolle::Weg};
+    Schaltfläche cmdBetrB{"Soziodemo- grafische Daten 1"_t, Schaltfläche::Rolle::Weg};
+    Schaltfläche cmdBetrC{"Soziodemo- grafische Daten 2"_t, Schaltfläche::Rolle::Weg};
+    Schaltfläche cmdBetrDiagnose{"Diagnose und Konsum"_t, Schaltfläche::Rolle::Weg};
+    Schaltfläche cmdBetrE{"Daten zu Betreuungs- ende"_t, Schaltfläche::Rolle::Weg};
+    Schaltfläche cmdMemo{"&Memo"_t};
+    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{"&Exit"_t};
+
+    // Set by the main menu before it shows the page. Begin and end in flight stand in the working copy.
+    std::int32_t kernID = 0;
+    std::int32_t betrID = 0;
+    bool istNeu = false;            ///< the episode is not yet in the care table
+    bool datenLaden = true;         ///< the working copy has yet to be loaded
+    bool zeitraumGesetzt = false;   ///< the episode has an accepted period
+    bool startMitZeitraum = false;  ///< the period dialogue comes first
+    bool zurückVomMemo = false;     ///< the memo was opened from this page
+    bool zurückVomZeitraum = false; ///< the period dialogue was opened from this page
+
+    /// `hauptmenü` is shown again when the page closes.
+    explicit frmBetreuungA(Bildschirm& hauptmenü);
+
+private:
+    void beiAktivierung() override;
+    void beiEntladen() override;
+
+    void benenneElemente();
+    void baueTafel();
+    void ordneAn();
+    Anordnung angaben();
+    Anordnung kostenträger();
+    void richteKnöpfeEin();
+
+    void ladeSeite();
+    void ladeArbeitskopie();
+    void zeigeZeitraum();
+    void zeigeDaten();
+    void zeigeBetrGru();
+    bool hatProblemImUmfeld() const;
+    std::string sammleSeitenDaten();
+
+    template <class F> void öffneSeite(Bildschirmplatz<F>& platz);
+    void öffneEnde();
+    void öffneMemo();
+    void bearbeiteZeitraum();
+    void beiOK();
+    void speichere();
+    void beiExit();
+    void kehreZurück();
+
+    Bildschirm& m_hauptmenü;
+    Seitenfelder m_tafel;
+    Bildschirmplatz<frmBetreuungZeitraum> m_zeitraum;
+    Bildschirmplatz<frmBetrA> m_betrA;
+    Bildschirmplatz<frmBetrB> m_betrB;
+    Bildschirmplatz<frmBetrC> m_betrC;
+    Bildschirmplatz<frmBetrDiagnose> m_betrDiagnose;
+    Bildschirmplatz<frmBetrE> m_betrE;
+};

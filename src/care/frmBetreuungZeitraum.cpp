@@ -1,0 +1,181 @@
+#include "care/frmBetreuungZeitraum.h"
+
+#include "platform/text/Text.h"
+#include "store/moHelferlein.h"
+#include "zustand/Zustand.h"
+
+frmBetreuungZeitraum::frmBetreuungZeitraum() : Bildschirm("frmBetreuungZeitraum"_t)
+{
+    istKindfenster = true;
+    breiteEm = 29;
+    DTPickerVon.setzeDatum(zustand().umgebung.heute());
+    DTPickerBis.setzeDatum(zustand().umgebung.heute());
+    benenneElemente();
+    ordneAn();
+    beiEingabe = &cmdOK;
+    beiEscape = &cmdExit;
+
+    cmdIsOffen.beiKlick = [this] { beiIsOffen(); };
+    cmdOffenEintragen.beiKlick = [this] { beiOffenEintragen(); };
+    cmdVonVerbessern.beiKlick = [this] { beiVonVerbessern(); };
+    cmdOK.beiKlick = [this] { beiOK(); };
+    cmdExit.beiKlick = [this] { beiExit(); };
+}
+
+void frmBetreuungZeitraum::benenneElemente()
+{
+    benenne("lblHeader"_t, lblHeader);
+    benenne("lblVon"_t, lblVon);
+    benenne("DTPickerVon"_t, DTPickerVon);
+    benenne("lblBis"_t, lblBis);
+    benenne("DTPickerBis"_t, DTPickerBis);
+    benenne("cmdIsOffen"_t, cmdIsOffen);
+    benenne("cmdOffenEintragen"_t, cmdOffenEintragen);
+    benenne("cmdVonVerbessern"_t, cmdVonVerbessern);
+    benenne("cmdOK"_t, cmdOK);
+    benenne("cmdExit"_t, cmdExit);
+}
+
+void frmBetreuungZeitraum::ordneAn()
+{
+    using namespace anordnung;
+    constexpr double datumsbreite = 9;
+    constexpr double beschriftungsbreite = 2.5;
+    const auto offen = stapel({element(cmdIsOffen), element(cmdOffenEintragen)});
+    kopfband.titel = &lblHeader;
+    aufbau = karte({}, formular({feld(lblVon, {element(DTPickerVon, datumsbreite), platzhaltend(element(cmdVonVerbessern))}),
+                                 feld(lblBis, {platzhaltend(element(DTPickerBis, datumsbreite)), platzhaltend(offen)})},
+                                beschriftungsbreite));
+    leiste.rechts = {&cmdOK, &cmdExit};
+}
+
+void frmBetreuungZeitraum::beiAktivierung()
+{
+    zustand().wechsel->holeFensterlage(*this);
+    setzeTitel(zustand().titel);
+    m_zeitraumListe = leseZeitraumListe(kernID);
+    setzeStufeEins();
+}
+
+void frmBetreuungZeitraum::beiEntladen()
+{
+    zustand().wechsel->speichereFensterlage(*this);
+}
+
+void frmBetreuungZeitraum::setzeStufeEins()
+{
+    m_stufe = Stufe::Beginn;
+    if (istNeu) {
+        strVon = findeFreienTag(m_zeitraumListe, zustand().umgebung.heute());
+        strBis = strVon;
+    } else {
+        DTPickerBis.setzeDatum(datumAusText(istOffenesEnde(strBis) ? strVon : strBis).value_or(Datum{}));
+    }
+    DTPickerVon.setzeDatum(datumAusText(strVon).value_or(Datum{}));
+    m_altVon = strVon;
+    m_altBis = strBis;
+    zeigeStufe();
+}
+
+void frmBetreuungZeitraum::zeigeStufe()
+{
+    const bool amEnde = m_stufe == Stufe::Ende;
+    DTPickerVon.gibFrei(!amEnde);
+    cmdVonVerbessern.zeige(amEnde);
+    lblBis.zeige(amEnde);
+    DTPickerBis.zeige(amEnde);
+    zeigeEnde();
+}
+
+void frmBetreuungZeitraum::zeigeEnde()
+{
+    const bool amEnde = m_stufe == Stufe::Ende;
+    const bool offen = istOffenesEnde(strBis);
+    cmdIsOffen.zeige(amEnde && offen);
+    cmdOffenEintragen.zeige(amEnde && !offen);
+    DTPickerBis.gibFrei(!offen);
+    DTPickerBis.streicheDurch(offen);
+    if (!amEnde) {
+        setzeFokus(&DTPickerVon);
+    } else if (offen) {
+        setzeFokus(&cmdIsOffen);
+    } else {
+        setzeFokus(&DTPickerBis);
+    }
+}
+
+Nachbarn frmBetreuungZeitraum::nachbarn() const
+{
+    return {m_zeitraumListe, istNeu ? std::string_view() : m_altVon};
+}
+
+void frmBetreuungZeitraum::beiOK()
+{
+    if (m_stufe == Stufe::Beginn) {
+        übernimmVon();
+    } else {
+        übernimmBis();
+    }
+}
+
+void frmBetreuungZeitraum::übernimmVon()
+{
+    const std::string kandidat = DTPickerVon.text();
+    if (!prüfeVon(nachbarn(), kandidat)) {
+        zeigeMeldung("Das eingetragene Datum kann nicht angelegt werden.\n"
+                     "Möglicherweise liegt es innerhalb eines schon angelegten Betreuungszeitraums.\n"
+                     "Bitte geben Sie ein neues Datum an."_t,
+                     Symbol::Warnung);
+        return;
+    }
+    strVon = kandidat;
+    if (istNeu) {
+        strBis = "offen"_t;
+    }
+    m_stufe = Stufe::Ende;
+    zeigeStufe();
+}
+
+void frmBetreuungZeitraum::übernimmBis()
+{
+    const std::string kandidat = cmdIsOffen.istSichtbar() ? std::string("offen"_t) : DTPickerBis.text();
+    if (!prüfeBis(nachbarn(), strVon, kandidat)) {
+        zeigeMeldung("Der eingegebene Zeitraum kann nicht angelegt werden.\n"
+                     "Möglicherweise überlappt dieser Zeitraum einen schon angelegten.\n"
+                     "Bitte korrigieren Sie die Angaben."_t,
+                     Symbol::Warnung);
+        return;
+    }
+    strBis = kandidat;
+    zustand().wechsel->zeigeAufrufer();
+    beiÜbernahme(strVon, strBis);
+    zustand().folge.entlade(*this);
+}
+
+void frmBetreuungZeitraum::beiIsOffen()
+{
+    DTPickerBis.setzeDatum(DTPickerVon.datum());
+    strBis = DTPickerBis.text();
+    zeigeEnde();
+}
+
+void frmBetreuungZeitraum::beiOffenEintragen()
+{
+    strBis = "offen"_t;
+    zeigeEnde();
+}
+
+void frmBetreuungZeitraum::beiVonVerbessern()
+{
+    strVon = m_altVon;
+    strBis = m_altBis;
+    setzeStufeEins();
+}
+
+void frmBetreuungZeitraum::beiExit()
+{
+    zeigeMeldung("Betreuungszeitraum wurde nicht verändert"_t);
+    zustand().wechsel->zeigeAufrufer();
+    zustand().wechsel->aktualisiereAufrufer();
+    zustand().folge.entlade(*this);
+}

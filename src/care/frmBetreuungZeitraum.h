@@ -1,0 +1,59 @@
+#pragma once
+
+#include "care/Zeitraumliste.h"
+#include "platform/bildschirm/Bildschirm.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+/// The dialogue that fixes begin and end of one care episode: first the begin, then the end. It is the only
+/// guard against two episodes of a client touching each other, and it writes nothing: what was accepted goes
+/// to the caller, which keeps it until its own OK.
+class frmBetreuungZeitraum : public Bildschirm {
+public:
+    Beschriftung lblHeader{"Bitte Zeitraum für Betreuung eingeben"_t};
+    Beschriftung lblVon{"von:"_t}, lblBis{"bis:"_t};
+    Datumsfeld DTPickerVon, DTPickerBis;
+    /// Shown while the end is open.
+    Schaltfläche cmdIsOffen{"offen"_t, Schaltfläche::Rolle::Gedrückt};
+    Schaltfläche cmdOffenEintragen{"offen eintragen"_t};
+    Schaltfläche cmdVonVerbessern{"von verbessern"_t};
+    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{"&Exit"_t};
+
+    // Set by the caller before it opens the dialogue.
+    bool istNeu = false;       ///< the episode is not yet in the care table
+    std::string strVon;        ///< begin, TT.MM.JJJJ
+    std::string strBis;        ///< end, TT.MM.JJJJ or "offen"
+    std::int32_t kernID = 0;   ///< the client whose episodes are to be respected
+    std::int32_t betrID = 0;   ///< the episode itself; its stored row is known by its begin alone
+    /// Takes over the accepted begin and end; not called on Exit.
+    std::function<void(const std::string& von, const std::string& bis)> beiÜbernahme;
+
+    frmBetreuungZeitraum();
+
+private:
+    enum class Stufe { Beginn, Ende };
+
+    void beiAktivierung() override;
+    void beiEntladen() override;
+    void benenneElemente();
+    void ordneAn();
+    void setzeStufeEins();
+    void zeigeStufe();
+    void zeigeEnde();
+    void beiOK();
+    void übernimmVon();
+    void übernimmBis();
+    void beiIsOffen();
+    void beiOffenEintragen();
+    void beiVonVerbessern();
+    void beiExit();
+    Nachbarn nachbarn() const;
+
+    Zeitraumliste m_zeitraumListe;
+    std::string m_altVon; ///< begin and end when stage 1 was last entered
+    std::string m_altBis;
+    Stufe m_stufe = Stufe::Beginn;
+};
