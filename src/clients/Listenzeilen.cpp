@@ -1,0 +1,51 @@
+#include "clients/Listenzeilen.h"
+
+#include "platform/text/Text.h"
+#include "store/Tabellen.h"
+#include "store/moHelferlein.h"
+#include "zustand/Zustand.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::size_t stellenDerId = 4;
+
+std::string klientenzeile(std::string_view satz)
+{
+    std::string zeile = idText(getFeld(satz, 2));
+    for (const int feld : {3, 4, 5, 6, 7, 8, 10}) {
+        zeile.push_back(trenner);
+        zeile.append(getFeld(satz, feld));
+    }
+    std::erase(zeile, '\0');
+    return zeile;
+}
+
+} // namespace
+
+std::string idText(std::string_view id)
+{
+    return verbinde(std::string(stellenDerId - std::min(stellenDerId, id.size()), '0'), id);
+}
+
+std::vector<std::string> klientenzeilen()
+{
+    std::vector<std::string> zeilen;
+    fürJedeZeile(zustand().pfade.kernDat,
+                 [&](std::string_view satz, std::size_t) { zeilen.push_back(klientenzeile(satz)); });
+    return zeilen;
+}
+
+std::vector<std::string> betreuungszeilen(std::int32_t kernID)
+{
+    const auto& tabelle = zustand().pfade.betrDat;
+    std::vector<std::string> zeilen;
+    fürJedeZeile(tabelle, [&](std::string_view satz, std::size_t nummer) {
+        if (leseSchlüssel(satz, 1, 32, tabelle, nummer) == kernID) {
+            zeilen.push_back(verbinde(getFeld(satz, 1), trenner, getFeld(satz, 2), trenner, getFeld(satz, 3), trenner,
+                                      getFeld(satz, 4)));
+        }
+    });
+    return zeilen;
+}

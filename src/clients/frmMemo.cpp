@@ -1,0 +1,102 @@
+#include "clients/frmMemo.h"
+
+#include "platform/text/Zahl.h"
+#include "store/moHelferlein.h"
+#include "zustand/Zustand.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr char absatzzeichen = '\xB6';
+/// Two memos and all the other fields must stay below the 32,767 characters of a line.
+constexpr std::size_t höchstlänge = 10000;
+
+} // namespace
+
+frmMemo::frmMemo() : Bildschirm("frmMemo"_t)
+{
+    using namespace anordnung;
+    benenne("lblHeader"_t, lblHeader);
+    benenne("tbMemoK"_t, tbMemoK);
+    benenne("tbMemoB"_t, tbMemoB);
+    benenne("cmdDummy"_t, cmdDummy);
+    benenne("cmdOK"_t, cmdOK);
+    benenne("cmdExit"_t, cmdExit);
+    kopfband.titel = &lblHeader;
+    aufbau = spalte({füllend(karte("Klientenebene:"_t, füllend(element(tbMemoK)))),
+                     füllend(karte("Betreuungenebene:"_t, füllend(stapel({element(tbMemoB), element(cmdDummy)}))))});
+    leiste.rechts = {&cmdOK, &cmdExit};
+    istKindfenster = true;
+    breiteEm = 40;
+    beiEscape = &cmdExit;
+
+    cmdOK.beiKlick = [this] { beiOK(); };
+    cmdExit.beiKlick = [this] { beiExit(); };
+}
+
+void frmMemo::beiAktivierung()
+{
+    zustand().wechsel->holeFensterlage(*this);
+    setzeTitel(verbinde(zustand().titel, " - Memo"_t));
+    tbMemoK.setzeText(alsAnzeigeform(zustand().memoKText));
+    tbMemoB.setzeText(alsAnzeigeform(zustand().memoBText));
+    const auto& klient = zustand().arbeitskopie.aktKernDS;
+    lblHeader.setzeText(verbinde("memo: "_t, getFeld(klient, 5), ' ', getFeld(klient, 4)));
+    cmdDummy.zeige(zeigeMemoB);
+    tbMemoB.zeige(!zeigeMemoB);
+}
+
+void frmMemo::beiEntladen()
+{
+    zustand().wechsel->speichereFensterlage(*this);
+    zustand().umgebung.lasseEreignisseZu();
+    zustand().wechsel->zeigeMemoAufrufer();
+}
+
+void frmMemo::beiOK()
+{
+    const auto memoK = alsSpeicherform(tbMemoK.text());
+    const auto memoB = alsSpeicherform(tbMemoB.text());
+    if (memoK.find(trenner) != std::string::npos || memoB.find(trenner) != std::string::npos) {
+        zeigeMeldung(verbinde("Es ist das Zeichen >"_t, trenner, "< nicht erlaubt. Bitte korrigieren"_t));
+        return;
+    }
+    if (std::max(memoK.size(), memoB.size()) > höchstlänge) {
+        zeigeMeldung(verbinde("Das Memo ist zu lang. Erlaubt sind "_t, alsText(höchstlänge), " Zeichen. Bitte kürzen"_t));
+        return;
+    }
+    zustand().memoKText = memoK;
+    zustand().memoBText = memoB;
+    schließe();
+}
+
+void frmMemo::beiExit()
+{
+    const bool istGeändert = alsSpeicherform(tbMemoK.text()) != zustand().memoKText ||
+                             alsSpeicherform(tbMemoB.text()) != zustand().memoBText;
+    if (istGeändert &&
+        zeigeMeldung("Veränderungen werden verworfen"_t, Symbol::Info, Knöpfe::OKAbbrechen) != Antwort::OK) {
+        return;
+    }
+    schließe();
+}
+
+void frmMemo::schließe()
+{
+    zeigeMemoB = false;
+    zustand().folge.entlade(*this);
+}
+
+std::string alsAnzeigeform(std::string_view gespeichert)
+{
+    return ersetzt(gespeichert, std::string_view(&absatzzeichen, 1), "\r\n"_t);
+}
+
+std::string alsSpeicherform(std::string_view angezeigt)
+{
+    std::string gespeichert(angezeigt);
+    std::erase(gespeichert, '\n');
+    std::replace(gespeichert.begin(), gespeichert.end(), '\r', absatzzeichen);
+    return gespeichert;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/bildschirm/Bildschirm.h"
+
+#include <string>
+#include <string_view>
+
+/// The memo form: edits the two free texts `memoKText` and `memoBText` of the state. The calling screen writes
+/// them into its records at its own OK. A record is one line, so a line break is stored as character 182.
+class frmMemo : public Bildschirm {
+public:
+    Beschriftung lblHeader;
+    Textfeld tbMemoK{Mehrzeilig};
+    Textfeld tbMemoB{Mehrzeilig};
+    Schaltfläche cmdDummy{"Es wurde keine Betreuung ausgewählt"_t, Schaltfläche::Rolle::Decke};
+    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{"&Exit"_t};
+
+    /// Set by a caller that has no care episode: the care-level box is hidden then.
+    bool zeigeMemoB = false;
+
+    frmMemo();
+
+private:
+    void beiAktivierung() override;
+    void beiEntladen() override;
+    void beiOK();
+    void beiExit();
+    void schließe();
+};
+
+/// Character 182 becomes carriage return and line feed, all others stay.
+std::string alsAnzeigeform(std::string_view gespeichert);
+/// Carriage return becomes character 182, line feeds are dropped, all others stay.
+std::string alsSpeicherform(std::string_view angezeigt);

@@ -1,0 +1,192 @@
+#include "clients/frmStammdaten.h"
+
+#include "platform/text/Zahl.h"
+#include "store/Tabellen.h"
+#include "store/Tabellenleser.h"
+#include "store/Wertelisten.h"
+#include "store/moHelferlein.h"
+#include "zustand/Zustand.h"
+
+#include <array>
+
+namespace {
+
+constexpr auto unbekannt = "unbekannt"_t;
+constexpr int feldKernID = 2;
+constexpr int feldBetrao = 3;
+constexpr int feldGeschlecht = 9;
+constexpr int feldGeburtsdatum = 10;
+constexpr int feldMemo = 11;
+
+/// The client's line, found as the tables compare keys; empty without one.
+std::string sucheKernDS(std::int32_t kernID)
+{
+    Tabellenleser leser(zustand().pfade.kernDat);
+    while (const auto zeile = leser.nächste()) {
+        if (leser.schlüssel(feldKernID, 16) == kernID) {
+            return std::string(*zeile);
+        }
+    }
+    return {};
+}
+
+/// The text boxes with the record fields that they show.
+template <class Form> auto textfelder(Form& form)
+{
+    return std::array{std::pair{4, &form.tbNachname}, std::pair{5, &form.tbVorname}, std::pair{6, &form.tbStrasse},
+                      std::pair{7, &form.tbPLZ}, std::pair{8, &form.tbOrt}};
+}
+
+} // namespace
+
+frmStammdaten::frmStammdaten(Bildschirm& hauptmenü) : Bildschirm("frmStammdaten"_t), m_hauptmenü(hauptmenü)
+{
+    benenne("lblHeader"_t, lblHeader);
+    benenne("tbNachname"_t, tbNachname);
+    benenne("tbVorname"_t, tbVorname);
+    benenne("tbStrasse"_t, tbStrasse);
+    benenne("tbPLZ"_t, tbPLZ);
+    benenne("tbOrt"_t, tbOrt);
+    benenne("comboGeschlecht"_t, comboGeschlecht);
+    benenne("DTPickerGeburtsdatum"_t, DTPickerGeburtsdatum);
+    benenne("cmdGebUnbekannt"_t, cmdGebUnbekannt);
+    benenne("cmdGebUnbekanntEintragen"_t, cmdGebUnbekanntEintragen);
+    benenne("cmdMemo"_t, cmdMemo);
+    benenne("cmdOK"_t, cmdOK);
+    benenne("cmdExit"_t, cmdExit);
+    ordneAn();
+    DTPickerGeburtsdatum.setzeDatum(zustand().umgebung.heute());
+    cmdGebUnbekanntEintragen.verberge();
+
+    cmdGebUnbekannt.beiKlick = [this] { setzeGebUnbekannt(false); };
+    cmdGebUnbekanntEintragen.beiKlick = [this] { setzeGebUnbekannt(true); };
+    cmdMemo.beiKlick = [this] { zustand().wechsel->zeigeMemo(*this, true); };
+    cmdOK.beiKlick = [this] { beiOK(); };
+    cmdExit.beiKlick = [this] { beiExit(); };
+}
+
+void frmStammdaten::ordneAn()
+{
+    using namespace anordnung;
+    kopfband.titel = &lblHeader;
+    auto felder = formular({feld("Nachname:"_t, tbNachname),
+                            feld("Vorname:"_t, tbVorname),
+                            feld("Straße:"_t, tbStrasse),
+                            feld("PLZ:"_t, tbPLZ, 5),
+                            feld("Ort:"_t, tbOrt),
+                            feld("Geschlecht:"_t, comboGeschlecht, 10),
+                            feld("Geburtsdatum:"_t, {decke(element(DTPickerGeburtsdatum, 10), cmdGebUnbekannt),
+                                                     element(cmdGebUnbekanntEintragen)})},
+                           7.5);
+    aufbau = spalte({breit(karte({}, std::move(felder)), 33)});
+    leiste = {.links = {&cmdMemo}, .rechts = {&cmdOK, &cmdExit}};
+    beiEscape = &cmdExit;
+}
+
+void frmStammdaten::beiAktivierung()
+{
+    zustand().wechsel->setzeFensterPosition(*this);
+    if (istErsterAufruf) {
+        istErsterAufruf = false;
+        richteEin();
+    }
+}
+
+void frmStammdaten::beiEntladen()
+{
+    zustand().wechsel->speichereRahmenlage(*this);
+}
+
+void frmStammdaten::richteEin()
+{
+    setzeTitel(verbinde(zustand().titel, " - Stammdaten"_t));
+    comboGeschlecht.setzeListe(werte::texte(werte::geschlecht));
+    lblHeader.setzeText(istNeu ? "neuer Klient"_t : "Klientendaten bearbeiten"_t);
+    getFrmData();
+}
+
+void frmStammdaten::getFrmData()
+{
+    const std::string satz = istNeu ? zustand().defaultKernDS : sucheKernDS(kernID);
+    if (satz.empty()) {
+        zeigeMeldung("getFrmData aus frmStammdaten konnte ID nicht finden"_t, Symbol::Stop);
+        return;
+    }
+    for (const auto& [nummer, textfeld] : textfelder(*this)) {
+        textfeld->setzeText(getFeld(satz, nummer));
+    }
+    comboGeschlecht.setzeText(getFeld(satz, feldGeschlecht));
+    zeigeGeburtsdatum(getFeld(satz, feldGeburtsdatum));
+
+    m_kernDSBeimÖffnen = satz;
+    m_betrao = getFeld(satz, feldBetrao);
+    zustand().memoKText = getFeld(satz, feldMemo);
+    zustand().memoBText = "dieses Feld ist nur da, um auf Betreuungsebene Memos einzutragen. Hier ist es ohne Sinn"_t;
+}
+
+void frmStammdaten::zeigeGeburtsdatum(std::string_view gespeichert)
+{
+    const auto datum = leseDatum(gespeichert);
+    if (!datum && gespeichert != unbekannt) {
+        zeigeMeldung(verbinde("Das gespeicherte Geburtsdatum '"_t, gespeichert, "' ist kein gültiges Datum."_t));
+    }
+    DTPickerGeburtsdatum.setzeDatum(datum.value_or(zustand().umgebung.heute()));
+    cmdGebUnbekannt.zeige(!datum.has_value());
+    cmdGebUnbekanntEintragen.zeige(datum.has_value());
+}
+
+void frmStammdaten::setzeGebUnbekannt(bool istUnbekannt)
+{
+    cmdGebUnbekannt.zeige(istUnbekannt);
+    cmdGebUnbekanntEintragen.zeige(!istUnbekannt);
+    // the button just pressed is gone: the work goes on at the place that it has made free
+    setzeFokus(istUnbekannt ? static_cast<Element*>(&cmdGebUnbekannt) : &DTPickerGeburtsdatum);
+}
+
+std::string frmStammdaten::erstelleKernDS() const
+{
+    std::string satz = verbinde(trenner, alsText(kernID), trenner, m_betrao, trenner);
+    for (const auto& eintrag : textfelder(*this)) {
+        satz += verbinde(maskiereTrenner(eintrag.second->text()), trenner);
+    }
+    const auto geburtsdatum = cmdGebUnbekannt.istSichtbar() ? std::string(unbekannt) : DTPickerGeburtsdatum.text();
+    return verbinde(satz, comboGeschlecht.text(), trenner, geburtsdatum, trenner, zustand().memoKText);
+}
+
+bool frmStammdaten::liegtNeuInDerZukunft(std::string_view satz) const
+{
+    return !cmdGebUnbekannt.istSichtbar() && getFeld(satz, feldGeburtsdatum) != getFeld(m_kernDSBeimÖffnen, feldGeburtsdatum) &&
+           DTPickerGeburtsdatum.datum() > zustand().umgebung.heute();
+}
+
+void frmStammdaten::beiOK()
+{
+    const auto satz = erstelleKernDS();
+    if (liegtNeuInDerZukunft(satz) && zeigeMeldung("Geburtsdatum liegt in der Zukunft. Fortfahren ?"_t, Symbol::Frage,
+                                                   Knöpfe::OKAbbrechen) != Antwort::OK) {
+        return;
+    }
+    if (istNeu) {
+        anfügeKernDS(satz);
+        zustand().aktKernID = kernID;
+    } else {
+        ersetzeKernDS(kernID, satz);
+    }
+    schließe();
+}
+
+void frmStammdaten::beiExit()
+{
+    if (erstelleKernDS() != m_kernDSBeimÖffnen &&
+        zeigeMeldung("Veränderungen in diesem Fenster verwerfen ?"_t, Symbol::Frage, Knöpfe::OKAbbrechen) != Antwort::OK) {
+        return;
+    }
+    schließe();
+}
+
+void frmStammdaten::schließe()
+{
+    istNeu = false;
+    zustand().folge.zeige(m_hauptmenü);
+    zustand().folge.entlade(*this);
+}
