@@ -2,7 +2,6 @@
 
 #include "daten/Zufall.h"
 
-#include "diagnosis/moData.h"
 #include "export/moNationen.h"
 #include "platform/Ressourcen.h"
 #include "platform/dateien/Dateien.h"
@@ -16,19 +15,22 @@
 
 namespace {
 
-constexpr std::array nachnamen{"Attrappe"_t, "Beispiel"_t, "Demo"_t,     "Entwurf"_t,     "Exempel"_t, "Fiktion"_t,
-                               "Modell"_t,   "Muster"_t,   "Phantom"_t,  "Platzhalter"_t, "Probe"_t,   "Schablone"_t,
-                               "Skizze"_t,   "Studie"_t,   "Übung"_t,    "Versuch"_t,     "Vorlage"_t, "Zeichen"_t};
-constexpr std::array vornamenW{"Ines"_t, "Dörte"_t, "Lena"_t, "Mira"_t, "Vera"_t, "Erika"_t, "Hanna"_t, "Nina"_t, "Olga"_t};
-constexpr std::array vornamenM{"Anton"_t, "Oskar"_t, "Frank"_t, "Jörg"_t, "Timo"_t, "Uwe"_t, "Rolf"_t, "Paul"_t, "Emil"_t};
-constexpr std::array straßen{"Amselweg"_t, "Musterweg"_t, "Am Brunnen"_t, "Birkenallee"_t, "Gartenstraße"_t, "Hafengasse"_t,
-                             "Lindenplatz"_t, "Mühlgraben"_t, "Nordring"_t, "Quellenweg"_t, "Südhang"_t, "Ulmenweg"_t};
+constexpr std::array nachnamen{"Attrappe"_t, "Beispiel"_t, "Demo"_t,    "Entwurf"_t,     "Exempel"_t, "Fiktion"_t,
+                               "Modell"_t,   "Muster"_t,   "Phantom"_t, "Platzhalter"_t, "Probe"_t,   "Schablone"_t,
+                               "Skizze"_t,   "Studie"_t,   "Übung"_t,   "Versuch"_t,     "Vorlage"_t, "Zeichen"_t};
+constexpr std::array vornamenW{"Ines"_t,  "Dörte"_t, "Lena"_t, "Mira"_t, "Vera"_t,
+                               "Erika"_t, "Hanna"_t, "Nina"_t, "Olga"_t};
+constexpr std::array vornamenM{"Anton"_t, "Oskar"_t, "Frank"_t, "Jörg"_t, "Timo"_t,
+                               "Uwe"_t,   "Rolf"_t,  "Paul"_t,  "Emil"_t};
+constexpr std::array straßen{"Amselweg"_t,     "Musterweg"_t,  "Am Brunnen"_t,  "Birkenallee"_t,
+                             "Gartenstraße"_t, "Hafengasse"_t, "Lindenplatz"_t, "Mühlgraben"_t,
+                             "Nordring"_t,     "Quellenweg"_t, "Südhang"_t,     "Ulmenweg"_t};
 constexpr std::array orte{"Musterstadt"_t, "Beispielhausen"_t, "Probeheim"_t};
 constexpr std::array icdGruppen1bis20{"10"_t, "20"_t, "21"_t, "22"_t, "24"_t, "25"_t, "26"_t};
 constexpr std::array icdGruppe29{"0"_t, "1"_t, "2"_t, "3"_t, "8"_t};
 constexpr std::array janein{"ja"_t, "nein"_t};
 
-constexpr int ersterTagDerEpisoden = 37622; // 01.01.2003
+constexpr int ersterTagDerEpisoden = 37622;  // 01.01.2003
 constexpr int letzterTagDerEpisoden = 44196; // 31.12.2020
 constexpr int tageImJahr = 365;
 
@@ -95,10 +97,10 @@ private:
         const auto status = zeiträume.empty() ? ""_t : zeiträume.back().bis == 0 ? "o"_t : "a"_t;
         const auto geboren = m_zufall.trifft(8) ? std::string("unbekannt"_t)
                                                 : datumstext(ersterTagDerEpisoden - m_zufall.zahl(16, 65) * tageImJahr);
-        return verbinde(trenner, std::to_string(klient), trenner, status, trenner, m_zufall.aus(nachnamen), trenner, vorname,
-                        trenner, m_zufall.aus(straßen), ' ', std::to_string(m_zufall.zahl(1, 99)), trenner, "99999"_t,
-                        trenner, m_zufall.aus(orte), trenner, weiblich ? "weiblich"_t : "männlich"_t, trenner, geboren,
-                        trenner, m_zufall.trifft(10) ? "ruft vorher an"_t : ""_t);
+        return verbinde(trenner, std::to_string(klient), trenner, status, trenner, m_zufall.aus(nachnamen), trenner,
+                        vorname, trenner, m_zufall.aus(straßen), ' ', std::to_string(m_zufall.zahl(1, 99)), trenner,
+                        "99999"_t, trenner, m_zufall.aus(orte), trenner, weiblich ? "weiblich"_t : "männlich"_t,
+                        trenner, geboren, trenner, m_zufall.trifft(10) ? "ruft vorher an"_t : ""_t);
     }
 
     std::string betreuungssatz(int klient, int betreuung, const Zeitraum& zeitraum, int hauptdiagnose)
@@ -107,8 +109,9 @@ private:
         m_ivKonsum = m_zufall.zahl(0, 3);
         m_stelleHdOhne = 0;
         m_stelleIvKonsum = 0;
-        auto satz = verbinde(std::to_string(klient), trenner, std::to_string(betreuung), trenner, datumstext(zeitraum.von),
-                             trenner, zeitraum.bis == 0 ? std::string("offen"_t) : datumstext(zeitraum.bis));
+        auto satz =
+            verbinde(std::to_string(klient), trenner, std::to_string(betreuung), trenner, datumstext(zeitraum.von),
+                     trenner, zeitraum.bis == 0 ? std::string("offen"_t) : datumstext(zeitraum.bis));
         const auto& alle = betreuungsfelder();
         for (std::size_t i = 4; i < alle.size(); ++i) {
             satz.push_back(trenner);
@@ -199,7 +202,7 @@ private:
             feldIn(felder, gruppe, 3) = zahl(0, 30);
             feldIn(felder, gruppe, 7) = zahl(10, 40);
         }
-        feldIn(felder, gruppe, 4) = substanz      ? m_zufall.aus(icdGruppen1bis20)
+        feldIn(felder, gruppe, 4) = substanz     ? m_zufall.aus(icdGruppen1bis20)
                                     : essstörung ? m_zufall.aus(icdGruppe29)
                                                  : m_zufall.aus(janein);
         feldIn(felder, gruppe, 5) = zahl(12, 60);

@@ -17,7 +17,8 @@ Zustand& zustand()
     return *aktuell;
 }
 
-Zustandsplatz::Zustandsplatz(Zustand& zustand) : m_vorher(std::exchange(aktuell, &zustand)) {}
+Zustandsplatz::Zustandsplatz(Zustand& zustand) : m_vorher(std::exchange(aktuell, &zustand))
+{}
 
 Zustandsplatz::~Zustandsplatz()
 {

@@ -15,18 +15,18 @@
 
 /// The absolute paths of a run, all below the program folder.
 struct Pfade {
-    std::filesystem::path programm;         ///< the program folder itself
-    std::filesystem::path ini;              ///< Tolvek7.ini
-    std::filesystem::path dummyIni;         ///< Tolvhek7Dummy.ini
-    std::filesystem::path daten;            ///< Daten
-    std::filesystem::path kernDat;          ///< Daten/kernDat.txt
-    std::filesystem::path betrDat;          ///< Daten/betrDat.txt
-    std::filesystem::path diagDat;          ///< Daten/diagDat.txt
-    std::filesystem::path kernBak;          ///< Daten/kernDat.bak
-    std::filesystem::path betrBak;          ///< Daten/betrDat.bak
-    std::filesystem::path diagBak;          ///< Daten/diagDat.bak
-    std::filesystem::path dummyDatei;       ///< dummyFile.txt
-    std::filesystem::path importListe;      ///< importDatenListe.txt
+    std::filesystem::path programm;    ///< the program folder itself
+    std::filesystem::path ini;         ///< Tolvek7.ini
+    std::filesystem::path dummyIni;    ///< Tolvhek7Dummy.ini
+    std::filesystem::path daten;       ///< Daten
+    std::filesystem::path kernDat;     ///< Daten/kernDat.txt
+    std::filesystem::path betrDat;     ///< Daten/betrDat.txt
+    std::filesystem::path diagDat;     ///< Daten/diagDat.txt
+    std::filesystem::path kernBak;     ///< Daten/kernDat.bak
+    std::filesystem::path betrBak;     ///< Daten/betrDat.bak
+    std::filesystem::path diagBak;     ///< Daten/diagDat.bak
+    std::filesystem::path dummyDatei;  ///< dummyFile.txt
+    std::filesystem::path importListe; ///< importDatenListe.txt
 };
 
 /// The working copy of the one care episode in flight. The care record is cut into one piece per page; each

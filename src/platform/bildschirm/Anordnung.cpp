@@ -121,8 +121,9 @@ Anordnung stapel(std::vector<Anordnung> teile)
     return wort(Anordnung::Wort::Stapel, std::move(teile));
 }
 
-Anordnung listung(std::vector<Tabellenspalte> spalten, std::string_view überschriftErste, std::string_view überschriftRest,
-                  std::vector<Anordnung> zeilen, Bildlaufleiste& leiste, Fläche& vorne, Fläche& hinten)
+Anordnung listung(std::vector<Tabellenspalte> spalten, std::string_view überschriftErste,
+                  std::string_view überschriftRest, std::vector<Anordnung> zeilen, Bildlaufleiste& leiste,
+                  Fläche& vorne, Fläche& hinten)
 {
     auto a = wort(Anordnung::Wort::Listung, std::move(zeilen));
     a.spalten = std::move(spalten);

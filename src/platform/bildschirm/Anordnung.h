@@ -22,33 +22,33 @@ struct Tabellenspalte {
 /// The order of the words is the reading order, and reading order is tab order.
 struct Anordnung {
     enum class Wort {
-        Element,      ///< one element
-        Text,         ///< a fixed text (heading, unit) that is no element
-        Spalte,       ///< parts below each other
-        Zeile,        ///< parts side by side
-        Formular,     ///< rows of label and field on one grid
-        Feld,         ///< a row of a Formular: label (`text`, or the label `element`), then its parts
-        Trennlinie,   ///< a hairline between groups of a Formular
-        Karte,        ///< a titled card; the part may be a list that fills the page
-        Karten,       ///< columns (Spalte) of cards, side by side; below each other where they don't fit
-        Tabelle,      ///< rows of label and cells under a head that stands still while the rows scroll
+        Element,    ///< one element
+        Text,       ///< a fixed text (heading, unit) that is no element
+        Spalte,     ///< parts below each other
+        Zeile,      ///< parts side by side
+        Formular,   ///< rows of label and field on one grid
+        Feld,       ///< a row of a Formular: label (`text`, or the label `element`), then its parts
+        Trennlinie, ///< a hairline between groups of a Formular
+        Karte,      ///< a titled card; the part may be a list that fills the page
+        Karten,     ///< columns (Spalte) of cards, side by side; below each other where they don't fit
+        Tabelle,    ///< rows of label and cells under a head that stands still while the rows scroll
         Tabellenzeile,
-        Decke,        ///< the first part, covered by the second (a button) while that one is visible
-        Stapel,       ///< parts that share one place, at most one visible at a time
-        Listung,      ///< the diagnosis listing: `element` is the scroll bar, `köpfe` are frameVorne and
-                      ///< frameHinten, `text` the two headings, separated by a line feed
-        Dehnung,      ///< takes the space that is left
+        Decke,   ///< the first part, covered by the second (a button) while that one is visible
+        Stapel,  ///< parts that share one place, at most one visible at a time
+        Listung, ///< the diagnosis listing: `element` is the scroll bar, `köpfe` are frameVorne and
+                 ///< frameHinten, `text` the two headings, separated by a line feed
+        Dehnung, ///< takes the space that is left
     };
 
     Wort wort = Wort::Spalte;
-    std::string text;                       ///< label, title or fixed text
-    Element* element = nullptr;             ///< Element; label of a Feld or Tabellenzeile
+    std::string text;           ///< label, title or fixed text
+    Element* element = nullptr; ///< Element; label of a Feld or Tabellenzeile
     std::vector<Anordnung> teile;
-    double breite = 0;                      ///< em: width of an element or label column, of a card at most
-    bool füllt = false;                     ///< takes the height (or width) that is left
-    bool behältPlatz = false;               ///< a hidden element keeps its place
+    double breite = 0;                   ///< em: width of an element or label column, of a card at most
+    bool füllt = false;                  ///< takes the height (or width) that is left
+    bool behältPlatz = false;            ///< a hidden element keeps its place
     std::vector<Tabellenspalte> spalten; ///< heads of a Tabelle or Listung
-    std::vector<Element*> köpfe;            ///< elements in the title line of a Karte (the "!")
+    std::vector<Element*> köpfe;         ///< elements in the title line of a Karte (the "!")
 };
 
 namespace anordnung {
@@ -75,8 +75,9 @@ Anordnung decke(Anordnung darunter, Schaltfläche& decke);
 Anordnung stapel(std::vector<Anordnung> teile);
 /// The diagnosis listing: `zeilen` are Zeile words of eight labels; the first (row 0) stands under
 /// `überschriftErste`, the others move under `überschriftRest` inside `hinten`, by `leiste`.
-Anordnung listung(std::vector<Tabellenspalte> spalten, std::string_view überschriftErste, std::string_view überschriftRest,
-                  std::vector<Anordnung> zeilen, Bildlaufleiste& leiste, Fläche& vorne, Fläche& hinten);
+Anordnung listung(std::vector<Tabellenspalte> spalten, std::string_view überschriftErste,
+                  std::string_view überschriftRest, std::vector<Anordnung> zeilen, Bildlaufleiste& leiste,
+                  Fläche& vorne, Fläche& hinten);
 
 /// The same arrangement, filling what is left / keeping its place while hidden / at most so wide (em).
 Anordnung füllend(Anordnung a);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/bildschirm/Anordnung.h"
-#include "platform/elemente/Elementreihe.h"
 #include "platform/elemente/Elemente.h"
+#include "platform/elemente/Elementreihe.h"
 #include "platform/elemente/triCtlJaNein.h"
 
 #include <map>

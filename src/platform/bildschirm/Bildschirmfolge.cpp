@@ -5,7 +5,8 @@
 
 Bildschirmfolge::Stand* Bildschirmfolge::stand(const Bildschirm& bildschirm)
 {
-    const auto ort = std::find_if(m_stände.begin(), m_stände.end(), [&](const Stand& s) { return s.bildschirm == &bildschirm; });
+    const auto ort =
+        std::find_if(m_stände.begin(), m_stände.end(), [&](const Stand& s) { return s.bildschirm == &bildschirm; });
     return ort == m_stände.end() ? nullptr : &*ort;
 }
 
@@ -83,20 +84,23 @@ bool Bildschirmfolge::istFrei(const Bildschirm& bildschirm) const
 
 Bildschirm* Bildschirmfolge::inGebrauch() const
 {
-    const auto ort = std::find_if(m_stände.rbegin(), m_stände.rend(), [](const Stand& s) { return s.sichtbar && s.frei; });
+    const auto ort =
+        std::find_if(m_stände.rbegin(), m_stände.rend(), [](const Stand& s) { return s.sichtbar && s.frei; });
     return ort == m_stände.rend() ? nullptr : ort->bildschirm;
 }
 
 Bildschirm* Bildschirmfolge::finde(std::string_view name) const
 {
-    const auto ort = std::find_if(m_stände.rbegin(), m_stände.rend(), [&](const Stand& s) { return s.bildschirm->name() == name; });
+    const auto ort =
+        std::find_if(m_stände.rbegin(), m_stände.rend(), [&](const Stand& s) { return s.bildschirm->name() == name; });
     return ort == m_stände.rend() ? nullptr : ort->bildschirm;
 }
 
 std::vector<Bildschirm*> Bildschirmfolge::geladene() const
 {
     std::vector<Bildschirm*> alle;
-    std::transform(m_stände.begin(), m_stände.end(), std::back_inserter(alle), [](const Stand& s) { return s.bildschirm; });
+    std::transform(m_stände.begin(), m_stände.end(), std::back_inserter(alle),
+                   [](const Stand& s) { return s.bildschirm; });
     return alle;
 }
 

@@ -53,7 +53,8 @@ std::string pfadtext(const fs::path& pfad)
 
 Schreiber::Schreiber(Dateizugriff& zugriff, const fs::path& pfad) : m_pfad(pfad)
 {
-    m_datei = mitNamen("Die Datei kann nicht angelegt werden:"_t, pfad, [&] { return zugriff.öffne(pfad, Öffnung::Leeren); });
+    m_datei =
+        mitNamen("Die Datei kann nicht angelegt werden:"_t, pfad, [&] { return zugriff.öffne(pfad, Öffnung::Leeren); });
     m_block.reserve(blockgröße);
 }
 
@@ -88,7 +89,8 @@ void Schreiber::schließe()
     });
 }
 
-Dateien::Dateien(std::unique_ptr<Dateizugriff> zugriff) : m_zugriff(std::move(zugriff)) {}
+Dateien::Dateien(std::unique_ptr<Dateizugriff> zugriff) : m_zugriff(std::move(zugriff))
+{}
 
 Dateien::~Dateien() = default;
 

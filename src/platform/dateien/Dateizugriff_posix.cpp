@@ -91,8 +91,8 @@ private:
 class PosixDatei : public OffeneDatei {
 public:
     PosixDatei(const fs::path& pfad, Öffnung wie)
-        : m_griff(::open(pfad.c_str(),
-                         O_WRONLY | O_CLOEXEC | O_CREAT | (wie == Öffnung::Leeren ? O_TRUNC : O_APPEND), nurEigentümerDatei))
+        : m_griff(::open(pfad.c_str(), O_WRONLY | O_CLOEXEC | O_CREAT | (wie == Öffnung::Leeren ? O_TRUNC : O_APPEND),
+                         nurEigentümerDatei))
     {
         // a file from elsewhere may have been readable by others; where that can't be changed it is no failure
         static_cast<void>(::fchmod(m_griff.nummer(), nurEigentümerDatei));
@@ -108,7 +108,10 @@ public:
         return static_cast<std::size_t>(geschrieben);
     }
     std::uint64_t länge() override { return längeVon(m_griff); }
-    void schneideAb(std::uint64_t länge) override { prüfe(::ftruncate(m_griff.nummer(), static_cast<off_t>(länge)) == 0); }
+    void schneideAb(std::uint64_t länge) override
+    {
+        prüfe(::ftruncate(m_griff.nummer(), static_cast<off_t>(länge)) == 0);
+    }
     void sichereAufPlatte() override { prüfe(::fsync(m_griff.nummer()) == 0); }
     void schließe() override { m_griff.schließe(); }
 
@@ -118,7 +121,10 @@ private:
 
 class PosixZugriff : public Dateizugriff {
 public:
-    std::unique_ptr<Dateiinhalt> lies(const fs::path& pfad) override { return std::make_unique<AbgebildeteDatei>(pfad); }
+    std::unique_ptr<Dateiinhalt> lies(const fs::path& pfad) override
+    {
+        return std::make_unique<AbgebildeteDatei>(pfad);
+    }
     std::unique_ptr<OffeneDatei> öffne(const fs::path& pfad, Öffnung wie) override
     {
         return std::make_unique<PosixDatei>(pfad, wie);

@@ -98,7 +98,8 @@ public:
     {
         LARGE_INTEGER ort = {};
         ort.QuadPart = static_cast<LONGLONG>(länge);
-        prüfe(::SetFilePointerEx(m_griff.griff(), ort, nullptr, FILE_BEGIN) != 0 && ::SetEndOfFile(m_griff.griff()) != 0);
+        prüfe(::SetFilePointerEx(m_griff.griff(), ort, nullptr, FILE_BEGIN) != 0 &&
+              ::SetEndOfFile(m_griff.griff()) != 0);
     }
     void sichereAufPlatte() override { prüfe(::FlushFileBuffers(m_griff.griff()) != 0); }
     void schließe() override { m_griff.schließe(); }

@@ -9,7 +9,8 @@ namespace {
 std::size_t findeZeilenende(std::string_view text)
 {
     const void* lf = std::memchr(text.data(), '\n', text.size());
-    const std::size_t bis = lf == nullptr ? text.size() : static_cast<std::size_t>(static_cast<const char*>(lf) - text.data());
+    const std::size_t bis =
+        lf == nullptr ? text.size() : static_cast<std::size_t>(static_cast<const char*>(lf) - text.data());
     const void* cr = std::memchr(text.data(), '\r', bis);
     if (cr != nullptr) {
         return static_cast<std::size_t>(static_cast<const char*>(cr) - text.data());

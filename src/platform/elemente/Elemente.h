@@ -57,7 +57,9 @@ inline constexpr Zeilenzahl Einzeilig = Zeilenzahl::Einzeilig;
 /// A text box. In one of several lines a line break is carriage return and line feed.
 class Textfeld : public Element {
 public:
-    explicit Textfeld(Zeilenzahl zeilen = Einzeilig, std::size_t höchstlänge = 0) : m_zeilen(zeilen), m_höchstlänge(höchstlänge) {}
+    explicit Textfeld(Zeilenzahl zeilen = Einzeilig, std::size_t höchstlänge = 0)
+        : m_zeilen(zeilen), m_höchstlänge(höchstlänge)
+    {}
 
     std::string text() const override { return m_text; }
     void setzeText(std::string_view text);

@@ -72,7 +72,8 @@ void Liste::sortiereNach(std::size_t spalte)
     }
     std::vector<std::size_t> folge(m_zeilen.size());
     std::iota(folge.begin(), folge.end(), std::size_t{0});
-    std::stable_sort(folge.begin(), folge.end(), [&](std::size_t a, std::size_t b) { return schlüssel[a] < schlüssel[b]; });
+    std::stable_sort(folge.begin(), folge.end(),
+                     [&](std::size_t a, std::size_t b) { return schlüssel[a] < schlüssel[b]; });
 
     std::vector<std::string> sortiert;
     sortiert.reserve(m_zeilen.size());

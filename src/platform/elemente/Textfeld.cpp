@@ -66,7 +66,9 @@ bool Textfeld::füge(std::string_view zeichen)
 
 bool Textfeld::taste(const Taste& taste)
 {
-    const auto ohne = [this](std::size_t ort, std::size_t länge) { return m_text.substr(0, ort) + m_text.substr(ort + länge); };
+    const auto ohne = [this](std::size_t ort, std::size_t länge) {
+        return m_text.substr(0, ort) + m_text.substr(ort + länge);
+    };
     switch (taste.art) {
     case Taste::Art::Zeichen:
         return füge(std::string_view(&taste.zeichen, 1));

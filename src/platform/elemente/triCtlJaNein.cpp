@@ -35,7 +35,8 @@ std::string triCtlJaNein::text() const
 
 void triCtlJaNein::setzeText(std::string_view text)
 {
-    const auto ort = std::find_if(antwortwerte.begin(), antwortwerte.end(), [&](const auto& wert) { return wert.text == text; });
+    const auto ort =
+        std::find_if(antwortwerte.begin(), antwortwerte.end(), [&](const auto& wert) { return wert.text == text; });
     setzeStelle(ort == antwortwerte.end() ? 0 : static_cast<std::size_t>(ort - antwortwerte.begin()));
 }
 

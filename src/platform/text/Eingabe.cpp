@@ -17,8 +17,9 @@ struct Lauf {
 
 constexpr std::array<Lauf, 6> läufe{{
     // Latin Extended-A
-    {0x0100, "AaAaAaCcCcCcCcDdDdEeEeEeEeEeGgGgGgGgHhHhIiIiIiIiIi??JjKk?LlLlLlLlLlNnNnNnn??OoOoOo??RrRrRrSsSsSs??TtTtTtUuUu"
-             "UuUuUuUuWwYy?ZzZz??s"},
+    {0x0100,
+     "AaAaAaCcCcCcCcDdDdEeEeEeEeEeGgGgGgGgHhHhIiIiIiIiIi??JjKk?LlLlLlLlLlNnNnNnn??OoOoOo??RrRrRrSsSsSs??TtTtTtUuUu"
+     "UuUuUuUuWwYy?ZzZz??s"},
     // Romanian s and t with comma below
     {0x0218, "SsTt"},
     // caron letters of Latin Extended-B

@@ -7,8 +7,8 @@
 
 /// What becomes of typed or pasted characters on their way into a field.
 struct Eingabeergebnis {
-    std::string text;      ///< code-page bytes
-    bool ersetzt = false;  ///< at least one character became its nearest letter
+    std::string text;        ///< code-page bytes
+    bool ersetzt = false;    ///< at least one character became its nearest letter
     bool verweigert = false; ///< at least one character has no such letter and was not taken
 };
 

@@ -16,7 +16,8 @@
 namespace text_detail {
 
 /// A character that the code page lacks, or broken UTF-8, stops the compiler here.
-inline void zeichenFehltInDerCodepage() {}
+inline void zeichenFehltInDerCodepage()
+{}
 
 struct Zeichen {
     char32_t wert;
@@ -29,9 +30,7 @@ constexpr Zeichen liesUtf8(const char* ort)
     if (b0 < 0x80) {
         return {b0, 1};
     }
-    const auto folge = [&](std::size_t i) {
-        return static_cast<char32_t>(static_cast<unsigned char>(ort[i]) & 0x3FU);
-    };
+    const auto folge = [&](std::size_t i) { return static_cast<char32_t>(static_cast<unsigned char>(ort[i]) & 0x3FU); };
     if (b0 < 0xE0) {
         return {(static_cast<char32_t>(b0 & 0x1FU) << 6U) | folge(1), 2};
     }
