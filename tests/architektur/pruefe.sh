@@ -1,0 +1,89 @@
+#!/usr/bin/env bash
+# The house rules that the compiler does not see. Usage: pruefe.sh RULE SOURCE-FOLDER [COMPILER]
+set -uo pipefail
+regel=$1
+cd "$2"
+compiler=${3:-g++}
+
+fehler=0
+melde() {
+    echo "$1"
+    fehler=1
+}
+
+# Prints FOLDER of a path below src/: "platform", "platform/qt", "store", …
+ordner_von() {
+    case $1 in
+        platform/qt/* | platform/calc/*) echo "$1" | cut -d/ -f1-2 ;;
+        */*) echo "$1" | cut -d/ -f1 ;;
+        *) echo main ;;
+    esac
+}
+
+toolkit() {
+    while IFS= read -r fund; do
+        melde "a Qt header outside platform/qt: $fund"
+    done < <(cd src && grep -rnE '#include <Q[A-Za-z]' --include='*.h' --include='*.cpp' . | grep -vE '^\./(platform/qt/|main\.cpp)')
+    while IFS= read -r fund; do
+        melde "a libxlsxwriter header outside platform/calc: $fund"
+    done < <(cd src && grep -rn '#include <xlsxwriter' --include='*.h' --include='*.cpp' . | grep -v '^\./platform/calc/')
+}
+
+dateien() {
+    while IFS= read -r fund; do
+        melde "a file written past the file layer: $fund"
+    done < <(grep -rnE 'std::ofstream|std::fstream|QSaveFile|std::fopen|\bfopen\(' --include='*.h' --include='*.cpp' src)
+}
+
+# What each folder may include, as the link graph has it (its own folder always).
+erlaubt() {
+    local unten="platform zustand store diagnosis"
+    case $1 in
+        main) echo "$unten care export import spreadsheet clients app platform/qt platform/calc" ;;
+        app) echo "$unten care export import spreadsheet clients" ;;
+        clients) echo "$unten care export import spreadsheet" ;;
+        import) echo "$unten export" ;;
+        care | export | spreadsheet) echo "$unten" ;;
+        diagnosis) echo "platform zustand store" ;;
+        store) echo "platform zustand" ;;
+        zustand | platform/qt | platform/calc) echo "platform" ;;
+        platform) echo "" ;;
+        *) echo "?" ;;
+    esac
+}
+
+pfeile() {
+    while IFS=: read -r datei zeile; do
+        von=$(ordner_von "${datei#./}")
+        nach=$(ordner_von "$(echo "$zeile" | sed -E 's/.*#include "([^"]+)".*/\1/')")
+        [ "$von" = "$nach" ] && continue
+        # main.cpp and the Qt folder build the program together
+        case " $(erlaubt "$von") " in
+            *" $nach "*) ;;
+            *) melde "$datei includes upward or sideways: $zeile" ;;
+        esac
+    done < <(cd src && grep -rn '#include "' --include='*.h' --include='*.cpp' . | sed -E 's/^([^:]+):[0-9]+:/\1:/')
+}
+
+# Every header compiles alone.
+allein() {
+    liste=$(mktemp)
+    trap 'rm -f "$liste"' EXIT
+    (cd src && find . -name '*.h' ! -path './platform/qt/*' ! -path './platform/calc/*') | sed 's|^\./||' > "$liste"
+    if ! xargs -P 2 -I{} sh -c 'echo "#include \"{}\"" | '"$compiler"' -std=c++20 -fsyntax-only -Isrc -x c++ - || { echo "does not compile alone: {}"; exit 1; }' < "$liste"; then
+        fehler=1
+    fi
+}
+
+# Data and prose that people read: no tab, no blank at the end of a line, a line end at the end.
+sauber() {
+    while IFS= read -r fund; do
+        melde "blank at the end of a line or tab: $fund"
+    done < <(grep -rnE '[[:blank:]]$|	' --include='*.h' --include='*.cpp' --include='*.md' --include='CMakeLists.txt' src tests bench docs cmake 2>/dev/null)
+}
+
+case $regel in
+    toolkit | dateien | pfeile | allein | sauber) $regel ;;
+    *) echo "unknown rule $regel"; exit 2 ;;
+esac
+exit $fehler
