@@ -1,0 +1,107 @@
+#include "export/Diagnosezeile.h"
+
+#include "export/Spaltentabelle.h"
+#include "export/Zeilenbauer.h"
+
+namespace {
+
+constexpr std::size_t spaltenzahl = 177;
+constexpr int substanzgruppen = 20;
+
+/// What an empty number gives: 0 for an age, 99 for days of consumption; behind the substances the 99 has a
+/// blank in front, which the receiving side knows.
+std::string_view ersatzFürLeereZahl(int nummer)
+{
+    constexpr int platzAlterStörung = 5;
+    const int gruppe = (nummer - 3) / felderJeGruppe + 1;
+    if (nummer == diagnosefeld(gruppe, platzAlterStörung)) {
+        return "0"_t;
+    }
+    return gruppe <= substanzgruppen ? "99"_t : " 99"_t;
+}
+
+Exportspalte optionAus(const Satzfeld& feld, int nummer)
+{
+    const auto mit = [&](Kodierung kodierung, std::string_view leer) {
+        return Exportspalte{
+            .kodierung = kodierung, .satz = Satzart::Diagnose, .feld = nummer, .werte = feld.werte, .leer = leer};
+    };
+    if (feld.werte.data() == werte::icdZusatz.data()) {
+        return mit(Kodierung::Zusatzziffern, "0"_t);
+    }
+    if (feld.werte.data() == werte::essstörung.data()) {
+        return mit(Kodierung::Essstörung, "9"_t); // 0 is anorexia
+    }
+    return mit(Kodierung::Tabelle, "0"_t);
+}
+
+Exportspalte diagnosespalteAus(const Satzfeld& feld, int nummer)
+{
+    const Exportspalte gespeichert{.satz = Satzart::Diagnose, .feld = nummer};
+    auto spalte = gespeichert;
+    switch (feld.art) {
+    case Feldart::option:
+        return optionAus(feld, nummer);
+    case Feldart::zahl:
+        spalte.kodierung = Kodierung::ErsatzFürLeer;
+        spalte.leer = ersatzFürLeereZahl(nummer);
+        return spalte;
+    case Feldart::icdPsy:
+    case Feldart::icdNeu:
+        spalte.kodierung = Kodierung::MitBuchstabe;
+        spalte.ersatz = feld.art == Feldart::icdPsy ? "F"_t : "G"_t;
+        return spalte;
+    case Feldart::icd0000:
+        spalte.kodierung = Kodierung::Hauptdiagnose;
+        return spalte;
+    case Feldart::hdAlter:
+        spalte.kodierung = Kodierung::AlterHauptdiagnose;
+        return spalte;
+    default:
+        return gespeichert;
+    }
+}
+
+Exportspalte betreuungsspalteAus(const Satzfeld& feld, int nummer)
+{
+    Exportspalte spalte{.kodierung = Kodierung::Tabelle, .feld = nummer, .werte = feld.werte};
+    if (feld.art == Feldart::hdOhne || feld.art == Feldart::ivKonsum) {
+        spalte.kodierung = Kodierung::Flaggenplatz;
+        spalte.anzahl = feld.art == Feldart::hdOhne ? 6 : 4;
+    } else if (feld.werte.data() != werte::lang.data()) {
+        spalte.leer = "0"_t; // infections admit an empty text; addiction to several substances does not
+    }
+    return spalte;
+}
+
+std::vector<Exportspalte> baueSpalten()
+{
+    std::vector<Exportspalte> spalten(spaltenzahl);
+    spalten[0] = {.kodierung = Kodierung::Tsnr};
+    spalten[1] = {.satz = Satzart::Diagnose, .feld = 1};
+    spalten[2] = {.satz = Satzart::Diagnose, .feld = 2};
+    trageFelderEin(spalten, 'D', diagnosefelder(), diagnosespalteAus);
+    trageFelderEin(spalten, 'D', betreuungsfelder(), betreuungsspalteAus);
+    return spalten;
+}
+
+} // namespace
+
+const std::vector<Exportspalte>& diagnosespalten()
+{
+    static const auto spalten = baueSpalten();
+    return spalten;
+}
+
+void hängeDiagZeileAn(std::string& ziel, const Satzsicht& betreuung, const Satzsicht& diagnose, std::string_view tsnr)
+{
+    const Exportsätze sätze{.klient = nullptr, .betreuung = &betreuung, .diagnose = &diagnose, .tsnr = tsnr};
+    Zeilenbauer(ziel, sätze).baue(diagnosespalten());
+}
+
+std::string erstelleDiagZeile(std::string_view betrDS, std::string_view diagDS, std::string_view tsnr)
+{
+    std::string zeile;
+    hängeDiagZeileAn(zeile, Satzsicht(betrDS), Satzsicht(diagDS), tsnr);
+    return zeile;
+}

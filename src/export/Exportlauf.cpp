@@ -1,0 +1,141 @@
+#include "export/Exportlauf.h"
+
+#include "export/Datumsprüfung.h"
+#include "export/Diagnosezeile.h"
+#include "export/Kernzeile.h"
+#include "platform/text/Zahl.h"
+#include "platform/umgebung/Laufzeitfehler.h"
+#include "store/Tabellen.h"
+#include "store/moHelferlein.h"
+#include "zustand/Zustand.h"
+
+namespace {
+
+constexpr int bits = 32;
+
+/// The first column of both rows. Nothing ever fills it, but its place is kept.
+constexpr std::string_view tsnr;
+
+Dateien& dateien()
+{
+    return zustand().umgebung.dateien();
+}
+
+} // namespace
+
+void beimSchreiben(const std::function<void()>& operation)
+{
+    try {
+        operation();
+    } catch (const Laufzeitfehler& fehler) {
+        throw Exportfehler{fehler.text()};
+    }
+}
+
+Diagnosesuche::Diagnosesuche(const std::filesystem::path& pfad)
+    : m_pfad(pfad), m_inhalt(dateien().lies(pfad)), m_zeilen(m_inhalt->text())
+{
+}
+
+Diagnosesuche::Schlüssel Diagnosesuche::schlüssel(std::int32_t kernID, std::int32_t betrID)
+{
+    return (static_cast<Schlüssel>(static_cast<std::uint32_t>(kernID)) << 32U) | static_cast<std::uint32_t>(betrID);
+}
+
+std::optional<std::string_view> Diagnosesuche::finde(std::int32_t kernID, std::int32_t betrID)
+{
+    const auto gesucht = schlüssel(kernID, betrID);
+    if (const auto ort = m_gelesene.find(gesucht); ort != m_gelesene.end()) {
+        return ort->second;
+    }
+    while (const auto zeile = m_zeilen.nächste()) {
+        const auto gelesen = schlüssel(leseSchlüssel(*zeile, 1, bits, m_pfad, m_zeilen.nummer()),
+                                       leseSchlüssel(*zeile, 2, bits, m_pfad, m_zeilen.nummer()));
+        m_gelesene.try_emplace(gelesen, *zeile);
+        if (gelesen == gesucht) {
+            return zeile;
+        }
+    }
+    return std::nullopt;
+}
+
+Exportlauf::Exportlauf(int jahr, const std::filesystem::path& ordner)
+    : m_jahr(jahr), m_ordner(ordner), m_klienten(dateien().lies(zustand().pfade.kernDat)),
+      m_klientenzahl(static_cast<std::int32_t>(zähleZeilen(m_klienten->text())))
+{
+}
+
+std::int32_t Exportlauf::führeAus()
+{
+    beimSchreiben([&] {
+        m_kern = dateien().schreibeNeu(m_ordner / "Kern.txt");
+        m_diagnose = dateien().schreibeNeu(m_ordner / "Diagnose.txt");
+    });
+    Zeilen klienten(m_klienten->text());
+    while (const auto zeile = klienten.nächste()) {
+        beiKlient(static_cast<std::int32_t>(klienten.nummer()));
+        exportiereKlient(*zeile, klienten.nummer());
+    }
+    beimSchreiben([&] {
+        m_kern->schließe();
+        m_diagnose->schließe();
+    });
+    return m_exportierte;
+}
+
+void Exportlauf::exportiereKlient(std::string_view zeile, std::size_t nummer)
+{
+    const auto kernID = leseSchlüssel(zeile, 2, bits, zustand().pfade.kernDat, nummer);
+    m_klient.lies(zeile);
+    if (!m_betreuungen) {
+        suchtBetreuungen(kernID);
+    } else if (const auto ort = m_imJahr.find(kernID); ort != m_imJahr.end()) {
+        for (const auto& betreuung : ort->second) {
+            exportiere(kernID, betreuung.zeile, betreuung.nummer);
+        }
+    }
+}
+
+void Exportlauf::suchtBetreuungen(std::int32_t erster)
+{
+    const auto& pfad = zustand().pfade.betrDat;
+    m_betreuungen = dateien().lies(pfad);
+    Zeilen zeilen(m_betreuungen->text());
+    while (const auto zeile = zeilen.nächste()) {
+        const auto kernID = leseSchlüssel(*zeile, 1, bits, pfad, zeilen.nummer());
+        const auto bezeichnung = verbinde(getFeld(*zeile, 1), '-', getFeld(*zeile, 2));
+        if (!berührtJahr(getFeld(*zeile, 3), getFeld(*zeile, 4), m_jahr, bezeichnung)) {
+            continue;
+        }
+        m_imJahr[kernID].push_back({*zeile, zeilen.nummer()});
+        if (kernID == erster) {
+            exportiere(kernID, *zeile, zeilen.nummer());
+        }
+    }
+}
+
+void Exportlauf::exportiere(std::int32_t kernID, std::string_view betrDS, std::size_t nummer)
+{
+    ++m_exportierte;
+    const auto betrID = leseSchlüssel(betrDS, 2, bits, zustand().pfade.betrDat, nummer);
+    if (!m_diagnosen) {
+        m_diagnosen.emplace(zustand().pfade.diagDat);
+    }
+    if (const auto diagDS = m_diagnosen->finde(kernID, betrID)) {
+        schreibe(betrDS, *diagDS);
+    } else {
+        zeigeMeldung(verbinde("Fehler im Export: zu "_t, alsText(kernID), '-', alsText(betrID), " wurde kein diagDS gefunden"_t));
+    }
+}
+
+void Exportlauf::schreibe(std::string_view betrDS, std::string_view diagDS)
+{
+    m_betreuung.lies(betrDS);
+    m_diagnosesatz.lies(diagDS);
+    m_zeile.clear();
+    hängeKernZeileAn(m_zeile, m_klient, m_betreuung, tsnr);
+    beimSchreiben([&] { m_kern->zeile(m_zeile); });
+    m_zeile.clear();
+    hängeDiagZeileAn(m_zeile, m_betreuung, m_diagnosesatz, tsnr);
+    beimSchreiben([&] { m_diagnose->zeile(m_zeile); });
+}

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "export/Satzsicht.h"
+#include "platform/dateien/Dateien.h"
+#include "platform/dateien/Zeilen.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+/// The folder or a file of the export could not be made or written. Unlike a Laufzeitfehler it ends the run
+/// and not the program.
+struct Exportfehler {
+    std::string text;
+};
+
+/// Runs an operation on the export's own files and turns its failure into an Exportfehler.
+void beimSchreiben(const std::function<void()>& operation);
+
+/// The diagnosis table, read as far as the searches had to go: each search finds what a walk from the top
+/// would have found, and meets a damaged line exactly when that walk would have met it.
+class Diagnosesuche {
+public:
+    explicit Diagnosesuche(const std::filesystem::path& pfad);
+
+    /// The first record with both ids (compared as numbers), or nothing. A key on the way there that is no
+    /// number is a Laufzeitfehler.
+    std::optional<std::string_view> finde(std::int32_t kernID, std::int32_t betrID);
+
+private:
+    using Schlüssel = std::uint64_t;
+    static Schlüssel schlüssel(std::int32_t kernID, std::int32_t betrID);
+
+    std::filesystem::path m_pfad;
+    std::unique_ptr<Dateiinhalt> m_inhalt;
+    Zeilen m_zeilen;
+    std::unordered_map<Schlüssel, std::string_view> m_gelesene;
+};
+
+/// One run of the yearly export: picks the episodes that touch the year and writes a core and a diagnosis row
+/// for each, clients in the order of their table, episodes in the order of theirs.
+///
+/// The result, the messages and the failures are those of a walk that reads the care table anew for each
+/// client and the diagnosis table for each episode. Every table is read once all the same: while the first
+/// client is walked, the episodes of the year are noted by client, and later clients need the notes only.
+class Exportlauf {
+public:
+    /// The files lie in `ordner`, which exists.
+    Exportlauf(int jahr, const std::filesystem::path& ordner);
+
+    std::int32_t klientenzahl() const { return m_klientenzahl; }
+    /// Told before each client is looked at.
+    std::function<void(std::int32_t nummer)> beiKlient;
+
+    /// Runs and returns the number of episodes that were picked, those without a diagnosis record included.
+    std::int32_t führeAus();
+
+private:
+    void exportiereKlient(std::string_view zeile, std::size_t nummer);
+    void suchtBetreuungen(std::int32_t kernID);
+    void exportiere(std::int32_t kernID, std::string_view betrDS, std::size_t nummer);
+    void schreibe(std::string_view betrDS, std::string_view diagDS);
+
+    struct Betreuung {
+        std::string_view zeile;
+        std::size_t nummer = 0;
+    };
+
+    int m_jahr;
+    std::filesystem::path m_ordner;
+    std::unique_ptr<Dateiinhalt> m_klienten;
+    std::int32_t m_klientenzahl = 0;
+    std::int32_t m_exportierte = 0;
+
+    std::unique_ptr<Dateiinhalt> m_betreuungen; ///< read with the first client
+    std::unordered_map<std::int32_t, std::vector<Betreuung>> m_imJahr;
+    std::optional<Diagnosesuche> m_diagnosen; ///< read with the first episode
+
+    std::unique_ptr<Schreiber> m_kern;
+    std::unique_ptr<Schreiber> m_diagnose;
+    Satzsicht m_klient;
+    Satzsicht m_betreuung;
+    Satzsicht m_diagnosesatz;
+    std::string m_zeile;
+};

@@ -1,0 +1,172 @@
+#include "export/frmExport.h"
+
+#include "export/Exportlauf.h"
+#include "platform/dateien/Dateien.h"
+#include "platform/text/Zahl.h"
+#include "zustand/Zustand.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int erstesJahr = 2006;
+constexpr int letztesJahr = 2020;
+constexpr auto bereit = "Bereit"_t;
+
+/// The export year, or nothing when the text is no whole number from 1 to 9999.
+std::optional<int> leseJahr(std::string_view text)
+{
+    const auto jahr = leseGanzzahl16(text);
+    return jahr && *jahr >= 1 && *jahr <= 9999 ? std::optional<int>(*jahr) : std::nullopt;
+}
+
+std::vector<std::string> jahre()
+{
+    std::vector<std::string> liste;
+    for (int jahr = erstesJahr; jahr <= letztesJahr; ++jahr) {
+        liste.push_back(alsText(jahr));
+    }
+    return liste;
+}
+
+/// Sets a flag for as long as it lives.
+class Merker {
+public:
+    explicit Merker(bool& merker) : m_merker(merker) { m_merker = true; }
+    Merker(const Merker&) = delete;
+    Merker& operator=(const Merker&) = delete;
+    ~Merker() { m_merker = false; }
+
+private:
+    bool& m_merker;
+};
+
+} // namespace
+
+frmExport::frmExport(Bildschirm& hauptmenü) : Bildschirm("frmExport"_t), m_hauptmenü(hauptmenü)
+{
+    using namespace anordnung;
+    setzeTitel("Export"_t);
+    istKindfenster = true;
+    breiteEm = 30;
+    benenne("lblHeader"_t, lblHeader);
+    benenne("Label1"_t, Label1);
+    benenne("comboJahr"_t, comboJahr);
+    benenne("lblMeldung"_t, lblMeldung);
+    benenne("ProgressBar1"_t, ProgressBar1);
+    benenne("cmdOK"_t, cmdOK);
+    benenne("cmdExit"_t, cmdExit);
+    kopfband.titel = &lblHeader;
+    aufbau = spalte({formular({feld(Label1, comboJahr, 10)}), element(lblMeldung), platzhaltend(element(ProgressBar1))});
+    leiste.rechts = {&cmdOK, &cmdExit};
+    beiEscape = &cmdExit;
+
+    comboJahr.fülle(jahre(), alsText(erstesJahr));
+    ProgressBar1.verberge();
+    cmdOK.beiKlick = [this] { beiOK(); };
+    cmdExit.beiKlick = [this] { beiExit(); };
+}
+
+void frmExport::beiAktivierung()
+{
+    if (!m_eingerichtet) {
+        m_eingerichtet = true;
+        zustand().wechsel->holeFensterlage(*this);
+    }
+}
+
+void frmExport::beiEntladen()
+{
+    zustand().wechsel->speichereFensterlage(*this);
+}
+
+void frmExport::beiOK()
+{
+    if (m_läuft) {
+        return; // the surface lets events happen during the run
+    }
+    const auto jahr = leseJahr(comboJahr.text());
+    if (!jahr) {
+        zeigeMeldung("Bitte ein gültiges Exportjahr eingeben"_t);
+        return;
+    }
+    const auto frage = verbinde("Es wird der Export der Daten für das Jahr "_t, alsText(*jahr), " durchgeführt."_t);
+    if (zeigeMeldung(frage, Symbol::Keins, Knöpfe::OKAbbrechen) != Antwort::OK) {
+        zeigeMeldung("Nichts wurde verändert"_t);
+        return;
+    }
+    try {
+        exportiere(*jahr);
+    } catch (const Exportfehler& fehler) {
+        ProgressBar1.verberge();
+        lblMeldung.setzeText(bereit);
+        zeigeMeldung(fehler.text, Symbol::Stop);
+    }
+}
+
+void frmExport::exportiere(int jahr)
+{
+    const auto ordner = richteOrdnerEin(jahr);
+    if (ordner.empty()) {
+        zeigeMeldung("Nichts wurde verändert"_t, Symbol::Info);
+        return;
+    }
+    ProgressBar1.zeige();
+    lblMeldung.setzeText("Export wird erstellt..."_t);
+    zustand().umgebung.zeichne();
+    const auto anzahl = führeAus(jahr, ordner);
+    ProgressBar1.verberge();
+    lblMeldung.setzeText(bereit);
+    zeigeMeldung(verbinde("Exportierte Datensätze: "_t, alsText(anzahl)), Symbol::Info);
+}
+
+std::filesystem::path frmExport::richteOrdnerEin(int jahr)
+{
+    auto& dateien = zustand().umgebung.dateien();
+    const auto exporte = zustand().pfade.programm / "Exporte";
+    const auto ordner = exporte / verbinde("DBDD"_t, alsText(jahr));
+    if (!dateien.istOrdner(exporte)) {
+        beimSchreiben([&] { dateien.legeOrdnerAn(exporte); });
+    }
+    if (!dateien.istOrdner(ordner)) {
+        beimSchreiben([&] { dateien.legeOrdnerAn(ordner); });
+        return ordner;
+    }
+    const auto frage = verbinde("Es gibt schon einen Export für das Jahr "_t, alsText(jahr), "\rÜberschreiben ?"_t);
+    return zeigeMeldung(frage, Symbol::Frage, Knöpfe::OKAbbrechen) == Antwort::OK ? ordner : std::filesystem::path();
+}
+
+std::int32_t frmExport::führeAus(int jahr, const std::filesystem::path& ordner)
+{
+    const Merker läuft(m_läuft);
+    Exportlauf lauf(jahr, ordner);
+    lauf.beiKlient = [&](std::int32_t nummer) { zeigeFortschritt(nummer, lauf.klientenzahl()); };
+    return lauf.führeAus();
+}
+
+void frmExport::zeigeFortschritt(std::int32_t nummer, std::int32_t anzahl)
+{
+    // drawing costs more than exporting a client, so that not each is drawn
+    constexpr std::int32_t höchstensGezeichnete = 100;
+    const auto schritt = std::max(1, anzahl / höchstensGezeichnete);
+    if (nummer % schritt != 0 && nummer != 1 && nummer != anzahl) {
+        return;
+    }
+    lblMeldung.setzeText(verbinde("Klient "_t, alsText(nummer), " / "_t, alsText(anzahl)));
+    ProgressBar1.setzeBereich(0, anzahl);
+    ProgressBar1.setzeWert(nummer);
+    zustand().umgebung.lasseEreignisseZu();
+}
+
+void frmExport::beiExit()
+{
+    if (m_läuft) {
+        zeigeMeldung("Abbruch nicht möglich"_t);
+        return;
+    }
+    zustand().folge.gibFrei(m_hauptmenü);
+    zustand().folge.entlade(*this);
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/bildschirm/Bildschirm.h"
+
+#include <cstdint>
+#include <filesystem>
+
+/// The yearly export: asks for the year and writes Kern.txt and Diagnose.txt into the year's own folder. A
+/// child window over the main menu, which is disabled meanwhile.
+class frmExport : public Bildschirm {
+public:
+    Beschriftung lblHeader{"Export"_t};
+    Beschriftung Label1{"Bitte Exportjahr eingeben:"_t};
+    Auswahlfeld comboJahr{Auswahlfeld::Art::Tippbar};
+    Beschriftung lblMeldung{"Bereit"_t};
+    Fortschrittsbalken ProgressBar1;
+    Schaltfläche cmdOK{"Exportieren"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{"&Exit"_t};
+
+    explicit frmExport(Bildschirm& hauptmenü);
+
+private:
+    void beiAktivierung() override;
+    void beiEntladen() override;
+    void beiOK();
+    void beiExit();
+
+    void exportiere(int jahr);
+    /// The year's folder, made or confirmed; empty when the user does not want the old export replaced.
+    std::filesystem::path richteOrdnerEin(int jahr);
+    std::int32_t führeAus(int jahr, const std::filesystem::path& ordner);
+    void zeigeFortschritt(std::int32_t nummer, std::int32_t anzahl);
+
+    Bildschirm& m_hauptmenü;
+    bool m_eingerichtet = false;
+    bool m_läuft = false;
+};
