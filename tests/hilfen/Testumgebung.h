@@ -1,0 +1,213 @@
+#pragma once
+
+#include "platform/dateien/Dateien.h"
+#include "platform/text/Text.h"
+#include "platform/umgebung/Umgebung.h"
+#include "zustand/Zustand.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <deque>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <initializer_list>
+#include <iterator>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+/// A folder of its own for one test, gone afterwards.
+class Testordner {
+public:
+    Testordner() : m_pfad(neuerOrdner()) {}
+    Testordner(const Testordner&) = delete;
+    Testordner& operator=(const Testordner&) = delete;
+    ~Testordner()
+    {
+        std::error_code egal;
+        std::filesystem::remove_all(m_pfad, egal);
+    }
+
+    const std::filesystem::path& pfad() const { return m_pfad; }
+
+private:
+    static std::filesystem::path neuerOrdner()
+    {
+        for (int versuch = 0; versuch < 1000; ++versuch) {
+            const auto name = "tolvek7-" + std::to_string(std::rand()) + "-" + std::to_string(versuch);
+            auto pfad = std::filesystem::temp_directory_path() / name;
+            if (std::filesystem::create_directory(pfad)) {
+                return pfad;
+            }
+        }
+        throw std::runtime_error("no temporary folder");
+    }
+
+    std::filesystem::path m_pfad;
+};
+
+/// The outside world of a test: a fixed day, a folder of its own, answers that were queued before, and a record
+/// of all boxes. A box with a choice but without a queued answer fails the test.
+class Testumgebung : public Umgebung {
+public:
+    explicit Testumgebung(std::unique_ptr<Dateizugriff> zugriff = erzeugeDateizugriff())
+        : m_dateien(std::move(zugriff))
+    {
+    }
+
+    Datum datum{2007, 8, 2};
+    bool ersteInstanz = true;
+    bool tabellenprogramm = true;
+    std::deque<Antwort> antworten;
+    std::vector<Meldung> meldungen;
+    std::deque<std::optional<std::filesystem::path>> dateiwahlen;
+    std::function<void(Arbeitsmappe&)> beiMappe;
+    /// Told at every box, before it is answered.
+    std::function<void(const Meldung&)> beiMeldung;
+
+    /// The texts of all boxes so far.
+    std::vector<std::string> meldungstexte() const
+    {
+        std::vector<std::string> texte;
+        for (const auto& meldung : meldungen) {
+            texte.push_back(meldung.text);
+        }
+        return texte;
+    }
+
+    Datum heute() override { return datum; }
+    std::filesystem::path programmordner() override { return m_ordner.pfad(); }
+    bool istErsteInstanz() override { return ersteInstanz; }
+    Dateien& dateien() override { return m_dateien; }
+    Antwort zeigeMeldung(const Meldung& meldung) override
+    {
+        meldungen.push_back(meldung);
+        if (beiMeldung) {
+            beiMeldung(meldung);
+        }
+        return meldung.knöpfe == Knöpfe::OK ? Antwort::OK : nächste(antworten, meldung.text);
+    }
+    std::optional<std::filesystem::path> wähleDatei(const Dateiwahl&) override
+    {
+        return nächste(dateiwahlen, "file dialogue");
+    }
+    bool findeTabellenprogramm() override { return tabellenprogramm; }
+    void übergibMappe(Arbeitsmappe& mappe) override
+    {
+        if (beiMappe) {
+            beiMappe(mappe);
+        }
+    }
+    Größe bildschirmgröße() override { return {28800, 16200}; }
+    void zeichne() override {}
+    void lasseEreignisseZu() override {}
+
+private:
+    template <class T> static T nächste(std::deque<T>& schlange, const std::string& wofür)
+    {
+        if (schlange.empty()) {
+            throw std::logic_error("no answer queued for: " + wofür);
+        }
+        T erstes = std::move(schlange.front());
+        schlange.pop_front();
+        return erstes;
+    }
+
+    Testordner m_ordner;
+    Dateien m_dateien;
+};
+
+/// A program run for a test: the state with its paths below the test's folder, without screens. `legeTabellenAn`
+/// makes what a first start makes.
+class Testlauf {
+public:
+    explicit Testlauf(std::unique_ptr<Dateizugriff> zugriff = erzeugeDateizugriff())
+        : umgebung(std::move(zugriff)), stand(umgebung), m_platz(stand)
+    {
+        const auto ordner = umgebung.programmordner();
+        const auto daten = ordner / "Daten";
+        stand.titel = "Tolvek7 v7.0.0";
+        stand.pfade = {.programm = ordner,
+                       .ini = ordner / "Tolvek7.ini",
+                       .dummyIni = ordner / "Tolvhek7Dummy.ini",
+                       .daten = daten,
+                       .kernDat = daten / "kernDat.txt",
+                       .betrDat = daten / "betrDat.txt",
+                       .diagDat = daten / "diagDat.txt",
+                       .kernBak = daten / "kernDat.bak",
+                       .betrBak = daten / "betrDat.bak",
+                       .diagBak = daten / "diagDat.bak",
+                       .dummyDatei = ordner / "dummyFile.txt",
+                       .importListe = ordner / "importDatenListe.txt"};
+        stand.anzahlKernFelder = 11;
+        stand.anzahlBetrFelder = 192;
+    }
+
+    Testumgebung umgebung;
+    Zustand stand;
+
+    const Pfade& pfade() const { return stand.pfade; }
+
+    void legeTabellenAn() const
+    {
+        for (const auto& pfad : {pfade().kernDat, pfade().betrDat, pfade().diagDat, pfade().kernBak, pfade().betrBak,
+                                 pfade().diagBak}) {
+            schreibe(pfad, "");
+        }
+    }
+
+    /// Writes the bytes past the program's file layer, as another hand would.
+    static void schreibe(const std::filesystem::path& pfad, std::string_view inhalt)
+    {
+        std::filesystem::create_directories(pfad.parent_path());
+        std::ofstream strom(pfad, std::ios::binary | std::ios::trunc);
+        strom.write(inhalt.data(), static_cast<std::streamsize>(inhalt.size()));
+        if (!strom.flush()) {
+            throw std::runtime_error("cannot write " + pfad.string());
+        }
+    }
+    /// The same, each line ended by carriage return and line feed.
+    static void schreibeZeilen(const std::filesystem::path& pfad, const std::vector<std::string>& zeilen)
+    {
+        schreibe(pfad, alsInhalt(zeilen));
+    }
+    static std::string lies(const std::filesystem::path& pfad)
+    {
+        std::ifstream strom(pfad, std::ios::binary);
+        if (!strom) {
+            throw std::runtime_error("cannot read " + pfad.string());
+        }
+        return {std::istreambuf_iterator<char>(strom), {}};
+    }
+    static std::string alsInhalt(const std::vector<std::string>& zeilen)
+    {
+        std::string inhalt;
+        for (const auto& zeile : zeilen) {
+            inhalt.append(zeile).append("\r\n");
+        }
+        return inhalt;
+    }
+
+private:
+    Zustandsplatz m_platz;
+};
+
+/// A record line from its fields.
+inline std::string satz(std::initializer_list<std::string_view> felder)
+{
+    std::string zeile;
+    for (const auto& feld : felder) {
+        if (&feld != felder.begin()) {
+            zeile.push_back(trenner);
+        }
+        zeile.append(feld);
+    }
+    return zeile;
+}
