@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/mappe/Arbeitsmappe.h"
+#include "spreadsheet/Zeilensuche.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+/// The three tables of a run, as views that the workbook keeps alive.
+struct Tabellen {
+    std::string_view kern;
+    std::string_view betr;
+    std::string_view diag;
+};
+
+/// The main diagnosis of a diagnosis record.
+struct HDBlock {
+    int gruppe = 0;             ///< 1 to 29, 0 for none
+    std::string_view felder[7]; ///< the fields of its block before the flag
+};
+
+/// The block of the first group whose main-diagnosis flag is "1". Throws Laufzeitfehler for a line of more than
+/// 32,767 characters.
+HDBlock sucheHDBlock(std::string_view zeile);
+
+/// The evaluation sheet: one row per diagnosis record with client data, main diagnosis and the care record.
+/// Every column shows what its header says except the comments of the columns 11 to 15, which stand one off
+/// from their columns; users know them that way.
+class Auswertung {
+public:
+    /// Adds the sheet `Auswertung` in front of all others. The tables must live as long as the workbook.
+    Auswertung(Arbeitsmappe& mappe, const Tabellen& tabellen);
+
+    /// Columns 1, 2 and 10 to 17. More records than a 16-bit row number counts are a Laufzeitfehler.
+    void schreibeHauptdiagnosen();
+    /// Columns 3 to 9, down to the first row without an id.
+    void schreibeKlienten();
+    /// Columns 18 to 206, down to the first row without an id. `kopf` names the care columns; `beiDatensatz` is
+    /// told of each record, counted from 1.
+    void schreibeBetreuungen(std::string_view kopf, const std::function<void(int nummer)>& beiDatensatz);
+
+private:
+    bool istBelegt(int zeile) const { return m_blatt.zelle(zeile, 1).art != Zellart::Leer; }
+    std::string schlüssel(int zeile, int spalte) const { return alsAnzeigetext(m_blatt.zelle(zeile, spalte)); }
+    void schreibeHDKopf();
+    void schreibeHD(int zeile, const HDBlock& block);
+    void trenneBetreuungen(int letzteZeile);
+
+    Blatt& m_blatt;
+    std::string_view m_diag;
+    Zeilensuche m_klienten;
+    Zeilensuche m_betreuungen;
+};

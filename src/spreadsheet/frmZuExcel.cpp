@@ -1,0 +1,138 @@
+#include "spreadsheet/frmZuExcel.h"
+
+#include "platform/mappe/Arbeitsmappe.h"
+#include "platform/text/Zahl.h"
+#include "spreadsheet/Auswertung.h"
+#include "spreadsheet/Rohtabellen.h"
+#include "spreadsheet/moErstelleHeader.h"
+#include "zustand/Zustand.h"
+
+namespace {
+
+constexpr int schritte = 7;
+/// The status is drawn again after so many records; every single one would cost more than the record itself.
+constexpr int datensätzeJeBild = 100;
+
+} // namespace
+
+frmZuExcel::frmZuExcel(Bildschirm& hauptmenü) : Bildschirm("frmZuExcel"_t), m_hauptmenü(hauptmenü)
+{
+    benenne("lblHeader"_t, lblHeader);
+    benenne("lblText"_t, lblText);
+    benenne("lblStatus"_t, lblStatus);
+    benenne("ProgressBar1"_t, ProgressBar1);
+    benenne("cmdFertig"_t, cmdFertig);
+
+    setzeTitel(zustand().titel);
+    istKindfenster = true;
+    breite = 7200;
+    höhe = 3000;
+    cmdFertig.setzeText("Fertig\r\n(bitte klicken, um zum Hauptmenü zurückzukehren)"_t);
+    cmdFertig.zeige(false);
+    cmdFertig.beiKlick = [this] { beiFertig(); };
+    beiEscape = &cmdFertig;
+    ProgressBar1.setzeBereich(0, schritte);
+
+    kopfband.titel = &lblHeader;
+    aufbau =
+        anordnung::spalte({anordnung::element(lblText), anordnung::element(lblStatus), anordnung::element(ProgressBar1),
+                           anordnung::füllend(anordnung::platzhaltend(anordnung::element(cmdFertig)))});
+}
+
+void frmZuExcel::beiAktivierung()
+{
+    if (m_begonnen) {
+        return;
+    }
+    m_begonnen = true;
+    platziere();
+    lblText.setzeText("bei der Arbeit... (bitte warten)"_t);
+    zustand().umgebung.zeichne();
+    schreibeTabellen();
+    if (m_abbruch) {
+        beiFertig();
+    } else {
+        cmdFertig.zeige(true);
+        setzeFokus(&cmdFertig);
+    }
+}
+
+/// The keys hold the place of the frame; the window itself stands in its middle.
+void frmZuExcel::platziere()
+{
+    Rahmen& rahmen = zustand().rahmen;
+    zustand().wechsel->holeFensterlage(*this);
+    if (!rahmen.istMaximiert()) {
+        rahmen.setzeLage(oben, links);
+    }
+    oben = rahmen.oben() + (rahmen.höhe() - höhe) / 2;
+    links = rahmen.links() + (rahmen.breite() - breite) / 2;
+    lageGeändert.melde();
+}
+
+void frmZuExcel::beiEntladen()
+{
+    zustand().wechsel->speichereFensterlage(*this);
+}
+
+void frmZuExcel::beiFertig()
+{
+    zustand().folge.zeige(m_hauptmenü);
+    zustand().folge.entlade(*this);
+}
+
+void frmZuExcel::schreibeTabellen()
+{
+    const Kopfzeilen kern = erstelleKernHeader();
+    const Kopfzeilen betr = erstelleBetrHeader("excel"_t);
+    const Kopfzeilen diag = erstelleDiagHeader();
+    Umgebung& umgebung = zustand().umgebung;
+    if (!umgebung.findeTabellenprogramm()) {
+        zeigeMeldung(verbinde(zustand().titel, " konnte Excel nicht finden.\r\nNichts wurde verändert"_t),
+                     Symbol::Stop);
+        m_abbruch = true;
+        return;
+    }
+    Arbeitsmappe mappe;
+    Rohblätter blätter = legeBlätterAn(mappe);
+    Tabellen tabellen;
+    zeigeFortschritt("schreibe KernDat"_t, true);
+    tabellen.kern = liesTabelle(mappe, zustand().pfade.kernDat);
+    schreibeKernDat(blätter.kern, tabellen.kern, kern);
+    zeigeFortschritt("schreibe BetrDat"_t);
+    tabellen.betr = liesTabelle(mappe, zustand().pfade.betrDat);
+    schreibeBetrDat(blätter.betr, tabellen.betr, betr);
+    zeigeFortschritt("schreibe DiagDat"_t);
+    tabellen.diag = liesTabelle(mappe, zustand().pfade.diagDat);
+    schreibeDiagDat(blätter.diag, tabellen.diag, diag);
+    zeigeFortschritt({});
+
+    Auswertung auswertung(mappe, tabellen);
+    zeigeFortschritt("suche Hauptdiagnose-Daten"_t);
+    auswertung.schreibeHauptdiagnosen();
+    zeigeFortschritt("suche Kern-Daten"_t);
+    auswertung.schreibeKlienten();
+    zeigeFortschritt("suche Betreuungsdaten"_t);
+    auswertung.schreibeBetreuungen(betr[3], [this](int nummer) { zeigeDatensatz(nummer); });
+
+    umgebung.übergibMappe(mappe);
+    zeigeFortschritt("Fertig"_t);
+}
+
+void frmZuExcel::zeigeFortschritt(std::string_view text, bool zurücksetzen)
+{
+    m_fortschritt = zurücksetzen ? ProgressBar1.kleinstes() : m_fortschritt + 1;
+    if (!text.empty()) {
+        lblStatus.setzeText(text);
+    }
+    ProgressBar1.setzeWert(m_fortschritt);
+    zustand().umgebung.zeichne();
+}
+
+void frmZuExcel::zeigeDatensatz(int nummer)
+{
+    lblStatus.setzeText(verbinde("schreibe DS #"_t, alsText(nummer)));
+    if (nummer % datensätzeJeBild == 1) {
+        zustand().umgebung.zeichne();
+    }
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/bildschirm/Bildschirm.h"
+
+#include <string_view>
+
+/// Sends the whole data set to a spreadsheet program: a workbook with one sheet for each table and an
+/// evaluation sheet. It runs from start to end as soon as it is in view; only its status text and its bar are
+/// drawn meanwhile. It changes no data.
+class frmZuExcel : public Bildschirm {
+public:
+    Beschriftung lblHeader{"Datenmenge > Excel"_t};
+    Beschriftung lblText;
+    Beschriftung lblStatus;
+    Fortschrittsbalken ProgressBar1;
+    Schaltfläche cmdFertig;
+
+    /// `hauptmenü` is shown again at the end.
+    explicit frmZuExcel(Bildschirm& hauptmenü);
+
+private:
+    void beiAktivierung() override;
+    void beiEntladen() override;
+    void platziere();
+    void schreibeTabellen();
+    void zeigeFortschritt(std::string_view text, bool zurücksetzen = false);
+    void zeigeDatensatz(int nummer);
+    void beiFertig();
+
+    Bildschirm& m_hauptmenü;
+    bool m_begonnen = false;
+    bool m_abbruch = false;
+    int m_fortschritt = 0;
+};
