@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/elemente/Elementreihe.h"
 #include "platform/elemente/Elemente.h"
+#include "platform/elemente/Elementreihe.h"
 #include "platform/elemente/triCtlJaNein.h"
 #include "store/Wertelisten.h"
 

@@ -32,8 +32,7 @@ bool istEigener(const Nachbarn& nachbarn, const Zeitraum& zeitraum)
 /// Whether the period from `von` on would reach into the episode behind it.
 bool reichtHinein(std::string_view von, std::string_view bis, const Zeitraum& dahinter)
 {
-    return vergleicheDatum(von, "<", dahinter.von) &&
-           (istOffenesEnde(bis) || vergleicheDatum(bis, ">=", dahinter.von));
+    return vergleicheDatum(von, "<", dahinter.von) && (istOffenesEnde(bis) || vergleicheDatum(bis, ">=", dahinter.von));
 }
 
 } // namespace
@@ -63,8 +62,8 @@ Zeitraumliste leseZeitraumListe(std::int32_t kernID)
 
 void sortiereNachBeginn(Zeitraumliste& liste)
 {
-    std::ranges::stable_sort(liste, [](std::string_view a, std::string_view b) { return vergleicheDatum(a, "<", b); },
-                             &Zeitraum::von);
+    std::ranges::stable_sort(
+        liste, [](std::string_view a, std::string_view b) { return vergleicheDatum(a, "<", b); }, &Zeitraum::von);
 }
 
 std::string findeFreienTag(const Zeitraumliste& liste, const Datum& heute)

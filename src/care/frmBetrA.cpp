@@ -121,13 +121,16 @@ Anordnung frmBetrA::maßnahmen()
     for (const int i : zeilenfolge) {
         const int antwort = i < zeileSelbsthilfe ? i : i - 1;
         const bool hatAntworten = i != zeileSelbsthilfe;
-        zeilen.push_back(tabellenzeile(lblZuvor(i), {hatAntworten ? &triJaNeinMasInt(antwort) : nullptr,
-                                                     hatAntworten ? &triJaNeinMasExt(antwort) : nullptr, &comboZuvor(i)}));
+        zeilen.push_back(
+            tabellenzeile(lblZuvor(i), {hatAntworten ? &triJaNeinMasInt(antwort) : nullptr,
+                                        hatAntworten ? &triJaNeinMasExt(antwort) : nullptr, &comboZuvor(i)}));
     }
-    const std::vector<Tabellenspalte> köpfe{
-        {std::string("intern"_t), {}, &cmdSchnellFüller(0)},
-        {std::string("extern"_t), {}, &cmdSchnellFüller(1)},
-        {std::string("Anzahl bisheriger Maßnahmen (inkl. aktuelle)"_t), {}, &cmdSchnellFüller(3), 7.5}};
+    constexpr auto innen = "intern"_t;
+    constexpr auto außen = "extern"_t;
+    constexpr auto anzahl = "Anzahl bisheriger Maßnahmen (inkl. aktuelle)"_t;
+    const std::vector<Tabellenspalte> köpfe{{std::string(innen), {}, &cmdSchnellFüller(0)},
+                                            {std::string(außen), {}, &cmdSchnellFüller(1)},
+                                            {std::string(anzahl), {}, &cmdSchnellFüller(3), 7.5}};
     return karte({}, spalte({formular({feld("Wenn Substitution, welches Mittel"_t, comboSubstitut),
                                        feld("Jemals zuvor suchtbezogene Hilfe beansprucht"_t, comboZuvorNULL, 10)}),
                              füllend(tabelle("Art der Betreuung"_t, köpfe, zeilen))}));

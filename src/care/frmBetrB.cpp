@@ -7,8 +7,8 @@
 namespace {
 
 constexpr std::array lebenssituationen{
-    "Lebenssituation: Alleinlebend"_t, "Lebenssituation: Partner/in"_t, "Kind(ern)"_t,
-    "Eltern(teil)"_t,                  "Sonstiger/n Bezugsperson/en"_t, "Sonstiger/n Person/en"_t};
+    "Lebenssituation: Alleinlebend"_t, "Lebenssituation: Partner/in"_t, "Kind(ern)"_t, "Eltern(teil)"_t,
+    "Sonstiger/n Bezugsperson/en"_t,   "Sonstiger/n Person/en"_t};
 
 constexpr int alleinlebend = 0;
 constexpr int höchsteKinderzahl = 98; // 99 is the code of "k.A."
@@ -67,8 +67,9 @@ void frmBetrB::ordneAn()
                  karte("Lebenssituation"_t,
                        spalte({formular({feld(lblLebensit(alleinlebend), comboLebensit(alleinlebend), kurz)}),
                                text("Zusammenlebend mit:"_t), formular(zusammenlebend)}))}),
-         spalte({karte("Kinder:"_t, formular({feld("Anzahl der eigenen Kinder unter 18 Jahren"_t, comboKinder1, 4.6),
-                                              feld("Anzahl der Kinder im Haushalt unter 18 Jahren"_t, comboKinder2, 4.6)})),
+         spalte({karte("Kinder:"_t,
+                       formular({feld("Anzahl der eigenen Kinder unter 18 Jahren"_t, comboKinder1, 4.6),
+                                 feld("Anzahl der Kinder im Haushalt unter 18 Jahren"_t, comboKinder2, 4.6)})),
                  karte("Wohnverhältnis"_t,
                        formular({feld("Überwiegend in den letzten 6 Monaten vor Betreuungsbeginn"_t, comboWohnung1),
                                  feld("Am Tag vor Betreuungsbeginn"_t, comboWohnung2),

@@ -115,18 +115,18 @@ void frmBetrC::ordneAn()
 Anordnung frmBetrC::lebensunterhalt()
 {
     using namespace anordnung;
-    const std::string vor("in der Woche VOR BetreuungsBEGINN"_t);
-    const std::string nach("in der Woche NACH BetreuungsENDE"_t);
-    const std::string einer("Lebens- unterhalt"_t);
-    const std::string haupt("Haupt- lebens- unterhalt"_t);
-    const std::vector<Tabellenspalte> köpfe{{einer, vor, &cmdSchnellFüller(0), 4.6},
-                                            {haupt, vor, nullptr, 4.6},
-                                            {einer, nach, &cmdSchnellFüller(1), 4.6},
-                                            {haupt, nach, nullptr, 4.6}};
+    constexpr auto vor = "in der Woche VOR BetreuungsBEGINN"_t;
+    constexpr auto nach = "in der Woche NACH BetreuungsENDE"_t;
+    constexpr auto einer = "Lebens- unterhalt"_t;
+    constexpr auto haupt = "Haupt- lebens- unterhalt"_t;
+    const std::vector<Tabellenspalte> köpfe{{std::string(einer), std::string(vor), &cmdSchnellFüller(0), 4.6},
+                                            {std::string(haupt), std::string(vor), nullptr, 4.6},
+                                            {std::string(einer), std::string(nach), &cmdSchnellFüller(1), 4.6},
+                                            {std::string(haupt), std::string(nach), nullptr, 4.6}};
     std::vector<Anordnung> zeilen;
     for (int i = lblLebUnt.von(); i <= lblLebUnt.bis(); ++i) {
-        zeilen.push_back(tabellenzeile(lblLebUnt(i), {&triJaNeinLebuntv(i), &optLebunterV(i), &triJaNeinLebuntn(i),
-                                                      &optLebunterN(i)}));
+        zeilen.push_back(tabellenzeile(
+            lblLebUnt(i), {&triJaNeinLebuntv(i), &optLebunterV(i), &triJaNeinLebuntn(i), &optLebunterN(i)}));
     }
     return tabelle("Lebensunterhalt"_t, köpfe, zeilen);
 }

@@ -89,11 +89,11 @@ void frmBetrE::ordneAn()
     for (int i = lblVermitt.von(); i <= lblVermitt.bis(); ++i) {
         zeilen.push_back(tabellenzeile(lblVermitt(i), {&triJaNeinVermitt(i)}));
     }
-    aufbau = karten(
-        {spalte({karte({}, formular({feld("Kontaktanzahl"_t, comboKontakte, 4.6),
-                                     feld("Art der Beendigung"_t, comboArtEnd1),
-                                     feld("Steht die vorzeitige Beendigung im Zusammenhang mit"_t, comboArtEnd2),
-                                     feld("Problematik am Tag des Betreuungsendes"_t, comboProblEnde)}))}),
-         spalte({karte({}, spalte({formular({feld("Weitervermittlung am Betreuungsende"_t, comboWeiter, 10)}),
-                                   füllend(tabelle({}, {{{}, {}, &cmdSchnellFüller}}, zeilen))}))})});
+    aufbau =
+        karten({spalte({karte({}, formular({feld("Kontaktanzahl"_t, comboKontakte, 4.6),
+                                            feld("Art der Beendigung"_t, comboArtEnd1),
+                                            feld("Steht die vorzeitige Beendigung im Zusammenhang mit"_t, comboArtEnd2),
+                                            feld("Problematik am Tag des Betreuungsendes"_t, comboProblEnde)}))}),
+                spalte({karte({}, spalte({formular({feld("Weitervermittlung am Betreuungsende"_t, comboWeiter, 10)}),
+                                          füllend(tabelle({}, {{{}, {}, &cmdSchnellFüller}}, zeilen))}))})});
 }

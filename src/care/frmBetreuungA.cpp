@@ -39,7 +39,8 @@ std::vector<std::string> nationen()
     if (!anzahl) {
         throw Laufzeitfehler(verbinde("Die Ländertabelle hat keine Anzahl, sondern \""_t, anzahltext, '"'));
     }
-    std::vector<std::string> liste{std::string("keine Angaben"_t)};
+    std::vector<std::string> liste;
+    liste.emplace_back("keine Angaben"_t);
     for (int i = 1; i <= *anzahl; ++i) {
         const std::string eintrag = ladeResText(tabellenanfang + i);
         liste.push_back(eintrag.substr(std::min(codelänge, eintrag.size())));
@@ -124,20 +125,23 @@ Anordnung frmBetreuungA::angaben()
 {
     using namespace anordnung;
     constexpr double breite = 16.5;
-    return karte({}, spalte({
-        formular({feld("Wiederaufnahme in dieser Einrichtung"_t, comboWieder), feld("Betreuungsgrund"_t, comboBetrGru)}, breite),
-        decke(formular({feld("Angehöriger kommt als"_t, comboAngeho),
-                        feld("(Vorrangiges) Suchtproblem aus Sicht des Angehörigen"_t, comboProblem)},
-                       breite),
-              cmdIsEigeneProblematik),
-        formular({trennlinie(), feld("Aktuelle Staatsangehörigkeit des Klienten"_t, comboNation),
-                  feld("Klient ist der deutschen Sprache mächtig"_t, comboSprache),
-                  feld("Klient ist selbst migriert"_t, comboMigrant1),
-                  feld("Klient ist als Kind von Migranten geboren"_t, comboMigrant2), trennlinie(),
-                  feld("Vermittelnde Instanz:"_t, comboVermitt),
-                  feld("Auflagen durch Gerichtsbeschluss zur Abwendung freiheitsbeschränkender Folgen"_t, comboAuflagen1),
-                  feld("Weitere Auflagen durch"_t, comboAuflagen2)},
-                 breite)}));
+    return karte(
+        {}, spalte({formular({feld("Wiederaufnahme in dieser Einrichtung"_t, comboWieder),
+                              feld("Betreuungsgrund"_t, comboBetrGru)},
+                             breite),
+                    decke(formular({feld("Angehöriger kommt als"_t, comboAngeho),
+                                    feld("(Vorrangiges) Suchtproblem aus Sicht des Angehörigen"_t, comboProblem)},
+                                   breite),
+                          cmdIsEigeneProblematik),
+                    formular({trennlinie(), feld("Aktuelle Staatsangehörigkeit des Klienten"_t, comboNation),
+                              feld("Klient ist der deutschen Sprache mächtig"_t, comboSprache),
+                              feld("Klient ist selbst migriert"_t, comboMigrant1),
+                              feld("Klient ist als Kind von Migranten geboren"_t, comboMigrant2), trennlinie(),
+                              feld("Vermittelnde Instanz:"_t, comboVermitt),
+                              feld("Auflagen durch Gerichtsbeschluss zur Abwendung freiheitsbeschränkender Folgen"_t,
+                                   comboAuflagen1),
+                              feld("Weitere Auflagen durch"_t, comboAuflagen2)},
+                             breite)}));
 }
 
 Anordnung frmBetreuungA::kostenträger()
@@ -268,7 +272,8 @@ template <class F> void frmBetreuungA::öffneSeite(Bildschirmplatz<F>& platz)
 void frmBetreuungA::öffneEnde()
 {
     if (klein(zustand().arbeitskopie.betrEnd) == "offen"_t) {
-        zeigeMeldung("Das Betreuungsende ist offen, bitte erst einen Zeitpunkt fürs Betreuungsende eintragen"_t, Symbol::Info);
+        zeigeMeldung("Das Betreuungsende ist offen, bitte erst einen Zeitpunkt fürs Betreuungsende eintragen"_t,
+                     Symbol::Info);
         return;
     }
     öffneSeite(m_betrE);

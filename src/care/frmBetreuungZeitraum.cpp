@@ -43,9 +43,10 @@ void frmBetreuungZeitraum::ordneAn()
     constexpr double beschriftungsbreite = 2.5;
     const auto offen = stapel({element(cmdIsOffen), element(cmdOffenEintragen)});
     kopfband.titel = &lblHeader;
-    aufbau = karte({}, formular({feld(lblVon, {element(DTPickerVon, datumsbreite), platzhaltend(element(cmdVonVerbessern))}),
-                                 feld(lblBis, {platzhaltend(element(DTPickerBis, datumsbreite)), platzhaltend(offen)})},
-                                beschriftungsbreite));
+    aufbau =
+        karte({}, formular({feld(lblVon, {element(DTPickerVon, datumsbreite), platzhaltend(element(cmdVonVerbessern))}),
+                            feld(lblBis, {platzhaltend(element(DTPickerBis, datumsbreite)), platzhaltend(offen)})},
+                           beschriftungsbreite));
     leiste.rechts = {&cmdOK, &cmdExit};
 }
 

@@ -23,11 +23,11 @@ public:
     Schaltfläche cmdExit{"&Exit"_t};
 
     // Set by the caller before it opens the dialogue.
-    bool istNeu = false;       ///< the episode is not yet in the care table
-    std::string strVon;        ///< begin, TT.MM.JJJJ
-    std::string strBis;        ///< end, TT.MM.JJJJ or "offen"
-    std::int32_t kernID = 0;   ///< the client whose episodes are to be respected
-    std::int32_t betrID = 0;   ///< the episode itself; its stored row is known by its begin alone
+    bool istNeu = false;     ///< the episode is not yet in the care table
+    std::string strVon;      ///< begin, TT.MM.JJJJ
+    std::string strBis;      ///< end, TT.MM.JJJJ or "offen"
+    std::int32_t kernID = 0; ///< the client whose episodes are to be respected
+    std::int32_t betrID = 0; ///< the episode itself; its stored row is known by its begin alone
     /// Takes over the accepted begin and end; not called on Exit.
     std::function<void(const std::string& von, const std::string& bis)> beiÜbernahme;
 
