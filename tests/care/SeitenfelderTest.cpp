@@ -1,0 +1,135 @@
+#include "care/Seitenfelder.h"
+
+#include "hilfen/Testumgebung.h"
+#include "platform/text/Text.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A page with one field of each kind.
+struct Probeseite {
+    Auswahlfeld wahl;
+    Auswahlfeld zahl{Auswahlfeld::Art::Tippbar};
+    Auswahlfeld zahlMitVorgabe{Auswahlfeld::Art::Tippbar};
+    Elementreihe<triCtlJaNein> antworten{1, 2};
+    Elementreihe<Optionsfeld> optionen{1, 12};
+    Optionsgruppe gruppe;
+    Seitenfelder felder;
+
+    Probeseite()
+    {
+        for (Optionsfeld& option : optionen) {
+            option.trittBei(gruppe);
+        }
+        felder.fügeWahl(wahl, werte::lang);
+        felder.fügeZahl(zahl, 1, 3);
+        felder.fügeZahl(zahlMitVorgabe, 0, 2, Seitenfelder::Leer::LässtVorgabe);
+        felder.fügeAntworten(antworten);
+        felder.fügeOptionen(optionen);
+        felder.fülleListen();
+    }
+};
+
+} // namespace
+
+TEST(Seitenfelder, DieVorgabeIstDerErsteEintrag)
+{
+    Probeseite seite;
+    EXPECT_EQ(seite.felder.sammle(), "keine Angaben·k.A.·k.A.·k.A.·k.A.·0·"_t);
+    EXPECT_EQ(seite.zahl.liste(), (std::vector<std::string>{"k.A.", "1", "2", "3"}));
+}
+
+TEST(Seitenfelder, GeladenUndGesammeltIstDasselbeStück)
+{
+    Probeseite seite;
+    const auto stück = "ja·2·1·nein·ja·12·"_t;
+    seite.felder.lade(stück);
+    EXPECT_EQ(seite.wahl.text(), "ja");
+    EXPECT_EQ(seite.antworten(2).text(), "ja");
+    EXPECT_TRUE(seite.optionen(12).istAn());
+    EXPECT_EQ(seite.felder.sammle(), stück);
+}
+
+TEST(Seitenfelder, EinLeeresStückLässtDieVorgaben)
+{
+    Probeseite seite;
+    seite.felder.lade({});
+    EXPECT_EQ(seite.felder.sammle(), "keine Angaben·k.A.·k.A.·k.A.·k.A.·0·"_t);
+}
+
+TEST(Seitenfelder, LeereFelderWerdenÜbernommenAußerWoDieVorgabeBleibt)
+{
+    Probeseite seite;
+    seite.felder.lade("······"_t);
+    EXPECT_EQ(seite.felder.sammle(), "··k.A.·k.A.·k.A.·0·"_t);
+}
+
+TEST(Seitenfelder, FremdeTexteBleibenInWahlfeldernStehen)
+{
+    Probeseite seite;
+    seite.felder.lade("etwas·99·120·Ja·NEIN·3·"_t);
+    EXPECT_EQ(seite.felder.sammle(), "etwas·99·120·k.A.·k.A.·3·"_t);
+}
+
+TEST(Seitenfelder, EineMarkeAußerhalbDerReiheZähltAlsKeine)
+{
+    for (const auto nummer : {"0"_t, "13"_t, "-1"_t, "99999"_t, "ja"_t, ""_t}) {
+        Probeseite seite;
+        seite.felder.lade(verbinde("k.A.·1·1·k.A.·k.A.·"_t, nummer, trenner));
+        EXPECT_EQ(seite.felder.sammle(), "k.A.·1·1·k.A.·k.A.·0·"_t) << nummer;
+    }
+}
+
+TEST(Seitenfelder, GeprüftWerdenNurDieZahlen)
+{
+    Testlauf lauf;
+    Probeseite seite;
+    seite.felder.lade("etwas·3·2·k.A.·k.A.·0·"_t);
+    EXPECT_TRUE(seite.felder.prüfeZahlen());
+    EXPECT_TRUE(lauf.umgebung.meldungen.empty());
+}
+
+TEST(Seitenfelder, DieErsteFalscheZahlWirdGemeldet)
+{
+    Testlauf lauf;
+    Probeseite seite;
+    std::vector<Farbe> farben;
+    lauf.umgebung.beiMeldung = [&](const Meldung&) {
+        farben = {seite.zahl.hintergrund(), seite.zahlMitVorgabe.hintergrund()};
+    };
+    seite.felder.lade("ja·0·99·k.A.·k.A.·0·"_t);
+    EXPECT_FALSE(seite.felder.prüfeZahlen());
+    EXPECT_EQ(lauf.umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(farben, (std::vector<Farbe>{farbe::rot, farbe::weiß}));
+    EXPECT_EQ(seite.zahl.hintergrund(), farbe::weiß);
+}
+
+TEST(Seitenfelder, GetippteZiffernErgänzenAusDerListe)
+{
+    Probeseite seite;
+    seite.zahl.taste({Taste::Art::Pos1});
+    seite.zahl.taste({Taste::Art::Zeichen, '3'});
+    EXPECT_EQ(seite.zahl.text(), "3");
+    seite.zahl.taste({Taste::Art::Zeichen, '9'});
+    EXPECT_EQ(seite.zahl.text(), "3");
+    seite.zahl.taste({Taste::Art::Pos1});
+    seite.zahl.taste({Taste::Art::Entf});
+    EXPECT_EQ(seite.zahl.text(), "3");
+}
+
+TEST(Schnellfüller, LässtGegebeneAntworten)
+{
+    Elementreihe<triCtlJaNein> reihe{1, 3};
+    reihe(1).setzeText("ja");
+    reihe(2).setzeText("nein");
+    int änderungen = 0;
+    for (triCtlJaNein& antwort : reihe) {
+        antwort.beiÄnderung = [&änderungen] { ++änderungen; };
+    }
+    setzeOhneAngabeAufNein(reihe);
+    EXPECT_EQ(reihe(1).text(), "ja");
+    EXPECT_EQ(reihe(2).text(), "nein");
+    EXPECT_EQ(reihe(3).text(), "nein");
+    EXPECT_EQ(änderungen, 1);
+}
