@@ -112,7 +112,8 @@ std::string diagnoseSpaltennamen()
 /// The names of all care fields in record order; the first one is spelt with a capital in the header.
 std::string betreuungsSpaltennamen()
 {
-    std::string zeile{"KernID"_t};
+    std::string zeile;
+    zeile.append("KernID"_t);
     for (std::size_t feld = 1; feld < betreuungsfelder().size(); ++feld) {
         zeile.push_back(trenner);
         zeile.append(betreuungsfelder()[feld].name);

@@ -1,0 +1,209 @@
+#include "platform/calc/Mappenschreiber.h"
+
+#include "platform/dateien/Dateien.h"
+#include "platform/text/Eingabe.h"
+#include "platform/text/Text.h"
+#include "platform/umgebung/Laufzeitfehler.h"
+
+#include <xlsxwriter.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+constexpr double größteSpaltenbreite = 255;
+constexpr double breitenzugabe = 1.5;
+constexpr std::size_t datumslänge = 10;
+
+[[noreturn]] void scheitere(const std::filesystem::path& pfad, std::string_view grund)
+{
+    throw Laufzeitfehler(
+        verbinde("Die Arbeitsmappe kann nicht geschrieben werden: "_t, pfadtext(pfad), " ("_t, grund, ')'));
+}
+
+std::string_view grundVon(lxw_error fehler)
+{
+    switch (fehler) {
+    case LXW_ERROR_CREATING_XLSX_FILE:
+        return "die Datei kann nicht angelegt werden"_t;
+    case LXW_ERROR_CREATING_TMPFILE:
+    case LXW_ERROR_READING_TMPFILE:
+        return "Fehler bei einer Zwischendatei"_t;
+    case LXW_ERROR_MAX_STRING_LENGTH_EXCEEDED:
+        return "ein Text ist zu lang für eine Zelle"_t;
+    case LXW_ERROR_WORKSHEET_INDEX_OUT_OF_RANGE:
+        return "zu viele Zeilen oder Spalten"_t;
+    default:
+        return "Fehler beim Schreiben"_t;
+    }
+}
+
+/// The text as UTF-8 for the C functions; the room is used again for the next cell.
+class Utf8Text {
+public:
+    const char* von(std::string_view text)
+    {
+        const bool schlicht = std::all_of(text.begin(), text.end(), [](char zeichen) { return zeichen > 0; });
+        if (schlicht) {
+            m_text.assign(text);
+        } else {
+            m_text = alsUtf8(text);
+            std::erase(m_text, '\0');
+        }
+        return m_text.c_str();
+    }
+
+private:
+    std::string m_text;
+};
+
+/// Column widths from the longest text of each column.
+class Breitenmaß {
+public:
+    void nimm(int spalte, std::size_t länge)
+    {
+        const auto stelle = static_cast<std::size_t>(spalte);
+        if (stelle >= m_längen.size()) {
+            m_längen.resize(stelle + 1);
+        }
+        m_längen[stelle] = std::max(m_längen[stelle], länge);
+    }
+
+    void setze(lxw_worksheet* ziel) const
+    {
+        for (std::size_t spalte = 1; spalte < m_längen.size(); ++spalte) {
+            if (m_längen[spalte] > 0) {
+                const double breite =
+                    std::min(größteSpaltenbreite, static_cast<double>(m_längen[spalte]) + breitenzugabe);
+                const auto nummer = static_cast<lxw_col_t>(spalte - 1);
+                worksheet_set_column(ziel, nummer, nummer, breite, nullptr);
+            }
+        }
+    }
+
+private:
+    std::vector<std::size_t> m_längen;
+};
+
+struct Formate {
+    lxw_format* datum;
+    lxw_format* fett;
+    lxw_format* fettesDatum;
+};
+
+class Mappenschreiber {
+public:
+    explicit Mappenschreiber(const std::filesystem::path& pfad) : m_pfad(pfad), m_ordner(pfad.parent_path().string())
+    {
+        lxw_workbook_options wahl{};
+        wahl.constant_memory = LXW_TRUE;
+        wahl.tmpdir = m_ordner.empty() ? nullptr : m_ordner.data();
+        m_mappe = workbook_new_opt(pfad.string().c_str(), &wahl);
+        if (m_mappe == nullptr) {
+            scheitere(pfad, "kein Speicher"_t);
+        }
+        m_formate = {legeDatumsformatAn(), workbook_add_format(m_mappe), legeDatumsformatAn()};
+        format_set_bold(m_formate.fett);
+        format_set_bold(m_formate.fettesDatum);
+    }
+    Mappenschreiber(const Mappenschreiber&) = delete;
+    Mappenschreiber& operator=(const Mappenschreiber&) = delete;
+    ~Mappenschreiber()
+    {
+        if (m_mappe != nullptr) {
+            lxw_workbook_free(m_mappe);
+        }
+    }
+
+    void schreibe(const Blatt& blatt)
+    {
+        lxw_worksheet* ziel = workbook_add_worksheet(m_mappe, m_utf8.von(blatt.name()));
+        if (ziel == nullptr) {
+            scheitere(m_pfad, "Fehler bei einer Zwischendatei"_t);
+        }
+        Breitenmaß breiten;
+        const int zeilen = blatt.zeilenanzahl();
+        for (int zeile = 1; zeile <= zeilen; ++zeile) {
+            schreibeZeile(blatt, ziel, zeile, breiten);
+        }
+        if (blatt.sindBreitenAngepasst()) {
+            breiten.setze(ziel);
+        }
+        blatt.fürJedenKommentar([&](int zeile, int spalte, std::string_view text) {
+            prüfe(worksheet_write_comment(ziel, stelle(zeile), spaltenstelle(spalte), m_utf8.von(text)));
+        });
+        // the writer itself does not look whether its rows reached the disk
+        if (ziel->optimize_tmpfile != nullptr && std::fflush(ziel->optimize_tmpfile) != 0) {
+            scheitere(m_pfad, grundVon(LXW_ERROR_CREATING_TMPFILE));
+        }
+    }
+
+    void schließe()
+    {
+        lxw_workbook* mappe = m_mappe;
+        m_mappe = nullptr; // closing frees it, also on failure
+        prüfe(workbook_close(mappe));
+    }
+
+private:
+    static lxw_row_t stelle(int zeile) { return static_cast<lxw_row_t>(zeile - 1); }
+    static lxw_col_t spaltenstelle(int spalte) { return static_cast<lxw_col_t>(spalte - 1); }
+
+    lxw_format* legeDatumsformatAn()
+    {
+        lxw_format* format = workbook_add_format(m_mappe);
+        format_set_num_format(format, "dd.mm.yyyy");
+        return format;
+    }
+
+    void prüfe(lxw_error fehler) const
+    {
+        if (fehler != LXW_NO_ERROR) {
+            scheitere(m_pfad, grundVon(fehler));
+        }
+    }
+
+    void schreibeZeile(const Blatt& blatt, lxw_worksheet* ziel, int zeile, Breitenmaß& breiten)
+    {
+        const bool fett = blatt.istFett(zeile);
+        blatt.fürJedeZelle(zeile, [&](int spalte, const Zellwert& wert) {
+            prüfe(schreibeZelle(ziel, stelle(zeile), spaltenstelle(spalte), wert, fett));
+            breiten.nimm(spalte, wert.art == Zellart::Datum ? datumslänge : wert.text.size());
+        });
+    }
+
+    lxw_error schreibeZelle(lxw_worksheet* ziel, lxw_row_t zeile, lxw_col_t spalte, const Zellwert& wert, bool fett)
+    {
+        lxw_format* format = fett ? m_formate.fett : nullptr;
+        switch (wert.art) {
+        case Zellart::Zahl:
+            return worksheet_write_number(ziel, zeile, spalte, wert.zahl, format);
+        case Zellart::Datum:
+            return worksheet_write_number(ziel, zeile, spalte, static_cast<double>(alsTageszahl(wert.datum)),
+                                          fett ? m_formate.fettesDatum : m_formate.datum);
+        default:
+            return worksheet_write_string(ziel, zeile, spalte, m_utf8.von(wert.text), format);
+        }
+    }
+
+    std::filesystem::path m_pfad;
+    std::string m_ordner;
+    lxw_workbook* m_mappe = nullptr;
+    Formate m_formate{};
+    Utf8Text m_utf8;
+};
+
+} // namespace
+
+void schreibeXlsx(const Arbeitsmappe& mappe, const std::filesystem::path& pfad)
+{
+    Mappenschreiber schreiber(pfad);
+    for (std::size_t nummer = 1; nummer <= mappe.blattanzahl(); ++nummer) {
+        schreiber.schreibe(mappe.blatt(nummer));
+    }
+    schreiber.schließe();
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// A temporary folder that only its owner can enter, for one workbook on its way to the spreadsheet program.
+///
+/// The folder is locked as long as the file in it is needed, by this object or by the guard that `übergib` leaves
+/// behind. So the next start can tell what was left behind by a run that did not end well, and removes it.
+class Zwischenablage {
+public:
+    /// Makes the folder and the empty file in it. Throws Laufzeitfehler.
+    explicit Zwischenablage(const std::string& dateiname);
+    Zwischenablage(const Zwischenablage&) = delete;
+    Zwischenablage& operator=(const Zwischenablage&) = delete;
+    /// Removes folder and file, unless `übergib` or `behalte` was called.
+    ~Zwischenablage();
+
+    const std::filesystem::path& datei() const { return m_datei; }
+
+    /// Starts the program, independent of this process, with the arguments and the file as the last one, and
+    /// leaves it to a guard process to remove folder and file as soon as the program has read the file. Throws
+    /// Laufzeitfehler when the program can't be started.
+    void übergib(const std::filesystem::path& programm, const std::vector<std::string>& argumente);
+    /// The same, but the file stays, write-protected, until the next start.
+    void überlasse(const std::filesystem::path& programm, const std::vector<std::string>& argumente);
+
+    /// Removes the folders of earlier runs that nobody needs any more.
+    static void räumeAuf();
+
+private:
+    void entferne();
+
+    std::filesystem::path m_ordner;
+    std::filesystem::path m_datei;
+    int m_schloss = -1;
+    bool m_meine = true; ///< this object removes the folder
+};
+
+/// The program in the search path, or nothing.
+std::optional<std::filesystem::path> findeProgramm(const std::string& name);
+/// Whether the desktop has a program for .xlsx files.
+bool kenntProgrammFürXlsx();

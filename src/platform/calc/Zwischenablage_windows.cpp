@@ -1,0 +1,126 @@
+#include "platform/calc/Zwischenablage.h"
+
+#include "platform/dateien/Dateien.h"
+#include "platform/text/Text.h"
+#include "platform/text/Zahl.h"
+#include "platform/umgebung/Laufzeitfehler.h"
+
+#include <array>
+#include <random>
+#include <string_view>
+#include <system_error>
+
+#include <windows.h>
+
+#include <shellapi.h>
+#include <shlwapi.h>
+
+// The temporary folder of Windows belongs to the user alone, and a file that a program has open can't be
+// removed; so no lock and no guard are needed here: what is left goes at the next start.
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view vorsilbe = "tolvek7-mappe-";
+
+[[noreturn]] void scheitere(std::string_view was, const fs::path& pfad)
+{
+    throw Laufzeitfehler(verbinde(was, ": "_t, pfadtext(pfad), " (Fehler "_t, alsText(GetLastError()), ')'));
+}
+
+std::wstring inAnführung(const std::wstring& text)
+{
+    return L"\"" + text + L"\"";
+}
+
+void starte(const fs::path& programm, const std::vector<std::string>& argumente, const fs::path& datei)
+{
+    std::wstring zeile = inAnführung(programm.wstring());
+    for (const std::string& argument : argumente) {
+        zeile += L" " + inAnführung(fs::path(argument).wstring());
+    }
+    zeile += L" " + inAnführung(datei.wstring());
+    STARTUPINFOW anfang{};
+    anfang.cb = sizeof anfang;
+    PROCESS_INFORMATION prozess{};
+    if (CreateProcessW(programm.c_str(), zeile.data(), nullptr, nullptr, FALSE, DETACHED_PROCESS, nullptr, nullptr,
+                       &anfang, &prozess) == 0) {
+        scheitere("Das Tabellenprogramm kann nicht gestartet werden"_t, programm);
+    }
+    CloseHandle(prozess.hThread);
+    CloseHandle(prozess.hProcess);
+}
+
+} // namespace
+
+Zwischenablage::Zwischenablage(const std::string& dateiname)
+    : m_ordner(fs::temp_directory_path() / (std::string(vorsilbe) + std::to_string(std::random_device()()))),
+      m_datei(m_ordner / dateiname)
+{
+    if (CreateDirectoryW(m_ordner.c_str(), nullptr) == 0) {
+        scheitere("Der Zwischenordner kann nicht angelegt werden"_t, m_ordner);
+    }
+}
+
+Zwischenablage::~Zwischenablage()
+{
+    if (m_meine) {
+        entferne();
+    }
+}
+
+void Zwischenablage::entferne()
+{
+    std::error_code egal;
+    fs::remove_all(m_ordner, egal);
+}
+
+void Zwischenablage::übergib(const fs::path& programm, const std::vector<std::string>& argumente)
+{
+    starte(programm, argumente, m_datei);
+    m_meine = false;
+}
+
+void Zwischenablage::überlasse(const fs::path& /*programm*/, const std::vector<std::string>& /*argumente*/)
+{
+    SetFileAttributesW(m_datei.c_str(), FILE_ATTRIBUTE_READONLY);
+    constexpr INT_PTR letzterFehler = 32;
+    const auto ergebnis = ShellExecuteW(nullptr, L"open", m_datei.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    if (reinterpret_cast<INT_PTR>(ergebnis) <= letzterFehler) {
+        scheitere("Das Tabellenprogramm kann nicht gestartet werden"_t, m_datei);
+    }
+    m_meine = false;
+}
+
+void Zwischenablage::räumeAuf()
+{
+    std::error_code egal;
+    for (const auto& eintrag : fs::directory_iterator(fs::temp_directory_path(egal), egal)) {
+        if (!eintrag.path().filename().string().starts_with(vorsilbe)) {
+            continue;
+        }
+        for (const auto& datei : fs::directory_iterator(eintrag.path(), egal)) {
+            SetFileAttributesW(datei.path().c_str(), FILE_ATTRIBUTE_NORMAL);
+        }
+        fs::remove_all(eintrag.path(), egal);
+    }
+}
+
+std::optional<fs::path> findeProgramm(const std::string& name)
+{
+    std::array<wchar_t, MAX_PATH> pfad{};
+    const std::wstring gesucht = fs::path(name + ".exe").wstring();
+    const DWORD länge = SearchPathW(nullptr, gesucht.c_str(), nullptr, MAX_PATH, pfad.data(), nullptr);
+    if (länge == 0 || länge >= MAX_PATH) {
+        return std::nullopt;
+    }
+    return fs::path(pfad.data());
+}
+
+bool kenntProgrammFürXlsx()
+{
+    std::array<wchar_t, MAX_PATH> programm{};
+    DWORD länge = MAX_PATH;
+    return AssocQueryStringW(ASSOCF_NONE, ASSOCSTR_EXECUTABLE, L".xlsx", nullptr, programm.data(), &länge) == S_OK;
+}
