@@ -1,0 +1,82 @@
+#include "Befehlszeile.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string alsText(const fs::path& pfad)
+{
+    const auto u8 = pfad.u8string();
+    return {u8.begin(), u8.end()};
+}
+
+Oberflächenwahl liesOberfläche(std::string_view wert)
+{
+    if (wert == "ohne") {
+        return Oberflächenwahl::Ohne;
+    }
+    if (wert == "qt") {
+        return Oberflächenwahl::Qt;
+    }
+    if (wert == "beide") {
+        return Oberflächenwahl::Beide;
+    }
+    throw Aufruffehler("--oberfläche=ohne, qt oder beide statt »" + std::string(wert) + "«");
+}
+
+/// What stands behind `name=`, if the argument is this option.
+std::optional<std::string_view> wertVon(std::string_view argument, std::string_view name)
+{
+    return argument.starts_with(name) ? std::optional(argument.substr(name.size())) : std::nullopt;
+}
+
+std::vector<fs::path> szenarienIn(const fs::path& ordner)
+{
+    std::vector<fs::path> dateien;
+    for (const auto& eintrag : fs::recursive_directory_iterator(ordner)) {
+        if (eintrag.is_regular_file() && eintrag.path().extension() == ".szenario") {
+            dateien.push_back(eintrag.path());
+        }
+    }
+    std::sort(dateien.begin(), dateien.end());
+    return dateien;
+}
+
+} // namespace
+
+Befehlszeile liesBefehlszeile(const std::vector<std::string>& argumente)
+{
+    Befehlszeile befehlszeile;
+    for (const std::string& argument : argumente) {
+        if (const auto oberfläche = wertVon(argument, "--oberfläche=")) {
+            befehlszeile.oberfläche = liesOberfläche(*oberfläche);
+        } else if (const auto nur = wertVon(argument, "--nur=")) {
+            befehlszeile.nur = *nur;
+        } else if (argument.starts_with("--")) {
+            throw Aufruffehler("unbekannt: " + argument);
+        } else {
+            befehlszeile.orte.emplace_back(std::u8string(argument.begin(), argument.end()));
+        }
+    }
+    if (befehlszeile.orte.empty()) {
+        throw Aufruffehler("eine Datei oder ein Ordner fehlt");
+    }
+    return befehlszeile;
+}
+
+std::vector<fs::path> findeSzenarien(const Befehlszeile& befehlszeile)
+{
+    std::vector<fs::path> dateien;
+    for (const auto& ort : befehlszeile.orte) {
+        if (!fs::exists(ort)) {
+            throw Aufruffehler(alsText(ort) + " ist nicht da");
+        }
+        const auto gefunden = fs::is_directory(ort) ? szenarienIn(ort) : std::vector{ort};
+        dateien.insert(dateien.end(), gefunden.begin(), gefunden.end());
+    }
+    std::erase_if(dateien, [&](const auto& pfad) { return alsText(pfad).find(befehlszeile.nur) == std::string::npos; });
+    return dateien;
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "oberfläche/Oberfläche.h"
+#include "sprache/Szenariodatei.h"
+
+#include <optional>
+#include <string>
+
+/// Where and why a scenario failed (UTF-8).
+struct Fehlschlag {
+    std::size_t zeile = 0;
+    std::string text; ///< "erwartet … gefunden …"
+};
+
+/// Runs the scenario in a fresh program folder; nothing when it passes.
+std::optional<Fehlschlag> führeAus(const Szenario& szenario, Oberfläche& oberfläche);

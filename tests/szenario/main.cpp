@@ -1,0 +1,111 @@
+#include "Befehlszeile.h"
+#include "ablauf/Ausführung.h"
+#include "oberfläche/OberflächeOhne.h"
+#include "sprache/Szenariodatei.h"
+
+#ifdef SZENARIO_QT
+#include "oberfläche/OberflächeQt.h"
+#endif
+
+#include <iostream>
+#include <memory>
+#include <vector>
+
+namespace {
+
+using Oberflächen = std::vector<std::unique_ptr<Oberfläche>>;
+
+std::unique_ptr<Oberfläche> erzeugeQt([[maybe_unused]] Oberflächenwahl wahl)
+{
+#ifdef SZENARIO_QT
+    return erzeugeOberflächeQt();
+#else
+    if (wahl == Oberflächenwahl::Qt) {
+        throw Aufruffehler("dieser Bau hat die Oberfläche qt nicht");
+    }
+    std::cerr << "Dieser Bau hat nur die Oberfläche ohne.\n";
+    return nullptr;
+#endif
+}
+
+Oberflächen erzeugeOberflächen(Oberflächenwahl wahl)
+{
+    Oberflächen oberflächen;
+    if (wahl != Oberflächenwahl::Qt) {
+        oberflächen.push_back(std::make_unique<OberflächeOhne>());
+    }
+    if (wahl != Oberflächenwahl::Ohne) {
+        oberflächen.push_back(erzeugeQt(wahl));
+    }
+    std::erase(oberflächen, nullptr);
+    return oberflächen;
+}
+
+struct Ergebnis {
+    int bestanden = 0;
+    int gescheitert = 0;
+    bool unlesbar = false;
+};
+
+std::string alsText(const std::filesystem::path& pfad)
+{
+    const auto u8 = pfad.u8string();
+    return {u8.begin(), u8.end()};
+}
+
+void melde(const std::string& datei, std::size_t zeile, const std::string& text)
+{
+    std::cout << "FEHLER " << datei << ':' << zeile << ": " << text << std::endl;
+}
+
+/// Runs the scenario on one surface after the other, up to the first failure.
+bool besteht(const Szenario& szenario, const Oberflächen& oberflächen)
+{
+    for (const auto& oberfläche : oberflächen) {
+        if (const auto fehlschlag = führeAus(szenario, *oberfläche)) {
+            melde(alsText(szenario.pfad), fehlschlag->zeile,
+                  fehlschlag->text + " (Oberfläche " + std::string(oberfläche->name()) + ")");
+            return false;
+        }
+    }
+    std::cout << "ok " << alsText(szenario.pfad) << std::endl;
+    return true;
+}
+
+void führeAus(const std::filesystem::path& datei, const Oberflächen& oberflächen, Ergebnis& ergebnis)
+{
+    try {
+        const Szenario szenario = liesSzenario(datei);
+        ++(besteht(szenario, oberflächen) ? ergebnis.bestanden : ergebnis.gescheitert);
+    } catch (const Sprachfehler& fehler) {
+        ergebnis.unlesbar = true;
+        melde(alsText(datei), fehler.zeile(), std::string("erwartet ") + fehler.what());
+    }
+}
+
+int führeAlleAus(const Befehlszeile& befehlszeile)
+{
+    const auto dateien = findeSzenarien(befehlszeile);
+    const Oberflächen oberflächen = erzeugeOberflächen(befehlszeile.oberfläche);
+    Ergebnis ergebnis;
+    for (const auto& datei : dateien) {
+        führeAus(datei, oberflächen, ergebnis);
+    }
+    std::cout << ergebnis.bestanden << " passed, " << ergebnis.gescheitert << " failed" << std::endl;
+    if (ergebnis.unlesbar) {
+        return 2;
+    }
+    return ergebnis.gescheitert > 0 ? 1 : 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        return führeAlleAus(liesBefehlszeile({argv + 1, argv + argc}));
+    } catch (const Aufruffehler& fehler) {
+        std::cerr << fehler.what() << "\nszenario [--oberfläche=ohne|qt|beide] [--nur=WORT] DATEI-ODER-ORDNER ...\n";
+        return 2;
+    }
+}

@@ -1,0 +1,230 @@
+#include "oberfläche/OberflächeOhne.h"
+
+#include "app/moMain.h"
+#include "platform/text/Eingabe.h"
+
+#include <algorithm>
+
+namespace {
+
+/// The page in the frame that covers the ones below it.
+const Bildschirm* obersteSeite(const Bildschirmfolge& folge)
+{
+    const auto geladene = folge.geladene();
+    const auto seite = std::find_if(geladene.rbegin(), geladene.rend(), [&](const Bildschirm* bildschirm) {
+        return !bildschirm->istKindfenster && folge.istSichtbar(*bildschirm);
+    });
+    return seite == geladene.rend() ? nullptr : *seite;
+}
+
+bool istPfeil(const Taste& taste)
+{
+    return taste.art == Taste::Art::Auf || taste.art == Taste::Art::Ab || taste.art == Taste::Art::Links ||
+           taste.art == Taste::Art::Rechts;
+}
+
+} // namespace
+
+void OberflächeOhne::beginne(Programm& programm)
+{
+    m_zustand = &programm.zustand();
+    m_tastaturbildschirm = nullptr;
+}
+
+bool OberflächeOhne::fokussiere(Element& element)
+{
+    return !element.nimmtFokus() || element.bildschirm()->fokussiere(&element);
+}
+
+void OberflächeOhne::handle(Element& element, const std::function<void()>& aktion)
+{
+    m_zustand->ablauf.ereignis([&] {
+        m_tastaturbildschirm = element.bildschirm();
+        if (fokussiere(element) && istErreichbar(element)) {
+            aktion();
+        }
+    });
+}
+
+void OberflächeOhne::klicke(Element& element)
+{
+    handle(element, [&] { element.klicke(); });
+}
+
+void OberflächeOhne::klickeZeile(Liste& liste, std::size_t zeile)
+{
+    handle(liste, [&] { liste.klickeZeile(zeile); });
+}
+
+void OberflächeOhne::doppelklicke(Element& element)
+{
+    klicke(element);
+    if (istErreichbar(element)) {
+        handle(element, [&] { element.doppelklicke(); });
+    }
+}
+
+void OberflächeOhne::doppelklickeZeile(Liste& liste, std::size_t zeile)
+{
+    klickeZeile(liste, zeile);
+    if (istErreichbar(liste) && zeile <= liste.anzahl()) {
+        handle(liste, [&] { liste.doppelklickeZeile(zeile); });
+    }
+}
+
+void OberflächeOhne::klickeKopf(Liste& liste, std::size_t spalte)
+{
+    handle(liste, [&] { liste.klickeKopf(spalte); });
+}
+
+void OberflächeOhne::ersetzeText(Textfeld& feld, std::u32string_view text)
+{
+    handle(feld, [&] {
+        if (text.empty()) {
+            feld.gibEin({}, 0);
+        }
+    });
+    for (std::size_t länge = 1; länge <= text.size(); ++länge) {
+        handle(feld, [&] {
+            const auto bisher = nimmEingabe(text.substr(0, länge), feld.istMehrzeilig(), feld.höchstlänge()).text;
+            feld.gibEin(bisher, bisher.size());
+        });
+    }
+}
+
+void OberflächeOhne::wähleEintrag(Auswahlfeld& feld, std::size_t eintrag)
+{
+    handle(feld, [&] { feld.wähle(eintrag); });
+}
+
+void OberflächeOhne::wähleDatum(Datumsfeld& feld, const Datum& datum)
+{
+    handle(feld, [&] { feld.wähle(datum); });
+}
+
+Bildschirm* OberflächeOhne::tastaturbildschirm() const
+{
+    const auto& folge = m_zustand->folge;
+    const auto* hier = m_tastaturbildschirm;
+    const auto geladene = folge.geladene();
+    const bool nochDa = std::find(geladene.begin(), geladene.end(), hier) != geladene.end();
+    return nochDa && folge.istSichtbar(*hier) && folge.istFrei(*hier) ? m_tastaturbildschirm : folge.inGebrauch();
+}
+
+bool OberflächeOhne::bewegeFokusInReihe(const Element& element, const Taste& taste)
+{
+    const bool inReihe =
+        dynamic_cast<const triCtlJaNein*>(&element) != nullptr || dynamic_cast<const Optionsfeld*>(&element) != nullptr;
+    if (!inReihe || !istPfeil(taste)) {
+        return false;
+    }
+    const bool vor = taste.art == Taste::Art::Ab || taste.art == Taste::Art::Rechts;
+    auto* nachbar = nachbarInReihe(*this, element, vor);
+    if (nachbar == nullptr || !fokussiere(*nachbar)) {
+        return true;
+    }
+    if (auto* option = dynamic_cast<Optionsfeld*>(nachbar); option != nullptr && option->pfeileMarkieren()) {
+        option->klicke();
+    }
+    return true;
+}
+
+void OberflächeOhne::drücke(const Taste& taste)
+{
+    m_zustand->ablauf.ereignis([&] {
+        auto* bildschirm = tastaturbildschirm();
+        if (bildschirm == nullptr) {
+            return;
+        }
+        auto* element = bildschirm->fokus();
+        const bool erreicht = element != nullptr && istErreichbar(*element);
+        if (erreicht && (element->taste(taste) || bewegeFokusInReihe(*element, taste))) {
+            return;
+        }
+        bildschirm->taste(taste);
+    });
+}
+
+void OberflächeOhne::tippe(Element& element, const std::vector<Tastendruck>& tasten)
+{
+    bool hier = false;
+    handle(element, [&] { hier = true; });
+    if (!hier) {
+        return;
+    }
+    for (const auto& druck : tasten) {
+        if (druck.art != Taste::Art::Zeichen) {
+            drücke({druck.art, 0});
+        } else if (const auto zeichen = nächstesZeichen(druck.zeichen)) {
+            drücke({druck.art, *zeichen});
+        }
+    }
+}
+
+void OberflächeOhne::fügeEin(Textfeld& feld, std::u32string_view text)
+{
+    handle(feld, [&] {
+        const auto neu = nimmEingabe(text, feld.istMehrzeilig(), feld.höchstlänge()).text;
+        feld.gibEin(neu, neu.size());
+    });
+}
+
+void OberflächeOhne::fügeEin(Auswahlfeld& feld, std::u32string_view text)
+{
+    handle(feld, [&] {
+        const auto neu = nimmEingabe(text, false).text;
+        feld.gibEin(neu, neu.size());
+    });
+}
+
+void OberflächeOhne::verlasse(Element& element)
+{
+    m_zustand->ablauf.ereignis([&] {
+        if (element.hatFokus()) {
+            element.bildschirm()->fokussiere(nullptr);
+        }
+    });
+}
+
+void OberflächeOhne::schließeRahmen()
+{
+    m_zustand->ablauf.ereignis([&] { m_zustand->rahmen.benutzerSchließt(); });
+}
+
+void OberflächeOhne::verschiebeRahmen(const Lage& lage)
+{
+    m_zustand->ablauf.ereignis([&] { m_zustand->rahmen.benutzerVerschiebt(lage.oben, lage.links); });
+}
+
+void OberflächeOhne::maximiereRahmen(bool maximiert)
+{
+    m_zustand->ablauf.ereignis([&] { m_zustand->rahmen.benutzerMaximiert(maximiert); });
+}
+
+bool OberflächeOhne::istZuSehen(const Element& element) const
+{
+    const auto& bildschirm = *element.bildschirm();
+    const auto& folge = m_zustand->folge;
+    const bool vorne = bildschirm.istKindfenster || obersteSeite(folge) == &bildschirm;
+    return vorne && folge.istSichtbar(bildschirm) && bildschirm.istZuSehen(element);
+}
+
+bool OberflächeOhne::istFrei(const Element& element) const
+{
+    return element.istFrei() && m_zustand->folge.istFrei(*element.bildschirm());
+}
+
+bool OberflächeOhne::hatFokus(const Element& element) const
+{
+    return element.hatFokus() && m_zustand->folge.istSichtbar(*element.bildschirm());
+}
+
+std::vector<std::string> OberflächeOhne::zeilen(const Liste& liste) const
+{
+    std::vector<std::string> zeilen;
+    zeilen.reserve(liste.anzahl());
+    for (std::size_t i = 1; i <= liste.anzahl(); ++i) {
+        zeilen.push_back(liste.zeile(i));
+    }
+    return zeilen;
+}

@@ -1,0 +1,26 @@
+#include "umgebung/Wegwerfordner.h"
+
+#include <random>
+#include <stdexcept>
+#include <string>
+#include <system_error>
+
+Wegwerfordner::Wegwerfordner()
+{
+    static std::mt19937_64 zufall{std::random_device{}()};
+    constexpr int versuche = 100;
+    for (int i = 0; i < versuche; ++i) {
+        m_pfad = std::filesystem::canonical(std::filesystem::temp_directory_path()) /
+                 ("szenario-" + std::to_string(zufall()));
+        if (std::filesystem::create_directory(m_pfad)) {
+            return;
+        }
+    }
+    throw std::runtime_error("kein Ordner für das Szenario");
+}
+
+Wegwerfordner::~Wegwerfordner()
+{
+    std::error_code fehler;
+    std::filesystem::remove_all(m_pfad, fehler);
+}
