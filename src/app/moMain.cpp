@@ -100,7 +100,8 @@ void legeTabellenAn(Dateien& dateien, const Pfade& pfade)
     if (!dateien.istOrdner(pfade.daten)) {
         dateien.legeOrdnerAn(pfade.daten);
     }
-    for (const auto* pfad : {&pfade.kernDat, &pfade.betrDat, &pfade.diagDat, &pfade.kernBak, &pfade.betrBak, &pfade.diagBak}) {
+    for (const auto* pfad :
+         {&pfade.kernDat, &pfade.betrDat, &pfade.diagDat, &pfade.kernBak, &pfade.betrBak, &pfade.diagBak}) {
         dateien.legeLeerAn(*pfad);
     }
 }

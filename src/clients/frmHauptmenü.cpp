@@ -15,8 +15,8 @@ using namespace anordnung;
 Anordnung listenkarte(std::string_view titel, Liste& liste, Schaltfläche& hinzufügen, Schaltfläche& bearbeiten,
                       Schaltfläche& löschen)
 {
-    return füllend(karte(titel, spalte({füllend(element(liste)), zeile({element(hinzufügen), element(bearbeiten), dehnung(),
-                                                                        element(löschen)})})));
+    return füllend(karte(titel, spalte({füllend(element(liste)), zeile({element(hinzufügen), element(bearbeiten),
+                                                                        dehnung(), element(löschen)})})));
 }
 
 /// The id in a cell of a row; 0 without a row.

@@ -32,9 +32,10 @@ std::optional<std::int32_t> nächsteNummer(std::int32_t höchste)
 
 bool nimmtVerlustDesImportsHin()
 {
-    return zeigeMeldung("Durch die Anlage eines Klienten in die Datenbank verlieren Sie die Möglichkeit, die Daten aus dem "
-                        "'alten' Tolvek automatisch zu übernehmen.\r\nWollen Sie fortfahren ?"_t,
-                        Symbol::Warnung, Knöpfe::JaNein, Antwort::Nein) == Antwort::Ja;
+    return zeigeMeldung(
+               "Durch die Anlage eines Klienten in die Datenbank verlieren Sie die Möglichkeit, die Daten aus dem "
+               "'alten' Tolvek automatisch zu übernehmen.\r\nWollen Sie fortfahren ?"_t,
+               Symbol::Warnung, Knöpfe::JaNein, Antwort::Nein) == Antwort::Ja;
 }
 
 } // namespace
@@ -140,8 +141,8 @@ void frmHauptmenü::löscheBetreuung()
     }
     const auto kernID = zustand().aktKernID;
     const auto betrID = gewählteBetrID();
-    const auto antwort = zeigeMeldung(verbinde("Soll Betreuung kernID: "_t, alsText(kernID), " betrID: "_t, alsText(betrID),
-                                               " wirklich gelöscht werden ?"_t),
+    const auto antwort = zeigeMeldung(verbinde("Soll Betreuung kernID: "_t, alsText(kernID), " betrID: "_t,
+                                               alsText(betrID), " wirklich gelöscht werden ?"_t),
                                       Symbol::Frage, Knöpfe::OKAbbrechen);
     if (antwort != Antwort::OK) {
         meldeNichtsVerändert();
@@ -155,9 +156,10 @@ void frmHauptmenü::löscheBetreuung()
 
 void frmHauptmenü::verwerfeEingaben()
 {
-    const auto antwort = zeigeMeldung("Wollen Sie wirklich die Eingaben dieser Sitzung verwerfen und die Datenbank auf den "
-                                      "Zustand zurücksetzen, auf dem sie vor ihrem Aufruf war ?"_t,
-                                      Symbol::Frage, Knöpfe::JaNein, Antwort::Nein);
+    const auto antwort =
+        zeigeMeldung("Wollen Sie wirklich die Eingaben dieser Sitzung verwerfen und die Datenbank auf den "
+                     "Zustand zurücksetzen, auf dem sie vor ihrem Aufruf war ?"_t,
+                     Symbol::Frage, Knöpfe::JaNein, Antwort::Nein);
     if (antwort != Antwort::Ja) {
         meldeNichtsVerändert();
         return;

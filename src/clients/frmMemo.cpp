@@ -63,7 +63,8 @@ void frmMemo::beiOK()
         return;
     }
     if (std::max(memoK.size(), memoB.size()) > höchstlänge) {
-        zeigeMeldung(verbinde("Das Memo ist zu lang. Erlaubt sind "_t, alsText(höchstlänge), " Zeichen. Bitte kürzen"_t));
+        zeigeMeldung(
+            verbinde("Das Memo ist zu lang. Erlaubt sind "_t, alsText(höchstlänge), " Zeichen. Bitte kürzen"_t));
         return;
     }
     zustand().memoKText = memoK;

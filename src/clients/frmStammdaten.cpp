@@ -69,15 +69,12 @@ void frmStammdaten::ordneAn()
 {
     using namespace anordnung;
     kopfband.titel = &lblHeader;
-    auto felder = formular({feld("Nachname:"_t, tbNachname),
-                            feld("Vorname:"_t, tbVorname),
-                            feld("Straße:"_t, tbStrasse),
-                            feld("PLZ:"_t, tbPLZ, 5),
-                            feld("Ort:"_t, tbOrt),
-                            feld("Geschlecht:"_t, comboGeschlecht, 10),
-                            feld("Geburtsdatum:"_t, {decke(element(DTPickerGeburtsdatum, 10), cmdGebUnbekannt),
-                                                     element(cmdGebUnbekanntEintragen)})},
-                           7.5);
+    auto felder =
+        formular({feld("Nachname:"_t, tbNachname), feld("Vorname:"_t, tbVorname), feld("Straße:"_t, tbStrasse),
+                  feld("PLZ:"_t, tbPLZ, 5), feld("Ort:"_t, tbOrt), feld("Geschlecht:"_t, comboGeschlecht, 10),
+                  feld("Geburtsdatum:"_t,
+                       {decke(element(DTPickerGeburtsdatum, 10), cmdGebUnbekannt), element(cmdGebUnbekanntEintragen)})},
+                 7.5);
     aufbau = spalte({breit(karte({}, std::move(felder)), 33)});
     leiste = {.links = {&cmdMemo}, .rechts = {&cmdOK, &cmdExit}};
     beiEscape = &cmdExit;
@@ -155,7 +152,8 @@ std::string frmStammdaten::erstelleKernDS() const
 
 bool frmStammdaten::liegtNeuInDerZukunft(std::string_view satz) const
 {
-    return !cmdGebUnbekannt.istSichtbar() && getFeld(satz, feldGeburtsdatum) != getFeld(m_kernDSBeimÖffnen, feldGeburtsdatum) &&
+    return !cmdGebUnbekannt.istSichtbar() &&
+           getFeld(satz, feldGeburtsdatum) != getFeld(m_kernDSBeimÖffnen, feldGeburtsdatum) &&
            DTPickerGeburtsdatum.datum() > zustand().umgebung.heute();
 }
 
@@ -177,8 +175,8 @@ void frmStammdaten::beiOK()
 
 void frmStammdaten::beiExit()
 {
-    if (erstelleKernDS() != m_kernDSBeimÖffnen &&
-        zeigeMeldung("Veränderungen in diesem Fenster verwerfen ?"_t, Symbol::Frage, Knöpfe::OKAbbrechen) != Antwort::OK) {
+    if (erstelleKernDS() != m_kernDSBeimÖffnen && zeigeMeldung("Veränderungen in diesem Fenster verwerfen ?"_t,
+                                                               Symbol::Frage, Knöpfe::OKAbbrechen) != Antwort::OK) {
         return;
     }
     schließe();
