@@ -154,7 +154,7 @@ TEST(DatumAusText, OhneZiffernIstNichts)
 
 class ComboTest : public testing::Test {
 protected:
-    ComboTest() { feld.fülle({"k.A.", "0", "1", "10", "11", "Äpfel"}, "k.A."); }
+    ComboTest() { feld.fülle({"k.A.", "0", "1", "10", "11", "\xC4pfel"}, "k.A."); }
 
     int tippe(int code)
     {
