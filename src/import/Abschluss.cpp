@@ -1,0 +1,198 @@
+#include "import/Abschluss.h"
+
+#include "import/Eingabedatei.h"
+#include "platform/umgebung/Laufzeitfehler.h"
+#include "store/moHelferlein.h"
+
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+namespace {
+
+Dateien& dateien()
+{
+    return zustand().umgebung.dateien();
+}
+
+/// Rewrites the table through the scratch file: `tue(zeile, aus)` writes what becomes of each line.
+template <class F> void schreibeUm(const std::filesystem::path& tabelle, const std::filesystem::path& dummyDat, F tue)
+{
+    const Eingabedatei ein(tabelle);
+    dateien().ersetze(tabelle, dummyDat,
+                      [&](Schreiber& aus) { ein.fürJedeZeile([&](std::string_view zeile) { tue(zeile, aus); }); });
+}
+
+void behalteErste(const std::filesystem::path& tabelle, const std::filesystem::path& dummyDat,
+                  std::string_view (*vergleichswert)(std::string_view zeile))
+{
+    std::unordered_set<std::string_view> behaltene;
+    schreibeUm(tabelle, dummyDat, [&](std::string_view zeile, Schreiber& aus) {
+        if (!behaltene.contains(zeile)) {
+            behaltene.insert(vergleichswert(zeile));
+            aus.zeile(zeile);
+        }
+    });
+}
+
+std::string_view ganzeZeile(std::string_view zeile)
+{
+    return zeile;
+}
+
+std::string_view kernID(std::string_view zeile)
+{
+    return getFeld(zeile, 2);
+}
+
+/// The care line with its first 191 fields and the mark in place of the last.
+std::string markiert(std::string_view zeile, bool istDeutsch)
+{
+    constexpr int feldBetrGru = 6;
+    constexpr int feldNation = 9;
+    constexpr int feldMemo = 192;
+    std::string neu(istDeutsch ? ersetzeFeld(zeile, feldNation, "Deutschland"_t) : std::string(zeile));
+    neu = ersetzeFeld(neu, feldBetrGru, "Eigene Problematik"_t);
+    return verbinde(felder(neu, 1, feldMemo - 1), "Importierter Datensatz"_t);
+}
+
+/// Numbers of the clients that are "Deutsche(r)", by the first line with the number.
+std::unordered_set<std::string_view> deutsche(const Eingabedatei& kernAlt)
+{
+    std::unordered_set<std::string_view> gesehene;
+    std::unordered_set<std::string_view> nummern;
+    kernAlt.fürJedenSatz([&](std::string_view zeile) {
+        const auto nummer = getFeld(zeile, 1);
+        if (gesehene.insert(nummer).second && getFeld(zeile, 9) == "Deutsche(r)"_t) {
+            nummern.insert(nummer);
+        }
+    });
+    return nummern;
+}
+
+/// "o" or "a" for each client of the care table, by field 1 as text: what `betrStatusVon` would answer, in one
+/// pass for all.
+std::unordered_map<std::string_view, std::string_view> statusAller(const Eingabedatei& betrDat)
+{
+    std::unordered_map<std::string_view, std::string_view> status;
+    betrDat.fürJedeZeile([&](std::string_view zeile) {
+        const bool offen = getFeld(zeile, 4) == "offen"_t;
+        const auto [ort, neu] = status.try_emplace(getFeld(zeile, 1), offen ? "o"_t : "a"_t);
+        if (!neu && offen) {
+            ort->second = "o"_t;
+        }
+    });
+    return status;
+}
+
+/// A live table as it was before the import.
+struct AlteTabelle {
+    std::filesystem::path pfad;
+    std::string inhalt;
+};
+
+std::vector<AlteTabelle> merkeTabellen()
+{
+    std::vector<AlteTabelle> alte;
+    const auto& pfade = zustand().pfade;
+    for (const auto* pfad : {&pfade.kernDat, &pfade.betrDat, &pfade.diagDat}) {
+        alte.push_back({*pfad, std::string(dateien().lies(*pfad)->text())});
+    }
+    return alte;
+}
+
+/// Also removes what a copy that failed has left beside the table: it holds personal data, and on a full disk
+/// its room is needed.
+void setzeZurück(const AlteTabelle& alte)
+{
+    auto daneben = alte.pfad;
+    daneben += ".neu";
+    if (dateien().istDatei(daneben)) {
+        dateien().lösche(daneben);
+    }
+    if (dateien().lies(alte.pfad)->text() != alte.inhalt) {
+        dateien().ersetze(alte.pfad, zustand().pfade.dummyDatei, [&](Schreiber& aus) { aus.text(alte.inhalt); });
+    }
+}
+
+void setzeAlleZurück(const std::vector<AlteTabelle>& tabellen)
+{
+    for (const auto& alte : tabellen) {
+        try {
+            setzeZurück(alte);
+        } catch (const Laufzeitfehler& fehler) {
+            zeigeMeldung(verbinde("Die Tabelle \""_t, pfadtext(alte.pfad),
+                                  "\" kann nicht auf den Stand vor der Übernahme gebracht werden. "_t, fehler.text()),
+                         Symbol::Stop);
+        }
+    }
+}
+
+} // namespace
+
+void entferneDoppelte(const NeueTabellen& tabellen)
+{
+    behalteErste(tabellen.kernDat, tabellen.dummyDat, kernID);
+    behalteErste(tabellen.betrDat, tabellen.dummyDat, ganzeZeile);
+    behalteErste(tabellen.diagDat, tabellen.dummyDat, ganzeZeile);
+}
+
+void markiereBetreuungen(const NeueTabellen& tabellen, const std::filesystem::path& kernAlt)
+{
+    const Eingabedatei klienten(kernAlt);
+    const auto nummern = deutsche(klienten);
+    schreibeUm(tabellen.betrDat, tabellen.dummyDat, [&](std::string_view zeile, Schreiber& aus) {
+        aus.zeile(markiert(zeile, nummern.contains(getFeld(zeile, 1))));
+    });
+}
+
+void fülleStatus(const NeueTabellen& tabellen)
+{
+    const Eingabedatei betreuungen(zustand().pfade.betrDat);
+    const auto status = statusAller(betreuungen);
+    schreibeUm(tabellen.kernDat, tabellen.dummyDat, [&](std::string_view zeile, Schreiber& aus) {
+        const auto ort = status.find(kernID(zeile));
+        aus.zeile(ersetzeFeld(zeile, 3, ort == status.end() ? std::string_view{} : ort->second));
+    });
+}
+
+Importzahlen schreibeImportListe(const NeueTabellen& tabellen, const std::filesystem::path& liste)
+{
+    Importzahlen zahlen;
+    const Eingabedatei klienten(tabellen.kernDat);
+    const Eingabedatei betreuungen(tabellen.betrDat);
+    std::unordered_map<std::string_view, std::string_view> klientenzeilen;
+    klienten.fürJedeZeile([&](std::string_view zeile) {
+        ++zahlen.klienten;
+        klientenzeilen.try_emplace(kernID(zeile), zeile);
+    });
+    const auto aus = dateien().schreibeNeu(liste);
+    aus->zeile("kernID\tbetrID\tNachname\tVorname"_t);
+    betreuungen.fürJedeZeile([&](std::string_view zeile) {
+        ++zahlen.betreuungen;
+        const auto klient = klientenzeilen.find(getFeld(zeile, 1));
+        const auto name = klient == klientenzeilen.end()
+                              ? std::string()
+                              : verbinde(getFeld(klient->second, 4), '\t', getFeld(klient->second, 5));
+        aus->zeile(verbinde(getFeld(zeile, 1), '\t', getFeld(zeile, 2), '\t', name));
+    });
+    aus->schließe();
+    return zahlen;
+}
+
+void ersetzeTabellen(const NeueTabellen& tabellen, const std::function<void()>& danach)
+{
+    const auto& pfade = zustand().pfade;
+    const auto alte = merkeTabellen();
+    try {
+        dateien().kopiereÜber(tabellen.kernDat, pfade.kernDat);
+        dateien().kopiereÜber(tabellen.betrDat, pfade.betrDat);
+        dateien().kopiereÜber(tabellen.diagDat, pfade.diagDat);
+        danach();
+    } catch (const Laufzeitfehler&) {
+        setzeAlleZurück(alte);
+        throw;
+    }
+}

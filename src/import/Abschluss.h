@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+
+/// What follows the four stages of the import: the steps on the new tables in the work folder.
+
+/// The three new tables and the scratch file through which each step rewrites them.
+struct NeueTabellen {
+    std::filesystem::path kernDat;
+    std::filesystem::path betrDat;
+    std::filesystem::path diagDat;
+    std::filesystem::path dummyDat;
+};
+
+/// Keeps the first of equal lines of the care and the diagnosis table. A client line is compared with the ids
+/// of those before it, which never equal it: stage 4 writes a client once.
+void entferneDoppelte(const NeueTabellen& tabellen);
+
+/// Marks the care records as imported, gives them the reason "Eigene Problematik", and those whose client is
+/// "Deutsche(r)" in the older client file the nation.
+void markiereBetreuungen(const NeueTabellen& tabellen, const std::filesystem::path& kernAlt);
+
+/// Sets the status of each client by the live care table, which still holds what was there before the import;
+/// the repair at the next start works it out anew.
+void fülleStatus(const NeueTabellen& tabellen);
+
+struct Importzahlen {
+    std::size_t klienten = 0;
+    std::size_t betreuungen = 0;
+};
+
+/// Writes the list of the imported episodes, columns separated by tabs, and counts both tables.
+Importzahlen schreibeImportListe(const NeueTabellen& tabellen, const std::filesystem::path& liste);
+
+/// Puts the new tables in the place of the live ones, then does `danach`. When any of it fails, the live tables
+/// get their old content back and the failure goes on.
+void ersetzeTabellen(const NeueTabellen& tabellen, const std::function<void()>& danach);

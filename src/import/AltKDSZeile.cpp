@@ -1,0 +1,207 @@
+#include "import/AltKDSZeile.h"
+
+#include "platform/text/Datum.h"
+#include "platform/text/Text.h"
+#include "platform/text/Zahl.h"
+#include "platform/umgebung/Laufzeitfehler.h"
+#include "zustand/Zustand.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace {
+
+constexpr auto offen = "OFFEN"_t;
+constexpr int feldEssstörung = 91;
+
+struct Kostenträger {
+    int feld;
+    std::string_view code;
+};
+
+/// Of several bearers the last one in this order counts.
+constexpr std::array kostenträgerListe{
+    Kostenträger{11, "2"_t},  Kostenträger{14, "45"_t}, Kostenträger{12, "48"_t},
+    Kostenträger{10, "47"_t}, Kostenträger{13, "46"_t}, Kostenträger{9, "1"_t},
+};
+
+struct Lebenssituation {
+    std::string_view text;
+    std::array<int, 2> flaggen; ///< 0: none
+};
+
+constexpr std::array lebenssituationen{
+    Lebenssituation{"alleinlebend"_t, {1, 0}},
+    Lebenssituation{"mit PartnerIn"_t, {2, 0}},
+    Lebenssituation{"mit Kindern"_t, {3, 0}},
+    Lebenssituation{"mit Elternteil"_t, {4, 0}},
+    Lebenssituation{"mit Freunden / Bekannten"_t, {5, 0}},
+    Lebenssituation{"mit sonstigen Personen"_t, {6, 0}},
+    Lebenssituation{"mit PartnerIn und Kind(ern)"_t, {2, 3}},
+};
+
+/// Codes of the groups 12 to 19; those before depend on further fields.
+constexpr int ersteFesteGruppe = 12;
+constexpr std::array<std::string_view, 8> festeHauptdiagnosen{"550", "551", "552", "554", "555", "556", "558", "630"};
+
+void meldeFehlendeOption(const Betreuungssatz& satz, std::string_view text, int spalte, int quelle)
+{
+    zeigeMeldung(verbinde("Fehler in Optionsparsing ! \r"_t, satz.zeile(), "\r\rakt.parseSatz: "_t,
+                          std::to_string(satz.gelesene()), "\rebis-Arg#: "_t, alsText(spalte), "\rTolvek-Arg#: "_t,
+                          alsText(quelle), "\rTolvek: '"_t, text, "' nicht gefunden"_t));
+}
+
+} // namespace
+
+void AltKDSZeile::wert(std::string_view wert)
+{
+    m_wert = wert;
+    m_zeile.append(wert).push_back(',');
+}
+
+void AltKDSZeile::führeAus(const Instruktion& instruktion, int spalte)
+{
+    if (instruktion.quelle == 0) {
+        wert({});
+        return;
+    }
+    switch (instruktion.art) {
+    case Instruktionsart::Wert:
+        wert(m_satz.feld(instruktion.quelle));
+        break;
+    case Instruktionsart::Option:
+        option(instruktion, spalte);
+        break;
+    case Instruktionsart::Betreuungsende: {
+        const auto text = m_satz.feld(instruktion.quelle);
+        wert(text == offen ? std::string_view{} : text);
+        break;
+    }
+    case Instruktionsart::IcdZusatz:
+        icdZusatz(m_satz.feld(instruktion.quelle), spalte);
+        break;
+    case Instruktionsart::LebSit:
+        lebensSituation(m_satz.feldOhneLeerzeichen(instruktion.quelle));
+        break;
+    case Instruktionsart::LebSitLeer:
+        break; // the columns were written with `lebSit`
+    case Instruktionsart::Kostenträger:
+        kostenträger();
+        break;
+    case Instruktionsart::Icd0000:
+        hauptdiagnose(m_satz.feld(instruktion.quelle));
+        break;
+    case Instruktionsart::Dauer:
+        dauer();
+        break;
+    case Instruktionsart::Unbekannt:
+        wert("ANWEISUNGSDATENFEHLER!"_t);
+        break;
+    }
+}
+
+void AltKDSZeile::option(const Instruktion& instruktion, int spalte)
+{
+    const auto text = m_satz.feldOhneLeerzeichen(instruktion.quelle);
+    const auto ort = std::find_if(instruktion.paare.begin(), instruktion.paare.end(),
+                                  [&](const auto& paar) { return paar.first == text; });
+    if (ort == instruktion.paare.end()) {
+        meldeFehlendeOption(m_satz, text, spalte, instruktion.quelle);
+        return;
+    }
+    wert(ort->second);
+}
+
+void AltKDSZeile::icdZusatz(std::string_view text, int spalte)
+{
+    if (text.empty() || text == ".") {
+        wert({});
+    } else if (spalte >= 204 && spalte <= 207) {
+        wert(verbinde('F', text));
+    } else if (spalte >= 208 && spalte <= 211) {
+        wert(verbinde('G', text));
+    } else {
+        wert(text);
+    }
+}
+
+// Twelve columns, every second one empty.
+void AltKDSZeile::lebensSituation(std::string_view text)
+{
+    std::array<char, 6> flaggen;
+    flaggen.fill(text.empty() ? '0' : '1');
+    const auto ort = std::find_if(lebenssituationen.begin(), lebenssituationen.end(),
+                                  [&](const Lebenssituation& l) { return l.text == text; });
+    if (ort != lebenssituationen.end()) {
+        for (const int flagge : ort->flaggen) {
+            if (flagge != 0) {
+                flaggen.at(static_cast<std::size_t>(flagge - 1)) = '2';
+            }
+        }
+    } else if (!getrimmt(text).empty()) {
+        zeigeMeldung("ParseFehler: lebSit"_t);
+    }
+    for (const char flagge : flaggen) {
+        wert({&flagge, 1});
+        wert({});
+    }
+}
+
+void AltKDSZeile::kostenträger()
+{
+    std::string_view code = "0"_t;
+    for (const auto& träger : kostenträgerListe) {
+        if (m_satz.feld(träger.feld) == "1") {
+            code = träger.code;
+        }
+    }
+    wert(code);
+}
+
+std::string AltKDSZeile::klasseMitZusatz(int gruppe) const
+{
+    const int klasse = gruppe + 9;
+    const auto zusatz = m_satz.feld(47 + 4 * gruppe);
+    if (zusatz.empty()) {
+        return alsText(klasse);
+    }
+    if (zusatz.front() == '1' || zusatz.front() == '2') {
+        return verbinde(alsText(klasse), zusatz.front());
+    }
+    return {};
+}
+
+void AltKDSZeile::hauptdiagnose(std::string_view text)
+{
+    const auto gruppe = führendeZahl(text);
+    if (gruppe < std::numeric_limits<std::int16_t>::min() || gruppe > std::numeric_limits<std::int16_t>::max()) {
+        throw Laufzeitfehler(verbinde("Die Hauptdiagnose \""_t, text, "\" ist zu groß."_t));
+    }
+    const auto fest = gruppe - ersteFesteGruppe;
+    if (gruppe == 0) {
+        wert("0"_t);
+    } else if (gruppe >= 1 && gruppe <= 10) {
+        wert(klasseMitZusatz(static_cast<int>(gruppe)));
+    } else if (gruppe == 11) {
+        const auto zusatz = m_satz.feld(feldEssstörung);
+        wert(getrimmt(zusatz).empty() ? std::string("50") : verbinde("50"_t, zusatz));
+    } else if (fest >= 0 && fest < static_cast<std::int64_t>(festeHauptdiagnosen.size())) {
+        wert(festeHauptdiagnosen.at(static_cast<std::size_t>(fest)));
+    } else {
+        zeigeMeldung("ParseFehler: icd0000"_t);
+        wert({});
+    }
+}
+
+void AltKDSZeile::dauer()
+{
+    const auto beginnText = m_satz.feld(m_zeitraum.beginn);
+    const auto beginn = leseDatum(beginnText);
+    if (!beginn) {
+        throw Laufzeitfehler(verbinde("Der Betreuungsbeginn \""_t, beginnText, "\" ist kein Datum."_t));
+    }
+    const auto endeText = m_satz.feld(m_zeitraum.ende);
+    const auto ende = endeText == offen ? std::nullopt : leseDatum(endeText);
+    wert(ende ? alsText(alsTageszahl(*ende) - alsTageszahl(*beginn) + 1) : std::string(m_wert));
+}

@@ -1,0 +1,90 @@
+#include "import/Anweisung.h"
+
+#include "export/Satzsicht.h"
+#include "platform/text/Zahl.h"
+#include "platform/umgebung/Laufzeitfehler.h"
+#include "store/moHelferlein.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr int erstesErgebnis = 3;
+constexpr int letzterCode = 60;
+
+struct Artname {
+    std::string_view name;
+    Anweisungsart art;
+};
+
+constexpr std::array artnamen{
+    Artname{"option"_t, Anweisungsart::Option},
+    Artname{"zahl"_t, Anweisungsart::Zahl},
+    Artname{"text"_t, Anweisungsart::Text},
+    Artname{"datum"_t, Anweisungsart::Datum},
+    Artname{"idKern"_t, Anweisungsart::IdKern},
+    Artname{"idBetr"_t, Anweisungsart::IdBetr},
+    Artname{"nation"_t, Anweisungsart::Nation},
+    Artname{"kinder"_t, Anweisungsart::OderKA},
+    Artname{"zuvor"_t, Anweisungsart::OderKA},
+    Artname{"kontakte"_t, Anweisungsart::OderKA},
+    Artname{"hdAlter"_t, Anweisungsart::HdAlter},
+    Artname{"icd0000"_t, Anweisungsart::Icd0000},
+    Artname{"hdOhne"_t, Anweisungsart::HdOhne},
+    Artname{"ivKonsum"_t, Anweisungsart::IvKonsum},
+    Artname{"icdPsy"_t, Anweisungsart::OhneErstesZeichen},
+    Artname{"icdNeu"_t, Anweisungsart::OhneErstesZeichen},
+    Artname{"<leer>"_t, Anweisungsart::Leer},
+};
+
+Anweisungsart artVon(std::string_view name)
+{
+    const auto ort = std::find_if(artnamen.begin(), artnamen.end(), [&](const Artname& a) { return a.name == name; });
+    return ort == artnamen.end() ? Anweisungsart::Unbekannt : ort->art;
+}
+
+Anweisung anweisungAus(const Satzsicht& zeile)
+{
+    Anweisung anweisung;
+    const auto quelle = zeile.feld(1);
+    if (!quelle.empty()) {
+        anweisung.blatt = quelle.front();
+        anweisung.spalte = leseGanzzahl16(quelle.substr(1)).value_or(0);
+    }
+    anweisung.art = artVon(zeile.feld(2));
+    for (int ort = erstesErgebnis; ort < letzterCode; ort += 2) {
+        anweisung.paare.push_back({std::string(zeile.feld(ort)), std::string(zeile.feld(ort + 1))});
+    }
+    return anweisung;
+}
+
+} // namespace
+
+std::vector<Anweisung> ladeAnweisungen(int erste)
+{
+    const auto anzahl = leseGanzzahl16(ladeResText(erste));
+    if (!anzahl) {
+        throw Laufzeitfehler(verbinde("Die Anweisungstabelle "_t, alsText(erste), " fehlt."_t));
+    }
+    std::vector<Anweisung> anweisungen;
+    for (int i = 1; i <= *anzahl; ++i) {
+        const auto zeile = ladeResText(erste + i);
+        anweisungen.push_back(anweisungAus(Satzsicht(zeile)));
+    }
+    return anweisungen;
+}
+
+std::string_view schlageNach(const Anweisung& anweisung, std::string_view wert, std::string& ablage)
+{
+    for (const auto& [ergebnis, code] : anweisung.paare) {
+        if (code == "<sonst>") {
+            return ergebnis == "<text>" ? wert : std::string_view(ergebnis);
+        }
+        if (code == wert) {
+            return ergebnis == "<leer>" ? std::string_view{} : std::string_view(ergebnis);
+        }
+    }
+    ablage = verbinde('\'', wert, "' nicht gefunden"_t);
+    return ablage;
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "import/Abschluss.h"
+
+#include <filesystem>
+#include <functional>
+#include <string_view>
+
+/// The course of an import: four stages in the work folder, the closing steps, and the replacement of the live
+/// tables. It either takes over everything or leaves the live tables as they were; the work folder, which holds
+/// personal data, is gone afterwards in both cases.
+class Importlauf {
+public:
+    Importlauf(std::filesystem::path kernAlt, std::filesystem::path betreuungenAlt);
+
+    /// Told before a step: what it is and its number from 1.
+    std::function<void(std::string_view was, int schritt)> beiSchritt;
+    /// Told after a step.
+    std::function<void()> nachSchritt;
+
+    /// Empties the work folder or makes it, and runs. Throws Laufzeitfehler; call `verwirf` then.
+    Importzahlen führeAus();
+    /// Removes the work folder, as far as that goes.
+    void verwirf() const;
+
+private:
+    void bereiteVor() const;
+    void führeStufenAus() const;
+    void räumeAuf() const;
+    std::filesystem::path datei(std::string_view name) const { return m_ordner / name; }
+
+    std::filesystem::path m_kernAlt;
+    std::filesystem::path m_betreuungenAlt;
+    std::filesystem::path m_ordner;
+    NeueTabellen m_tabellen;
+};

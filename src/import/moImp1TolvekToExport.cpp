@@ -1,0 +1,117 @@
+#include "import/moImp1TolvekToExport.h"
+
+#include "import/Altnummer.h"
+#include "import/Eingabedatei.h"
+#include "platform/text/Datum.h"
+#include "platform/text/Zahl.h"
+#include "platform/umgebung/Laufzeitfehler.h"
+#include "store/moHelferlein.h"
+
+#include <string>
+#include <unordered_map>
+
+namespace {
+
+constexpr int feldNummer = 1;
+constexpr int feldGeburt = 7;
+constexpr int feldBeginn = 3;
+constexpr int klientenfelderAlt = 9;
+constexpr auto unbekannt = "unbekannt"_t;
+
+Datum leseAltdatum(std::string_view text, const std::filesystem::path& datei)
+{
+    const auto datum = leseDatum(text);
+    if (!datum) {
+        throw Laufzeitfehler(verbinde("\""_t, text, "\" in \""_t, pfadtext(datei), "\" ist kein Datum."_t));
+    }
+    return *datum;
+}
+
+/// The older clients by number. The last line stands in for a client that is missing.
+class Klientenverzeichnis {
+public:
+    explicit Klientenverzeichnis(const Eingabedatei& datei)
+    {
+        datei.fürJedenSatz([this](std::string_view zeile) {
+            m_zeilen.try_emplace(getFeld(zeile, feldNummer), zeile);
+            m_letzte = zeile;
+        });
+    }
+
+    std::string_view zeile(std::string_view nummer) const
+    {
+        const auto ort = m_zeilen.find(nummer);
+        return ort == m_zeilen.end() ? m_letzte : ort->second;
+    }
+
+private:
+    std::unordered_map<std::string_view, std::string_view> m_zeilen;
+    std::string_view m_letzte;
+};
+
+std::string geburtsjahr(std::string_view geburt, const std::filesystem::path& datei)
+{
+    return klein(geburt) == unbekannt ? std::string(unbekannt) : alsText(leseAltdatum(geburt, datei).jahr);
+}
+
+/// Client lines without names; the empty fields 2 to 6 keep the others in their places.
+void teileKlienten(const Eingabedatei& klienten, Schreiber& kernExp, Schreiber& extraExp)
+{
+    const std::string leereFelder(6, trenner);
+    klienten.fürJedenSatz([&](std::string_view zeile) {
+        const auto nummer = getFeld(zeile, feldNummer);
+        leseAltnummer(nummer, klienten.pfad());
+        kernExp.zeile(verbinde(nummer, leereFelder, geburtsjahr(getFeld(zeile, feldGeburt), klienten.pfad()), trenner,
+                               getFeld(zeile, 8), trenner, getFeld(zeile, 9)));
+        extraExp.zeile(felder(zeile, 1, klientenfelderAlt));
+    });
+}
+
+/// The last two digits of the year in which the days since birth end, counted from 30.12.1899: about the
+/// completed years, and one less on a birthday. The value reaches no record.
+std::string alterswert(std::string_view klient, std::string_view betreuung, const Eingabedatei& klienten,
+                       const Eingabedatei& betreuungen)
+{
+    const auto geburt = getFeld(klient, feldGeburt);
+    if (geburt == unbekannt) {
+        return std::string(unbekannt);
+    }
+    const auto geboren = leseAltdatum(geburt, klienten.pfad());
+    const auto beginn = leseAltdatum(getFeld(betreuung, feldBeginn), betreuungen.pfad());
+    const int jahr = ausTageszahl(alsTageszahl(beginn) - alsTageszahl(geboren)).jahr;
+    if (jahr < 100 || jahr > 9999) {
+        throw Laufzeitfehler(verbinde("Von \""_t, geburt, "\" bis zum Betreuungsbeginn in \""_t, pfadtext(betreuungen.pfad()),
+                                      "\" ist es zu weit."_t));
+    }
+    return verbinde(static_cast<char>('0' + jahr / 10 % 10), static_cast<char>('0' + jahr % 10));
+}
+
+void ergänzeBetreuungen(const Eingabedatei& betreuungen, const Eingabedatei& klienten, Schreiber& betreuungenExp)
+{
+    const Klientenverzeichnis verzeichnis(klienten);
+    betreuungen.fürJedenSatz([&](std::string_view zeile) {
+        const auto nummer = getFeld(zeile, feldNummer);
+        leseAltnummer(nummer, betreuungen.pfad());
+        const auto klient = verzeichnis.zeile(nummer);
+        betreuungenExp.zeile(verbinde(zeile, trenner, alterswert(klient, zeile, klienten, betreuungen)));
+    });
+}
+
+} // namespace
+
+void moImp1TolvekToExport(const std::filesystem::path& kernAlt, const std::filesystem::path& betreuungenAlt,
+                          const std::filesystem::path& kernExp, const std::filesystem::path& betreuungenExp,
+                          const std::filesystem::path& extraExp)
+{
+    auto& dateien = zustand().umgebung.dateien();
+    const auto kern = dateien.schreibeNeu(kernExp);
+    const auto betreuungenAus = dateien.schreibeNeu(betreuungenExp);
+    const auto extra = dateien.schreibeNeu(extraExp);
+    const Eingabedatei klienten(kernAlt);
+    const Eingabedatei betreuungen(betreuungenAlt);
+    teileKlienten(klienten, *kern, *extra);
+    ergänzeBetreuungen(betreuungen, klienten, *betreuungenAus);
+    for (const auto* aus : {&kern, &betreuungenAus, &extra}) {
+        (*aus)->schließe();
+    }
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+/// Stage 3 of the import: turns each comma-separated row of the older core data set into a row of the yearly
+/// export (181 and 177 columns, each followed by ";"). An old code that has no counterpart gives "FEHLER" in
+/// its column, without a message.
+void moImp3AltKDStoKDS(const std::filesystem::path& aKDSKern, const std::filesystem::path& aKDSDiagnose,
+                       const std::filesystem::path& kdsKern, const std::filesystem::path& kdsDiagnose);
+
+std::string kernAltNachNeu(std::string_view zeile);
+std::string diagAltNachNeu(std::string_view zeile);

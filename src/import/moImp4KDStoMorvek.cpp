@@ -1,0 +1,154 @@
+#include "import/moImp4KDStoMorvek.h"
+
+#include "import/Altnummer.h"
+#include "import/Eingabedatei.h"
+#include "import/Satzbau.h"
+#include "import/moAnweisungen.h"
+#include "store/Wertelisten.h"
+#include "store/moHelferlein.h"
+
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace {
+
+constexpr char spaltentrenner = ';';
+constexpr int spalteKernID = 2;
+constexpr int spalteBetrID = 3;
+constexpr int spalteGeschlecht = 8;
+
+std::string_view geschlecht(std::string_view code)
+{
+    const auto* text = werte::textZu(werte::geschlecht, code);
+    return text != nullptr ? *text : "Fehler in Geschlecht"_t;
+}
+
+/// Both ids as they stand in the row: the key by which the rows of an episode find each other.
+std::string_view schlüssel(std::string_view zeile)
+{
+    const auto erstes = zeile.find(spaltentrenner);
+    const auto zweites = zeile.find(spaltentrenner, erstes + 1);
+    const auto ende = zeile.find(spaltentrenner, zweites + 1);
+    return erstes == std::string_view::npos || zweites == std::string_view::npos ? std::string_view{}
+                                                                               : zeile.substr(erstes, ende - erstes);
+}
+
+/// The clients' personal data by number.
+class Personen {
+public:
+    explicit Personen(const std::filesystem::path& pfad) : m_datei(pfad)
+    {
+        m_datei.fürJedeZeile([this](std::string_view zeile) {
+            m_zeilen.try_emplace(leseAltnummer(getFeld(zeile, 1), m_datei.pfad()), zeile);
+            m_letzte = zeile;
+        });
+    }
+
+    /// The client's line; the last one stands in for a client that is missing.
+    std::string_view zeile(std::int32_t kernID) const
+    {
+        const auto ort = m_zeilen.find(kernID);
+        return ort == m_zeilen.end() ? m_letzte : ort->second;
+    }
+
+private:
+    Eingabedatei m_datei;
+    std::unordered_map<std::int32_t, std::string_view> m_zeilen;
+    std::string_view m_letzte;
+};
+
+/// The diagnosis rows by their ids; an episode can have several.
+class Diagnosezeilen {
+public:
+    explicit Diagnosezeilen(const std::filesystem::path& pfad) : m_datei(pfad)
+    {
+        m_datei.fürJedeZeile([this](std::string_view zeile) { m_zeilen[schlüssel(zeile)].push_back(zeile); });
+    }
+
+    const std::vector<std::string_view>& zu(std::string_view kernzeile) const
+    {
+        static const std::vector<std::string_view> keine;
+        const auto ort = m_zeilen.find(schlüssel(kernzeile));
+        return ort == m_zeilen.end() ? keine : ort->second;
+    }
+
+private:
+    Eingabedatei m_datei;
+    std::unordered_map<std::string_view, std::vector<std::string_view>> m_zeilen;
+};
+
+/// The three tables being written.
+class Ausgabe {
+public:
+    Ausgabe(const std::filesystem::path& kernDat, const std::filesystem::path& betrDat, const std::filesystem::path& diagDat)
+        : m_kern(dateien().schreibeNeu(kernDat)), m_betreuung(dateien().schreibeNeu(betrDat)),
+          m_diagnose(dateien().schreibeNeu(diagDat))
+    {
+    }
+
+    void schreibeKlient(const Satzsicht& kernzeile, std::string_view person)
+    {
+        m_kern->zeile(verbinde(trenner, kernzeile.feld(spalteKernID), trenner, trenner, felder(person, 2, 6),
+                               geschlecht(kernzeile.feld(spalteGeschlecht)), trenner, getFeld(person, 7), trenner));
+    }
+
+    void schreibeEpisode(const Episodenzeilen& zeilen)
+    {
+        m_betreuung->zeile(m_betreuungssatz.baue(zeilen));
+        m_diagnose->zeile(m_diagnosesatz.baue(zeilen));
+    }
+
+    void schließe()
+    {
+        m_kern->schließe();
+        m_betreuung->schließe();
+        m_diagnose->schließe();
+    }
+
+private:
+    static Dateien& dateien() { return zustand().umgebung.dateien(); }
+
+    std::unique_ptr<Schreiber> m_kern;
+    std::unique_ptr<Schreiber> m_betreuung;
+    std::unique_ptr<Schreiber> m_diagnose;
+    Satzbau m_betreuungssatz{Satzbau::Art::Betreuung, ladeAnweisungen(betreuungsanweisungen)};
+    Satzbau m_diagnosesatz{Satzbau::Art::Diagnose, ladeAnweisungen(diagnoseanweisungen)};
+};
+
+} // namespace
+
+void moImp4KDStoMorvek(const std::filesystem::path& kdsKern, const std::filesystem::path& kdsDiagnose,
+                       const std::filesystem::path& kernDat, const std::filesystem::path& betrDat,
+                       const std::filesystem::path& diagDat, const std::filesystem::path& extraExp)
+{
+    const Eingabedatei kernzeilen(kdsKern);
+    const Diagnosezeilen diagnosen(kdsDiagnose);
+    const Personen personen(extraExp);
+    Ausgabe ausgabe(kernDat, betrDat, diagDat);
+
+    std::unordered_set<std::int32_t> bekannte;
+    bool kernGeschrieben = true; // not tied to an id: a client without diagnosis row leaves it to the next pair
+    std::string_view person;
+    Satzsicht kern;
+    Satzsicht diagnose;
+    kernzeilen.fürJedeZeile([&](std::string_view zeile) {
+        kern.lies(zeile, spaltentrenner);
+        const auto kernID = leseAltnummer(kern.feld(spalteKernID), kdsKern);
+        if (bekannte.insert(kernID).second) {
+            kernGeschrieben = false;
+            person = personen.zeile(kernID);
+        }
+        for (const auto diagnosezeile : diagnosen.zu(zeile)) {
+            const auto betrID = leseAltnummer(kern.feld(spalteBetrID), kdsKern);
+            diagnose.lies(diagnosezeile, spaltentrenner);
+            if (!kernGeschrieben) {
+                ausgabe.schreibeKlient(kern, person);
+            }
+            ausgabe.schreibeEpisode({kern, diagnose, kernID, betrID});
+            kernGeschrieben = true;
+        }
+    });
+    ausgabe.schließe();
+}

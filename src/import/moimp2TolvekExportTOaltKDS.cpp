@@ -1,0 +1,214 @@
+#include "import/moimp2TolvekExportTOaltKDS.h"
+
+#include "import/AltKDSZeile.h"
+#include "import/Altnummer.h"
+#include "import/Eingabedatei.h"
+#include "import/Instruktionsdatei.h"
+#include "platform/text/Datum.h"
+#include "platform/text/Zahl.h"
+#include "store/moHelferlein.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <optional>
+#include <unordered_map>
+
+namespace {
+
+constexpr int kernspalten = 163;
+constexpr int diagnosespalten = 215;
+
+constexpr int feldBeginn = 3;
+constexpr int feldAlter = 152; ///< the value that stage 1 added
+
+/// The client's values that the core row needs; empty for a client that is missing.
+struct Klientenwerte {
+    std::string_view gebJahr;
+    std::string_view geschl;
+    std::string_view natio;
+};
+
+struct Codewort {
+    std::string_view text;
+    std::string_view code;
+};
+constexpr std::array geschlechter{Codewort{"Männlich"_t, "1"_t}, Codewort{"Weiblich"_t, "2"_t}};
+constexpr std::array nationalitäten{Codewort{"Deutsche(r)"_t, "1"_t}, Codewort{"Bürger eines EU-Landes"_t, "2"_t},
+                                    Codewort{"Sonstige"_t, "3"_t}};
+
+template <std::size_t N> std::string_view codeVon(const std::array<Codewort, N>& liste, std::string_view text)
+{
+    const auto ort = std::find_if(liste.begin(), liste.end(), [&](const Codewort& w) { return w.text == text; });
+    return ort == liste.end() ? "0"_t : ort->code;
+}
+
+class Klientenverzeichnis {
+public:
+    explicit Klientenverzeichnis(const std::filesystem::path& pfad) : m_datei(pfad)
+    {
+        m_datei.fürJedeZeile([this](std::string_view zeile) {
+            m_werte.try_emplace(führendeZahl(zeile), Klientenwerte{getFeld(zeile, 7), getFeld(zeile, 8), getFeld(zeile, 9)});
+        });
+    }
+
+    Klientenwerte werte(std::int64_t nummer) const
+    {
+        const auto ort = m_werte.find(nummer);
+        return ort == m_werte.end() ? Klientenwerte{} : ort->second;
+    }
+
+private:
+    Eingabedatei m_datei;
+    std::unordered_map<std::int64_t, Klientenwerte> m_werte;
+};
+
+/// Day, month, year; a year of two digits as the older core data set took it.
+std::optional<Datum> leseDatumDesAltKDS(std::string_view text)
+{
+    const auto teil = [&](int nummer) { return getFeldMit(text, nummer, '.'); };
+    const auto tag = leseGanzzahl16(teil(1));
+    const auto monat = leseGanzzahl16(teil(2));
+    const auto jahr = leseGanzzahl16(teil(3));
+    if (std::count(text.begin(), text.end(), '.') != 2 || !tag || !monat || !jahr || *jahr < 0) {
+        return std::nullopt;
+    }
+    constexpr int erstesJahrImAltenJahrhundert = 66;
+    const int jahrhundert = *jahr >= 100 ? 0 : (*jahr >= erstesJahrImAltenJahrhundert ? 1900 : 2000);
+    const Datum datum{*jahr + jahrhundert, *monat, *tag};
+    return istTagImKalender(datum) ? std::optional(datum) : std::nullopt;
+}
+
+/// The age value, unless the client is born behind the begin by its year alone: the first of July stands for
+/// the unknown day.
+std::string_view alter(const Klientenwerte& klient, const Betreuungssatz& satz)
+{
+    const bool ohneJahr = klein(klient.gebJahr) == "unbekannt"_t || klient.gebJahr.empty() || klient.gebJahr == " ";
+    if (ohneJahr || !istNichtNach(verbinde("01.07."_t, klient.gebJahr), satz.feld(feldBeginn))) {
+        return {};
+    }
+    return satz.feld(feldAlter);
+}
+
+void baueKernzeile(AltKDSZeile& zeile, const Klientenwerte& klient, const Betreuungssatz& satz,
+                   const std::vector<Instruktion>& instruktionen)
+{
+    for (int spalte = 1; spalte <= kernspalten; ++spalte) {
+        switch (spalte) {
+        case 1:
+            zeile.wert("2"_t);
+            break;
+        case 6:
+            zeile.wert(codeVon(geschlechter, klient.geschl));
+            break;
+        case 7:
+            zeile.wert(alter(klient, satz));
+            break;
+        case 9:
+            zeile.wert(codeVon(nationalitäten, klient.natio));
+            break;
+        default:
+            zeile.führeAus(instruktionen[static_cast<std::size_t>(spalte - 1)], spalte);
+        }
+    }
+}
+
+/// Whether any field from `von` to `bis`, every fourth one, holds something.
+bool istEinesBelegt(const Betreuungssatz& satz, int von, int bis)
+{
+    for (int feld = von; feld <= bis; feld += 4) {
+        if (!satz.istLeer(feld)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::string_view klassencode(const Betreuungssatz& satz, int spalte)
+{
+    const int feld = 51 + 4 * (spalte - 5);
+    if (satz.istLeer(feld)) {
+        return "0"_t;
+    }
+    return satz.feld(feld) == "10" ? "1"_t : "2"_t;
+}
+
+/// The columns of the diagnosis row that no instruction fills; nothing for the others.
+std::optional<std::string_view> festeDiagnosespalte(const Betreuungssatz& satz, int spalte)
+{
+    const auto belegt = [](bool ja) { return ja ? "2"_t : "0"_t; };
+    if (spalte == 1) {
+        return "2"_t;
+    }
+    if (spalte >= 5 && spalte <= 14) { // F10 to F19
+        return klassencode(satz, spalte);
+    }
+    switch (spalte) {
+    case 15: // F50
+        return belegt(!satz.istLeer(91));
+    case 16: // F55
+        return belegt(istEinesBelegt(satz, 95, 119));
+    case 17: // F63
+        return belegt(!satz.istLeer(123));
+    default:
+        return std::nullopt;
+    }
+}
+
+void baueDiagnosezeile(AltKDSZeile& zeile, const Betreuungssatz& satz, const std::vector<Instruktion>& instruktionen)
+{
+    for (int spalte = 1; spalte <= diagnosespalten; ++spalte) {
+        if (const auto wert = festeDiagnosespalte(satz, spalte)) {
+            zeile.wert(*wert);
+        } else {
+            zeile.führeAus(instruktionen[static_cast<std::size_t>(spalte - 1)], spalte);
+        }
+    }
+}
+
+/// One pass over the care lines: each becomes the row that `baue` makes of it.
+void fürJedenSatz(const Eingabedatei& betreuungen, const std::filesystem::path& ziel, Zeitraumfelder zeitraum,
+                  const std::function<void(AltKDSZeile&, const Betreuungssatz&)>& baue)
+{
+    const auto aus = zustand().umgebung.dateien().schreibeNeu(ziel);
+    Betreuungssatz satz;
+    AltKDSZeile zeile(satz, zeitraum);
+    betreuungen.fürJedeZeile([&](std::string_view text) {
+        satz.lies(text);
+        zeile.beginne();
+        baue(zeile, satz);
+        aus->zeile(zeile.text());
+    });
+    aus->schließe();
+}
+
+} // namespace
+
+bool istNichtNach(std::string_view a, std::string_view b)
+{
+    constexpr auto verboten = "/,"_t;
+    if (a.find_first_of(verboten) != std::string_view::npos || b.find_first_of(verboten) != std::string_view::npos) {
+        return false;
+    }
+    const auto erstes = leseDatumDesAltKDS(a);
+    const auto zweites = leseDatumDesAltKDS(b);
+    return erstes && zweites && *erstes <= *zweites;
+}
+
+void moimp2TolvekExportTOaltKDS(const std::filesystem::path& kernExp, const std::filesystem::path& betreuungenExp,
+                                const std::filesystem::path& aKDSKern, const std::filesystem::path& aKDSDiagnose)
+{
+    const auto& programm = zustand().pfade.programm;
+    const Klientenverzeichnis klienten(kernExp);
+    const Eingabedatei betreuungen(betreuungenExp);
+
+    const auto kern = leseInstruktionen(programm / "eKernAnweisung.txt", kernspalten);
+    const Zeitraumfelder zeitraum{kern[3].quelle, kern[4].quelle};
+    fürJedenSatz(betreuungen, aKDSKern, zeitraum, [&](AltKDSZeile& zeile, const Betreuungssatz& satz) {
+        baueKernzeile(zeile, klienten.werte(leseAltnummer(satz.feld(1), betreuungenExp)), satz, kern);
+    });
+
+    const auto diagnose = leseInstruktionen(programm / "eDiagAnweisung.txt", diagnosespalten);
+    fürJedenSatz(betreuungen, aKDSDiagnose, zeitraum,
+                 [&](AltKDSZeile& zeile, const Betreuungssatz& satz) { baueDiagnosezeile(zeile, satz, diagnose); });
+}
