@@ -7,14 +7,12 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <deque>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <initializer_list>
-#include <iterator>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -57,10 +55,8 @@ private:
 /// of all boxes. A box with a choice but without a queued answer fails the test.
 class Testumgebung : public Umgebung {
 public:
-    explicit Testumgebung(std::unique_ptr<Dateizugriff> zugriff = erzeugeDateizugriff())
-        : m_dateien(std::move(zugriff))
-    {
-    }
+    explicit Testumgebung(std::unique_ptr<Dateizugriff> zugriff = erzeugeDateizugriff()) : m_dateien(std::move(zugriff))
+    {}
 
     Datum datum{2007, 8, 2};
     bool ersteInstanz = true;
@@ -157,8 +153,8 @@ public:
 
     void legeTabellenAn() const
     {
-        for (const auto& pfad : {pfade().kernDat, pfade().betrDat, pfade().diagDat, pfade().kernBak, pfade().betrBak,
-                                 pfade().diagBak}) {
+        for (const auto& pfad :
+             {pfade().kernDat, pfade().betrDat, pfade().diagDat, pfade().kernBak, pfade().betrBak, pfade().diagBak}) {
             schreibe(pfad, "");
         }
     }
@@ -184,7 +180,9 @@ public:
         if (!strom) {
             throw std::runtime_error("cannot read " + pfad.string());
         }
-        return {std::istreambuf_iterator<char>(strom), {}};
+        std::string inhalt(std::filesystem::file_size(pfad), '\0');
+        strom.read(inhalt.data(), static_cast<std::streamsize>(inhalt.size()));
+        return inhalt;
     }
     static std::string alsInhalt(const std::vector<std::string>& zeilen)
     {

@@ -158,12 +158,13 @@ TEST_F(ReparaturenTest, StatusLeerenBestandsBleibtLeer)
 TEST_F(ReparaturenTest, BeschädigteZeilenBleibenStehen)
 {
     const std::string zuLang = satz({"", "5", "", std::string(40000, 'x')});
-    schreibe({klient("1", ""), klient("x", "a"), "", "kurz", satz({"", "1"}), zuLang, klient("99999", ""), klient("2", "")},
-             {"", betreuung("y", "", "offen"), betreuung("99999999999", "", "offen"), std::string(40000, 'z'),
-              betreuung("2", "", "offen"), betreuung("99999", "", "offen")});
+    schreibe(
+        {klient("1", ""), klient("x", "a"), "", "kurz", satz({"", "1"}), zuLang, klient("99999", ""), klient("2", "")},
+        {"", betreuung("y", "", "offen"), betreuung("99999999999", "", "offen"), std::string(40000, 'z'),
+         betreuung("2", "", "offen"), betreuung("99999", "", "offen")});
     bereinigeBetrOA();
-    erwarteKlienten({klient("1", leerstatus), klient("x", "a"), "", "kurz", satz({"", "1"}), zuLang, klient("99999", "o"),
-                     klient("2", "o")});
+    erwarteKlienten({klient("1", leerstatus), klient("x", "a"), "", "kurz", satz({"", "1"}), zuLang,
+                     klient("99999", "o"), klient("2", "o")});
     EXPECT_TRUE(lauf.umgebung.meldungen.empty());
 }
 

@@ -1,6 +1,6 @@
-#include "hilfen/Textdatei.h"
-#include "hilfen/Testumgebung.h"
 #include "store/Satzaufbau.h"
+#include "hilfen/Testumgebung.h"
+#include "hilfen/Textdatei.h"
 #include "store/moHelferlein.h"
 
 #include <map>
@@ -21,16 +21,31 @@ const std::map<std::string, Feldart>& feldarten()
 
 const std::map<std::string, Werteliste>& wertelisten()
 {
-    static const std::map<std::string, Werteliste> listen{
-        {"kurz", werte::kurz},           {"lang", werte::lang},           {"geschlecht", werte::geschlecht},
-        {"betrGru", werte::betrGru},     {"angeho", werte::angeho},       {"problem", werte::problem},
-        {"vermitt", werte::vermitt},     {"auflagen1", werte::auflagen1}, {"auflagen2", werte::auflagen2},
-        {"substitut", werte::substitut}, {"famSta", werte::famSta},       {"partner", werte::partner},
-        {"wohnung", werte::wohnung},     {"schule", werte::schule},       {"ausbild", werte::ausbild},
-        {"erwerb", werte::erwerb},       {"schulden", werte::schulden},   {"test", werte::test},
-        {"artEnd1", werte::artEnd1},     {"artEnd2", werte::artEnd2},     {"hepatitisC", werte::hepatitisC},
-        {"konsumart", werte::konsumart}, {"problEnde", werte::problEnde}, {"icdZusatz", werte::icdZusatz},
-        {"essst\xF6rung", werte::essstörung}};
+    static const std::map<std::string, Werteliste> listen{{"kurz", werte::kurz},
+                                                          {"lang", werte::lang},
+                                                          {"geschlecht", werte::geschlecht},
+                                                          {"betrGru", werte::betrGru},
+                                                          {"angeho", werte::angeho},
+                                                          {"problem", werte::problem},
+                                                          {"vermitt", werte::vermitt},
+                                                          {"auflagen1", werte::auflagen1},
+                                                          {"auflagen2", werte::auflagen2},
+                                                          {"substitut", werte::substitut},
+                                                          {"famSta", werte::famSta},
+                                                          {"partner", werte::partner},
+                                                          {"wohnung", werte::wohnung},
+                                                          {"schule", werte::schule},
+                                                          {"ausbild", werte::ausbild},
+                                                          {"erwerb", werte::erwerb},
+                                                          {"schulden", werte::schulden},
+                                                          {"test", werte::test},
+                                                          {"artEnd1", werte::artEnd1},
+                                                          {"artEnd2", werte::artEnd2},
+                                                          {"hepatitisC", werte::hepatitisC},
+                                                          {"konsumart", werte::konsumart},
+                                                          {"problEnde", werte::problEnde},
+                                                          {"icdZusatz", werte::icdZusatz},
+                                                          {"essst\xF6rung", werte::essstörung}};
     return listen;
 }
 
@@ -145,7 +160,7 @@ TEST(Satzaufbau, NamenFindenFelder)
 
 TEST(Satzaufbau, KlientenfelderInIhrerOrdnung)
 {
-    const std::vector<std::string> namen{"",        "kernID", "betrao", "Nachname",   "Vorname",      "Strasse",
+    const std::vector<std::string> namen{"",    "kernID", "betrao",     "Nachname",     "Vorname", "Strasse",
                                          "PLZ", "Ort",    "Geschlecht", "Geburtsdatum", "memoK"};
     ASSERT_EQ(klientenfelder().size(), namen.size());
     for (std::size_t i = 0; i < namen.size(); ++i) {

@@ -1,7 +1,7 @@
+#include "store/Tabellen.h"
 #include "hilfen/Testumgebung.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "store/Satzaufbau.h"
-#include "store/Tabellen.h"
 #include "store/moHelferlein.h"
 
 #include <random>

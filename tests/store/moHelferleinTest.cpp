@@ -1,6 +1,6 @@
+#include "store/moHelferlein.h"
 #include "hilfen/Testumgebung.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/moHelferlein.h"
 
 namespace {
 
@@ -134,7 +134,8 @@ TEST(VergleicheDatum, AlleOperatoren)
 
 TEST(VergleicheDatum, TeileDieKeineZahlSind)
 {
-    for (const auto falsch : {""_t, "offen"_t, "1.1"_t, "..2007"_t, "1.x.2007"_t, "1.1.99999"_t, "1.1.2007."_t, "1.1.2007.1.1"_t}) {
+    for (const auto falsch :
+         {""_t, "offen"_t, "1.1"_t, "..2007"_t, "1.x.2007"_t, "1.1.99999"_t, "1.1.2007."_t, "1.1.2007.1.1"_t}) {
         EXPECT_THROW(vergleicheDatum(falsch, ">"_t, "01.01.2007"_t), Laufzeitfehler) << falsch;
         EXPECT_THROW(vergleicheDatum("01.01.2007"_t, ">"_t, falsch), Laufzeitfehler) << falsch;
     }
@@ -277,7 +278,8 @@ TEST(LadeResText, FehlendeNummerIstLeerInKlammern)
 TEST(PfadVon, BisZumLetztenTrennzeichen)
 {
     const auto trennung = static_cast<char>(std::filesystem::path::preferred_separator);
-    EXPECT_EQ(pfadVon(verbinde("ordner", trennung, "unter", trennung, "datei.txt")), verbinde("ordner", trennung, "unter"));
+    EXPECT_EQ(pfadVon(verbinde("ordner", trennung, "unter", trennung, "datei.txt")),
+              verbinde("ordner", trennung, "unter"));
     EXPECT_EQ(pfadVon("c:datei.txt"_t), "c");
     EXPECT_EQ(pfadVon("datei.txt"_t), "");
     EXPECT_EQ(pfadVon(""_t), "");
