@@ -13,7 +13,8 @@ int jahrVon(std::string_view datum, std::string_view bezeichnung)
     constexpr std::size_t stellen = 4;
     const auto jahr = leseGanzzahl16(datum.substr(datum.size() - std::min(datum.size(), stellen)));
     if (!jahr) {
-        throw Laufzeitfehler(verbinde("Das Datum \""_t, datum, "\" der Betreuung "_t, bezeichnung, " hat keine Jahreszahl."_t));
+        throw Laufzeitfehler(
+            verbinde("Das Datum \""_t, datum, "\" der Betreuung "_t, bezeichnung, " hat keine Jahreszahl."_t));
     }
     return *jahr;
 }

@@ -34,8 +34,7 @@ void beimSchreiben(const std::function<void()>& operation)
 
 Diagnosesuche::Diagnosesuche(const std::filesystem::path& pfad)
     : m_pfad(pfad), m_inhalt(dateien().lies(pfad)), m_zeilen(m_inhalt->text())
-{
-}
+{}
 
 Diagnosesuche::Schlüssel Diagnosesuche::schlüssel(std::int32_t kernID, std::int32_t betrID)
 {
@@ -62,8 +61,7 @@ std::optional<std::string_view> Diagnosesuche::finde(std::int32_t kernID, std::i
 Exportlauf::Exportlauf(int jahr, const std::filesystem::path& ordner)
     : m_jahr(jahr), m_ordner(ordner), m_klienten(dateien().lies(zustand().pfade.kernDat)),
       m_klientenzahl(static_cast<std::int32_t>(zähleZeilen(m_klienten->text())))
-{
-}
+{}
 
 std::int32_t Exportlauf::führeAus()
 {
@@ -124,7 +122,8 @@ void Exportlauf::exportiere(std::int32_t kernID, std::string_view betrDS, std::s
     if (const auto diagDS = m_diagnosen->finde(kernID, betrID)) {
         schreibe(betrDS, *diagDS);
     } else {
-        zeigeMeldung(verbinde("Fehler im Export: zu "_t, alsText(kernID), '-', alsText(betrID), " wurde kein diagDS gefunden"_t));
+        zeigeMeldung(verbinde("Fehler im Export: zu "_t, alsText(kernID), '-', alsText(betrID),
+                              " wurde kein diagDS gefunden"_t));
     }
 }
 

@@ -36,6 +36,6 @@ struct Exportspalte {
     Werteliste werte{};
     std::optional<std::string_view> leer{}; ///< what an empty text gives; without it the coding decides
     std::string_view ersatz{};
-    std::string_view meldung = "Fehler hier"_t;  ///< box of a text that the coding does not hold
+    std::string_view meldung = "Fehler hier"_t; ///< box of a text that the coding does not hold
     int anzahl = 1;
 };

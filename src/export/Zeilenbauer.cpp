@@ -34,13 +34,15 @@ bool istGleichOhneGroß(std::string_view text, std::string_view kleinesWort)
 /// The code of the list that reads as the number.
 const std::string_view* codeMitZahl(Werteliste werte, std::int64_t zahl)
 {
-    const auto ort = std::find_if(werte.begin(), werte.end(), [&](const Wertepaar& p) { return leseGanzzahl64(p.code) == zahl; });
+    const auto ort =
+        std::find_if(werte.begin(), werte.end(), [&](const Wertepaar& p) { return leseGanzzahl64(p.code) == zahl; });
     return ort == werte.end() ? nullptr : &ort->code;
 }
 
 int altersjahre(const Datum& geburt, const Datum& beginn)
 {
-    const bool vorDemGeburtstag = geburt.monat > beginn.monat || (geburt.monat == beginn.monat && geburt.tag > beginn.tag);
+    const bool vorDemGeburtstag =
+        geburt.monat > beginn.monat || (geburt.monat == beginn.monat && geburt.tag > beginn.tag);
     return beginn.jahr - geburt.jahr - (vorDemGeburtstag ? 1 : 0);
 }
 

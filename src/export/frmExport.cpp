@@ -60,7 +60,8 @@ frmExport::frmExport(Bildschirm& hauptmenü) : Bildschirm("frmExport"_t), m_haup
     benenne("cmdOK"_t, cmdOK);
     benenne("cmdExit"_t, cmdExit);
     kopfband.titel = &lblHeader;
-    aufbau = spalte({formular({feld(Label1, comboJahr, 10)}), element(lblMeldung), platzhaltend(element(ProgressBar1))});
+    aufbau =
+        spalte({formular({feld(Label1, comboJahr, 10)}), element(lblMeldung), platzhaltend(element(ProgressBar1))});
     leiste.rechts = {&cmdOK, &cmdExit};
     beiEscape = &cmdExit;
 

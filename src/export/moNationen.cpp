@@ -182,7 +182,8 @@ constexpr std::array<Nation, 165> nationen{{
     {"ZWE"_t, "Zimbabwe"_t},
     {"CYP"_t, "Zypern"_t},
     {"XXX"_t, "andere Staaten"_t},
-    {"YYY"_t, "staatenlos"_t},}};
+    {"YYY"_t, "staatenlos"_t},
+}};
 
 } // namespace
 

@@ -12,20 +12,42 @@ constexpr std::size_t diagnosespalten = 177;
 constexpr auto null = "0"_t;
 constexpr auto fehler = "FEHLER"_t;
 
-constexpr std::array<Altcode, 13> vermittCodes{{{"0", "0"}, {"1", "1"}, {"2", "2"}, {"3", "3"}, {"15", "4"}, {"18", "5"},
-                                                {"9", "7"}, {"6", "11"}, {"19", "13"}, {"20", "20"}, {"21", "25"},
-                                                {"16", "26"}, {"17", "27"}}};
-constexpr std::array<Altcode, 6> auflagenCodes{{{"0", "0"}, {"4", "0"}, {"1", "1"}, {"2", "2"}, {"5", "3"}, {"3", "4"}}};
+constexpr std::array<Altcode, 13> vermittCodes{{{"0", "0"},
+                                                {"1", "1"},
+                                                {"2", "2"},
+                                                {"3", "3"},
+                                                {"15", "4"},
+                                                {"18", "5"},
+                                                {"9", "7"},
+                                                {"6", "11"},
+                                                {"19", "13"},
+                                                {"20", "20"},
+                                                {"21", "25"},
+                                                {"16", "26"},
+                                                {"17", "27"}}};
+constexpr std::array<Altcode, 6> auflagenCodes{
+    {{"0", "0"}, {"4", "0"}, {"1", "1"}, {"2", "2"}, {"5", "3"}, {"3", "4"}}};
 constexpr std::array<Altcode, 8> schuleCodes{
     {{"0", "0"}, {"2", "2"}, {"3", "3"}, {"4", "4"}, {"5", "5"}, {"6", "6"}, {"7", "6"}, {"8", "7"}}};
 constexpr std::array<Altcode, 8> wohnungCodes{
     {{"0", "0"}, {"1", "1"}, {"2", "2"}, {"3", "3"}, {"4", "4"}, {"5", "6"}, {"8", "8"}, {"9", "9"}}};
-constexpr std::array<Altcode, 13> erwerbCodes{{{"0", "0"}, {"1", "1"}, {"15", "2"}, {"16", "2"}, {"6", "3"}, {"7", "4"},
-                                               {"8", "5"}, {"9", "6"}, {"10", "8"}, {"11", "9"}, {"12", "10"},
-                                               {"13", "11"}, {"14", "0"}}};
+constexpr std::array<Altcode, 13> erwerbCodes{{{"0", "0"},
+                                               {"1", "1"},
+                                               {"15", "2"},
+                                               {"16", "2"},
+                                               {"6", "3"},
+                                               {"7", "4"},
+                                               {"8", "5"},
+                                               {"9", "6"},
+                                               {"10", "8"},
+                                               {"11", "9"},
+                                               {"12", "10"},
+                                               {"13", "11"},
+                                               {"14", "0"}}};
 constexpr std::array<Altcode, 8> artEndeCodes{
     {{"0", "0"}, {"10", "0"}, {"1", "1"}, {"6", "4"}, {"7", "5"}, {"8", "6"}, {"2", "7"}, {"9", "8"}}};
-constexpr std::array<Altcode, 6> problEndeCodes{{{"0", "0"}, {"1", "0"}, {"2", "1"}, {"3", "2"}, {"4", "3"}, {"5", "4"}}};
+constexpr std::array<Altcode, 6> problEndeCodes{
+    {{"0", "0"}, {"1", "0"}, {"2", "1"}, {"3", "2"}, {"4", "3"}, {"5", "4"}}};
 /// Main diagnoses that have no group in the new layout.
 constexpr std::array<Altcode, 5> ohneGruppe{{{"553", {}}, {"554", {}}, {"555", {}}, {"556", {}}, {"558", {}}}};
 
@@ -115,14 +137,16 @@ std::vector<Altregel> baueKernregeln()
                      });
     trageKopienEin(regeln, 46, 51, 63, 2);
     for (int position = 1; position <= 9; ++position) {
-        regeln.at(static_cast<std::size_t>(14 + position)) = {.art = Regelart::Kosten, .spalte = 12, .position = position};
+        regeln.at(static_cast<std::size_t>(14 + position)) = {
+            .art = Regelart::Kosten, .spalte = 12, .position = position};
     }
     return regeln;
 }
 
 std::vector<Altregel> baueDiagnoseregeln()
 {
-    constexpr std::array ersteSpalten{19, 25, 32, 39, 46, 53, 59, 65, 71, 77, 83, 89, 95, 101, 107, 113, 119, 125, 131, 137};
+    constexpr std::array ersteSpalten{19, 25, 32, 39,  46,  53,  59,  65,  71,  77,
+                                      83, 89, 95, 101, 107, 113, 119, 125, 131, 137};
     std::vector<Altregel> regeln(diagnosespalten, fest(null));
     trageKopienEin(regeln, 1, 3, 1);
     std::size_t ort = 3;

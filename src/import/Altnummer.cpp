@@ -9,7 +9,8 @@ std::int32_t leseAltnummer(std::string_view text, const std::filesystem::path& d
 {
     const auto nummer = leseGanzzahl16(text);
     if (!nummer || *nummer < 1) {
-        throw Laufzeitfehler(verbinde("\""_t, text, "\" in \""_t, pfadtext(datei), "\" ist keine Nummer von 1 bis 32767."_t));
+        throw Laufzeitfehler(
+            verbinde("\""_t, text, "\" in \""_t, pfadtext(datei), "\" ist keine Nummer von 1 bis 32767."_t));
     }
     return *nummer;
 }

@@ -15,8 +15,7 @@ public:
     /// Throws Laufzeitfehler when the file can't be read.
     explicit Eingabedatei(const std::filesystem::path& pfad)
         : m_pfad(pfad), m_inhalt(zustand().umgebung.dateien().lies(pfad))
-    {
-    }
+    {}
 
     const std::filesystem::path& pfad() const { return m_pfad; }
 

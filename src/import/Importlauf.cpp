@@ -26,10 +26,9 @@ void leereOrdner(const std::filesystem::path& ordner)
 
 Importlauf::Importlauf(std::filesystem::path kernAlt, std::filesystem::path betreuungenAlt)
     : m_kernAlt(std::move(kernAlt)), m_betreuungenAlt(std::move(betreuungenAlt)),
-      m_ordner(zustand().pfade.programm / "importDummyVerz"),
-      m_tabellen{datei("KernDat.txt"), datei("BetrDat.txt"), datei("DiagDat.txt"), datei("dummyDat.txt")}
-{
-}
+      m_ordner(zustand().pfade.programm / "importDummyVerz"), m_tabellen{datei("KernDat.txt"), datei("BetrDat.txt"),
+                                                                         datei("DiagDat.txt"), datei("dummyDat.txt")}
+{}
 
 Importzahlen Importlauf::führeAus()
 {

@@ -17,10 +17,14 @@ struct Artname {
 };
 
 constexpr std::array artnamen{
-    Artname{"wert"_t, Instruktionsart::Wert},           Artname{"option"_t, Instruktionsart::Option},
-    Artname{"betend"_t, Instruktionsart::Betreuungsende}, Artname{"icdpsy"_t, Instruktionsart::IcdZusatz},
-    Artname{"lebSit"_t, Instruktionsart::LebSit},       Artname{"lebSitLEER"_t, Instruktionsart::LebSitLeer},
-    Artname{"erstkos"_t, Instruktionsart::Kostenträger}, Artname{"icd0000"_t, Instruktionsart::Icd0000},
+    Artname{"wert"_t, Instruktionsart::Wert},
+    Artname{"option"_t, Instruktionsart::Option},
+    Artname{"betend"_t, Instruktionsart::Betreuungsende},
+    Artname{"icdpsy"_t, Instruktionsart::IcdZusatz},
+    Artname{"lebSit"_t, Instruktionsart::LebSit},
+    Artname{"lebSitLEER"_t, Instruktionsart::LebSitLeer},
+    Artname{"erstkos"_t, Instruktionsart::Kostenträger},
+    Artname{"icd0000"_t, Instruktionsart::Icd0000},
     Artname{"betDau"_t, Instruktionsart::Dauer},
 };
 
@@ -50,8 +54,9 @@ public:
 
     [[noreturn]] void scheitere(std::string_view grund) const
     {
-        throw Laufzeitfehler(verbinde("Die Anweisungsdatei \""_t, pfadtext(m_pfad), "\" ist nicht zu gebrauchen, Wert "_t,
-                                      std::to_string(m_nummer + 1), ": "_t, grund));
+        throw Laufzeitfehler(verbinde("Die Anweisungsdatei \""_t, pfadtext(m_pfad),
+                                      "\" ist nicht zu gebrauchen, Wert "_t, std::to_string(m_nummer + 1), ": "_t,
+                                      grund));
     }
 
 private:

@@ -11,7 +11,18 @@
 /// older care record. They are data of the installation: a facility whose older files are laid out otherwise
 /// changes them and not the program.
 
-enum class Instruktionsart { Wert, Option, Betreuungsende, IcdZusatz, LebSit, LebSitLeer, Kostenträger, Icd0000, Dauer, Unbekannt };
+enum class Instruktionsart {
+    Wert,
+    Option,
+    Betreuungsende,
+    IcdZusatz,
+    LebSit,
+    LebSitLeer,
+    Kostenträger,
+    Icd0000,
+    Dauer,
+    Unbekannt
+};
 
 struct Instruktion {
     static constexpr std::size_t paarzahl = 13;

@@ -26,7 +26,7 @@ const std::string& Satzbau::baue(const Episodenzeilen& zeilen)
         } else if (anweisung.blatt == 'D') {
             m_wert = zeilen.diagnose.feld(anweisung.spalte);
         }
-        if (anweisung.art == Anweisungsart::Icd0000) {
+        if (anweisung.art == Feldanweisungsart::Icd0000) {
             fügeHauptdiagnose(anweisung, zeilen);
             continue;
         }
@@ -37,54 +37,54 @@ const std::string& Satzbau::baue(const Episodenzeilen& zeilen)
     return m_satz;
 }
 
-void Satzbau::füge(const Anweisung& anweisung, const Episodenzeilen& zeilen)
+void Satzbau::füge(const Feldanweisung& anweisung, const Episodenzeilen& zeilen)
 {
     switch (anweisung.art) {
-    case Anweisungsart::Option:
+    case Feldanweisungsart::Option:
         m_satz.append(schlageNach(anweisung, m_wert, m_ablage));
         break;
-    case Anweisungsart::Zahl:
+    case Feldanweisungsart::Zahl:
         m_satz.append(zahl());
         break;
-    case Anweisungsart::Text:
+    case Feldanweisungsart::Text:
         m_satz.append(m_wert);
         break;
-    case Anweisungsart::Datum:
+    case Feldanweisungsart::Datum:
         m_satz.append(m_wert.empty() ? "offen"_t : m_wert);
         break;
-    case Anweisungsart::IdKern:
+    case Feldanweisungsart::IdKern:
         m_satz.append(alsText(zeilen.kernID));
         break;
-    case Anweisungsart::IdBetr:
+    case Feldanweisungsart::IdBetr:
         m_satz.append(alsText(zeilen.betrID));
         break;
-    case Anweisungsart::Nation:
+    case Feldanweisungsart::Nation:
         m_satz.append(getNationZuCode(m_wert));
         break;
-    case Anweisungsart::OderKA:
+    case Feldanweisungsart::OderKA:
         m_satz.append(m_wert.empty() ? "k.A."_t : m_wert);
         break;
-    case Anweisungsart::HdOhne:
+    case Feldanweisungsart::HdOhne:
         m_satz.append(wahrWenn(führendeZahl(m_wert) == m_hdOhne++));
         break;
-    case Anweisungsart::IvKonsum:
+    case Feldanweisungsart::IvKonsum:
         m_satz.append(wahrWenn(führendeZahl(m_wert) == m_ivKonsum++));
         break;
-    case Anweisungsart::OhneErstesZeichen:
+    case Feldanweisungsart::OhneErstesZeichen:
         m_satz.append(m_wert.substr(m_wert.empty() ? 0 : 1));
         break;
-    case Anweisungsart::HdAlter: // filled by the Icd0000 behind it
-    case Anweisungsart::Icd0000:
-    case Anweisungsart::Leer:
+    case Feldanweisungsart::HdAlter: // filled by the Icd0000 behind it
+    case Feldanweisungsart::Icd0000:
+    case Feldanweisungsart::Leer:
         break;
-    case Anweisungsart::Unbekannt:
+    case Feldanweisungsart::Unbekannt:
         m_satz.push_back('?');
         break;
     }
 }
 
 // The main diagnosis brings its age of first consumption into the field before it.
-void Satzbau::fügeHauptdiagnose(const Anweisung& anweisung, const Episodenzeilen& zeilen)
+void Satzbau::fügeHauptdiagnose(const Feldanweisung& anweisung, const Episodenzeilen& zeilen)
 {
     const auto ergebnis = schlageNach(anweisung, m_wert, m_ablage);
     if (ergebnis == "1") {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "export/Satzsicht.h"
-#include "import/Anweisung.h"
+#include "import/Feldanweisung.h"
 
 #include <cstdint>
 #include <string>
@@ -22,22 +22,22 @@ class Satzbau {
 public:
     enum class Art { Betreuung, Diagnose };
 
-    Satzbau(Art art, std::vector<Anweisung> anweisungen) : m_art(art), m_anweisungen(std::move(anweisungen)) {}
+    Satzbau(Art art, std::vector<Feldanweisung> anweisungen) : m_art(art), m_anweisungen(std::move(anweisungen)) {}
 
     /// The record; valid until the next call.
     const std::string& baue(const Episodenzeilen& zeilen);
 
 private:
-    void füge(const Anweisung& anweisung, const Episodenzeilen& zeilen);
-    void fügeHauptdiagnose(const Anweisung& anweisung, const Episodenzeilen& zeilen);
+    void füge(const Feldanweisung& anweisung, const Episodenzeilen& zeilen);
+    void fügeHauptdiagnose(const Feldanweisung& anweisung, const Episodenzeilen& zeilen);
     std::string_view zahl() const;
 
     Art m_art;
-    std::vector<Anweisung> m_anweisungen;
+    std::vector<Feldanweisung> m_anweisungen;
     std::string m_satz;
     std::string m_ablage;
-    std::string_view m_wert;        ///< of the last row that had a source
-    std::size_t m_letztesFeld = 0;  ///< where the field written just before begins
+    std::string_view m_wert;       ///< of the last row that had a source
+    std::size_t m_letztesFeld = 0; ///< where the field written just before begins
     int m_hdOhne = 0;
     int m_ivKonsum = 0;
 };

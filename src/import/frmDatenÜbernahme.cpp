@@ -113,8 +113,8 @@ void frmDatenÜbernahme::importiere(Importlauf& lauf)
     const auto zahlen = lauf.führeAus();
     cmdOK.sperre();
     cmdBeiDerArbeit.verberge();
-    lblStatus.setzeText(verbinde("Import erfolgreich. #Klienten: "_t, std::to_string(zahlen.klienten), ", #Betreuungen: "_t,
-                                 std::to_string(zahlen.betreuungen)));
+    lblStatus.setzeText(verbinde("Import erfolgreich. #Klienten: "_t, std::to_string(zahlen.klienten),
+                                 ", #Betreuungen: "_t, std::to_string(zahlen.betreuungen)));
 }
 
 void frmDatenÜbernahme::melde(std::string_view status, int fortschritt)

@@ -80,8 +80,8 @@ std::string alterswert(std::string_view klient, std::string_view betreuung, cons
     const auto beginn = leseAltdatum(getFeld(betreuung, feldBeginn), betreuungen.pfad());
     const int jahr = ausTageszahl(alsTageszahl(beginn) - alsTageszahl(geboren)).jahr;
     if (jahr < 100 || jahr > 9999) {
-        throw Laufzeitfehler(verbinde("Von \""_t, geburt, "\" bis zum Betreuungsbeginn in \""_t, pfadtext(betreuungen.pfad()),
-                                      "\" ist es zu weit."_t));
+        throw Laufzeitfehler(verbinde("Von \""_t, geburt, "\" bis zum Betreuungsbeginn in \""_t,
+                                      pfadtext(betreuungen.pfad()), "\" ist es zu weit."_t));
     }
     return verbinde(static_cast<char>('0' + jahr / 10 % 10), static_cast<char>('0' + jahr % 10));
 }

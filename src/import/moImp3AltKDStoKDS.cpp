@@ -29,7 +29,8 @@ int kostenposition(std::string_view code)
 
 const Altcode* findeCode(const Altregel& regel, std::string_view alt)
 {
-    const auto ort = std::find_if(regel.codes.begin(), regel.codes.end(), [&](const Altcode& c) { return c.alt == alt; });
+    const auto ort =
+        std::find_if(regel.codes.begin(), regel.codes.end(), [&](const Altcode& c) { return c.alt == alt; });
     return ort == regel.codes.end() ? nullptr : &*ort;
 }
 
@@ -85,7 +86,8 @@ private:
     std::string m_neu;
 };
 
-void setzeDateiUm(const std::filesystem::path& von, const std::filesystem::path& nach, const std::vector<Altregel>& regeln)
+void setzeDateiUm(const std::filesystem::path& von, const std::filesystem::path& nach,
+                  const std::vector<Altregel>& regeln)
 {
     const Eingabedatei ein(von);
     const auto aus = zustand().umgebung.dateien().schreibeNeu(nach);

@@ -32,7 +32,7 @@ std::string_view schlüssel(std::string_view zeile)
     const auto zweites = zeile.find(spaltentrenner, erstes + 1);
     const auto ende = zeile.find(spaltentrenner, zweites + 1);
     return erstes == std::string_view::npos || zweites == std::string_view::npos ? std::string_view{}
-                                                                               : zeile.substr(erstes, ende - erstes);
+                                                                                 : zeile.substr(erstes, ende - erstes);
 }
 
 /// The clients' personal data by number.
@@ -82,11 +82,11 @@ private:
 /// The three tables being written.
 class Ausgabe {
 public:
-    Ausgabe(const std::filesystem::path& kernDat, const std::filesystem::path& betrDat, const std::filesystem::path& diagDat)
+    Ausgabe(const std::filesystem::path& kernDat, const std::filesystem::path& betrDat,
+            const std::filesystem::path& diagDat)
         : m_kern(dateien().schreibeNeu(kernDat)), m_betreuung(dateien().schreibeNeu(betrDat)),
           m_diagnose(dateien().schreibeNeu(diagDat))
-    {
-    }
+    {}
 
     void schreibeKlient(const Satzsicht& kernzeile, std::string_view person)
     {

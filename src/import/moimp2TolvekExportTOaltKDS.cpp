@@ -48,7 +48,8 @@ public:
     explicit Klientenverzeichnis(const std::filesystem::path& pfad) : m_datei(pfad)
     {
         m_datei.fürJedeZeile([this](std::string_view zeile) {
-            m_werte.try_emplace(führendeZahl(zeile), Klientenwerte{getFeld(zeile, 7), getFeld(zeile, 8), getFeld(zeile, 9)});
+            m_werte.try_emplace(führendeZahl(zeile),
+                                Klientenwerte{getFeld(zeile, 7), getFeld(zeile, 8), getFeld(zeile, 9)});
         });
     }
 

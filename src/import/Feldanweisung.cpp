@@ -1,4 +1,4 @@
-#include "import/Anweisung.h"
+#include "import/Feldanweisung.h"
 
 #include "export/Satzsicht.h"
 #include "platform/text/Zahl.h"
@@ -15,38 +15,38 @@ constexpr int letzterCode = 60;
 
 struct Artname {
     std::string_view name;
-    Anweisungsart art;
+    Feldanweisungsart art;
 };
 
 constexpr std::array artnamen{
-    Artname{"option"_t, Anweisungsart::Option},
-    Artname{"zahl"_t, Anweisungsart::Zahl},
-    Artname{"text"_t, Anweisungsart::Text},
-    Artname{"datum"_t, Anweisungsart::Datum},
-    Artname{"idKern"_t, Anweisungsart::IdKern},
-    Artname{"idBetr"_t, Anweisungsart::IdBetr},
-    Artname{"nation"_t, Anweisungsart::Nation},
-    Artname{"kinder"_t, Anweisungsart::OderKA},
-    Artname{"zuvor"_t, Anweisungsart::OderKA},
-    Artname{"kontakte"_t, Anweisungsart::OderKA},
-    Artname{"hdAlter"_t, Anweisungsart::HdAlter},
-    Artname{"icd0000"_t, Anweisungsart::Icd0000},
-    Artname{"hdOhne"_t, Anweisungsart::HdOhne},
-    Artname{"ivKonsum"_t, Anweisungsart::IvKonsum},
-    Artname{"icdPsy"_t, Anweisungsart::OhneErstesZeichen},
-    Artname{"icdNeu"_t, Anweisungsart::OhneErstesZeichen},
-    Artname{"<leer>"_t, Anweisungsart::Leer},
+    Artname{"option"_t, Feldanweisungsart::Option},
+    Artname{"zahl"_t, Feldanweisungsart::Zahl},
+    Artname{"text"_t, Feldanweisungsart::Text},
+    Artname{"datum"_t, Feldanweisungsart::Datum},
+    Artname{"idKern"_t, Feldanweisungsart::IdKern},
+    Artname{"idBetr"_t, Feldanweisungsart::IdBetr},
+    Artname{"nation"_t, Feldanweisungsart::Nation},
+    Artname{"kinder"_t, Feldanweisungsart::OderKA},
+    Artname{"zuvor"_t, Feldanweisungsart::OderKA},
+    Artname{"kontakte"_t, Feldanweisungsart::OderKA},
+    Artname{"hdAlter"_t, Feldanweisungsart::HdAlter},
+    Artname{"icd0000"_t, Feldanweisungsart::Icd0000},
+    Artname{"hdOhne"_t, Feldanweisungsart::HdOhne},
+    Artname{"ivKonsum"_t, Feldanweisungsart::IvKonsum},
+    Artname{"icdPsy"_t, Feldanweisungsart::OhneErstesZeichen},
+    Artname{"icdNeu"_t, Feldanweisungsart::OhneErstesZeichen},
+    Artname{"<leer>"_t, Feldanweisungsart::Leer},
 };
 
-Anweisungsart artVon(std::string_view name)
+Feldanweisungsart artVon(std::string_view name)
 {
     const auto ort = std::find_if(artnamen.begin(), artnamen.end(), [&](const Artname& a) { return a.name == name; });
-    return ort == artnamen.end() ? Anweisungsart::Unbekannt : ort->art;
+    return ort == artnamen.end() ? Feldanweisungsart::Unbekannt : ort->art;
 }
 
-Anweisung anweisungAus(const Satzsicht& zeile)
+Feldanweisung anweisungAus(const Satzsicht& zeile)
 {
-    Anweisung anweisung;
+    Feldanweisung anweisung;
     const auto quelle = zeile.feld(1);
     if (!quelle.empty()) {
         anweisung.blatt = quelle.front();
@@ -61,13 +61,13 @@ Anweisung anweisungAus(const Satzsicht& zeile)
 
 } // namespace
 
-std::vector<Anweisung> ladeAnweisungen(int erste)
+std::vector<Feldanweisung> ladeAnweisungen(int erste)
 {
     const auto anzahl = leseGanzzahl16(ladeResText(erste));
     if (!anzahl) {
         throw Laufzeitfehler(verbinde("Die Anweisungstabelle "_t, alsText(erste), " fehlt."_t));
     }
-    std::vector<Anweisung> anweisungen;
+    std::vector<Feldanweisung> anweisungen;
     for (int i = 1; i <= *anzahl; ++i) {
         const auto zeile = ladeResText(erste + i);
         anweisungen.push_back(anweisungAus(Satzsicht(zeile)));
@@ -75,7 +75,7 @@ std::vector<Anweisung> ladeAnweisungen(int erste)
     return anweisungen;
 }
 
-std::string_view schlageNach(const Anweisung& anweisung, std::string_view wert, std::string& ablage)
+std::string_view schlageNach(const Feldanweisung& anweisung, std::string_view wert, std::string& ablage)
 {
     for (const auto& [ergebnis, code] : anweisung.paare) {
         if (code == "<sonst>") {

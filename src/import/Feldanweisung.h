@@ -5,15 +5,29 @@
 #include <string_view>
 #include <vector>
 
-enum class Anweisungsart {
-    Option, Zahl, Text, Datum, IdKern, IdBetr, Nation, OderKA, HdAlter, Icd0000, HdOhne, IvKonsum, OhneErstesZeichen, Leer, Unbekannt
+enum class Feldanweisungsart {
+    Option,
+    Zahl,
+    Text,
+    Datum,
+    IdKern,
+    IdBetr,
+    Nation,
+    OderKA,
+    HdAlter,
+    Icd0000,
+    HdOhne,
+    IvKonsum,
+    OhneErstesZeichen,
+    Leer,
+    Unbekannt
 };
 
 /// A row of an instruction table, read once for a run: where a field's value comes from and what it becomes.
-struct Anweisung {
-    char blatt = 0;  ///< 'K': core row, 'D': diagnosis row, 0: no source
+struct Feldanweisung {
+    char blatt = 0; ///< 'K': core row, 'D': diagnosis row, 0: no source
     int spalte = 0;
-    Anweisungsart art = Anweisungsart::Unbekannt;
+    Feldanweisungsart art = Feldanweisungsart::Unbekannt;
     struct Paar {
         std::string ergebnis;
         std::string code;
@@ -22,8 +36,8 @@ struct Anweisung {
 };
 
 /// The table whose count stands in the string resource `erste`. A count that is no number is a Laufzeitfehler.
-std::vector<Anweisung> ladeAnweisungen(int erste);
+std::vector<Feldanweisung> ladeAnweisungen(int erste);
 
 /// The result for the code; "<leer>" and "<text>" are resolved. A code that the row lacks gives the text
 /// "'…' nicht gefunden", which stays in the record.
-std::string_view schlageNach(const Anweisung& anweisung, std::string_view wert, std::string& ablage);
+std::string_view schlageNach(const Feldanweisung& anweisung, std::string_view wert, std::string& ablage);
