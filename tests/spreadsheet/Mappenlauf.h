@@ -1,0 +1,70 @@
+#pragma once
+
+#include "diagnosis/moData.h"
+#include "hilfen/Testumgebung.h"
+#include "platform/mappe/Arbeitsmappe.h"
+#include "spreadsheet/Auswertung.h"
+#include "spreadsheet/Rohtabellen.h"
+#include "spreadsheet/moErstelleHeader.h"
+#include "spreadsheet/moVariablen.h"
+
+/// A record with so many fields, all empty but the ones given by number.
+inline std::string satzMit(int felder, std::initializer_list<std::pair<int, std::string_view>> inhalte)
+{
+    std::string zeile;
+    for (int feld = 1; feld <= felder; ++feld) {
+        for (const auto& [nummer, text] : inhalte) {
+            if (nummer == feld) {
+                zeile.append(text);
+            }
+        }
+        if (feld < felder) {
+            zeile.push_back(trenner);
+        }
+    }
+    return zeile;
+}
+
+/// The workbook of three tables, made by the steps of the spreadsheet output.
+class Mappenlauf {
+public:
+    Mappenlauf()
+    {
+        baueProblemKatalog();
+        registriereVariablen(m_lauf.stand.ressourcen);
+    }
+
+    void schreibe(const std::vector<std::string>& kern, const std::vector<std::string>& betr,
+                  const std::vector<std::string>& diag)
+    {
+        const Rohblätter blätter = legeBlätterAn(mappe);
+        const Tabellen tabellen{lege(m_lauf.pfade().kernDat, kern), lege(m_lauf.pfade().betrDat, betr),
+                                lege(m_lauf.pfade().diagDat, diag)};
+        const Kopfzeilen betrKopf = erstelleBetrHeader("excel");
+        schreibeKernDat(blätter.kern, tabellen.kern, erstelleKernHeader());
+        schreibeBetrDat(blätter.betr, tabellen.betr, betrKopf);
+        schreibeDiagDat(blätter.diag, tabellen.diag, erstelleDiagHeader());
+        Auswertung auswertung(mappe, tabellen);
+        auswertung.schreibeHauptdiagnosen();
+        auswertung.schreibeKlienten();
+        auswertung.schreibeBetreuungen(betrKopf[3], [this](int nummer) { gemeldet.push_back(nummer); });
+    }
+
+    const Blatt& blatt(std::string_view name) const { return *mappe.finde(name); }
+    std::string text(std::string_view name, int zeile, int spalte) const
+    {
+        return alsText(blatt(name).zelle(zeile, spalte));
+    }
+
+    Arbeitsmappe mappe;
+    std::vector<int> gemeldet; ///< the records that were reported
+
+private:
+    std::string_view lege(const std::filesystem::path& pfad, const std::vector<std::string>& zeilen)
+    {
+        Testlauf::schreibeZeilen(pfad, zeilen);
+        return liesTabelle(mappe, pfad);
+    }
+
+    Testlauf m_lauf;
+};

@@ -1,0 +1,152 @@
+#include "spreadsheet/frmZuExcel.h"
+#include "platform/umgebung/Laufzeitfehler.h"
+#include "spreadsheet/Mappenlauf.h"
+
+namespace {
+
+/// Keeps the places of windows in memory.
+class Wechselersatz : public Bildschirmwechsel {
+public:
+    double oben = 0;
+    double links = 0;
+    double gespeichertOben = -1;
+
+    void setzeFensterPosition(Bildschirm&) override {}
+    void speichereRahmenlage(const Bildschirm&) override {}
+    void holeFensterlage(Bildschirm& bildschirm) override
+    {
+        bildschirm.oben = oben;
+        bildschirm.links = links;
+    }
+    void speichereFensterlage(const Bildschirm& bildschirm) override { gespeichertOben = bildschirm.oben; }
+    void zeigeDatenÜbernahme(Bildschirm&, Bildschirm&) override {}
+    void zeigeZeitraum(Bildschirm&, Bildschirm&) override {}
+    void zeigeDiagnoseErstellen(Bildschirm&, Bildschirm&) override {}
+    void zeigeCodeAuswahl(Bildschirm&, Bildschirm&) override {}
+    void zeigeMemo(Bildschirm&, bool) override {}
+    void zeigeAufrufer() override {}
+    void aktualisiereAufrufer() override {}
+    void zeigeMemoAufrufer() override {}
+};
+
+class FrmZuExcel : public testing::Test {
+protected:
+    FrmZuExcel()
+    {
+        baueProblemKatalog();
+        registriereVariablen(lauf.stand.ressourcen);
+        lauf.stand.wechsel = &wechsel;
+        lauf.legeTabellenAn();
+        lauf.umgebung.beiMappe = [this](Arbeitsmappe& mappe) {
+            ++übergaben;
+            standBeiÜbergabe = zuExcel.ProgressBar1.wert();
+            übergebene = std::move(mappe);
+        };
+    }
+
+    void öffne()
+    {
+        lauf.stand.folge.zeige(zuExcel);
+        lauf.stand.folge.führeAktivierungenAus();
+    }
+
+    Testlauf lauf;
+    Wechselersatz wechsel;
+    Bildschirm hauptmenü{"frmHauptmen\xFC"};
+    frmZuExcel zuExcel{hauptmenü};
+    Arbeitsmappe übergebene;
+    int übergaben = 0;
+    int standBeiÜbergabe = -1;
+};
+
+TEST_F(FrmZuExcel, einLaufFülltDenBalkenUndZeigtFertig)
+{
+    std::vector<std::pair<int, std::string>> schritte;
+    auto beobachtung = zuExcel.ProgressBar1.geändert.abonniere(
+        [&] { schritte.emplace_back(zuExcel.ProgressBar1.wert(), zuExcel.lblStatus.text()); });
+    öffne();
+    EXPECT_EQ(zuExcel.ProgressBar1.wert(), 7);
+    EXPECT_EQ(zuExcel.lblStatus.text(), "Fertig");
+    EXPECT_EQ(zuExcel.lblText.text(), "bei der Arbeit... (bitte warten)");
+    EXPECT_TRUE(zuExcel.cmdFertig.istSichtbar());
+    EXPECT_EQ(übergaben, 1);
+    EXPECT_EQ(standBeiÜbergabe, 6);
+    const std::vector<std::pair<int, std::string>> erwartet{{1, "schreibe BetrDat"},
+                                                            {2, "schreibe DiagDat"},
+                                                            {3, "schreibe DiagDat"},
+                                                            {4, "suche Hauptdiagnose-Daten"},
+                                                            {5, "suche Kern-Daten"},
+                                                            {6, "suche Betreuungsdaten"},
+                                                            {7, "Fertig"}};
+    EXPECT_EQ(schritte, erwartet);
+}
+
+TEST_F(FrmZuExcel, einZweitesAktivwerdenBeginntNichtVonVorn)
+{
+    öffne();
+    lauf.stand.folge.sperre(zuExcel);
+    lauf.stand.folge.gibFrei(zuExcel);
+    lauf.stand.folge.führeAktivierungenAus();
+    EXPECT_EQ(übergaben, 1);
+}
+
+TEST_F(FrmZuExcel, ohneTabellenprogrammGleichZurück)
+{
+    lauf.umgebung.tabellenprogramm = false;
+    öffne();
+    ASSERT_EQ(lauf.umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(lauf.umgebung.meldungen[0].text,
+              "Tolvek7 v7.0.0 konnte Excel nicht finden.\r\nNichts wurde ver\xE4ndert");
+    EXPECT_EQ(lauf.umgebung.meldungen[0].symbol, Symbol::Stop);
+    EXPECT_EQ(übergaben, 0);
+    EXPECT_TRUE(lauf.stand.folge.istSichtbar(hauptmenü));
+    EXPECT_FALSE(lauf.stand.folge.istGeladen(zuExcel));
+}
+
+TEST_F(FrmZuExcel, fertigBringtDasHauptmenüUndMerktDenOrt)
+{
+    öffne();
+    zuExcel.oben = 123;
+    zuExcel.cmdFertig.klicke();
+    EXPECT_TRUE(lauf.stand.folge.istSichtbar(hauptmenü));
+    EXPECT_FALSE(lauf.stand.folge.istGeladen(zuExcel));
+    EXPECT_EQ(wechsel.gespeichertOben, 123);
+}
+
+TEST_F(FrmZuExcel, derRahmenStehtWoDieSchlüsselSagenUndDasFensterInSeinerMitte)
+{
+    lauf.stand.rahmen.setzeGröße(20000, 12000);
+    wechsel.oben = 300;
+    wechsel.links = 600;
+    öffne();
+    EXPECT_EQ(lauf.stand.rahmen.oben(), 300);
+    EXPECT_EQ(lauf.stand.rahmen.links(), 600);
+    EXPECT_EQ(zuExcel.oben + zuExcel.höhe / 2, 300 + 6000);
+    EXPECT_EQ(zuExcel.links + zuExcel.breite / 2, 600 + 10000);
+}
+
+TEST_F(FrmZuExcel, eineFehlendeTabelleIstEinLaufzeitfehler)
+{
+    std::filesystem::remove(lauf.pfade().betrDat);
+    EXPECT_THROW(öffne(), Laufzeitfehler);
+    EXPECT_EQ(übergaben, 0);
+}
+
+TEST_F(FrmZuExcel, zuVieleSätzeWerdenNichtÜbergeben)
+{
+    Testlauf::schreibeZeilen(lauf.pfade().diagDat, std::vector<std::string>(32767, "1\xB7"
+                                                                                   "1"));
+    EXPECT_THROW(öffne(), Laufzeitfehler);
+    EXPECT_EQ(übergaben, 0);
+}
+
+TEST_F(FrmZuExcel, dieMappeBleibtGanzWennDieTabellenSichÄndern)
+{
+    Testlauf::schreibeZeilen(lauf.pfade().kernDat, {satz({"", "1", "a", "Adler"})});
+    öffne();
+    std::filesystem::remove(lauf.pfade().kernDat);
+    Testlauf::schreibeZeilen(lauf.pfade().kernDat, {satz({"", "1", "a", "Bussard"})});
+    EXPECT_EQ(alsText(übergebene.finde("KernDat")->zelle(4, 3)), "Adler");
+}
+
+} // namespace
