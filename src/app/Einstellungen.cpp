@@ -7,7 +7,6 @@
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "zustand/Zustand.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -63,18 +62,22 @@ bool kopiereMitWert(std::string_view inhalt, Schreiber& ziel, std::string_view g
 
 std::optional<double> leseKommazahl(std::string_view text)
 {
-    std::string ziffern(getrimmt(text));
-    if (ziffern.starts_with('+')) {
-        ziffern.erase(0, 1);
+    auto rest = getrimmt(text);
+    const bool negativ = rest.starts_with('-');
+    if (negativ || rest.starts_with('+')) {
+        rest.remove_prefix(1);
     }
-    if (ziffern.find_first_not_of("-0123456789.,") != keinZeichen) {
+    if (rest.find_first_not_of("0123456789.,") != keinZeichen) {
         return std::nullopt;
     }
-    std::replace(ziffern.begin(), ziffern.end(), ',', '.');
+    const auto ziffern = ersetzt(rest, ","_t, "."_t);
     double zahl = 0;
     const char* const ende = ziffern.data() + ziffern.size();
     const auto [gelesen, fehler] = std::from_chars(ziffern.data(), ende, zahl, std::chars_format::fixed);
-    return fehler == std::errc() && gelesen == ende ? std::optional(zahl) : std::nullopt;
+    if (fehler != std::errc() || gelesen != ende) {
+        return std::nullopt;
+    }
+    return negativ ? -zahl : zahl;
 }
 
 } // namespace

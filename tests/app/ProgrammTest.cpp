@@ -100,7 +100,7 @@ TEST_F(Start, SichertNachDenReparaturen)
 
 TEST_F(Start, FehlendeTabelleBeendetMitStatus1)
 {
-    schreibeTabellen({satz({"", "1", "", "Adler"})}, {});
+    schreibeTabellen({satz({"", "1", "", "Adler", "", "", "", "", "keine Angaben", "unbekannt", ""})}, {});
     fs::remove(pfade.diagDat);
     Programm programm(umgebung);
     programm.starte();
