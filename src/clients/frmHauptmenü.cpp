@@ -75,10 +75,13 @@ void frmHauptmenü::baueMenü()
 void frmHauptmenü::ordneAn()
 {
     kopfband.titel = &lblHeader;
-    aufbau = karten({spalte({listenkarte("Klienten"_t, lvwKlienten, cmdKlientenHinzufügen, cmdKlientenBearbeiten,
-                                         cmdKlientenLöschen)}),
-                     spalte({listenkarte("Betreuungen des ausgewählten Klienten"_t, lvwBetreuungen,
-                                         cmdBetreuungHinzufügen, cmdBetreuungBearbeiten, cmdBetreuungLöschen)})});
+    // four short columns need no more; the clients take the rest
+    constexpr double breiteDerBetreuungen = 29;
+    auto klienten = spalte(
+        {listenkarte("Klienten"_t, lvwKlienten, cmdKlientenHinzufügen, cmdKlientenBearbeiten, cmdKlientenLöschen)});
+    auto betreuungen = spalte({listenkarte("Betreuungen des ausgewählten Klienten"_t, lvwBetreuungen,
+                                           cmdBetreuungHinzufügen, cmdBetreuungBearbeiten, cmdBetreuungLöschen)});
+    aufbau = karten({std::move(klienten), breit(std::move(betreuungen), breiteDerBetreuungen)});
     leiste = {.links = {&cmdRollback, &cmdDatenübernahme}, .rechts = {&cmdExit}};
     beiEscape = &cmdExit;
 }
