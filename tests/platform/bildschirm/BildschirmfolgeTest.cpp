@@ -1,0 +1,147 @@
+#include "platform/bildschirm/Bildschirmfolge.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Probeschirm : public Bildschirm {
+public:
+    explicit Probeschirm(std::string_view name) : Bildschirm(name)
+    {
+        aufbau = anordnung::spalte({anordnung::element(feld), anordnung::decke(anordnung::element(unten), decke)});
+        leiste.rechts = {&ok};
+        beiEscape = &ok;
+        benenne("feld"_t, feld);
+        benenne("unten"_t, unten);
+        benenne("decke"_t, decke);
+        benenne("ok"_t, ok);
+    }
+    void beiAktivierung() override
+    {
+        ++aktivierungen;
+        if (danach) {
+            danach();
+        }
+    }
+    void beiEntladen() override { ++entladungen; }
+
+    Textfeld feld;
+    Textfeld unten;
+    Schaltfläche decke;
+    Schaltfläche ok;
+    int aktivierungen = 0;
+    int entladungen = 0;
+    std::function<void()> danach;
+};
+
+} // namespace
+
+TEST(Bildschirmfolge, AktivierungFolgtNachDerAktionUndNurWenn)
+{
+    Bildschirmfolge folge;
+    Probeschirm a("a");
+    Probeschirm b("b");
+    folge.zeige(a);
+    EXPECT_EQ(a.aktivierungen, 0);
+    folge.führeAktivierungenAus();
+    EXPECT_EQ(a.aktivierungen, 1);
+
+    folge.sperre(a);
+    folge.zeige(b);
+    folge.führeAktivierungenAus();
+    EXPECT_EQ(folge.inGebrauch(), &b);
+    EXPECT_EQ(a.aktivierungen, 1);
+
+    folge.gibFrei(a);
+    folge.entlade(b);
+    EXPECT_EQ(b.entladungen, 1);
+    folge.führeAktivierungenAus();
+    EXPECT_EQ(a.aktivierungen, 2);
+    EXPECT_EQ(folge.inGebrauch(), &a);
+}
+
+TEST(Bildschirmfolge, WerGleichVerborgenWirdWirdNichtAktiv)
+{
+    Bildschirmfolge folge;
+    Probeschirm a("a");
+    folge.zeige(a);
+    folge.verberge(a);
+    folge.führeAktivierungenAus();
+    EXPECT_EQ(a.aktivierungen, 0);
+    EXPECT_EQ(folge.inGebrauch(), nullptr);
+}
+
+TEST(Bildschirmfolge, ÜbergabeInDerAktivierungKommtAuchNochDran)
+{
+    Bildschirmfolge folge;
+    Probeschirm a("a");
+    Probeschirm b("b");
+    a.danach = [&] {
+        folge.sperre(a);
+        folge.zeige(b);
+    };
+    folge.zeige(a);
+    folge.führeAktivierungenAus();
+    EXPECT_EQ(b.aktivierungen, 1);
+    EXPECT_EQ(folge.finde("b"), &b);
+}
+
+TEST(Bildschirm, DeckeVerdecktSolangeSieZuSehenIst)
+{
+    Probeschirm a("a");
+    EXPECT_TRUE(a.istVerdeckt(a.unten));
+    EXPECT_FALSE(a.istVerdeckt(a.decke));
+    EXPECT_FALSE(a.istErreichbar(a.unten));
+    a.decke.verberge();
+    EXPECT_TRUE(a.istErreichbar(a.unten));
+}
+
+TEST(Bildschirm, FeldDasNichtLosläßtBehältDenFokus)
+{
+    Probeschirm a("a");
+    bool darf = false;
+    a.feld.beiVerlassen = [&] { return darf; };
+    a.fokussiereErstes();
+    ASSERT_EQ(a.fokus(), &a.feld);
+    EXPECT_FALSE(a.fokussiere(&a.ok));
+    EXPECT_EQ(a.fokus(), &a.feld);
+    darf = true;
+    EXPECT_TRUE(a.fokussiere(&a.ok));
+    EXPECT_EQ(a.fokus(), &a.ok);
+}
+
+TEST(Bildschirm, TabGehtInLeserichtungUndÜberspringtVerdecktes)
+{
+    Probeschirm a("a");
+    a.fokussiereErstes();
+    a.taste({.art = Taste::Art::Tab});
+    EXPECT_EQ(a.fokus(), &a.decke);
+    a.taste({.art = Taste::Art::Tab});
+    EXPECT_EQ(a.fokus(), &a.ok);
+    a.taste({.art = Taste::Art::Tab});
+    EXPECT_EQ(a.fokus(), &a.feld);
+    a.taste({.art = Taste::Art::RückTab});
+    EXPECT_EQ(a.fokus(), &a.ok);
+}
+
+TEST(Bildschirm, EscapeDrücktSeineSchaltfläche)
+{
+    Probeschirm a("a");
+    int gedrückt = 0;
+    a.ok.beiKlick = [&] { ++gedrückt; };
+    EXPECT_TRUE(a.taste({.art = Taste::Art::Esc}));
+    EXPECT_FALSE(a.taste({.art = Taste::Art::Eingabe}));
+    EXPECT_EQ(gedrückt, 1);
+    a.ok.sperre();
+    EXPECT_FALSE(a.taste({.art = Taste::Art::Esc}));
+    EXPECT_EQ(gedrückt, 1);
+}
+
+TEST(Bildschirm, ElementeWerdenUnterIhremNamenGefunden)
+{
+    Probeschirm a("a");
+    EXPECT_EQ(a.finde("feld"), &a.feld);
+    EXPECT_EQ(a.finde("fehlt"), nullptr);
+    EXPECT_EQ(a.feld.name(), "feld");
+    EXPECT_EQ(a.feld.bildschirm(), &a);
+}

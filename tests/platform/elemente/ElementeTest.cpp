@@ -1,0 +1,172 @@
+#include "platform/bildschirm/Bildschirm.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+Taste taste(Taste::Art art)
+{
+    return {.art = art};
+}
+
+Taste zeichen(char z)
+{
+    return {.art = Taste::Art::Zeichen, .zeichen = z};
+}
+
+} // namespace
+
+TEST(Antwortfeld, DreiKlickeFührenZurückUndMeldenDreimal)
+{
+    triCtlJaNein feld;
+    int änderungen = 0;
+    feld.beiÄnderung = [&] { ++änderungen; };
+    EXPECT_EQ(feld.text(), "k.A."_t);
+    EXPECT_EQ(feld.hintergrund(), farbe::rot);
+    feld.klicke();
+    EXPECT_EQ(feld.text(), "ja"_t);
+    EXPECT_EQ(feld.hintergrund(), farbe::weiß);
+    feld.klicke();
+    EXPECT_EQ(feld.text(), "nein"_t);
+    EXPECT_EQ(feld.hintergrund(), farbe::grau);
+    feld.klicke();
+    EXPECT_EQ(feld.text(), "k.A."_t);
+    EXPECT_EQ(änderungen, 3);
+}
+
+TEST(Antwortfeld, SchreibenVergleichtGenauUndMeldetNurÄnderungen)
+{
+    triCtlJaNein feld;
+    int änderungen = 0;
+    feld.setzeText("ja"_t);
+    feld.beiÄnderung = [&] { ++änderungen; };
+    feld.setzeText("ja"_t);
+    EXPECT_EQ(änderungen, 0);
+    feld.setzeText("Ja"_t);
+    EXPECT_EQ(feld.text(), "k.A."_t);
+    EXPECT_EQ(änderungen, 1);
+}
+
+TEST(Antwortfeld, PfeileGehenImKreis)
+{
+    triCtlJaNein feld;
+    EXPECT_TRUE(feld.taste(taste(Taste::Art::Links)));
+    EXPECT_EQ(feld.text(), "nein"_t);
+    EXPECT_TRUE(feld.taste(taste(Taste::Art::Rechts)));
+    EXPECT_EQ(feld.text(), "k.A."_t);
+    EXPECT_FALSE(feld.taste(zeichen(' ')));
+    EXPECT_EQ(feld.text(), "k.A."_t);
+}
+
+TEST(Auswahl, PfeileWählenNachbarnUndMelden)
+{
+    Auswahlfeld feld;
+    feld.fülle({"eins", "zwei", "drei"}, "eins");
+    int wahlen = 0;
+    feld.beiWahl = [&] { ++wahlen; };
+    feld.taste(taste(Taste::Art::Ab));
+    EXPECT_EQ(feld.text(), "zwei");
+    feld.taste(taste(Taste::Art::Ende));
+    feld.taste(taste(Taste::Art::Ab));
+    EXPECT_EQ(feld.text(), "drei");
+    feld.taste(taste(Taste::Art::Auf));
+    EXPECT_EQ(feld.text(), "zwei");
+    EXPECT_EQ(wahlen, 3);
+}
+
+TEST(Auswahl, BuchstabeSpringtZumNächstenEintrag)
+{
+    Auswahlfeld feld;
+    feld.fülle({"Anna", "Bert", "arg"}, "Anna");
+    feld.taste(zeichen('a'));
+    EXPECT_EQ(feld.text(), "arg");
+    feld.taste(zeichen('A'));
+    EXPECT_EQ(feld.text(), "Anna");
+    feld.taste(zeichen('x'));
+    EXPECT_EQ(feld.text(), "Anna");
+}
+
+TEST(Auswahl, ZeigtAuchFremdeTexte)
+{
+    Auswahlfeld feld;
+    feld.fülle({"a", "b"}, "fremd");
+    EXPECT_EQ(feld.text(), "fremd");
+    feld.taste(taste(Taste::Art::Ab));
+    EXPECT_EQ(feld.text(), "a");
+}
+
+TEST(Optionen, HöchstensEineIstMarkiert)
+{
+    Optionsgruppe gruppe;
+    Optionsfeld a;
+    Optionsfeld b;
+    a.trittBei(gruppe);
+    b.trittBei(gruppe);
+    a.klicke();
+    EXPECT_TRUE(a.istAn());
+    b.taste(zeichen(' '));
+    EXPECT_FALSE(a.istAn());
+    EXPECT_TRUE(b.istAn());
+    b.setze(false);
+    EXPECT_FALSE(a.istAn());
+    EXPECT_FALSE(b.istAn());
+}
+
+TEST(Listen, SortiertOhneGroßUndMitGrundbuchstabenStabil)
+{
+    Liste liste({"Name", "Nr"});
+    liste.setzeZeilen({verbinde("Zoe"_t, trenner, '1'), verbinde("Ärmel"_t, trenner, '2'),
+                       verbinde("arm"_t, trenner, '3'), verbinde("Arm"_t, trenner, '4')});
+    liste.wähle(1);
+    liste.sortiereNach(1);
+    EXPECT_EQ(liste.zelle(1, 2), "3");
+    EXPECT_EQ(liste.zelle(2, 2), "4");
+    EXPECT_EQ(liste.zelle(3, 2), "2");
+    EXPECT_EQ(liste.auswahl(), 4U) << "die Auswahl bleibt bei ihrer Zeile";
+    liste.setzeZeilen({});
+    EXPECT_EQ(liste.auswahl(), 0U);
+    EXPECT_EQ(liste.sortierteSpalte(), 0U);
+}
+
+TEST(Listen, ZellenJenseitsDerZeileSindLeer)
+{
+    Liste liste({"a", "b", "c"});
+    liste.setzeZeilen({verbinde("x"_t, trenner, 'y')});
+    EXPECT_EQ(liste.zelle(1, 2), "y");
+    EXPECT_EQ(liste.zelle(1, 3), "");
+}
+
+TEST(Textfelder, TastenÄndernDenTextAmCursor)
+{
+    Textfeld feld;
+    feld.fokusGewechselt(true);
+    for (const char z : "Muster"_t) {
+        feld.taste(zeichen(z));
+    }
+    feld.taste(taste(Taste::Art::Pos1));
+    feld.taste(taste(Taste::Art::Entf));
+    feld.taste(zeichen('m'));
+    feld.taste(taste(Taste::Art::Ende));
+    feld.taste(taste(Taste::Art::Rück));
+    EXPECT_EQ(feld.text(), "muste");
+    EXPECT_FALSE(feld.taste(taste(Taste::Art::Eingabe)));
+}
+
+TEST(Textfelder, UmbruchIstEinSchritt)
+{
+    Textfeld feld(Mehrzeilig);
+    feld.gibEin("ab", 1);
+    feld.taste(taste(Taste::Art::Eingabe));
+    EXPECT_EQ(feld.text(), "a\r\nb");
+    feld.taste(taste(Taste::Art::Rück));
+    EXPECT_EQ(feld.text(), "ab");
+}
+
+TEST(Textfelder, HöchstlängeGiltBeimTippen)
+{
+    Textfeld feld(Einzeilig, 2);
+    for (const char z : {'a', 'b', 'c'}) {
+        feld.taste(zeichen(z));
+    }
+    EXPECT_EQ(feld.text(), "ab");
+}
