@@ -85,7 +85,8 @@ std::int64_t leseBitfeld(std::string_view dsDiag)
     }
     const auto bits = leseGanzzahl64(text);
     if (!bits) {
-        throw Laufzeitfehler(verbinde("Das Bitfeld der Problembereiche im Diagnosesatz ist keine ganze Zahl: "_t, text));
+        throw Laufzeitfehler(
+            verbinde("Das Bitfeld der Problembereiche im Diagnosesatz ist keine ganze Zahl: "_t, text));
     }
     return *bits;
 }

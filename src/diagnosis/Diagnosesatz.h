@@ -20,12 +20,21 @@ enum Blockfeld { Konsumart = 1, TageBeginn, TageEnde, ICDStelle4, AlterStörung,
 inline constexpr int anzahlWeitereDiagnosen = 12;
 
 /// Position in DSDiag of answer `platz` (1 to 8) of the group (1 to 29).
-constexpr int blockposition(int gruppe, int platz) { return felderJeGruppe * (gruppe - 1) + platz; }
+constexpr int blockposition(int gruppe, int platz)
+{
+    return felderJeGruppe * (gruppe - 1) + platz;
+}
 /// Position of the further diagnosis `nummer` (1 to 12).
-constexpr int weitereDiagnose(int nummer) { return felderJeGruppe * höchsteGruppe + nummer; }
+constexpr int weitereDiagnose(int nummer)
+{
+    return felderJeGruppe * höchsteGruppe + nummer;
+}
 inline constexpr int bitfeldposition = weitereDiagnose(anzahlWeitereDiagnosen) + 1;
 
-constexpr std::int64_t gruppenbit(int gruppe) { return std::int64_t{1} << gruppe; }
+constexpr std::int64_t gruppenbit(int gruppe)
+{
+    return std::int64_t{1} << gruppe;
+}
 
 /// DSDiag cut at the block of a group; the three parts joined are DSDiag again.
 struct Blockteile {

@@ -10,7 +10,7 @@ namespace {
 
 /// Four fields of each kind, in their order on the page.
 struct Diagnoseart {
-    bool mitBuchstabe;    ///< typed with its letter; else `zusatz` tells which one is added on output
+    bool mitBuchstabe; ///< typed with its letter; else `zusatz` tells which one is added on output
     std::string_view form;
     std::string_view zusatz;
 };
@@ -36,9 +36,8 @@ bool istZiffer(char zeichen)
 /// "#" is one digit, every other character itself.
 bool passt(std::string_view text, std::string_view form)
 {
-    return std::ranges::equal(text, form, [](char zeichen, char platz) {
-        return platz == '#' ? istZiffer(zeichen) : zeichen == platz;
-    });
+    return std::ranges::equal(
+        text, form, [](char zeichen, char platz) { return platz == '#' ? istZiffer(zeichen) : zeichen == platz; });
 }
 
 } // namespace

@@ -71,6 +71,15 @@ std::vector<std::string> jaVorNein()
 
 } // namespace
 
+bool Listungsleiste::taste(const Taste& taste)
+{
+    if (taste.art == Taste::Art::Zeichen && taste.zeichen == ' ' && beiLeertaste) {
+        beiLeertaste();
+        return true;
+    }
+    return Bildlaufleiste::taste(taste);
+}
+
 void frmBetrDiagnose::beiAktivierung()
 {
     if (!m_istEingerichtet) {
@@ -143,8 +152,8 @@ std::string frmBetrDiagnose::sammleBetrDiag()
     if (!comboICDPoly.istFrei()) {
         comboICDPoly.setzeText("keine Angaben"_t);
     }
-    return verbinde(sammleOptionen(optHDohne), comboICDPoly.text(), trenner, comboHIVInfekt.text(), trenner, comboHepatB.text(),
-                    trenner, comboHepatC.text(), trenner, sammleOptionen(optIVKonsum));
+    return verbinde(sammleOptionen(optHDohne), comboICDPoly.text(), trenner, comboHIVInfekt.text(), trenner,
+                    comboHepatB.text(), trenner, comboHepatC.text(), trenner, sammleOptionen(optIVKonsum));
 }
 
 std::string frmBetrDiagnose::sammleDSDiag() const
@@ -166,7 +175,8 @@ void frmBetrDiagnose::zeigeDiagnosen()
 {
     const std::string& satz = DSDiag();
     const auto zeigeGruppe = [&](int zeile, int gruppe) {
-        schreibeZeile(zeile, verbinde(aryProblem.at(static_cast<std::size_t>(gruppe)), trenner, zerlegeDSDiag(satz, gruppe).block));
+        schreibeZeile(zeile, verbinde(aryProblem.at(static_cast<std::size_t>(gruppe)), trenner,
+                                      zerlegeDSDiag(satz, gruppe).block));
     };
     const int hauptgruppe = getHDGruppenNr();
     if (hauptgruppe < 1) {
@@ -188,7 +198,7 @@ void frmBetrDiagnose::zeigeDiagnosen()
 
 void frmBetrDiagnose::schreibeZeile(int zeile, std::string_view text)
 {
-    for (int spalte = 1; Elementreihe<Beschriftung>* beschriftungen : m_spalten) {
+    for (int spalte = 1; auto* beschriftungen : m_spalten) {
         (*beschriftungen)(zeile).setzeText(getFeld(text, spalte++));
     }
 }
@@ -229,10 +239,41 @@ int frmBetrDiagnose::getMarkierteZeile() const
     return -1;
 }
 
+bool frmBetrDiagnose::istLeereZeile(int zeile) const
+{
+    return leseZeile(zeile) == std::string(spaltenzahl, trenner);
+}
+
 void frmBetrDiagnose::beiZeilenklick(int zeile)
 {
-    if (leseZeile(zeile) != std::string(spaltenzahl, trenner)) {
+    if (!istLeereZeile(zeile)) {
         markiereZeile(zeile);
+    }
+}
+
+/// For those who work without a mouse: the next row that can be edited or deleted, round and round.
+void frmBetrDiagnose::markiereNächsteZeile()
+{
+    int zeile = getMarkierteZeile();
+    for (int schritt = 0; schritt <= letzteMarkierbare; ++schritt) {
+        zeile = (zeile + 1) % (letzteMarkierbare + 1);
+        if (!istLeereZeile(zeile)) {
+            markiereZeile(zeile);
+            rolleZu(zeile);
+            return;
+        }
+    }
+}
+
+/// Row 0 stands still, the others move.
+void frmBetrDiagnose::rolleZu(int zeile)
+{
+    const double unten = frameVorne.höhe() / letzteZeile * zeile;
+    const double oben = unten - frameVorne.höhe() / letzteZeile;
+    if (zeile > 0 && VScroll1.wert() > oben) {
+        VScroll1.setzeWert(static_cast<int>(std::floor(oben)));
+    } else if (zeile > 0 && VScroll1.wert() + frameHinten.höhe() < unten) {
+        VScroll1.setzeWert(static_cast<int>(std::ceil(unten - frameHinten.höhe())));
     }
 }
 
@@ -299,7 +340,8 @@ void frmBetrDiagnose::beiLöschen()
         return;
     }
     const std::string name = lblProblem(zeile).text();
-    if (zeigeMeldung(verbinde("Eintrag: "_t, name, " wird gelöscht"_t), Symbol::Keins, Knöpfe::OKAbbrechen) != Antwort::OK) {
+    if (zeigeMeldung(verbinde("Eintrag: "_t, name, " wird gelöscht"_t), Symbol::Keins, Knöpfe::OKAbbrechen) !=
+        Antwort::OK) {
         zeigeMeldung("Nichts wurde verändert"_t);
         return;
     }
@@ -341,8 +383,8 @@ void frmBetrDiagnose::beiExit()
 {
     if (sammleBetrDiag() != m_alteDSBetrDiag || sammleDSDiag() != m_alteDSDiag) {
         const auto antwort = zeigeMeldung(
-            "Sollen alle Veränderungen, die nach Aufruf dieses Fensters vorgenommen wurden, verworfen werden ?"_t, Symbol::Keins,
-            Knöpfe::OKAbbrechen);
+            "Sollen alle Veränderungen, die nach Aufruf dieses Fensters vorgenommen wurden, verworfen werden ?"_t,
+            Symbol::Keins, Knöpfe::OKAbbrechen);
         if (antwort != Antwort::OK) {
             return;
         }

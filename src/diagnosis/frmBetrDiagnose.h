@@ -7,8 +7,17 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
+
+/// The scroll bar of the listing is its stop on the keyboard: beside scrolling, Space walks through the rows.
+class Listungsleiste : public Bildlaufleiste {
+public:
+    bool taste(const Taste& taste) override;
+
+    std::function<void()> beiLeertaste;
+};
 
 /// The page "Diagnose und Konsum" of a care episode: the listing of the problem areas, the further diagnoses
 /// and the answers about infection and intravenous use. It works on DSDiag and DSBetrDiag of the working copy;
@@ -30,7 +39,7 @@ public:
     Elementreihe<Beschriftung> lblRiskanterKonsum{0, letzteZeile};
     Elementreihe<Beschriftung> lblAlterErstkonsum{0, letzteZeile};
     Fläche frameVorne, frameHinten;
-    Bildlaufleiste VScroll1;
+    Listungsleiste VScroll1;
 
     Schaltfläche cmdNeueDiagnose{"neuer Problembereich"_t};
     Schaltfläche cmdDiagnoseBearbeiten{"Problembereich bearbeiten"_t};
@@ -99,7 +108,10 @@ private:
     std::string leseZeile(int zeile) const;
     void markiereZeile(int zeile);
     int getMarkierteZeile() const;
+    bool istLeereZeile(int zeile) const;
     void beiZeilenklick(int zeile);
+    void markiereNächsteZeile();
+    void rolleZu(int zeile);
     void bearbeiteGruppe();
 
     // the further diagnoses

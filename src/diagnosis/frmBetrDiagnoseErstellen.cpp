@@ -28,6 +28,9 @@ constexpr std::array<std::string_view, 8> fragen{
     "Riskanter Konsum:"_t,
     "Alter Erstkonsum:"_t};
 
+/// Widths of the answers in em.
+constexpr std::array<double, 8> breiten{0, 16, 4.6, 4.6, 24, 4.6, 4.6, 4.6};
+
 /// The questions whose answer is a number from a list, or not given; they take typing.
 constexpr std::array zahlenfragen{TageBeginn, TageEnde, AlterStörung, AlterErstkonsum};
 
@@ -113,18 +116,13 @@ frmBetrDiagnoseErstellen::frmBetrDiagnoseErstellen(frmBetrDiagnose& seite)
 
 void frmBetrDiagnoseErstellen::bestimmeAufbau()
 {
-    constexpr double zahlenbreite = 4.6;
-    constexpr double kurzeBreite = 4.6;
-    constexpr double icdBreite = 24;
     istKindfenster = true;
     breiteEm = 49;
     kopfband.vortitel = &lblFrage(0);
     kopfband.titel = &lblAntwort;
     std::vector<Anordnung> zeilen;
     for (int i = 1; i <= comboAntwort.bis(); ++i) {
-        const bool istZahl = std::ranges::find(zahlenfragen, i) != zahlenfragen.end();
-        const double breiteDerAntwort = istZahl ? zahlenbreite : i == Riskant ? kurzeBreite : i == Konsumart ? 16 : icdBreite;
-        zeilen.push_back(anordnung::feld(lblFrage(i), comboAntwort(i), breiteDerAntwort));
+        zeilen.push_back(anordnung::feld(lblFrage(i), comboAntwort(i), breiten[static_cast<std::size_t>(i)]));
     }
     zeilen.push_back(anordnung::trennlinie());
     zeilen.push_back(anordnung::feld({}, cbHD));
@@ -225,8 +223,9 @@ void frmBetrDiagnoseErstellen::frageHDWechsel()
         zeigeMeldung(verbinde(alt, " wird wieder als Hauptdiagnose gesetzt"_t), Symbol::Info);
         return;
     }
-    const std::string frage = verbinde("Es wurde schon "_t, alt, " als Hauptdiagnose gestellt.\r\nSoll nun stattdessen "_t, neu,
-                                       " als Hauptdiagnose gestellt werden ?"_t);
+    const std::string frage =
+        verbinde("Es wurde schon "_t, alt, " als Hauptdiagnose gestellt.\r\nSoll nun stattdessen "_t, neu,
+                 " als Hauptdiagnose gestellt werden ?"_t);
     if (zeigeMeldung(frage, Symbol::Keins, Knöpfe::JaNein) != Antwort::Ja) {
         cbHD.setze(false);
     }
@@ -277,8 +276,8 @@ void frmBetrDiagnoseErstellen::beiOK()
 
 void frmBetrDiagnoseErstellen::beiExit()
 {
-    if (zeigeMeldung("Es werden alle Veränderungen verworfen, die nach Aufruf dieses Fensters vorgenommen wurden"_t, Symbol::Keins,
-                     Knöpfe::OKAbbrechen) != Antwort::OK) {
+    if (zeigeMeldung("Es werden alle Veränderungen verworfen, die nach Aufruf dieses Fensters vorgenommen wurden"_t,
+                     Symbol::Keins, Knöpfe::OKAbbrechen) != Antwort::OK) {
         zeigeMeldung("Níchts wurde verändert"_t, Symbol::Info);
         return;
     }

@@ -13,22 +13,20 @@ namespace {
 constexpr double zeilenhöhe = 375; // twips
 constexpr int sichtbareZeilen = 4;
 
-constexpr std::array gründe{
-    "keine Angaben"_t,
-    "Kein Diagnosekriterium nach ICD-10 erfüllt, aber riskanter Konsum"_t,
-    "Kein Diagnosekriterium nach ICD-10 erfüllt und auch kein riskanter Konsum"_t,
-    "Keine ausreichenden Informationen für Diagnosestellung nach ICD-10 vorhanden"_t,
-    "Keine ausreichende Qualifikation für Diagnosestellung nach ICD-10 vorhanden"_t,
-    "Andere Gründe"_t};
+constexpr std::array gründe{"keine Angaben"_t,
+                            "Kein Diagnosekriterium nach ICD-10 erfüllt, aber riskanter Konsum"_t,
+                            "Kein Diagnosekriterium nach ICD-10 erfüllt und auch kein riskanter Konsum"_t,
+                            "Keine ausreichenden Informationen für Diagnosestellung nach ICD-10 vorhanden"_t,
+                            "Keine ausreichende Qualifikation für Diagnosestellung nach ICD-10 vorhanden"_t,
+                            "Andere Gründe"_t};
 
-constexpr std::array ivAntworten{
-    "keine Angaben"_t,
-    "Nein, nie"_t,
-    "Ja, aber nicht in den letzten 30 Tagen vor Betreuungsbeginn"_t,
-    "Ja, (auch) in den letzten 30 Tagen vor Betreuungsbeginn"_t};
+constexpr std::array ivAntworten{"keine Angaben"_t, "Nein, nie"_t,
+                                 "Ja, aber nicht in den letzten 30 Tagen vor Betreuungsbeginn"_t,
+                                 "Ja, (auch) in den letzten 30 Tagen vor Betreuungsbeginn"_t};
 
 template <std::size_t N>
-void bereiteOptionenVor(Elementreihe<Optionsfeld>& optionen, Optionsgruppe& gruppe, const std::array<std::string_view, N>& texte)
+void bereiteOptionenVor(Elementreihe<Optionsfeld>& optionen, Optionsgruppe& gruppe,
+                        const std::array<std::string_view, N>& texte)
 {
     for (int i = optionen.von(); i <= optionen.bis(); ++i) {
         optionen(i).setzeText(texte.at(static_cast<std::size_t>(i)));
@@ -46,7 +44,8 @@ template <class E> Anordnung untereinander(Elementreihe<E>& reihe)
 }
 
 /// Four fields side by side, each behind its letter.
-Anordnung viererreihe(Elementreihe<Textfeld>& felder, int erstes, std::string_view buchstabe, std::string_view beschriftung)
+Anordnung viererreihe(Elementreihe<Textfeld>& felder, int erstes, std::string_view buchstabe,
+                      std::string_view beschriftung)
 {
     std::vector<Anordnung> teile;
     for (int i = erstes; i < erstes + 4; ++i) {
@@ -143,17 +142,18 @@ Anordnung frmBetrDiagnose::listungskarte()
         zeilen.push_back(anordnung::zeile(std::move(zellen)));
     }
     return anordnung::karte(
-        {}, anordnung::spalte({anordnung::listung(spaltenDerListung(), "Hauptdiagnose"_t, "Diagnosen"_t, std::move(zeilen), VScroll1,
-                                                  frameVorne, frameHinten),
-                               anordnung::zeile({anordnung::element(cmdNeueDiagnose), anordnung::element(cmdDiagnoseBearbeiten),
-                                                 anordnung::dehnung(), anordnung::element(cmdDiagnoseLöschen)})}));
+        {}, anordnung::spalte(
+                {anordnung::listung(spaltenDerListung(), "Hauptdiagnose"_t, "Diagnosen"_t, std::move(zeilen), VScroll1,
+                                    frameVorne, frameHinten),
+                 anordnung::zeile({anordnung::element(cmdNeueDiagnose), anordnung::element(cmdDiagnoseBearbeiten),
+                                   anordnung::dehnung(), anordnung::element(cmdDiagnoseLöschen)})}));
 }
 
 Anordnung frmBetrDiagnose::antwortkarten()
 {
-    Anordnung links = anordnung::spalte(
-        {anordnung::karte("Grund, warum keine Hauptdiagnose gestellt wurde"_t, anordnung::decke(untereinander(optHDohne), cmdIsHDGestellt)),
-         anordnung::karte("I.v. Konsum"_t, untereinander(optIVKonsum))});
+    Anordnung links = anordnung::spalte({anordnung::karte("Grund, warum keine Hauptdiagnose gestellt wurde"_t,
+                                                          anordnung::decke(untereinander(optHDohne), cmdIsHDGestellt)),
+                                         anordnung::karte("I.v. Konsum"_t, untereinander(optIVKonsum))});
     Anordnung diagnosen = anordnung::formular({viererreihe(tbandereDiagnose, 1, "F"_t, "Psychiatrische Diagnosen"_t),
                                                viererreihe(tbandereDiagnose, 5, "G"_t, "Neurologische Diagnosen"_t),
                                                viererreihe(tbandereDiagnose, 9, {}, "Andere wichtige Diagnosen"_t),
@@ -163,8 +163,9 @@ Anordnung frmBetrDiagnose::antwortkarten()
                                                  anordnung::feld("Hepatitis B - Infektionsstatus"_t, comboHepatB, 10),
                                                  anordnung::feld("Hepatitis C - Infektionsstatus"_t, comboHepatC, 10)},
                                                 12);
-    Anordnung rechts = anordnung::spalte({anordnung::karte("ICD-10-Diagnosen"_t, std::move(diagnosen), {&lblWeitereICD}),
-                                          anordnung::karte("Infektionsstatus"_t, std::move(infektionen))});
+    Anordnung rechts =
+        anordnung::spalte({anordnung::karte("ICD-10-Diagnosen"_t, std::move(diagnosen), {&lblWeitereICD}),
+                           anordnung::karte("Infektionsstatus"_t, std::move(infektionen))});
     return anordnung::karten({std::move(links), std::move(rechts)});
 }
 
@@ -177,6 +178,7 @@ void frmBetrDiagnose::bestimmeRegeln()
         tbandereDiagnose(i).beiVerlassen = [this, i] { return prüfeWeitereDiagnose(i); };
     }
     VScroll1.beiÄnderung = [this] { frameVorne.setzeOben(-VScroll1.wert()); };
+    VScroll1.beiLeertaste = [this] { markiereNächsteZeile(); };
     frameVorne.beiGrößenänderung = [this] { setzeRollbereich(); };
     frameHinten.beiGrößenänderung = [this] { setzeRollbereich(); };
     cmdNeueDiagnose.beiKlick = [this] { steuereNeueDiagnose(true); };

@@ -159,7 +159,8 @@ TEST(SchreibeGruppe, LässtWeitereDiagnosenUndBitfeld)
 {
     std::string satz = nummeriert();
     schreibeGruppeInDSDiag(satz, 29, std::string(8, trenner));
-    EXPECT_EQ(felder(satz, weitereDiagnose(1), bitfeldposition), felder(nummeriert(), weitereDiagnose(1), bitfeldposition));
+    EXPECT_EQ(felder(satz, weitereDiagnose(1), bitfeldposition),
+              felder(nummeriert(), weitereDiagnose(1), bitfeldposition));
 }
 
 TEST(Bitfeld, SchreibenLässtAllesDavor)

@@ -18,7 +18,8 @@ TEST(WeitereDiagnosen, ZiffernfelderNehmenDreiFormen)
         for (const auto* gut : {"12", "12.3", "12.34", "00"}) {
             EXPECT_TRUE(istWeitereDiagnose(nummer, gut)) << nummer << ' ' << gut;
         }
-        for (const auto* schlecht : {"1", "123", "1.234", "12.", "12.345", "F32", "a2", "12,3", " 12", "12 ", "12.3x", ".", "1234"}) {
+        for (const auto* schlecht :
+             {"1", "123", "1.234", "12.", "12.345", "F32", "a2", "12,3", " 12", "12 ", "12.3x", ".", "1234"}) {
             EXPECT_FALSE(istWeitereDiagnose(nummer, schlecht)) << nummer << ' ' << schlecht;
         }
     }
