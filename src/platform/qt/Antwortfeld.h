@@ -6,13 +6,34 @@
 class Ansicht;
 class triCtlJaNein;
 
-/// The answer field, the one painted widget.
+/// The answer field, the one painted widget. Its colours are the answer's own and the same in all themes.
 class Antwortfeld : public QWidget {
 public:
-    Antwortfeld(triCtlJaNein& element, Ansicht& ansicht);
+    Antwortfeld(triCtlJaNein& element, Ansicht& ansicht, QWidget* eltern);
 
     /// What it shows.
-    QString text() const;
+    QString text() const { return m_text; }
     /// The ground it is painted on while it takes input.
-    QColor hintergrund() const;
+    QColor hintergrund() const { return m_hintergrund; }
+    /// The same as a click of the mouse, for those who press it by another device.
+    void klicke();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent* ereignis) override;
+    void mousePressEvent(QMouseEvent* ereignis) override;
+    void mouseReleaseEvent(QMouseEvent* ereignis) override;
+    void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
+
+private:
+    void übernimm();
+
+    triCtlJaNein& m_element;
+    Ansicht& m_ansicht;
+    QString m_text;
+    QColor m_hintergrund;
+    QColor m_randfarbe;
+    bool m_gedrückt = false;
 };

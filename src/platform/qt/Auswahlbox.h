@@ -4,12 +4,39 @@
 
 class Ansicht;
 class Auswahlfeld;
+class QLineEdit;
 
-/// The combo box: reads list and text from its element and hands every key to it.
+/// The combo box: reads list and text from its element, hands every key to it, and keeps its value when the
+/// wheel turns over it without the focus.
 class Auswahlbox : public QComboBox {
 public:
-    Auswahlbox(Auswahlfeld& element, Ansicht& ansicht);
+    Auswahlbox(Auswahlfeld& element, Ansicht& ansicht, QWidget* eltern);
 
     /// What the closed box shows (whole, even where it is elided), in the list or not.
     QString gezeigterText() const;
+    /// Before a key goes to the element of a typeable box: the element's cursor takes the place of the
+    /// box's, and a selection makes way for what is typed.
+    void gleicheSchreibmarkeAb(bool auswahlWeicht);
+
+    void showPopup() override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void initStyleOption(QStyleOptionComboBox* option) const override;
+    void wheelEvent(QWheelEvent* ereignis) override;
+    void focusInEvent(QFocusEvent* ereignis) override;
+    bool event(QEvent* ereignis) override;
+
+private:
+    void macheTippbar();
+    void übernimm();
+    void übernimmTippbar();
+    void gibEin(const QString& text);
+
+    Auswahlfeld& m_element;
+    Ansicht& m_ansicht;
+    QString m_text;
+    bool m_wirdGefüllt = false;
+    bool m_warFalsch = false;
 };

@@ -26,6 +26,6 @@ Thema thema();
 /// Length in logical pixels; 1 em is the height of a line of the system's font.
 int em(double länge);
 
-enum class Schriftrolle { Grund, Bandtitel, Bandname, Kartentitel, Spaltenkopf, Wert, Decke };
+enum class Schriftrolle { Grund, Bandtitel, Bandname, Kartentitel, Spaltenkopf, Wert };
 /// The font of a role, derived from the system's font by size and weight alone.
 QFont schrift(Schriftrolle rolle);

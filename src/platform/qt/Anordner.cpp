@@ -1,0 +1,303 @@
+#include "platform/qt/Anordner.h"
+
+#include "platform/qt/Ansicht.h"
+#include "platform/qt/Auswahlbox.h"
+#include "platform/qt/Elementzeichner.h"
+#include "platform/qt/Etikett.h"
+#include "platform/qt/Flächen.h"
+#include "platform/qt/Knöpfe.h"
+#include "platform/qt/Listung.h"
+#include "platform/qt/Stil.h"
+#include "platform/qt/Tabelle.h"
+#include "platform/qt/Textbox.h"
+#include "platform/qt/Umschrift.h"
+
+#include <QBoxLayout>
+#include <QFrame>
+#include <QGroupBox>
+
+#include <algorithm>
+
+namespace {
+
+using Wort = Anordnung::Wort;
+
+constexpr double feldbreite = 24;
+constexpr double kartenbreite = 44;
+constexpr double kastenabstand = 0.5;
+
+bool istWaagrecht(const QBoxLayout& layout)
+{
+    return layout.direction() == QBoxLayout::LeftToRight;
+}
+
+template <class L> L* ohneRand(L* layout, double abstand)
+{
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(em(abstand));
+    return layout;
+}
+
+bool sindOptionen(const Anordnung& a)
+{
+    return std::all_of(a.teile.begin(), a.teile.end(), [](const Anordnung& teil) {
+        return teil.wort == Wort::Element && dynamic_cast<Optionsfeld*>(teil.element) != nullptr;
+    });
+}
+
+} // namespace
+
+void Anordner::baueSeite(const Anordnung& a, QVBoxLayout& ziel)
+{
+    ziel.setContentsMargins(em(0.7), em(0.65), em(0.7), em(0.65));
+    ziel.setSpacing(em(0.6));
+    if (!füge(a, ziel)) {
+        ziel.addStretch(1);
+    }
+}
+
+bool Anordner::füge(const Anordnung& a, QBoxLayout& ziel)
+{
+    switch (a.wort) {
+    case Wort::Element:
+        return fügeElement(a, ziel);
+    case Wort::Text:
+        return fügeText(a, ziel);
+    case Wort::Spalte:
+        return fügeSpalte(a, ziel);
+    case Wort::Zeile:
+    case Wort::Feld:
+    case Wort::Tabellenzeile:
+        return fügeZeile(a, ziel);
+    case Wort::Formular:
+        return fügeFormular(a, ziel);
+    case Wort::Trennlinie:
+        return fügeWidget(*macheLinie(), ziel, false);
+    case Wort::Karte:
+        return fügeKarte(a, ziel);
+    case Wort::Karten:
+        return fügeKarten(a, ziel);
+    case Wort::Tabelle:
+        return fügeWidget(*new Tabelle(a, m_ansicht, &m_wurzel), ziel, false);
+    case Wort::Decke:
+        return fügeDecke(a, ziel);
+    case Wort::Stapel:
+        return fügeStapel(a, ziel);
+    case Wort::Listung:
+        return fügeWidget(*new Listung(a, m_ansicht, &m_wurzel), ziel, true);
+    case Wort::Dehnung:
+        ziel.addStretch(1);
+        return true;
+    }
+    return false;
+}
+
+bool Anordner::fügeWidget(QWidget& widget, QBoxLayout& ziel, bool füllt)
+{
+    ziel.addWidget(&widget, füllt ? 1 : 0);
+    return füllt;
+}
+
+QWidget* Anordner::macheElement(const Anordnung& a)
+{
+    auto* widget = zeichneElement(*a.element, m_ansicht, &m_wurzel);
+    if (a.behältPlatz) {
+        auto regel = widget->sizePolicy();
+        regel.setRetainSizeWhenHidden(true);
+        widget->setSizePolicy(regel);
+    }
+    auto* box = dynamic_cast<Auswahlbox*>(widget);
+    if (a.breite > 0) {
+        widget->setFixedWidth(em(a.breite));
+    } else if (box != nullptr && box->isEditable()) {
+        widget->setFixedWidth(em(4.6));
+    } else if (box != nullptr || (dynamic_cast<Textzeile*>(widget) != nullptr && !a.füllt)) {
+        widget->setMaximumWidth(em(feldbreite));
+    }
+    return widget;
+}
+
+bool Anordner::fügeElement(const Anordnung& a, QBoxLayout& ziel)
+{
+    auto* widget = macheElement(a);
+    auto regel = widget->sizePolicy();
+    if (a.füllt && dynamic_cast<Knopf*>(widget) != nullptr) {
+        regel.setHorizontalPolicy(QSizePolicy::Expanding);
+        widget->setSizePolicy(regel);
+    }
+    const bool dehnbar = regel.expandingDirections().testFlag(istWaagrecht(ziel) ? Qt::Horizontal : Qt::Vertical);
+    const bool füllt = a.füllt || (dehnbar && !istWaagrecht(ziel));
+    // what does not grow stands at the left of a column
+    const bool steht = !istWaagrecht(ziel) && (regel.horizontalPolicy() == QSizePolicy::Fixed || regel.horizontalPolicy() == QSizePolicy::Maximum);
+    ziel.addWidget(widget, füllt || dehnbar ? 1000 : 0, steht ? Qt::AlignLeft : Qt::Alignment());
+    return füllt;
+}
+
+bool Anordner::fügeText(const Anordnung& a, QBoxLayout& ziel)
+{
+    auto* text = new Etikett(alsQString(a.text), &m_wurzel);
+    text->setFont(schrift(Schriftrolle::Kartentitel));
+    if (a.breite > 0) {
+        text->setFixedWidth(em(a.breite));
+        text->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    return fügeWidget(*text, ziel, false);
+}
+
+bool Anordner::fügeSpalte(const Anordnung& a, QBoxLayout& ziel)
+{
+    auto* spalte = ohneRand(new QVBoxLayout, sindOptionen(a) ? 0 : ziel.spacing() == em(0.6) ? 0.6 : kastenabstand);
+    ziel.addLayout(spalte);
+    bool füllt = a.füllt;
+    for (const auto& teil : a.teile) {
+        füllt = füge(teil, *spalte) || füllt;
+    }
+    ziel.setStretchFactor(spalte, füllt ? 1 : 0);
+    return füllt;
+}
+
+bool Anordner::fügeZeile(const Anordnung& a, QBoxLayout& ziel)
+{
+    auto* zeile = ohneRand(new QHBoxLayout, kastenabstand);
+    ziel.addLayout(zeile);
+    bool gedehnt = false;
+    for (const auto& teil : a.teile) {
+        gedehnt = füge(teil, *zeile) || gedehnt;
+    }
+    if (!gedehnt) {
+        zeile->addStretch(1);
+    }
+    return a.füllt;
+}
+
+QWidget* Anordner::macheWidget(const Anordnung& a, bool& füllt)
+{
+    if (a.wort == Wort::Element) {
+        füllt = a.füllt;
+        return macheElement(a);
+    }
+    auto* kasten = new QWidget(&m_wurzel);
+    füllt = füge(a, *ohneRand(new QVBoxLayout(kasten), kastenabstand));
+    return kasten;
+}
+
+QWidget* Anordner::macheLinie()
+{
+    auto* linie = new QFrame(&m_wurzel);
+    linie->setProperty("rolle", "linie");
+    linie->setFixedHeight(1);
+    auto* kasten = new QWidget(&m_wurzel);
+    auto* layout = ohneRand(new QVBoxLayout(kasten), 0);
+    layout->setContentsMargins(0, em(0.35), 0, em(0.45));
+    layout->addWidget(linie);
+    kasten->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    return kasten;
+}
+
+bool Anordner::fügeDecke(const Anordnung& a, QBoxLayout& ziel)
+{
+    bool füllt = false;
+    auto* darunter = macheWidget(a.teile.front(), füllt);
+    auto* decke = zeichneElement(*a.teile.back().element, m_ansicht, &m_wurzel);
+    if (a.teile.front().wort == Wort::Element) {
+        if (auto* knopf = dynamic_cast<Knopf*>(decke)) {
+            knopf->seiWertdecke();
+        }
+    }
+    return fügeWidget(*new Deckfläche(*darunter, *decke, &m_wurzel), ziel, füllt || a.füllt);
+}
+
+bool Anordner::fügeStapel(const Anordnung& a, QBoxLayout& ziel)
+{
+    std::vector<QWidget*> teile;
+    bool füllt = a.füllt;
+    for (const auto& teil : a.teile) {
+        bool dieserFüllt = false;
+        teile.push_back(macheWidget(teil, dieserFüllt));
+        füllt = füllt || dieserFüllt;
+    }
+    return fügeWidget(*new Stapelfläche(std::move(teile), &m_wurzel), ziel, füllt);
+}
+
+QWidget* Anordner::macheKartenspalte(const Anordnung& a, bool& füllt)
+{
+    if (a.wort == Wort::Karte) {
+        return macheKarte(a, füllt);
+    }
+    auto* spalte = new QWidget(&m_wurzel);
+    auto* layout = ohneRand(new QVBoxLayout(spalte), 0.6);
+    for (const auto& teil : a.teile) {
+        füllt = füge(teil, *layout) || füllt;
+    }
+    if (!füllt) {
+        layout->addStretch(1);
+    }
+    return spalte;
+}
+
+bool Anordner::fügeKarten(const Anordnung& a, QBoxLayout& ziel)
+{
+    auto* reihe = new Kartenreihe(&m_wurzel);
+    bool füllt = a.füllt;
+    for (const auto& teil : a.teile) {
+        bool spalteFüllt = teil.füllt;
+        auto* spalte = macheKartenspalte(teil, spalteFüllt);
+        const bool hatKarten = teil.wort == Wort::Karte || std::any_of(teil.teile.begin(), teil.teile.end(), [](const Anordnung& t) {
+                                   return t.wort == Wort::Karte;
+                               });
+        // a column of buttons is as wide as they are
+        const int höchstbreite = teil.breite > 0 ? em(teil.breite) : hatKarten ? em(kartenbreite) : spalte->sizeHint().width();
+        reihe->füge(*spalte, höchstbreite, spalteFüllt);
+        füllt = füllt || spalteFüllt;
+    }
+    return fügeWidget(*reihe, ziel, füllt);
+}
+
+bool Anordner::fügeKarte(const Anordnung& a, QBoxLayout& ziel)
+{
+    bool füllt = a.füllt;
+    auto* karte = macheKarte(a, füllt);
+    if (a.breite <= 0 || !m_istSeite || istWaagrecht(ziel)) {
+        return fügeWidget(*karte, ziel, füllt);
+    }
+    karte->setMaximumWidth(em(a.breite));
+    ziel.addSpacing(em(0.4));
+    auto* mitte = ohneRand(new QHBoxLayout, 0);
+    mitte->addStretch(1);
+    mitte->addWidget(karte, 1000);
+    mitte->addStretch(1);
+    ziel.addLayout(mitte, füllt ? 1 : 0);
+    return füllt;
+}
+
+QWidget* Anordner::macheKarte(const Anordnung& a, bool& füllt)
+{
+    auto* karte = new QGroupBox(&m_wurzel);
+    karte->setProperty("rolle", "karte");
+    karte->setAccessibleName(alsQString(a.text));
+    auto* layout = ohneRand(new QVBoxLayout(karte), 0.35);
+    layout->setContentsMargins(em(0.72), em(0.55), em(0.72), em(0.6));
+    if (!a.text.empty() || !a.köpfe.empty()) {
+        auto* zeile = ohneRand(new QHBoxLayout, 0.6);
+        auto* titel = new Etikett(alsQString(a.text), karte);
+        titel->setFont(schrift(Schriftrolle::Kartentitel));
+        zeile->addWidget(titel);
+        for (auto* kopf : a.köpfe) {
+            auto* widget = zeichneElement(*kopf, m_ansicht, karte);
+            if (dynamic_cast<Etikett*>(widget) != nullptr) {
+                widget->setProperty("rolle", "kopf");
+                zeile->addWidget(widget);
+            } else {
+                zeile->addStretch(1);
+                zeile->addWidget(widget);
+            }
+        }
+        zeile->addStretch(1);
+        layout->addLayout(zeile);
+    }
+    for (const auto& teil : a.teile) {
+        füllt = füge(teil, *layout) || füllt;
+    }
+    karte->setSizePolicy(QSizePolicy::Expanding, füllt ? QSizePolicy::Expanding : QSizePolicy::Maximum);
+    return karte;
+}

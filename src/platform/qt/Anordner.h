@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/bildschirm/Anordnung.h"
+
+class Ansicht;
+class QBoxLayout;
+class QVBoxLayout;
+class QWidget;
+
+/// Turns the words of an arrangement into layouts. One method for each word; the words nest.
+class Anordner {
+public:
+    /// `istSeite`: cards of a given width stand in the middle, as they do on a page of the frame.
+    Anordner(Ansicht& ansicht, QWidget& wurzel, bool istSeite) : m_ansicht(ansicht), m_wurzel(wurzel), m_istSeite(istSeite) {}
+
+    /// The body of a screen.
+    void baueSeite(const Anordnung& a, QVBoxLayout& ziel);
+
+private:
+    /// Appends the part to the layout; returns whether it takes what is left of the layout's direction.
+    bool füge(const Anordnung& a, QBoxLayout& ziel);
+    bool fügeElement(const Anordnung& a, QBoxLayout& ziel);
+    bool fügeText(const Anordnung& a, QBoxLayout& ziel);
+    bool fügeSpalte(const Anordnung& a, QBoxLayout& ziel);
+    bool fügeZeile(const Anordnung& a, QBoxLayout& ziel);
+    bool fügeFormular(const Anordnung& a, QBoxLayout& ziel);
+    bool fügeKarte(const Anordnung& a, QBoxLayout& ziel);
+    bool fügeKarten(const Anordnung& a, QBoxLayout& ziel);
+    bool fügeDecke(const Anordnung& a, QBoxLayout& ziel);
+    bool fügeStapel(const Anordnung& a, QBoxLayout& ziel);
+    bool fügeWidget(QWidget& widget, QBoxLayout& ziel, bool füllt);
+
+    void fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBoxLayout& ziel);
+    QWidget* macheFeldbeschriftung(const Anordnung& feld, double breite);
+    void verbindeFeld(const Anordnung& feld, QWidget& beschriftung, QWidget& zeile);
+    QWidget* macheKarte(const Anordnung& a, bool& füllt);
+    QWidget* macheKartenspalte(const Anordnung& a, bool& füllt);
+    /// The part as a widget of its own.
+    QWidget* macheWidget(const Anordnung& a, bool& füllt);
+    QWidget* macheLinie();
+    QWidget* macheElement(const Anordnung& a);
+
+    Ansicht& m_ansicht;
+    QWidget& m_wurzel;
+    bool m_istSeite;
+};

@@ -1,0 +1,123 @@
+#include "platform/qt/Anordner.h"
+#include "platform/qt/Ansicht.h"
+#include "platform/qt/Elementzeichner.h"
+#include "platform/qt/Etikett.h"
+#include "platform/qt/Knöpfe.h"
+#include "platform/qt/Stil.h"
+#include "platform/qt/Umschrift.h"
+
+#include <QBoxLayout>
+
+#include <algorithm>
+
+// The words of a form: rows of label and field on one grid. Since the labels have a width of their own, every
+// row is a layout of its own, and a hidden row closes up.
+
+namespace {
+
+using Wort = Anordnung::Wort;
+
+constexpr double zeilenhöhe = 1.72;
+
+void sammle(const Anordnung& a, std::vector<Element*>& elemente)
+{
+    if (a.wort == Wort::Element) {
+        elemente.push_back(a.element);
+    }
+    for (const auto& teil : a.teile) {
+        sammle(teil, elemente);
+    }
+}
+
+bool behältPlatz(const Anordnung& a)
+{
+    return a.behältPlatz || a.wort == Wort::Stapel || std::any_of(a.teile.begin(), a.teile.end(), behältPlatz);
+}
+
+void benenneFelder(const Ansicht& ansicht, const std::vector<Element*>& elemente, const QWidget& beschriftung)
+{
+    const auto name = dynamic_cast<const Etikett&>(beschriftung).text();
+    for (const auto* element : elemente) {
+        auto* widget = ansicht.widgetVon(*element);
+        if (dynamic_cast<Knopf*>(widget) == nullptr) { // a button's name is its caption
+            widget->setAccessibleName(name);
+        }
+    }
+}
+
+} // namespace
+
+bool Anordner::fügeFormular(const Anordnung& a, QBoxLayout& ziel)
+{
+    auto* formular = new QVBoxLayout;
+    formular->setContentsMargins(0, 0, 0, 0);
+    formular->setSpacing(em(0.18));
+    ziel.addLayout(formular);
+    bool füllt = a.füllt;
+    for (const auto& teil : a.teile) {
+        if (teil.wort == Wort::Feld) {
+            fügeFeld(teil, a.breite, *formular);
+        } else {
+            füllt = füge(teil, *formular) || füllt;
+        }
+    }
+    ziel.setStretchFactor(formular, füllt ? 1 : 0);
+    return füllt;
+}
+
+QWidget* Anordner::macheFeldbeschriftung(const Anordnung& feld, double breite)
+{
+    auto* beschriftung = feld.element != nullptr
+                             ? dynamic_cast<Etikett*>(zeichneElement(*feld.element, m_ansicht, &m_wurzel))
+                             : new Etikett(alsQString(feld.text), &m_wurzel);
+    beschriftung->setzeUmbruchbreite(em(breite));
+    return beschriftung;
+}
+
+void Anordner::fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBoxLayout& ziel)
+{
+    auto* zeile = new QWidget(&m_wurzel);
+    zeile->setMinimumHeight(em(zeilenhöhe));
+    auto* layout = new QHBoxLayout(zeile);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(em(0.5));
+    auto* beschriftung = macheFeldbeschriftung(feld, beschriftungsbreite);
+    layout->addWidget(beschriftung, 0, Qt::AlignVCenter);
+    for (const auto& teil : feld.teile) {
+        füge(teil, *layout);
+    }
+    layout->addStretch(1);
+    zeile->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    ziel.addWidget(zeile);
+    verbindeFeld(feld, *beschriftung, *zeile);
+}
+
+/// The label is the name of its fields; a row whose parts are all hidden goes, unless it keeps its place.
+void Anordner::verbindeFeld(const Anordnung& feld, QWidget& beschriftung, QWidget& zeile)
+{
+    std::vector<Element*> elemente;
+    for (const auto& teil : feld.teile) {
+        sammle(teil, elemente);
+    }
+    benenneFelder(m_ansicht, elemente, beschriftung);
+    auto regel = zeile.sizePolicy();
+    regel.setRetainSizeWhenHidden(std::any_of(feld.teile.begin(), feld.teile.end(), behältPlatz));
+    zeile.setSizePolicy(regel);
+    auto zeige = [elemente, &zeile, &beschriftung, eigene = feld.element] {
+        const bool sichtbar = std::any_of(elemente.begin(), elemente.end(), [](const Element* e) { return e->istSichtbar(); });
+        zeile.setVisible(sichtbar || (eigene != nullptr && eigene->istSichtbar()));
+        if (eigene == nullptr) {
+            beschriftung.setVisible(sichtbar);
+        }
+    };
+    zeige();
+    for (auto* element : elemente) {
+        m_ansicht.abonniere(element->geändert, zeige);
+    }
+    if (feld.element != nullptr) {
+        m_ansicht.abonniere(feld.element->geändert, zeige);
+        m_ansicht.abonniere(feld.element->geändert, [&ansicht = m_ansicht, elemente, &beschriftung] {
+            benenneFelder(ansicht, elemente, beschriftung);
+        });
+    }
+}

@@ -1,0 +1,123 @@
+#include "platform/qt/Antwortfeld.h"
+
+#include "platform/elemente/triCtlJaNein.h"
+#include "platform/qt/Ansicht.h"
+#include "platform/qt/Farbwert.h"
+#include "platform/qt/Stil.h"
+#include "platform/qt/Umschrift.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <utility>
+
+namespace {
+
+constexpr int ring = 3; ///< room around the field for the focus line, in hairlines
+constexpr int rundung = 3;
+constexpr double deckungGesperrt = 0.45;
+
+/// A screen reader meets a button whose value is the answer.
+class Vorlesefeld : public QAccessibleWidget {
+public:
+    explicit Vorlesefeld(Antwortfeld& feld) : QAccessibleWidget(&feld, QAccessible::Button), m_feld(feld) {}
+
+    QString text(QAccessible::Text art) const override
+    {
+        return art == QAccessible::Value ? m_feld.text() : QAccessibleWidget::text(art);
+    }
+    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+    void doAction(const QString& aktion) override
+    {
+        if (aktion == pressAction() && m_feld.isEnabled()) {
+            m_feld.klicke();
+        } else {
+            QAccessibleWidget::doAction(aktion);
+        }
+    }
+
+private:
+    Antwortfeld& m_feld;
+};
+
+QAccessibleInterface* erzeugeVorlesefeld(const QString& /*klasse*/, QObject* objekt)
+{
+    auto* feld = dynamic_cast<Antwortfeld*>(objekt);
+    return feld == nullptr ? nullptr : new Vorlesefeld(*feld);
+}
+
+} // namespace
+
+Antwortfeld::Antwortfeld(triCtlJaNein& element, Ansicht& ansicht, QWidget* eltern)
+    : QWidget(eltern), m_element(element), m_ansicht(ansicht)
+{
+    static const bool angemeldet = [] {
+        QAccessible::installFactory(erzeugeVorlesefeld);
+        return true;
+    }();
+    Q_UNUSED(angemeldet)
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    ansicht.binde(element, *this, [this] { übernimm(); });
+}
+
+void Antwortfeld::übernimm()
+{
+    const QString vorher = std::exchange(m_text, alsQString(m_element.text()));
+    m_hintergrund = alsQColor(m_element.hintergrund());
+    m_randfarbe = alsQColor(m_element.randfarbe());
+    update();
+    if (vorher != m_text && QAccessible::isActive()) {
+        QAccessibleValueChangeEvent gewechselt(this, m_text);
+        QAccessible::updateAccessibility(&gewechselt);
+    }
+}
+
+void Antwortfeld::klicke()
+{
+    m_ansicht.ereignis([this] { m_element.klicke(); });
+}
+
+QSize Antwortfeld::sizeHint() const
+{
+    return {em(3.0) + 2 * ring, em(1.08) + 2 * ring};
+}
+
+void Antwortfeld::paintEvent(QPaintEvent* /*ereignis*/)
+{
+    QPainter maler(this);
+    maler.setRenderHint(QPainter::Antialiasing);
+    const QRectF feld = QRectF(rect()).adjusted(ring, ring, -ring, -ring);
+    if (hasFocus()) {
+        maler.setPen(QPen(farben().fokus, 2));
+        maler.drawRoundedRect(feld.adjusted(-2, -2, 2, 2), rundung + 2, rundung + 2);
+    }
+    maler.setOpacity(isEnabled() ? 1.0 : deckungGesperrt);
+    maler.setPen(QPen(m_randfarbe, 1));
+    maler.setBrush(m_hintergrund);
+    maler.drawRoundedRect(feld.adjusted(0.5, 0.5, -0.5, -0.5), rundung, rundung);
+    maler.setOpacity(1.0);
+    maler.setPen(isEnabled() ? QColor(Qt::black) : farben().schrift);
+    QFont schriftart = font();
+    schriftart.setBold(m_hintergrund == Qt::white);
+    maler.setFont(schriftart);
+    maler.drawText(feld, Qt::AlignCenter, m_text);
+}
+
+void Antwortfeld::mousePressEvent(QMouseEvent* ereignis)
+{
+    m_gedrückt = ereignis->button() == Qt::LeftButton;
+}
+
+void Antwortfeld::mouseDoubleClickEvent(QMouseEvent* ereignis)
+{
+    m_gedrückt = ereignis->button() == Qt::LeftButton; // two quick clicks are two answers
+}
+
+void Antwortfeld::mouseReleaseEvent(QMouseEvent* ereignis)
+{
+    if (std::exchange(m_gedrückt, false) && rect().contains(ereignis->position().toPoint())) {
+        klicke();
+    }
+}

@@ -1,0 +1,196 @@
+#include "platform/qt/Auswahlbox.h"
+
+#include "platform/elemente/Elemente.h"
+#include "platform/qt/Ansicht.h"
+#include "platform/qt/Auswahlliste.h"
+#include "platform/qt/Eingabefilter.h"
+#include "platform/qt/Stil.h"
+#include "platform/qt/Umschrift.h"
+
+#include <QAbstractItemView>
+#include <QFocusEvent>
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QScreen>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionComboBox>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int sichtbareEinträge = 16;
+
+int stelleIn(const std::vector<std::string>& liste, const std::string& text)
+{
+    const auto ort = std::find(liste.begin(), liste.end(), text);
+    return ort == liste.end() ? -1 : static_cast<int>(ort - liste.begin());
+}
+
+} // namespace
+
+Auswahlbox::Auswahlbox(Auswahlfeld& element, Ansicht& ansicht, QWidget* eltern)
+    : QComboBox(eltern), m_element(element), m_ansicht(ansicht)
+{
+    setModel(new Auswahlliste(element, ansicht, this));
+    setMaxVisibleItems(sichtbareEinträge);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // lists of all nations are not measured
+    setMinimumContentsLength(1);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    if (element.istTippbar()) {
+        macheTippbar();
+    }
+    ansicht.binde(element, *this, [this] { übernimm(); });
+    connect(this, &QComboBox::activated, this, [this](int stelle) {
+        if (stelle >= 0) {
+            m_ansicht.ereignis([this, stelle] { m_element.wähle(static_cast<std::size_t>(stelle)); });
+        }
+        if (m_ansicht.lebt()) {
+            übernimm();
+        }
+    });
+}
+
+void Auswahlbox::macheTippbar()
+{
+    setEditable(true);
+    setInsertPolicy(QComboBox::NoInsert);
+    setCompleter(nullptr);
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { gibEin(text); });
+    connect(lineEdit(), &QLineEdit::cursorPositionChanged, this, [this](int /*vorher*/, int jetzt) {
+        if (!m_wirdGefüllt && m_ansicht.lebt() && lineEdit()->text() == m_text) {
+            m_element.setzeSchreibmarke(static_cast<std::size_t>(jetzt));
+        }
+    });
+}
+
+void Auswahlbox::gibEin(const QString& text)
+{
+    const auto eingabe = filtere(text, lineEdit()->cursorPosition(), false, 0);
+    meldeFilter(*this, eingabe);
+    m_ansicht.ereignis([&] { m_element.gibEin(eingabe.text, eingabe.schreibmarke); });
+}
+
+QString Auswahlbox::gezeigterText() const
+{
+    return isEditable() ? lineEdit()->text() : m_text;
+}
+
+void Auswahlbox::gleicheSchreibmarkeAb(bool auswahlWeicht)
+{
+    auto& zeile = *lineEdit();
+    if (!zeile.hasSelectedText()) {
+        return;
+    }
+    const auto anfang = static_cast<std::size_t>(zeile.selectionStart());
+    if (auswahlWeicht && !m_element.beiTastendruck) {
+        auto rest = m_element.text();
+        rest.erase(anfang, static_cast<std::size_t>(zeile.selectionLength()));
+        m_element.gibEin(rest, anfang);
+    } else {
+        m_element.setzeSchreibmarke(anfang);
+    }
+    zeile.deselect();
+}
+
+void Auswahlbox::übernimm()
+{
+    m_wirdGefüllt = true;
+    const QSignalBlocker still(this);
+    if (auto* liste = dynamic_cast<Auswahlliste*>(model())) {
+        liste->übernimm();
+    }
+    const auto text = m_element.text();
+    m_text = alsQString(text);
+    setCurrentIndex(stelleIn(m_element.liste(), text));
+    if (isEditable()) {
+        übernimmTippbar();
+    }
+    m_wirdGefüllt = false;
+    update();
+}
+
+void Auswahlbox::übernimmTippbar()
+{
+    auto& zeile = *lineEdit();
+    if (zeile.text() != m_text) {
+        zeile.setText(m_text);
+    }
+    const auto marke = static_cast<int>(m_element.schreibmarke());
+    if (!zeile.hasSelectedText() && zeile.cursorPosition() != marke) {
+        zeile.setCursorPosition(marke);
+    }
+    if (property("falsch").toBool() != m_element.istFalsch()) {
+        m_warFalsch = !m_element.istFalsch();
+        setProperty("falsch", m_element.istFalsch());
+        style()->unpolish(this);
+        style()->polish(this);
+        if (m_warFalsch && hasFocus()) {
+            zeile.selectAll();
+        }
+    }
+}
+
+void Auswahlbox::focusInEvent(QFocusEvent* ereignis)
+{
+    QComboBox::focusInEvent(ereignis);
+    if (isEditable() && m_ansicht.lebt()) {
+        if (m_warFalsch) {
+            lineEdit()->selectAll(); // a wrong value is to be typed anew
+        } else if (ereignis->reason() != Qt::PopupFocusReason) {
+            lineEdit()->setCursorPosition(static_cast<int>(m_element.schreibmarke()));
+        }
+        m_warFalsch = false;
+    }
+}
+
+void Auswahlbox::showPopup()
+{
+    const int breiteste = view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width() + em(1);
+    view()->setMinimumWidth(std::min(std::max(breiteste, width()), screen()->availableSize().width()));
+    QComboBox::showPopup();
+}
+
+QSize Auswahlbox::sizeHint() const
+{
+    return {em(24), QComboBox::sizeHint().height()};
+}
+
+QSize Auswahlbox::minimumSizeHint() const
+{
+    return {em(isEditable() ? 3.9 : 7), sizeHint().height()};
+}
+
+void Auswahlbox::initStyleOption(QStyleOptionComboBox* option) const
+{
+    QComboBox::initStyleOption(option);
+    if (!isEditable()) {
+        const auto feld = style()->subControlRect(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxEditField, this);
+        option->currentText = option->fontMetrics.elidedText(m_text, Qt::ElideRight, feld.width() - 2);
+    }
+}
+
+void Auswahlbox::wheelEvent(QWheelEvent* ereignis)
+{
+    if (hasFocus() && !isEditable()) {
+        QComboBox::wheelEvent(ereignis);
+    } else {
+        ereignis->ignore(); // the page scrolls
+    }
+}
+
+bool Auswahlbox::event(QEvent* ereignis)
+{
+    if (ereignis->type() == QEvent::ToolTip && toolTip().isEmpty() && !isEditable()) {
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        const auto ort = static_cast<QHelpEvent*>(ereignis)->globalPos();
+        QToolTip::showText(ort, option.currentText == m_text ? QString() : m_text, this);
+        return true;
+    }
+    return QComboBox::event(ereignis);
+}

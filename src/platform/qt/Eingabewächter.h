@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/elemente/Taste.h"
+
+#include <QObject>
+
+#include <functional>
+#include <optional>
+
+class Ansicht;
+class Element;
+class QKeyEvent;
+class QMouseEvent;
+class QWidget;
+
+/// Sees every press of the mouse and every key before the widgets do.
+///
+/// A press on an element asks the element that has the focus to let go; where it does not, the whole press
+/// up to its release is swallowed. Keys go to the element, and what it has no use for to its screen, so that
+/// the rules for keys are the logic's; only editing texts is left to the toolkit.
+class Eingabewächter : public QObject {
+public:
+    /// `ansichtVon` tells the live tree that the widget belongs to (for a window: the tree that it shows).
+    explicit Eingabewächter(std::function<Ansicht*(const QWidget*)> ansichtVon);
+    ~Eingabewächter() override;
+
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override;
+
+private:
+    bool beiMaus(QWidget& widget, const QMouseEvent& ereignis);
+    bool beiTaste(QWidget& widget, const QKeyEvent& ereignis);
+    bool gibElement(Ansicht& ansicht, Element& element, const Taste& taste);
+
+    std::function<Ansicht*(const QWidget*)> m_ansichtVon;
+    bool m_verschluckt = false; ///< a press was refused; its release is still to come
+};

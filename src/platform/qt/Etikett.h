@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QLabel>
+
+class Ansicht;
+class Beschriftung;
+
+/// A label; also a fixed text that is no element.
+class Etikett : public QLabel {
+public:
+    Etikett(const QString& text, QWidget* eltern);
+    Etikett(Beschriftung& element, Ansicht& ansicht, QWidget* eltern);
+
+    /// Wraps at this width, which it then has whatever its text.
+    void setzeUmbruchbreite(int breite);
+    /// "hyphen, blank" is where a column head breaks.
+    void brichAmBindestrich();
+    /// A row of the diagnosis listing paints the row's kind behind the text.
+    void seiListenzelle() { m_istListenzelle = true; }
+
+    bool hasHeightForWidth() const override { return false; }
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* ereignis) override;
+    void mousePressEvent(QMouseEvent* ereignis) override;
+    void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
+
+private:
+    void zeigeText(const QString& text);
+    void zeichneZeilenart();
+
+    Beschriftung* m_element = nullptr;
+    Ansicht* m_ansicht = nullptr;
+    int m_umbruchbreite = 0;
+    bool m_istListenzelle = false;
+    bool m_gedrückt = false;
+};

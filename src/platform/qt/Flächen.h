@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QWidget>
+
+#include <vector>
+
+class QPushButton;
+
+/// A widget that places its children by itself, and again whenever one of them asks for another size.
+class Handfläche : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    virtual void ordne() = 0;
+    void resizeEvent(QResizeEvent* ereignis) override;
+    void showEvent(QShowEvent* ereignis) override;
+    bool event(QEvent* ereignis) override;
+};
+
+/// Two parts in one place: the lower is covered, and takes no input, while the cover is visible. The
+/// elements' own state stays as it is.
+class Deckfläche : public Handfläche {
+public:
+    Deckfläche(QWidget& darunter, QWidget& decke, QWidget* eltern);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override;
+
+protected:
+    void ordne() override;
+
+private:
+    void gleicheAb();
+
+    QWidget& m_darunter;
+    QWidget& m_decke;
+};
+
+/// Parts that share one place, which is as large as the largest of them, seen or not.
+class Stapelfläche : public Handfläche {
+public:
+    Stapelfläche(std::vector<QWidget*> teile, QWidget* eltern);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void ordne() override;
+
+private:
+    std::vector<QWidget*> m_teile;
+};
+
+/// Columns of cards side by side; below each other where their least widths don't fit.
+class Kartenreihe : public Handfläche {
+public:
+    explicit Kartenreihe(QWidget* eltern);
+
+    /// `höchstbreite` in pixels; `wächst` when the column takes the height that is there.
+    void füge(QWidget& spalte, int höchstbreite, bool wächst);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void ordne() override;
+
+private:
+    struct Spalte {
+        QWidget* widget = nullptr;
+        int höchstbreite = 0;
+    };
+
+    bool passtNebeneinander(int breite) const;
+    std::vector<int> verteile(int breite) const;
+    int höhe(bool kleinste) const;
+
+    std::vector<Spalte> m_spalten;
+};

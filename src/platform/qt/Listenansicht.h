@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QTreeView>
+
+class Ansicht;
+class Liste;
+
+/// The rows of a list, read from the element when they are asked for.
+class Listenmodell : public QAbstractTableModel {
+public:
+    Listenmodell(const Liste& element, const Ansicht& ansicht, QObject* eltern);
+
+    int rowCount(const QModelIndex& eltern = {}) const override;
+    int columnCount(const QModelIndex& eltern = {}) const override;
+    QVariant data(const QModelIndex& ort, int rolle = Qt::DisplayRole) const override;
+    QVariant headerData(int abschnitt, Qt::Orientation richtung, int rolle = Qt::DisplayRole) const override;
+    void übernimm();
+
+private:
+    const Liste& m_element;
+    const Ansicht& m_ansicht;
+};
+
+/// The list: shows rows and selection of the element; clicks and keys are the element's.
+class Listenansicht : public QTreeView {
+public:
+    Listenansicht(Liste& element, Ansicht& ansicht, QWidget* eltern);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void mousePressEvent(QMouseEvent* ereignis) override;
+    void mouseMoveEvent(QMouseEvent* ereignis) override;
+    void mouseReleaseEvent(QMouseEvent* ereignis) override;
+    void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
+    void resizeEvent(QResizeEvent* ereignis) override;
+
+private:
+    void richteKopfEin();
+    void übernimm();
+    void übernimmZeilen();
+    void messeSpalten();
+    void verteileSpalten();
+    void zeigeAuswahl();
+
+    Liste& m_element;
+    Ansicht& m_ansicht;
+    Listenmodell* m_modell;
+    QList<int> m_spaltenbreiten; ///< what the texts need
+};

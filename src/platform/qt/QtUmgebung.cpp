@@ -1,0 +1,206 @@
+#include "platform/qt/QtUmgebung.h"
+
+#include "platform/mappe/Tabellenprogramm.h"
+#include "platform/qt/Maß.h"
+#include "platform/qt/Stil.h"
+#include "platform/qt/Umschrift.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCryptographicHash>
+#include <QDate>
+#include <QDir>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QLockFile>
+#include <QMessageBox>
+#include <QScreen>
+#include <QSpacerItem>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace {
+
+constexpr std::array<std::pair<Symbol, QMessageBox::Icon>, 5> symbole{{
+    {Symbol::Keins, QMessageBox::NoIcon},
+    {Symbol::Info, QMessageBox::Information},
+    {Symbol::Warnung, QMessageBox::Warning},
+    {Symbol::Stop, QMessageBox::Critical},
+    {Symbol::Frage, QMessageBox::Question},
+}};
+
+constexpr std::array<std::pair<Antwort, QMessageBox::StandardButton>, 4> antworten{{
+    {Antwort::OK, QMessageBox::Ok},
+    {Antwort::Abbrechen, QMessageBox::Cancel},
+    {Antwort::Ja, QMessageBox::Yes},
+    {Antwort::Nein, QMessageBox::No},
+}};
+
+QMessageBox::StandardButtons knöpfeFür(Knöpfe knöpfe)
+{
+    switch (knöpfe) {
+    case Knöpfe::OKAbbrechen:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case Knöpfe::JaNein:
+        return QMessageBox::Yes | QMessageBox::No;
+    case Knöpfe::OK:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+/// The first button where none of the box's own is named.
+Antwort vorgabeFür(const Meldung& meldung)
+{
+    return meldung.knöpfe == Knöpfe::JaNein && meldung.vorgabe == Antwort::OK ? Antwort::Ja : meldung.vorgabe;
+}
+
+QMessageBox::StandardButton knopfFür(Antwort antwort)
+{
+    for (const auto& [eine, knopf] : antworten) {
+        if (eine == antwort) {
+            return knopf;
+        }
+    }
+    return QMessageBox::Ok;
+}
+
+QString sperrpfad(const std::filesystem::path& ordner)
+{
+    const auto name = QCryptographicHash::hash(QByteArray::fromStdString(ordner.generic_string()), QCryptographicHash::Sha256);
+    auto platz = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (platz.isEmpty()) {
+        platz = QDir::tempPath();
+    }
+    return platz + QStringLiteral("/tolvek7-") + QString::fromLatin1(name.toHex().left(24)) + QStringLiteral(".lock");
+}
+
+} // namespace
+
+std::unique_ptr<QMessageBox> baueMeldungsfenster(const Meldung& meldung)
+{
+    auto fenster = std::make_unique<QMessageBox>(QApplication::activeWindow());
+    fenster->setWindowTitle(alsQString(meldung.titel));
+    fenster->setTextFormat(Qt::PlainText);
+    fenster->setText(alsMehrzeiler(meldung.text));
+    fenster->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    for (const auto& [symbol, bild] : symbole) {
+        if (symbol == meldung.symbol) {
+            fenster->setIcon(bild);
+        }
+    }
+    fenster->setStandardButtons(knöpfeFür(meldung.knöpfe));
+    fenster->setDefaultButton(knopfFür(vorgabeFür(meldung)));
+    if (meldung.knöpfe != Knöpfe::OK) {
+        fenster->setEscapeButton(meldung.knöpfe == Knöpfe::JaNein ? QMessageBox::No : QMessageBox::Cancel);
+    }
+    if (auto* gitter = dynamic_cast<QGridLayout*>(fenster->layout())) {
+        gitter->addItem(new QSpacerItem(em(22), 0), gitter->rowCount(), 0, 1, gitter->columnCount()); // least width
+    }
+    return fenster;
+}
+
+Antwort antwortVon(const QMessageBox& fenster)
+{
+    const auto gedrückt = fenster.standardButton(fenster.clickedButton());
+    for (const auto& [antwort, knopf] : antworten) {
+        if (knopf == gedrückt) {
+            return antwort;
+        }
+    }
+    // closed without a button
+    return fenster.standardButtons().testFlag(QMessageBox::No)       ? Antwort::Nein
+           : fenster.standardButtons().testFlag(QMessageBox::Cancel) ? Antwort::Abbrechen
+                                                                     : Antwort::OK;
+}
+
+std::string alsQtFilter(const std::string& filter)
+{
+    std::string ergebnis;
+    std::size_t von = 0;
+    while (von < filter.size()) {
+        const auto mitte = filter.find('|', von);
+        if (mitte == std::string::npos) {
+            break;
+        }
+        const auto ende = std::min(filter.find('|', mitte + 1), filter.size());
+        auto muster = filter.substr(mitte + 1, ende - mitte - 1);
+        std::replace(muster.begin(), muster.end(), ';', ' ');
+        auto name = filter.substr(von, mitte - von);
+        name = name.substr(0, name.find('('));
+        ergebnis += (ergebnis.empty() ? "" : ";;") + name + '(' + muster + ')';
+        von = ende + 1;
+    }
+    return ergebnis;
+}
+
+QtUmgebung::QtUmgebung(Tabellenprogramm& tabellenprogramm)
+    : m_tabellenprogramm(tabellenprogramm), m_dateien(erzeugeDateizugriff())
+{
+}
+
+QtUmgebung::~QtUmgebung() = default;
+
+Datum QtUmgebung::heute()
+{
+    const auto tag = QDate::currentDate();
+    return {tag.year(), tag.month(), tag.day()};
+}
+
+std::filesystem::path QtUmgebung::programmordner()
+{
+    return {QCoreApplication::applicationDirPath().toStdU16String()};
+}
+
+bool QtUmgebung::istErsteInstanz()
+{
+    m_sperre = std::make_unique<QLockFile>(sperrpfad(programmordner()));
+    m_sperre->setStaleLockTime(0); // a lock is stale when its process is gone, never by its age
+    return m_sperre->tryLock() || m_sperre->error() != QLockFile::LockFailedError;
+}
+
+Antwort QtUmgebung::zeigeMeldung(const Meldung& meldung)
+{
+    const auto fenster = baueMeldungsfenster(meldung);
+    fenster->exec();
+    return antwortVon(*fenster);
+}
+
+std::optional<std::filesystem::path> QtUmgebung::wähleDatei(const Dateiwahl& wahl)
+{
+    const auto ordner = QString::fromStdU16String(wahl.anfangsordner.u16string());
+    const auto pfad = QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, ordner, alsQString(alsQtFilter(wahl.filter)));
+    if (pfad.isEmpty()) {
+        return std::nullopt;
+    }
+    return std::filesystem::path(pfad.toStdU16String());
+}
+
+bool QtUmgebung::findeTabellenprogramm()
+{
+    return m_tabellenprogramm.istDa();
+}
+
+void QtUmgebung::übergibMappe(Arbeitsmappe& mappe)
+{
+    m_tabellenprogramm.öffne(mappe);
+}
+
+Größe QtUmgebung::bildschirmgröße()
+{
+    const auto größe = QApplication::primaryScreen()->availableSize();
+    return {alsTwips(größe.width()), alsTwips(größe.height())};
+}
+
+void QtUmgebung::zeichne()
+{
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void QtUmgebung::lasseEreignisseZu()
+{
+    QCoreApplication::processEvents();
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/dateien/Dateien.h"
+#include "platform/umgebung/Umgebung.h"
+
+#include <memory>
+
+class QLockFile;
+class QMessageBox;
+class Tabellenprogramm;
+
+/// The outside world of a person at a desktop. QApplication must exist.
+class QtUmgebung : public Umgebung {
+public:
+    explicit QtUmgebung(Tabellenprogramm& tabellenprogramm);
+    ~QtUmgebung() override;
+
+    Datum heute() override;
+    std::filesystem::path programmordner() override;
+    /// Holds a lock of the system, named after the program folder, that ends with the process.
+    bool istErsteInstanz() override;
+    Dateien& dateien() override { return m_dateien; }
+
+    Antwort zeigeMeldung(const Meldung& meldung) override;
+    std::optional<std::filesystem::path> wähleDatei(const Dateiwahl& wahl) override;
+
+    bool findeTabellenprogramm() override;
+    void übergibMappe(Arbeitsmappe& mappe) override;
+
+    Größe bildschirmgröße() override;
+    void zeichne() override;
+    void lasseEreignisseZu() override;
+
+private:
+    Tabellenprogramm& m_tabellenprogramm;
+    Dateien m_dateien;
+    std::unique_ptr<QLockFile> m_sperre;
+};
+
+/// The message box of a message, not shown yet.
+std::unique_ptr<QMessageBox> baueMeldungsfenster(const Meldung& meldung);
+/// What the button of that box means.
+Antwort antwortVon(const QMessageBox& fenster);
+/// The pairs of name and pattern, separated by "|", as Qt's file dialogue takes them.
+std::string alsQtFilter(const std::string& filter);

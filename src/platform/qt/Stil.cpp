@@ -1,0 +1,216 @@
+#include "platform/qt/Stil.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFontMetrics>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPalette>
+#include <QRegularExpression>
+#include <QStyleFactory>
+#include <QTranslator>
+
+#include <array>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+constexpr std::array<std::pair<const char*, QColor Farbtafel::*>, 19> farbnamen{{
+    {"grund", &Farbtafel::grund},
+    {"flaeche", &Farbtafel::flaeche},
+    {"feld", &Farbtafel::feld},
+    {"zebra", &Farbtafel::zebra},
+    {"linie", &Farbtafel::linie},
+    {"rand", &Farbtafel::rand},
+    {"feldrand", &Farbtafel::feldrand},
+    {"schrift", &Farbtafel::schrift},
+    {"schrift2", &Farbtafel::schrift2},
+    {"gesperrt", &Farbtafel::gesperrt},
+    {"akzent", &Farbtafel::akzent},
+    {"akzentH", &Farbtafel::akzentH},
+    {"aufakzent", &Farbtafel::aufakzent},
+    {"wahl", &Farbtafel::wahl},
+    {"band", &Farbtafel::band},
+    {"aufband", &Farbtafel::aufband},
+    {"band2", &Farbtafel::band2},
+    {"fokus", &Farbtafel::fokus},
+    {"fehler", &Farbtafel::fehler},
+}};
+
+/// In the order of `farbnamen`.
+constexpr std::array<QRgb, 19> hell{0xFFEEF2F5, 0xFFFFFFFF, 0xFFFFFFFF, 0xFFF5F8FA, 0xFFDDE4EA, 0xFFC5D0D9, 0xFF71808D,
+                                    0xFF17232D, 0xFF465664, 0xFF5E6B77, 0xFF0A647F, 0xFF084C61, 0xFFFFFFFF, 0xFFD0E7EF,
+                                    0xFF0F4657, 0xFFFFFFFF, 0xFFC9E0E8, 0xFF6363CC, 0xFFA3241B};
+constexpr std::array<QRgb, 19> dunkel{0xFF12181D, 0xFF1B232A, 0xFF12181D, 0xFF212B33, 0xFF2B363F, 0xFF3A4853, 0xFF7C8B98,
+                                      0xFFE4EBF0, 0xFFAEBBC6, 0xFF8898A5, 0xFF5CB6D2, 0xFF86CCE1, 0xFF06222B, 0xFF1F4857,
+                                      0xFF0E2E39, 0xFFEAF3F6, 0xFFA9C6D1, 0xFFA6A6FF, 0xFFFF9A90};
+
+struct Stilstand {
+    Thema thema = Thema::Hell;
+    Farbtafel farben;
+    QFont grundschrift;
+    double zeilenhöhe = 18;
+};
+
+Stilstand& stand()
+{
+    static Stilstand einer;
+    return einer;
+}
+
+Farbtafel tafel(Thema thema)
+{
+    Farbtafel ergebnis;
+    const auto& werte = thema == Thema::Hell ? hell : dunkel;
+    for (std::size_t i = 0; i < werte.size(); ++i) {
+        ergebnis.*farbnamen[i].second = QColor::fromRgba(werte[i]);
+    }
+    return ergebnis;
+}
+
+QString farbeNach(const QString& name, const Farbtafel& farben)
+{
+    for (const auto& [farbname, ort] : farbnamen) {
+        if (name == QLatin1String(farbname)) {
+            return (farben.*ort).name();
+        }
+    }
+    return {};
+}
+
+QString fülle(const QString& vorlage, Thema thema)
+{
+    static const QRegularExpression platzhalter(QStringLiteral("@(\\w+)"));
+    QString ergebnis;
+    qsizetype bis = 0;
+    auto treffer = platzhalter.globalMatch(vorlage);
+    while (treffer.hasNext()) {
+        const auto einer = treffer.next();
+        ergebnis += vorlage.mid(bis, einer.capturedStart() - bis);
+        ergebnis += einer.captured(1) == QStringLiteral("thema") ? (thema == Thema::Hell ? "hell" : "dunkel")
+                                                                 : farbeNach(einer.captured(1), stand().farben);
+        bis = einer.capturedEnd();
+    }
+    return ergebnis + vorlage.mid(bis);
+}
+
+QPalette palette(const Farbtafel& f)
+{
+    QPalette p;
+    const std::array<std::pair<QPalette::ColorRole, QColor>, 17> rollen{{
+        {QPalette::Window, f.grund},
+        {QPalette::WindowText, f.schrift},
+        {QPalette::Base, f.feld},
+        {QPalette::AlternateBase, f.zebra},
+        {QPalette::Text, f.schrift},
+        {QPalette::Button, f.flaeche},
+        {QPalette::ButtonText, f.schrift},
+        {QPalette::Highlight, f.akzent},
+        {QPalette::HighlightedText, f.aufakzent},
+        {QPalette::Link, f.akzent},
+        {QPalette::PlaceholderText, f.gesperrt},
+        {QPalette::Mid, f.rand},
+        {QPalette::Dark, f.feldrand},
+        {QPalette::Light, f.flaeche},
+        {QPalette::Midlight, f.linie},
+        {QPalette::ToolTipBase, f.flaeche},
+        {QPalette::ToolTipText, f.schrift},
+    }};
+    for (const auto& [rolle, farbe] : rollen) {
+        p.setColor(rolle, farbe);
+    }
+    for (const auto rolle : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        p.setColor(QPalette::Disabled, rolle, f.gesperrt);
+    }
+    p.setColor(QPalette::Disabled, QPalette::Base, f.zebra);
+    return p;
+}
+
+/// The texts of the toolkit's own buttons and menus, from the system or from beside the program.
+void ladeÜbersetzung(QApplication& anwendung)
+{
+    auto* übersetzer = new QTranslator(&anwendung);
+    const auto datei = QStringLiteral("qtbase_de");
+    if (übersetzer->load(datei, QLibraryInfo::path(QLibraryInfo::TranslationsPath)) ||
+        übersetzer->load(datei, QApplication::applicationDirPath()) ||
+        übersetzer->load(datei, QApplication::applicationDirPath() + QStringLiteral("/translations"))) {
+        QApplication::installTranslator(übersetzer);
+    }
+}
+
+} // namespace
+
+/// The resources of a static library have to be asked for, outside any namespace.
+static void ladeBilder()
+{
+    Q_INIT_RESOURCE(stil);
+}
+
+void richteStilEin(QApplication& anwendung)
+{
+    const bool istDunkel = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    richteStilEin(anwendung, istDunkel ? Thema::Dunkel : Thema::Hell);
+}
+
+void richteStilEin(QApplication& anwendung, Thema thema)
+{
+    ladeBilder();
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    ladeÜbersetzung(anwendung);
+    auto& s = stand();
+    s.thema = thema;
+    s.farben = tafel(thema);
+    s.grundschrift = QApplication::font();
+    s.zeilenhöhe = QFontMetrics(s.grundschrift).height();
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(palette(s.farben));
+    QFile vorlage(QStringLiteral(":/stil/stil.qss"));
+    if (vorlage.open(QIODevice::ReadOnly)) {
+        anwendung.setStyleSheet(fülle(QString::fromUtf8(vorlage.readAll()), thema));
+    }
+}
+
+const Farbtafel& farben()
+{
+    return stand().farben;
+}
+
+Thema thema()
+{
+    return stand().thema;
+}
+
+int em(double länge)
+{
+    return static_cast<int>(std::lround(länge * stand().zeilenhöhe));
+}
+
+QFont schrift(Schriftrolle rolle)
+{
+    struct Werte {
+        Schriftrolle rolle;
+        double größe;
+        QFont::Weight gewicht;
+    };
+    static constexpr std::array<Werte, 6> tabelle{{
+        {Schriftrolle::Grund, 1.0, QFont::Normal},
+        {Schriftrolle::Bandtitel, 1.35, QFont::DemiBold},
+        {Schriftrolle::Bandname, 1.15, QFont::Normal},
+        {Schriftrolle::Kartentitel, 1.0, QFont::DemiBold},
+        {Schriftrolle::Spaltenkopf, 0.9, QFont::DemiBold},
+        {Schriftrolle::Wert, 1.0, QFont::DemiBold},
+    }};
+    QFont ergebnis = stand().grundschrift;
+    for (const auto& werte : tabelle) {
+        if (werte.rolle == rolle) {
+            if (ergebnis.pointSizeF() > 0) {
+                ergebnis.setPointSizeF(ergebnis.pointSizeF() * werte.größe);
+            } else {
+                ergebnis.setPixelSize(static_cast<int>(std::lround(ergebnis.pixelSize() * werte.größe)));
+            }
+            ergebnis.setWeight(werte.gewicht);
+        }
+    }
+    return ergebnis;
+}

@@ -1,0 +1,239 @@
+#include "platform/qt/Tabelle.h"
+
+#include "platform/qt/Ansicht.h"
+#include "platform/qt/Antwortfeld.h"
+#include "platform/qt/Auswahlbox.h"
+#include "platform/qt/Elementzeichner.h"
+#include "platform/qt/Etikett.h"
+#include "platform/qt/Knöpfe.h"
+#include "platform/qt/Stil.h"
+#include "platform/qt/Umschrift.h"
+
+#include <QEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <numeric>
+
+namespace {
+
+constexpr std::size_t zeilenInSicht = 12;
+constexpr double zeileEng = 1.38;
+constexpr double zeileWeit = 1.7;
+
+int summe(const std::vector<int>& werte)
+{
+    return std::accumulate(werte.begin(), werte.end(), 0);
+}
+
+QString zugänglicherName(const Tabellenspalte& spalte, const Anordnung& zeile)
+{
+    QStringList teile{alsQString(zeile.element->text())};
+    for (const auto& kopf : {spalte.gruppe, spalte.titel}) {
+        if (!kopf.empty()) {
+            teile.append(alsQString(kopf));
+        }
+    }
+    return teile.join(QStringLiteral(", "));
+}
+
+QWidget* baueZelle(Element& element, int breite, Ansicht& ansicht, QWidget* eltern)
+{
+    auto* zelle = zeichneElement(element, ansicht, eltern);
+    if (auto* knopf = dynamic_cast<Optionsknopf*>(zelle)) {
+        knopf->seiZelle(breite, em(zeileEng) - 1);
+    } else if (auto* box = dynamic_cast<Auswahlbox*>(zelle)) {
+        box->setProperty("eng", true);
+        box->setFixedWidth(std::min(breite, em(box->isEditable() ? 3.9 : 10)));
+    }
+    return zelle;
+}
+
+} // namespace
+
+Antwortzeile::Antwortzeile(Etikett& beschriftung, std::vector<QWidget*> zellen, QWidget* eltern)
+    : QWidget(eltern), m_beschriftung(beschriftung), m_zellen(std::move(zellen))
+{
+    m_beschriftung.setParent(this);
+    m_beschriftung.setWordWrap(true);
+    for (auto* zelle : m_zellen) {
+        if (zelle != nullptr) {
+            const bool sichtbar = !zelle->isHidden();
+            zelle->setParent(this);
+            zelle->setVisible(sichtbar);
+        }
+    }
+}
+
+int Antwortzeile::bevorzugteBeschriftungsbreite() const
+{
+    return m_beschriftung.fontMetrics().horizontalAdvance(m_beschriftung.text()) + em(0.8);
+}
+
+int Antwortzeile::ordne(int breite, const std::vector<int>& spalten, int mindesthöhe)
+{
+    int links = breite - summe(spalten);
+    // a row without answers in its first columns gives their place to its label
+    int ende = links;
+    for (std::size_t i = 0; i < m_zellen.size() && m_zellen[i] == nullptr; ++i) {
+        ende += spalten[i];
+    }
+    const QRect platz(em(0.28), 0, ende - em(0.5), mindesthöhe);
+    const int höhe = std::max(mindesthöhe, m_beschriftung.heightForWidth(platz.width()) + 1);
+    m_beschriftung.setGeometry(platz.x(), 0, platz.width(), höhe - 1);
+    for (std::size_t i = 0; i < m_zellen.size(); ++i) {
+        if (auto* zelle = m_zellen[i]) {
+            const QSize größe = zelle->sizeHint().boundedTo(zelle->maximumSize()).expandedTo(zelle->minimumSize());
+            zelle->setGeometry(links + (spalten[i] - größe.width()) / 2, (höhe - größe.height()) / 2, größe.width(),
+                               größe.height());
+        }
+        links += spalten[i];
+    }
+    return höhe;
+}
+
+void Antwortzeile::setzeAktiv(bool aktiv)
+{
+    if (m_aktiv != aktiv) {
+        m_aktiv = aktiv;
+        update();
+    }
+}
+
+void Antwortzeile::paintEvent(QPaintEvent* /*ereignis*/)
+{
+    QPainter maler(this);
+    const auto& f = farben();
+    if (m_aktiv && isEnabled()) {
+        maler.fillRect(rect(), f.wahl);
+    } else if (underMouse() && isEnabled()) {
+        maler.fillRect(rect(), f.zebra);
+    }
+    maler.fillRect(0, height() - 1, width(), 1, f.linie);
+}
+
+void Antwortzeile::enterEvent(QEnterEvent* /*ereignis*/)
+{
+    update();
+}
+
+void Antwortzeile::leaveEvent(QEvent* /*ereignis*/)
+{
+    update();
+}
+
+Tabellenblatt::Tabellenblatt(std::vector<Antwortzeile*> zeilen, std::vector<int> spalten, QWidget* eltern)
+    : Handfläche(eltern), m_zeilen(std::move(zeilen)), m_spalten(std::move(spalten))
+{
+    for (auto* zeile : m_zeilen) {
+        zeile->setParent(this);
+    }
+}
+
+int Tabellenblatt::zeilenhöhe() const
+{
+    return em(m_zeilen.size() <= zeilenInSicht ? zeileWeit : zeileEng);
+}
+
+int Tabellenblatt::höheBei(int breite) const
+{
+    int höhe = 0;
+    for (auto* zeile : m_zeilen) {
+        höhe += zeile->ordne(breite, m_spalten, zeilenhöhe());
+    }
+    return höhe;
+}
+
+int Tabellenblatt::mindesthöhe() const
+{
+    return static_cast<int>(std::min(zeilenInSicht, m_zeilen.size())) * zeilenhöhe();
+}
+
+int Tabellenblatt::bevorzugteBreite() const
+{
+    int beschriftung = em(12);
+    for (const auto* zeile : m_zeilen) {
+        beschriftung = std::max(beschriftung, zeile->bevorzugteBeschriftungsbreite());
+    }
+    return std::min(beschriftung, em(24)) + summe(m_spalten);
+}
+
+void Tabellenblatt::ordne()
+{
+    int oben = 0;
+    for (auto* zeile : m_zeilen) {
+        const int höhe = zeile->ordne(width(), m_spalten, zeilenhöhe());
+        zeile->setGeometry(0, oben, width(), höhe);
+        oben += höhe;
+    }
+}
+
+Tabelle::Tabelle(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern) : QScrollArea(eltern)
+{
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
+    std::vector<QWidget*> füller;
+    for (const auto& spalte : tabelle.spalten) {
+        m_spalten.push_back(em(spalte.breite));
+        füller.push_back(spalte.füller == nullptr ? nullptr : zeichneElement(*spalte.füller, ansicht, this));
+        if (füller.back() != nullptr) {
+            füller.back()->setAccessibleName(alsQString(verbinde(tabelle.text, ' ', spalte.gruppe, ' ', spalte.titel)).simplified());
+        }
+    }
+    std::vector<Antwortzeile*> zeilen;
+    for (const auto& zeile : tabelle.teile) {
+        std::vector<QWidget*> zellen;
+        for (std::size_t i = 0; i < zeile.teile.size(); ++i) {
+            auto* element = zeile.teile[i].element;
+            zellen.push_back(element == nullptr ? nullptr : baueZelle(*element, m_spalten[i], ansicht, this));
+            if (zellen.back() != nullptr) {
+                zellen.back()->setAccessibleName(zugänglicherName(tabelle.spalten[i], zeile));
+            }
+        }
+        auto* beschriftung = dynamic_cast<Etikett*>(zeichneElement(*zeile.element, ansicht, this));
+        zeilen.push_back(new Antwortzeile(*beschriftung, std::move(zellen), this));
+    }
+    m_kopf = new Tabellenkopf(tabelle, std::move(füller), this);
+    m_kopf->ordne(em(30), m_spalten);
+    m_blatt = new Tabellenblatt(std::move(zeilen), m_spalten, this);
+    setViewportMargins(0, m_kopf->höhe(), 0, 0);
+    setWidget(m_blatt);
+    viewport()->setAutoFillBackground(false);
+    m_blatt->setAutoFillBackground(false);
+}
+
+QSize Tabelle::sizeHint() const
+{
+    const int breite = isVisible() ? viewport()->width() : m_blatt->bevorzugteBreite();
+    return {m_blatt->bevorzugteBreite(), m_kopf->höhe() + m_blatt->höheBei(breite)};
+}
+
+QSize Tabelle::minimumSizeHint() const
+{
+    return {em(12) + summe(m_spalten) + em(0.75), m_kopf->höhe() + m_blatt->mindesthöhe()};
+}
+
+void Tabelle::ordne()
+{
+    const int breite = viewport()->width();
+    m_kopf->setGeometry(0, 0, breite, m_kopf->höhe());
+    m_kopf->ordne(breite, m_spalten);
+    m_blatt->resize(breite, m_blatt->höheBei(breite));
+}
+
+void Tabelle::resizeEvent(QResizeEvent* ereignis)
+{
+    ordne();
+    QScrollArea::resizeEvent(ereignis);
+    updateGeometry();
+}
+
+bool Tabelle::viewportEvent(QEvent* ereignis)
+{
+    if (ereignis->type() == QEvent::LayoutRequest) {
+        ordne();
+        updateGeometry();
+    }
+    return QScrollArea::viewportEvent(ereignis);
+}
