@@ -80,7 +80,8 @@ TEST(Szenariodatei, OptionenStehenHinterDenArgumenten)
 TEST(Szenariodatei, FelderEinesSatzesAuchMitLeerzeichen)
 {
     const auto anweisung = liesEine(R"(klient 1 Nachname="von Adler" "Ort=Bad Ort" Status=)");
-    EXPECT_EQ(anweisung.argumente, (std::vector<std::u32string>{U"1", U"Nachname=von Adler", U"Ort=Bad Ort", U"Status="}));
+    EXPECT_EQ(anweisung.argumente,
+              (std::vector<std::u32string>{U"1", U"Nachname=von Adler", U"Ort=Bad Ort", U"Status="}));
 }
 
 TEST(Szenariodatei, EinAnführungszeichenImWortIstEinZeichen)
@@ -111,7 +112,8 @@ TEST(Szenariodatei, WasKeineAnweisungIstWirdMitZeileGemeldet)
     EXPECT_EQ(fehlerBei("setze tb \"offen"), "1: schließendes Anführungszeichen");
     EXPECT_EQ(fehlerBei("setze tb \"a\"b"), "1: Leerzeichen oder Zeilenende hinter dem Anführungszeichen");
     EXPECT_EQ(fehlerBei(R"(setze tb "\xG0")"), "1: zwei Hexziffern hinter \\x");
-    EXPECT_EQ(fehlerBei("erwarte meldung a symbol=blau"), "1: symbol= einer der Werte keins, info, warnung, stop, frage");
+    EXPECT_EQ(fehlerBei("erwarte meldung a symbol=blau"),
+              "1: symbol= einer der Werte keins, info, warnung, stop, frage");
     EXPECT_EQ(fehlerBei("klient 1 Adler"), "1: FELD=TEXT statt »Adler«");
     EXPECT_EQ(fehlerBei("setze tb \xFF"), "0: Text in UTF-8");
 }

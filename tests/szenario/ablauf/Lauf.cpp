@@ -1,6 +1,5 @@
 #include "ablauf/Lauf.h"
 
-#include "ablauf/Vergleich.h"
 #include "sprache/Unicode.h"
 
 #include "platform/text/Eingabe.h"
@@ -13,11 +12,6 @@ std::filesystem::path alsPfad(std::u32string_view text)
 {
     std::filesystem::path pfad{std::u32string(text)};
     return pfad.make_preferred();
-}
-
-std::string inWinkeln(std::string_view text)
-{
-    return "»" + alsUtf8(text) + "«";
 }
 
 } // namespace
@@ -71,10 +65,10 @@ std::string Lauf::absturz() const
 void Lauf::prüfeAngesprochen() const
 {
     if (!m_umgebung.meldungen.empty()) {
-        throw Scheitern("keine weitere Meldung", inWinkeln(m_umgebung.meldungen.front().text));
+        throw Scheitern("keine weitere Meldung", zeige(m_umgebung.meldungen.front().text));
     }
     if (!absturz().empty() && !m_absturzAngesprochen) {
-        throw Scheitern("keinen Absturz", inWinkeln(absturz()));
+        throw Scheitern("keinen Absturz", zeige(absturz()));
     }
 }
 
@@ -117,7 +111,7 @@ Ziel Lauf::findeAufBildschirm(std::string_view bildschirm, std::string_view elem
     }
     auto* const gefunden = seite->finde(element);
     if (gefunden == nullptr) {
-        throw Scheitern("ein Element " + inWinkeln(element) + " auf " + alsUtf8(bildschirm), "keines");
+        throw Scheitern("ein Element " + zeige(element) + " auf " + alsUtf8(bildschirm), "keines");
     }
     return {.bildschirm = seite, .element = gefunden};
 }
@@ -146,7 +140,7 @@ Ziel Lauf::findeÜberall(std::string_view name) const
         return {};
     }
     const auto* hier = folge.inGebrauch();
-    throw Scheitern("ein Element " + inWinkeln(name),
+    throw Scheitern("ein Element " + zeige(name),
                     "keines auf " + (hier == nullptr ? "dem Rahmen" : alsUtf8(hier->name())));
 }
 

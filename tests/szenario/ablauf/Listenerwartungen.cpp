@@ -28,6 +28,10 @@ std::vector<std::string> alsTabellentexte(const std::vector<std::u32string>& zei
 
 std::vector<std::string> einträgeVon(const Lauf& lauf, const Anweisung& anweisung)
 {
+    const Element& element = lauf.findeElement(anweisung.argument(0));
+    if (const auto* liste = dynamic_cast<const Liste*>(&element)) {
+        return lauf.oberfläche().zeilen(*liste);
+    }
     return lauf.oberfläche().einträge(findeArt<Auswahlfeld>(lauf, anweisung, "ein Auswahlfeld"));
 }
 

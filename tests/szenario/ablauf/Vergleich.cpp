@@ -1,16 +1,12 @@
 #include "ablauf/Vergleich.h"
 
-#include "umgebung/Szenarioumgebung.h"
+#include "umgebung/Scheitern.h"
 
-#include "platform/text/Eingabe.h"
 #include "platform/text/Text.h"
 
 #include <algorithm>
-#include <array>
 
 namespace {
-
-constexpr std::size_t höchstbreite = 120;
 
 std::string mitBezug(std::string_view was, const std::string& wert)
 {
@@ -21,19 +17,6 @@ std::size_t ersterUnterschied(std::string_view a, std::string_view b)
 {
     const auto [ort, anderer] = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
     return static_cast<std::size_t>(ort - a.begin());
-}
-
-void hängeSichtbar(std::string& ziel, char zeichen)
-{
-    constexpr std::string_view ziffern = "0123456789ABCDEF";
-    const auto byte = static_cast<unsigned char>(zeichen);
-    if (zeichen == '\n') {
-        ziel += "\\n";
-    } else if (byte < 0x20 || byte == 0x7F) {
-        ziel.append("\\x").append(1, ziffern[byte / 16U]).append(1, ziffern[byte % 16U]);
-    } else {
-        ziel += alsUtf8(std::string_view(&zeichen, 1));
-    }
 }
 
 /// A line of the text from `ort` on, its line end included.
@@ -59,18 +42,6 @@ std::string mitEinfachenUmbrüchen(std::string_view text)
     std::string ergebnis = ersetzt(text, "\r\n", "\n");
     std::replace(ergebnis.begin(), ergebnis.end(), '\r', '\n');
     return ergebnis;
-}
-
-std::string zeige(std::string_view text, std::size_t stelle)
-{
-    const bool passt = text.size() <= höchstbreite;
-    const std::size_t anfang = passt || stelle < höchstbreite / 2 ? 0 : stelle - höchstbreite / 2;
-    const std::string_view teil = text.substr(std::min(anfang, text.size()), höchstbreite);
-    std::string ergebnis = anfang > 0 ? "»…" : "»";
-    for (const char zeichen : teil) {
-        hängeSichtbar(ergebnis, zeichen);
-    }
-    return ergebnis + (anfang + teil.size() < text.size() ? "…«" : "«");
 }
 
 void vergleicheText(std::string_view was, std::string_view erwartet, std::string_view gefunden)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "umgebung/Scheitern.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -10,9 +12,6 @@
 
 /// The text with every line break (CR LF, CR, LF) as a line feed.
 std::string mitEinfachenUmbrüchen(std::string_view text);
-
-/// The text for people: UTF-8 in »«, control characters as escapes, long texts cut around `stelle`.
-std::string zeige(std::string_view text, std::size_t stelle = 0);
 
 void vergleicheText(std::string_view was, std::string_view erwartet, std::string_view gefunden);
 void vergleicheTeil(std::string_view was, std::string_view erwarteterTeil, std::string_view gefunden);

@@ -2,8 +2,6 @@
 
 #include "umgebung/Meldungsworte.h"
 
-#include "platform/text/Eingabe.h"
-
 namespace {
 
 /// A desktop of 1920 × 1080 pixels, in twips.
@@ -58,8 +56,8 @@ Antwort Szenarioumgebung::beantworte(const Meldung& meldung)
         gefunden = wortFür(antwort);
     }
     if (!m_versäumnis) {
-        m_versäumnis.emplace("eine Antwort (" + std::string(wortFür(meldung.knöpfe)) + ") auf die Meldung »" +
-                                 alsUtf8(meldung.text) + "«",
+        m_versäumnis.emplace("eine Antwort (" + std::string(wortFür(meldung.knöpfe)) + ") auf die Meldung " +
+                                 zeige(meldung.text),
                              gefunden);
     }
     return ausweg(meldung.knöpfe);

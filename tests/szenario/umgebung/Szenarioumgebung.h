@@ -1,5 +1,6 @@
 #pragma once
 
+#include "umgebung/Scheitern.h"
 #include "umgebung/Sperrzugriff.h"
 
 #include "platform/mappe/Arbeitsmappe.h"
@@ -8,16 +9,7 @@
 #include <deque>
 #include <functional>
 #include <optional>
-#include <stdexcept>
 #include <string>
-
-/// What a scenario expected and what it found instead (UTF-8).
-class Scheitern : public std::runtime_error {
-public:
-    Scheitern(const std::string& erwartet, const std::string& gefunden)
-        : std::runtime_error("erwartet " + erwartet + " gefunden " + gefunden)
-    {}
-};
 
 /// The outside world as a scenario sets it: date, folder, instance test, answers to boxes and file dialogues.
 /// Boxes are recorded until the scenario has spoken of them; the workbook that is handed over is kept.

@@ -1,0 +1,17 @@
+# Every scenario beside this script has to fail with the text that its first line expects.
+#   cmake -DLAEUFER=… -DANSICHT=ohne -DORDNER=… -P …
+file(GLOB szenarien ${ORDNER}/*.szenario)
+set(anders 0)
+foreach(szenario ${szenarien})
+  file(STRINGS ${szenario} kopf LIMIT_COUNT 1 ENCODING UTF-8)
+  string(REPLACE "# erwartet: " "" erwartet "${kopf}")
+  execute_process(COMMAND ${LAEUFER} --oberfläche=${ANSICHT} ${szenario} OUTPUT_VARIABLE ausgabe RESULT_VARIABLE status)
+  string(FIND "${ausgabe}" "${erwartet}" ort)
+  if(status EQUAL 0 OR ort EQUAL -1)
+    message("${szenario}\n  erwartet: ${erwartet}\n  gefunden: ${ausgabe}")
+    math(EXPR anders "${anders} + 1")
+  endif()
+endforeach()
+if(anders GREATER 0)
+  message(FATAL_ERROR "${anders} scenarios fail otherwise than expected, or not at all")
+endif()
