@@ -124,3 +124,9 @@ void setzeOhneAngabeAufNein(Elementreihe<triCtlJaNein>& reihe)
         }
     }
 }
+
+void richteFüllerEin(Schaltfläche& füller, Elementreihe<triCtlJaNein>& reihe)
+{
+    füller.setzeHinweis("setzt alle \"k.A.\" auf \"nein\""_t);
+    füller.beiKlick = [&reihe] { setzeOhneAngabeAufNein(reihe); };
+}

@@ -54,8 +54,10 @@ private:
     std::vector<Seitenfeld> m_felder;
 };
 
-/// The "!" of a column of answers: every "k.A." becomes "nein", an answer given stays.
+/// Every "k.A." becomes "nein", an answer given stays.
 void setzeOhneAngabeAufNein(Elementreihe<triCtlJaNein>& reihe);
+/// Makes the button the "!" of the column of answers, hint and click.
+void richteFüllerEin(Schaltfläche& füller, Elementreihe<triCtlJaNein>& reihe);
 
 /// The texts of a row of labels, from its first index on.
 template <class Texte> void beschrifte(Elementreihe<Beschriftung>& reihe, const Texte& texte)

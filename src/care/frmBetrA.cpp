@@ -74,7 +74,11 @@ frmBetrA::frmBetrA(Bildschirm& betreuung)
     beschrifte(lblKooper, kooperationspartner);
     benenneElemente();
     baueTafel();
-    richteFüllerEin();
+    richteFüllerEin(cmdSchnellFüller(0), triJaNeinMasInt);
+    richteFüllerEin(cmdSchnellFüller(1), triJaNeinMasExt);
+    richteFüllerEin(cmdSchnellFüller(2), triJaNeinKooper);
+    cmdSchnellFüller(3).setzeHinweis("setzt alle \"k.A.\" auf \"0\""_t);
+    cmdSchnellFüller(3).beiKlick = [this] { setzeZuvorAufNull(); };
     aufbau = anordnung::karten({anordnung::spalte({maßnahmen()}), anordnung::spalte({kooperationen()})});
 }
 
@@ -101,17 +105,6 @@ void frmBetrA::baueTafel()
         tafel.fügeZahl(feld, 0, höchsteMaßnahmenzahl, Seitenfelder::Leer::LässtVorgabe);
     }
     tafel.fügeAntworten(triJaNeinKooper);
-}
-
-void frmBetrA::richteFüllerEin()
-{
-    int i = cmdSchnellFüller.von();
-    for (auto* antworten : {&triJaNeinMasInt, &triJaNeinMasExt, &triJaNeinKooper}) {
-        cmdSchnellFüller(i).setzeHinweis("setzt alle \"k.A.\" auf \"nein\""_t);
-        cmdSchnellFüller(i++).beiKlick = [antworten] { setzeOhneAngabeAufNein(*antworten); };
-    }
-    cmdSchnellFüller(i).setzeHinweis("setzt alle \"k.A.\" auf \"0\""_t);
-    cmdSchnellFüller(i).beiKlick = [this] { setzeZuvorAufNull(); };
 }
 
 Anordnung frmBetrA::maßnahmen()

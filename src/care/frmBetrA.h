@@ -21,7 +21,6 @@ public:
 private:
     void benenneElemente();
     void baueTafel();
-    void richteFüllerEin();
     Anordnung maßnahmen();
     Anordnung kooperationen();
     void setzeZuvorAufNull();

@@ -52,7 +52,8 @@ frmBetrC::frmBetrC(Bildschirm& betreuung)
         verbindeZeile(optLebunterV(i), triJaNeinLebuntv(i), m_hauptVor);
         verbindeZeile(optLebunterN(i), triJaNeinLebuntn(i), m_hauptNach);
     }
-    richteFüllerEin();
+    richteFüllerEin(cmdSchnellFüller(0), triJaNeinLebuntv);
+    richteFüllerEin(cmdSchnellFüller(1), triJaNeinLebuntn);
     ordneAn();
 }
 
@@ -84,15 +85,6 @@ void frmBetrC::baueTafel()
     tafel.fügeWahl(comboErwerb2, werte::erwerb);
     tafel.fügeWahl(comboErwerb3, werte::erwerb);
     tafel.fügeWahl(comboSchulden, werte::schulden);
-}
-
-void frmBetrC::richteFüllerEin()
-{
-    int i = cmdSchnellFüller.von();
-    for (auto* antworten : {&triJaNeinLebuntv, &triJaNeinLebuntn}) {
-        cmdSchnellFüller(i).setzeHinweis("setzt alle \"k.A.\" auf \"nein\""_t);
-        cmdSchnellFüller(i++).beiKlick = [antworten] { setzeOhneAngabeAufNein(*antworten); };
-    }
 }
 
 void frmBetrC::ordneAn()

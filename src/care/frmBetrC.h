@@ -25,7 +25,6 @@ public:
 private:
     void benenneElemente();
     void baueTafel();
-    void richteFüllerEin();
     void ordneAn();
     Anordnung lebensunterhalt();
 

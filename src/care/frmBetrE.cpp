@@ -71,8 +71,7 @@ void frmBetrE::baueTafel()
 
 void frmBetrE::richteVermittlungenEin()
 {
-    cmdSchnellFüller.setzeHinweis("setzt alle \"k.A.\" auf \"nein\""_t);
-    cmdSchnellFüller.beiKlick = [this] { setzeOhneAngabeAufNein(triJaNeinVermitt); };
+    richteFüllerEin(cmdSchnellFüller, triJaNeinVermitt);
     for (triCtlJaNein& antwort : triJaNeinVermitt) {
         antwort.beiÄnderung = [this, &antwort] {
             if (antwort.text() == "ja"_t) {

@@ -8,6 +8,7 @@
 #include "store/moHelferlein.h"
 #include "zustand/Zustand.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -158,8 +159,7 @@ void frmBetreuungA::richteKnöpfeEin()
 {
     beiEscape = &cmdExit;
     comboBetrGru.beiWahl = [this] { zeigeBetrGru(); };
-    cmdSchnellFüller.setzeHinweis("setzt alle \"k.A.\" auf \"nein\""_t);
-    cmdSchnellFüller.beiKlick = [this] { setzeOhneAngabeAufNein(triJaNeinKosten); };
+    richteFüllerEin(cmdSchnellFüller, triJaNeinKosten);
     cmdBearbeiteZeitraum.beiKlick = [this] { bearbeiteZeitraum(); };
     cmdBetrA.beiKlick = [this] { öffneSeite(m_betrA); };
     cmdBetrB.beiKlick = [this] { öffneSeite(m_betrB); };
