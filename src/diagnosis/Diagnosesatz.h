@@ -65,7 +65,7 @@ void schreibeBitFeldInDSDiag(std::string& dsDiag, std::string_view text);
 /// Sets the group's bit.
 void trageGruppeEin(std::string& dsDiag, int gruppe);
 /// Empties the group's block and subtracts its bit, which is not tested first: a group that is listed for its
-/// answers alone leaves a wrong bit field behind. Evaluations of older files rest on that value.
+/// answers alone leaves a wrong bit field behind, negative or with bits of other groups. Meant to stay.
 void löscheGruppe(std::string& dsDiag, int gruppe);
 /// Takes the mark of the main diagnosis from the group; its other answers stay.
 void nimmHDMarke(std::string& dsDiag, int gruppe);

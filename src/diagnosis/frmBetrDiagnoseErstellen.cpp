@@ -180,7 +180,7 @@ void frmBetrDiagnoseErstellen::fülleAntworten()
 }
 
 /// False when the loading ends here: with an answer of "ja", "nein" or "k.A." to question 4, the answers behind
-/// it have never been loaded (and OK empties them). Facilities know the dialogue that way.
+/// it are not loaded, and OK empties them. Meant to stay.
 bool frmBetrDiagnoseErstellen::fülleAntwort(int frage, std::string_view wert)
 {
     if (frage == ICDStelle4 && !istKurzeAntwort(wert)) {
