@@ -29,7 +29,7 @@ std::string langerSatz(std::string_view kernID, std::string_view betrID)
     return satz({kernID, betrID, "01.01.2006"_t, "offen"_t, std::string(20000, 'x')});
 }
 
-std::string klient(std::string_view id, std::string_view geburt = "unbekannt"_t)
+std::string klient(std::string_view id, std::string_view geburt = "unbekannt")
 {
     return satz({""_t, id, "a"_t, "Adler"_t, ""_t, ""_t, ""_t, ""_t, "keine Angaben"_t, geburt, ""_t});
 }

@@ -10,7 +10,7 @@ using Sätze = std::vector<std::string>;
 
 const std::string leerstatus(1, '\0');
 
-std::string klient(std::string_view id, std::string_view status, std::string_view geburt = "unbekannt"_t)
+std::string klient(std::string_view id, std::string_view status, std::string_view geburt = "unbekannt")
 {
     return satz({""_t, id, status, "Adler"_t, ""_t, ""_t, ""_t, ""_t, "keine Angaben"_t, geburt, ""_t});
 }

@@ -44,7 +44,7 @@ protected:
     Testlauf lauf;
 };
 
-std::string klient(std::string_view id, std::string_view name = "Adler"_t)
+std::string klient(std::string_view id, std::string_view name = "Adler")
 {
     return satz({""_t, id, ""_t, name, ""_t, ""_t, ""_t, ""_t, "keine Angaben"_t, "unbekannt"_t, ""_t});
 }
