@@ -217,10 +217,12 @@ TEST(Blatt, kommentareWandernMitIhrerZelle)
     ASSERT_NE(blatt.kommentar(1, 2), nullptr);
     EXPECT_EQ(*blatt.kommentar(1, 2), "hier");
     std::vector<std::string> alle;
-    blatt.fürJedenKommentar([&](int z, int s, std::string_view t) {
-        alle.push_back(std::to_string(z) + "," + std::to_string(s) + ":" + std::string(t));
-    });
-    EXPECT_EQ(alle, std::vector<std::string>{"1,2:hier"});
+    blatt.fürJedenKommentar(
+        1, [&](int s, std::string_view t) { alle.push_back(std::to_string(s) + ":" + std::string(t)); });
+    EXPECT_EQ(alle, std::vector<std::string>{"2:hier"});
+    blatt.fürJedenKommentar(2, [&](int, std::string_view t) { alle.emplace_back(t); });
+    EXPECT_EQ(alle.size(), 1U);
+    EXPECT_EQ(blatt.letzteKommentarzeile(), 1);
 }
 
 TEST(Blatt, fettUndBreitenSindVermerke)

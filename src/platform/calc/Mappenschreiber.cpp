@@ -126,16 +126,13 @@ public:
             scheitere(m_pfad, "Fehler bei einer Zwischendatei"_t);
         }
         Breitenmaß breiten;
-        const int zeilen = blatt.zeilenanzahl();
+        const int zeilen = std::max(blatt.zeilenanzahl(), blatt.letzteKommentarzeile());
         for (int zeile = 1; zeile <= zeilen; ++zeile) {
             schreibeZeile(blatt, ziel, zeile, breiten);
         }
         if (blatt.sindBreitenAngepasst()) {
             breiten.setze(ziel);
         }
-        blatt.fürJedenKommentar([&](int zeile, int spalte, std::string_view text) {
-            prüfe(worksheet_write_comment(ziel, stelle(zeile), spaltenstelle(spalte), m_utf8.von(text)));
-        });
         // the writer itself does not look whether its rows reached the disk
         if (ziel->optimize_tmpfile != nullptr && std::fflush(ziel->optimize_tmpfile) != 0) {
             scheitere(m_pfad, grundVon(LXW_ERROR_CREATING_TMPFILE));
@@ -173,6 +170,9 @@ private:
         blatt.fürJedeZelle(zeile, [&](int spalte, const Zellwert& wert) {
             prüfe(schreibeZelle(ziel, stelle(zeile), spaltenstelle(spalte), wert, fett));
             breiten.nimm(spalte, wert.art == Zellart::Datum ? datumslänge : wert.text.size());
+        });
+        blatt.fürJedenKommentar(zeile, [&](int spalte, std::string_view text) {
+            prüfe(worksheet_write_comment(ziel, stelle(zeile), spaltenstelle(spalte), m_utf8.von(text)));
         });
     }
 

@@ -57,10 +57,12 @@ void schließeAlleAußer(int eine, int andere)
 struct Zugriffe {
     int offen = 0;
     bool gesehen = false;
+    bool entfernt = false;
 
     void zähle(std::uint32_t art)
     {
         gesehen = gesehen || (art & IN_OPEN) != 0;
+        entfernt = entfernt || (art & IN_IGNORED) != 0;
         offen += (art & IN_OPEN) != 0 ? 1 : 0;
         offen -= (art & IN_CLOSE) != 0 ? 1 : 0;
     }
@@ -92,7 +94,7 @@ struct Wache {
     schließeAlleAußer(wache.schloss, wache.melder);
     Zugriffe zugriffe;
     pollfd warten{wache.melder, POLLIN, 0};
-    for (;;) {
+    while (!zugriffe.entfernt) {
         const bool gelesen = zugriffe.gesehen && zugriffe.offen <= 0;
         if (poll(&warten, 1, gelesen ? ruheMs : fristMs) <= 0) {
             break;
@@ -102,6 +104,15 @@ struct Wache {
     unlink(wache.datei);
     rmdir(wache.ordner);
     _exit(0);
+}
+
+/// A process that goes on by itself must not hold the terminal or the pipe of the one that started it.
+void löseVonEinUndAusgabe()
+{
+    const int nichts = open("/dev/null", O_RDWR);
+    dup2(nichts, STDIN_FILENO);
+    dup2(nichts, STDOUT_FILENO);
+    dup2(nichts, STDERR_FILENO);
 }
 
 /// Starts the program as a grandchild, which nobody has to wait for; with `wache` its parent becomes the guard.
@@ -123,6 +134,7 @@ int starte(const fs::path& programm, const std::vector<std::string>& argumente, 
             _exit(0);
         }
         setsid();
+        löseVonEinUndAusgabe();
         const pid_t enkel = wache != nullptr ? fork() : 0;
         if (enkel == 0) {
             close_range(3, ~0U, CLOSE_RANGE_CLOEXEC);

@@ -65,8 +65,10 @@ public:
 
     /// Calls `tue(spalte, Zellwert)` for each cell of the row that holds something, from left to right.
     template <class F> void fürJedeZelle(int zeile, F&& tue) const;
-    /// Calls `tue(zeile, spalte, text)` for each comment.
-    template <class F> void fürJedenKommentar(F&& tue) const;
+    /// Calls `tue(spalte, text)` for each comment of the row, from left to right.
+    template <class F> void fürJedenKommentar(int zeile, F&& tue) const;
+    /// The last row with a comment, 0 without any.
+    int letzteKommentarzeile() const { return m_kommentare.empty() ? 0 : m_kommentare.rbegin()->first.first; }
 
 private:
     struct Einzelzelle {
@@ -176,11 +178,12 @@ template <class F> void Blatt::fürJedeZelle(int zeile, F&& tue) const
     });
 }
 
-template <class F> void Blatt::fürJedenKommentar(F&& tue) const
+template <class F> void Blatt::fürJedenKommentar(int zeile, F&& tue) const
 {
-    for (const auto& [ort, text] : m_kommentare) {
-        if (const auto spalte = spalteVon(ort.first, ort.second)) {
-            tue(ort.first, *spalte, text);
+    for (auto ort = m_kommentare.lower_bound({zeile, 0}); ort != m_kommentare.end() && ort->first.first == zeile;
+         ++ort) {
+        if (const auto spalte = spalteVon(zeile, ort->first.second)) {
+            tue(*spalte, ort->second);
         }
     }
 }
