@@ -122,3 +122,8 @@ Anordnung frmBetrC::lebensunterhalt()
     }
     return tabelle("Lebensunterhalt"_t, köpfe, zeilen);
 }
+
+void frmBetrC::nachLaden()
+{
+    setzeFokus(&triJaNeinLebuntv(1)); // not the button above it, which fills the whole column
+}

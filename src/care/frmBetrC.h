@@ -28,5 +28,7 @@ private:
     void ordneAn();
     Anordnung lebensunterhalt();
 
+    void nachLaden() override;
+
     Optionsgruppe m_hauptVor, m_hauptNach;
 };

@@ -40,13 +40,14 @@ void frmBetreuungZeitraum::ordneAn()
 {
     using namespace anordnung;
     constexpr double datumsbreite = 9;
+    constexpr double knopfbreite = 8.5;
     constexpr double beschriftungsbreite = 2.5;
-    const auto offen = stapel({element(cmdIsOffen), element(cmdOffenEintragen)});
+    const auto offen = stapel({element(cmdIsOffen, knopfbreite), element(cmdOffenEintragen, knopfbreite)});
     kopfband.titel = &lblHeader;
-    aufbau =
-        karte({}, formular({feld(lblVon, {element(DTPickerVon, datumsbreite), platzhaltend(element(cmdVonVerbessern))}),
-                            feld(lblBis, {platzhaltend(element(DTPickerBis, datumsbreite)), platzhaltend(offen)})},
-                           beschriftungsbreite));
+    aufbau = karte({}, formular({feld(lblVon, {element(DTPickerVon, datumsbreite),
+                                               platzhaltend(element(cmdVonVerbessern, knopfbreite))}),
+                                 feld(lblBis, {platzhaltend(element(DTPickerBis, datumsbreite)), platzhaltend(offen)})},
+                                beschriftungsbreite));
     leiste.rechts = {&cmdOK, &cmdExit};
 }
 
