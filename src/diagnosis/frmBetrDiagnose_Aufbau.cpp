@@ -43,13 +43,18 @@ template <class E> Anordnung untereinander(Elementreihe<E>& reihe)
     return anordnung::spalte(std::move(teile));
 }
 
+Anordnung platzDesBuchstabens(std::string_view buchstabe)
+{
+    return anordnung::breit(anordnung::text(buchstabe), 1);
+}
+
 /// Four fields side by side, each behind its letter.
 Anordnung viererreihe(Elementreihe<Textfeld>& felder, int erstes, std::string_view buchstabe,
                       std::string_view beschriftung)
 {
     std::vector<Anordnung> teile;
     for (int i = erstes; i < erstes + 4; ++i) {
-        teile.push_back(anordnung::breit(anordnung::text(buchstabe), 1));
+        teile.push_back(platzDesBuchstabens(buchstabe));
         teile.push_back(anordnung::element(felder(i), 5));
     }
     return anordnung::feld(beschriftung, std::move(teile));
@@ -60,12 +65,12 @@ std::vector<Tabellenspalte> spaltenDerListung()
     const auto spalte = [](std::string_view titel, double breite, std::string_view gruppe = {}) {
         return Tabellenspalte{std::string(titel), std::string(gruppe), nullptr, breite};
     };
-    constexpr std::string_view konsumtage = "Anzahl Konsumtage letzte 30 Tage ..."_t;
+    constexpr std::string_view konsumtage = "Anzahl Konsumtage\r\nletzte 30 Tage ..."_t;
     return {spalte("Problem"_t, 0),
             spalte("Überwiegende Konsumart"_t, 12),
             spalte("...vor BetrBeg"_t, 5, konsumtage),
             spalte("...am BetrEnd"_t, 5, konsumtage),
-            spalte("ICD10 Stelle 4 und 5"_t, 5),
+            spalte("ICD10 Stelle\r\n4 und 5"_t, 5),
             spalte("Alter bei Störungs- beginn"_t, 5),
             spalte("Riskanter Konsum"_t, 5),
             spalte("Alter Erst- konsum"_t, 5)};
@@ -154,11 +159,12 @@ Anordnung frmBetrDiagnose::antwortkarten()
     Anordnung links = anordnung::spalte({anordnung::karte("Grund, warum keine Hauptdiagnose gestellt wurde"_t,
                                                           anordnung::decke(untereinander(optHDohne), cmdIsHDGestellt)),
                                          anordnung::karte("I.v. Konsum"_t, untereinander(optIVKonsum))});
-    Anordnung diagnosen = anordnung::formular({viererreihe(tbandereDiagnose, 1, "F"_t, "Psychiatrische Diagnosen"_t),
-                                               viererreihe(tbandereDiagnose, 5, "G"_t, "Neurologische Diagnosen"_t),
-                                               viererreihe(tbandereDiagnose, 9, {}, "Andere wichtige Diagnosen"_t),
-                                               anordnung::feld(lblICDPoly, comboICDPoly, 10)},
-                                              11);
+    Anordnung diagnosen = anordnung::formular(
+        {viererreihe(tbandereDiagnose, 1, "F"_t, "Psychiatrische Diagnosen"_t),
+         viererreihe(tbandereDiagnose, 5, "G"_t, "Neurologische Diagnosen"_t),
+         viererreihe(tbandereDiagnose, 9, {}, "Andere wichtige Diagnosen"_t),
+         anordnung::feld(lblICDPoly, {platzDesBuchstabens({}), anordnung::element(comboICDPoly, 10)})},
+        11);
     Anordnung infektionen = anordnung::formular({anordnung::feld("HIV-Infektionsstatus"_t, comboHIVInfekt, 10),
                                                  anordnung::feld("Hepatitis B - Infektionsstatus"_t, comboHepatB, 10),
                                                  anordnung::feld("Hepatitis C - Infektionsstatus"_t, comboHepatC, 10)},
