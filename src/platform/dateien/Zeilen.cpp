@@ -1,24 +1,17 @@
 #include "platform/dateien/Zeilen.h"
 
+#include <algorithm>
 #include <cstring>
 
-namespace {
-
-/// Position of the first line end, or npos. LF is searched first; a CR before it either belongs to it or
-/// ends a line of its own.
-std::size_t findeZeilenende(std::string_view text)
+/// The next LF, or the end of the text.
+const char* Zeilen::findeLf()
 {
-    const void* lf = std::memchr(text.data(), '\n', text.size());
-    const std::size_t bis =
-        lf == nullptr ? text.size() : static_cast<std::size_t>(static_cast<const char*>(lf) - text.data());
-    const void* cr = std::memchr(text.data(), '\r', bis);
-    if (cr != nullptr) {
-        return static_cast<std::size_t>(static_cast<const char*>(cr) - text.data());
+    if (m_nächstesLf == nullptr || m_nächstesLf < m_rest.data()) {
+        const void* lf = std::memchr(m_rest.data(), '\n', m_rest.size());
+        m_nächstesLf = lf == nullptr ? m_rest.data() + m_rest.size() : static_cast<const char*>(lf);
     }
-    return lf == nullptr ? std::string_view::npos : bis;
+    return m_nächstesLf;
 }
-
-} // namespace
 
 std::optional<std::string_view> Zeilen::nächste()
 {
@@ -26,15 +19,13 @@ std::optional<std::string_view> Zeilen::nächste()
         return std::nullopt;
     }
     ++m_nummer;
-    const auto ende = findeZeilenende(m_rest);
-    if (ende == std::string_view::npos) {
-        const auto zeile = m_rest;
-        m_rest.remove_prefix(m_rest.size());
-        return zeile;
-    }
-    const auto zeile = m_rest.substr(0, ende);
-    const bool crlf = m_rest[ende] == '\r' && ende + 1 < m_rest.size() && m_rest[ende + 1] == '\n';
-    m_rest.remove_prefix(ende + (crlf ? 2 : 1));
+    // a CR before the LF either belongs to it or ends a line of its own
+    const auto bisLf = static_cast<std::size_t>(findeLf() - m_rest.data());
+    const void* cr = std::memchr(m_rest.data(), '\r', bisLf);
+    const auto länge = cr == nullptr ? bisLf : static_cast<std::size_t>(static_cast<const char*>(cr) - m_rest.data());
+    const auto zeile = m_rest.substr(0, länge);
+    const bool crlf = cr != nullptr && m_rest.substr(länge).starts_with("\r\n");
+    m_rest.remove_prefix(std::min(m_rest.size(), länge + (crlf ? 2U : 1U)));
     return zeile;
 }
 

@@ -19,8 +19,11 @@ public:
     std::size_t position() const { return static_cast<std::size_t>(m_rest.data() - m_anfang); }
 
 private:
+    const char* findeLf();
+
     std::string_view m_rest;
     const char* m_anfang;
+    const char* m_nächstesLf = nullptr; ///< kept, so that a file of CR line ends is not searched anew for each line
     std::size_t m_nummer = 0;
 };
 
