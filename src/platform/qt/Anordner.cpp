@@ -276,7 +276,9 @@ QWidget* Anordner::macheKarte(const Anordnung& a, bool& füllt)
     karte->setProperty("rolle", "karte");
     karte->setAccessibleName(alsQString(a.text));
     auto* layout = ohneRand(new QVBoxLayout(karte), 0.35);
-    layout->setContentsMargins(em(0.72), em(0.55), em(0.72), em(0.6));
+    const bool geräumig = !m_istSeite || a.breite > 0;
+    const int seite = em(geräumig ? 1.2 : 0.55);
+    layout->setContentsMargins(seite, em(geräumig ? 0.7 : 0.25), seite, em(geräumig ? 0.9 : 0.45));
     if (!a.text.empty() || !a.köpfe.empty()) {
         auto* zeile = ohneRand(new QHBoxLayout, 0.6);
         auto* titel = new Etikett(alsQString(a.text), karte);

@@ -17,7 +17,8 @@ namespace {
 
 using Wort = Anordnung::Wort;
 
-constexpr double zeilenhöhe = 1.72;
+constexpr double zeilenhöhe = 1.9;
+constexpr double zeilenhöheMindestens = 1.6; ///< where the page would have to scroll otherwise
 
 void sammle(const Anordnung& a, std::vector<Element*>& elemente)
 {
@@ -33,6 +34,17 @@ bool behältPlatz(const Anordnung& a)
 {
     return a.behältPlatz || a.wort == Wort::Stapel || std::any_of(a.teile.begin(), a.teile.end(), behältPlatz);
 }
+
+class Formularzeile : public QWidget {
+public:
+    explicit Formularzeile(QWidget* eltern) : QWidget(eltern)
+    {
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
+    }
+
+    QSize sizeHint() const override { return QWidget::sizeHint().expandedTo({0, em(zeilenhöhe)}); }
+    QSize minimumSizeHint() const override { return QWidget::minimumSizeHint().expandedTo({0, em(zeilenhöheMindestens)}); }
+};
 
 void benenneFelder(const Ansicht& ansicht, const std::vector<Element*>& elemente, const QWidget& beschriftung)
 {
@@ -51,7 +63,7 @@ bool Anordner::fügeFormular(const Anordnung& a, QBoxLayout& ziel)
 {
     auto* formular = new QVBoxLayout;
     formular->setContentsMargins(0, 0, 0, 0);
-    formular->setSpacing(em(0.18));
+    formular->setSpacing(0);
     ziel.addLayout(formular);
     bool füllt = a.füllt;
     for (const auto& teil : a.teile) {
@@ -76,8 +88,7 @@ QWidget* Anordner::macheFeldbeschriftung(const Anordnung& feld, double breite)
 
 void Anordner::fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBoxLayout& ziel)
 {
-    auto* zeile = new QWidget(&m_wurzel);
-    zeile->setMinimumHeight(em(zeilenhöhe));
+    auto* zeile = new Formularzeile(&m_wurzel);
     auto* layout = new QHBoxLayout(zeile);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(em(0.5));
@@ -87,7 +98,6 @@ void Anordner::fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBox
         füge(teil, *layout);
     }
     layout->addStretch(1);
-    zeile->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     ziel.addWidget(zeile);
     verbindeFeld(feld, *beschriftung, *zeile);
 }

@@ -157,7 +157,7 @@ void Auswahlbox::showPopup()
 
 QSize Auswahlbox::sizeHint() const
 {
-    return {em(24), QComboBox::sizeHint().height()};
+    return {em(16.5), QComboBox::sizeHint().height()};
 }
 
 QSize Auswahlbox::minimumSizeHint() const

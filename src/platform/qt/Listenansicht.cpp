@@ -105,9 +105,7 @@ void Listenansicht::übernimm()
     }
     const auto sortiert = static_cast<int>(m_element.sortierteSpalte());
     header()->setSortIndicatorShown(sortiert > 0);
-    if (sortiert > 0) {
-        header()->setSortIndicator(sortiert - 1, Qt::AscendingOrder);
-    }
+    header()->setSortIndicator(sortiert - 1, Qt::AscendingOrder);
 }
 
 void Listenansicht::übernimmZeilen()

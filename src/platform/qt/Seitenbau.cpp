@@ -65,10 +65,10 @@ void fügeNamen(Ansicht& ansicht, Element& name, QWidget& band, QHBoxLayout& zie
 void fügeWerte(Ansicht& ansicht, const std::vector<Kopfband::Wert>& werte, QWidget& band, QHBoxLayout& ziel)
 {
     for (const auto& wert : werte) {
+        ziel.addSpacing(em(0.3));
         auto& vor = fügeBandtext(*new Etikett(alsQString(wert.beschriftung), &band), "auf-band-leise", Schriftrolle::Grund, ziel);
         auto& text = fügeBandtext(*zeichneElement(*wert.element, ansicht, &band), "auf-band", Schriftrolle::Wert, ziel);
         text.setAccessibleName(vor.text());
-        ziel.addSpacing(em(0.3));
         zeigeNurGefüllt(ansicht, *wert.element, {&vor, &text});
     }
 }

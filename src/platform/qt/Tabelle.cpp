@@ -155,7 +155,7 @@ int Tabellenblatt::bevorzugteBreite() const
     for (const auto* zeile : m_zeilen) {
         beschriftung = std::max(beschriftung, zeile->bevorzugteBeschriftungsbreite());
     }
-    return std::min(beschriftung, em(24)) + summe(m_spalten);
+    return std::min(beschriftung, em(31)) + summe(m_spalten);
 }
 
 void Tabellenblatt::ordne()
