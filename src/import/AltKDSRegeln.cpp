@@ -137,7 +137,7 @@ std::vector<Altregel> baueKernregeln()
                      });
     trageKopienEin(regeln, 46, 51, 63, 2);
     for (int position = 1; position <= 9; ++position) {
-        regeln.at(static_cast<std::size_t>(14 + position)) = {
+        regeln.at(static_cast<std::size_t>(13 + position)) = {
             .art = Regelart::Kosten, .spalte = 12, .position = position};
     }
     return regeln;
