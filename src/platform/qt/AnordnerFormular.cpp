@@ -42,7 +42,7 @@ public:
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
     }
 
-    QSize sizeHint() const override { return QWidget::sizeHint().expandedTo({0, em(zeilenhöhe)}); }
+    QSize sizeHint() const override { return (QWidget::sizeHint() + QSize(0, em(0.3))).expandedTo({0, em(zeilenhöhe)}); }
     QSize minimumSizeHint() const override { return QWidget::minimumSizeHint().expandedTo({0, em(zeilenhöheMindestens)}); }
 };
 

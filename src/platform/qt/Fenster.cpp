@@ -104,8 +104,8 @@ void Kindfenster::setzeSeite(QWidget& seite, QScrollArea& blatt)
 void Kindfenster::passeHöheAn()
 {
     const QRect platz = screen()->availableGeometry();
-    const int breite = std::min(m_breite, platz.width());
     m_blatt->widget()->layout()->activate();
+    const int breite = std::min(std::max(m_breite, m_blatt->widget()->minimumSizeHint().width()), platz.width());
     const int rest = m_seite->layout()->sizeHint().height() - m_blatt->sizeHint().height();
     const int höhe = rest + m_blatt->widget()->sizeHint().height() + 2;
     m_platzwächter.platziere([&] { setFixedSize(breite, std::min(höhe, platz.height() - em(2))); });

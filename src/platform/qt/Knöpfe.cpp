@@ -47,7 +47,7 @@ Knopf::Knopf(Schaltfläche& element, Ansicht& ansicht, QWidget* eltern)
     : QPushButton(eltern), m_element(element), m_ansicht(ansicht)
 {
     setProperty("rolle", rollenname(element.rolle()));
-    setSizePolicy(waagrecht(element.rolle()), element.rolle() == Rolle::Decke ? QSizePolicy::Expanding : QSizePolicy::Fixed);
+    setSizePolicy(waagrecht(element.rolle()), QSizePolicy::Fixed);
     setAutoDefault(false);
     if (element.rolle() == Rolle::Füller) {
         setFixedSize(em(1.55), em(1.35));

@@ -15,7 +15,10 @@
 namespace {
 
 constexpr std::size_t gemesseneZeilen = 200; ///< the widths of columns follow the first rows
-constexpr int sichtbareZeilen = 6;
+constexpr int zeilenMindestens = 6;
+constexpr int zeilenGern = 16;
+constexpr double zeilenhöhe = 1.45;
+constexpr double kopfhöhe = 1.9;
 
 } // namespace
 
@@ -128,7 +131,7 @@ void Listenansicht::messeSpalten()
         for (std::size_t zeile = 1; zeile <= zeilen; ++zeile) {
             breite = std::max(breite, maß.horizontalAdvance(alsQString(m_element.zelle(zeile, spalte))));
         }
-        m_spaltenbreiten.append(std::min(breite, em(16)) + em(1.1));
+        m_spaltenbreiten.append(std::min(breite, em(16)) + em(1.35));
     }
     verteileSpalten();
     updateGeometry();
@@ -184,10 +187,10 @@ void Listenansicht::mouseDoubleClickEvent(QMouseEvent* ereignis)
 QSize Listenansicht::sizeHint() const
 {
     const int nötig = std::accumulate(m_spaltenbreiten.begin(), m_spaltenbreiten.end(), 0);
-    return {std::max(em(14), nötig + em(1)), em(1.42 * 17)};
+    return {std::max(em(14), nötig + em(1)), em(kopfhöhe + zeilenhöhe * zeilenGern)};
 }
 
 QSize Listenansicht::minimumSizeHint() const
 {
-    return {em(14), em(1.42 * (sichtbareZeilen + 1))};
+    return {em(14), em(kopfhöhe + zeilenhöhe * zeilenMindestens)};
 }

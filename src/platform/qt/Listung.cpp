@@ -40,7 +40,8 @@ Listungszeile::Listungszeile(const Anordnung& zeile, Ansicht& ansicht, QWidget* 
         const bool links = m_zellen.size() < linksbündigeSpalten;
         zelle->seiListenzelle();
         zelle->setAlignment((links ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter);
-        zelle->setIndent(links ? em(0.45) : 0);
+        zelle->setIndent(0);
+        zelle->setContentsMargins(links ? em(0.45) : 0, 0, 0, 0);
         m_zellen.push_back(zelle);
     }
 }
@@ -91,7 +92,8 @@ void Listungsblatt::baueKopf(const std::vector<Tabellenspalte>& spalten)
         auto* kopf = macheKopf(alsMehrzeiler(spalte.titel), this);
         kopf->brichAmBindestrich();
         kopf->setAlignment((i < linksbündigeSpalten ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignBottom);
-        kopf->setIndent(i < linksbündigeSpalten ? em(0.45) : 0);
+        kopf->setIndent(0); // it would lift the text as well
+        kopf->setContentsMargins(i < linksbündigeSpalten ? em(0.45) : 0, 0, 0, 0);
         kopf->setWordWrap(true);
         m_köpfe.push_back(kopf);
         if (spalte.gruppe.empty()) {
@@ -243,5 +245,7 @@ QSize Listung::sizeHint() const
 
 QSize Listung::minimumSizeHint() const
 {
-    return {em(24), m_blatt->minimumSizeHint().height()};
+    const QSize blatt = m_blatt->minimumSizeHint();
+    const bool rolltQuer = isVisible() && m_rolle->width() < blatt.width();
+    return {em(24), blatt.height() + (rolltQuer ? em(0.75) : 0)};
 }

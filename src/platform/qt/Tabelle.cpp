@@ -20,6 +20,8 @@ namespace {
 constexpr std::size_t zeilenInSicht = 12;
 constexpr double zeileEng = 1.38;
 constexpr double zeileWeit = 1.7;
+constexpr double beschriftungMindestens = 18;
+constexpr double beschriftungHöchstens = 31;
 
 int summe(const std::vector<int>& werte)
 {
@@ -151,11 +153,11 @@ int Tabellenblatt::mindesthöhe() const
 
 int Tabellenblatt::bevorzugteBreite() const
 {
-    int beschriftung = em(12);
+    int beschriftung = em(beschriftungMindestens);
     for (const auto* zeile : m_zeilen) {
         beschriftung = std::max(beschriftung, zeile->bevorzugteBeschriftungsbreite());
     }
-    return std::min(beschriftung, em(31)) + summe(m_spalten);
+    return std::min(beschriftung, em(beschriftungHöchstens)) + summe(m_spalten);
 }
 
 void Tabellenblatt::ordne()
@@ -211,7 +213,7 @@ QSize Tabelle::sizeHint() const
 
 QSize Tabelle::minimumSizeHint() const
 {
-    return {em(12) + summe(m_spalten) + em(0.75), m_kopf->höhe() + m_blatt->mindesthöhe()};
+    return {em(beschriftungMindestens) + summe(m_spalten) + em(0.75), m_kopf->höhe() + m_blatt->mindesthöhe()};
 }
 
 void Tabelle::ordne()
