@@ -53,27 +53,35 @@ std::size_t zeileIn(const Oberfläche& oberfläche, const Liste& liste, const An
     return static_cast<std::size_t>(zeile);
 }
 
+/// The row that is meant: the one named, else the selected one of a list; 0 for none.
+std::size_t gemeinteZeile(const Oberfläche& oberfläche, Element& element, const Anweisung& anweisung)
+{
+    if (anweisung.hatArgument(1)) {
+        return zeileIn(oberfläche, als<Liste>(element, "eine Liste"), anweisung);
+    }
+    const auto* liste = dynamic_cast<const Liste*>(&element);
+    return liste == nullptr ? 0 : oberfläche.auswahl(*liste);
+}
+
 void klicke(Lauf& lauf, const Anweisung& anweisung)
 {
     handle(lauf, anweisung, [&](Oberfläche& oberfläche, Element& element) {
-        if (!anweisung.hatArgument(1)) {
+        if (const std::size_t zeile = gemeinteZeile(oberfläche, element, anweisung); zeile > 0) {
+            oberfläche.klickeZeile(als<Liste>(element, "eine Liste"), zeile);
+        } else {
             oberfläche.klicke(element);
-            return;
         }
-        auto& liste = als<Liste>(element, "eine Liste");
-        oberfläche.klickeZeile(liste, zeileIn(oberfläche, liste, anweisung));
     });
 }
 
 void doppelklicke(Lauf& lauf, const Anweisung& anweisung)
 {
     handle(lauf, anweisung, [&](Oberfläche& oberfläche, Element& element) {
-        if (!anweisung.hatArgument(1)) {
+        if (const std::size_t zeile = gemeinteZeile(oberfläche, element, anweisung); zeile > 0) {
+            oberfläche.doppelklickeZeile(als<Liste>(element, "eine Liste"), zeile);
+        } else {
             oberfläche.doppelklicke(element);
-            return;
         }
-        auto& liste = als<Liste>(element, "eine Liste");
-        oberfläche.doppelklickeZeile(liste, zeileIn(oberfläche, liste, anweisung));
     });
 }
 

@@ -3,6 +3,7 @@
 #include "sprache/Tastenfolge.h"
 
 #include "platform/bildschirm/Bildschirm.h"
+#include "platform/bildschirm/Bildschirmfolge.h"
 #include "platform/elemente/Elemente.h"
 #include "platform/elemente/triCtlJaNein.h"
 
@@ -81,6 +82,6 @@ public:
     virtual Lage rahmenlage() const = 0;
 };
 
-/// The neighbour in the array of the element ("triJaNeinKosten(3)" after "(2)") that can be reached, where up
-/// and down move the focus to; nullptr for none.
-Element* nachbarInReihe(const Oberfläche& oberfläche, const Element& element, bool vor);
+/// The screen that the keyboard belongs to: the one that was typed into last, as long as it can be used.
+/// `zuletzt` may be gone.
+Bildschirm* tastaturbildschirm(const Bildschirmfolge& folge, const Bildschirm* zuletzt);

@@ -4,6 +4,7 @@
 #include "platform/text/Eingabe.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -15,6 +16,27 @@ const Bildschirm* obersteSeite(const Bildschirmfolge& folge)
         return !bildschirm->istKindfenster && folge.istSichtbar(*bildschirm);
     });
     return seite == geladene.rend() ? nullptr : *seite;
+}
+
+std::string_view reihenname(const Element& element)
+{
+    return std::string_view(element.name()).substr(0, element.name().find('('));
+}
+
+/// The next element of the same array in reading order; nullptr for none.
+Element* nachbarInReihe(const Element& element, bool vor)
+{
+    const auto& bildschirm = *element.bildschirm();
+    auto reihe = bildschirm.tabFolge();
+    std::erase_if(reihe, [&](const Element* anderes) {
+        return reihenname(*anderes) != reihenname(element) ||
+               (anderes != &element && !bildschirm.istErreichbar(*anderes));
+    });
+    const auto ort = std::find(reihe.begin(), reihe.end(), &element);
+    if (ort == reihe.end() || (vor ? std::next(ort) == reihe.end() : ort == reihe.begin())) {
+        return nullptr;
+    }
+    return vor ? *std::next(ort) : *std::prev(ort);
 }
 
 bool istPfeil(const Taste& taste)
@@ -48,7 +70,12 @@ void OberflächeOhne::handle(Element& element, const std::function<void()>& akti
 
 void OberflächeOhne::klicke(Element& element)
 {
-    handle(element, [&] { element.klicke(); });
+    const bool istListe = dynamic_cast<Liste*>(&element) != nullptr; // beside its rows a list has nothing to click
+    handle(element, [&] {
+        if (!istListe) {
+            element.klicke();
+        }
+    });
 }
 
 void OberflächeOhne::klickeZeile(Liste& liste, std::size_t zeile)
@@ -102,15 +129,6 @@ void OberflächeOhne::wähleDatum(Datumsfeld& feld, const Datum& datum)
     handle(feld, [&] { feld.wähle(datum); });
 }
 
-Bildschirm* OberflächeOhne::tastaturbildschirm() const
-{
-    const auto& folge = m_zustand->folge;
-    const auto* hier = m_tastaturbildschirm;
-    const auto geladene = folge.geladene();
-    const bool nochDa = std::find(geladene.begin(), geladene.end(), hier) != geladene.end();
-    return nochDa && folge.istSichtbar(*hier) && folge.istFrei(*hier) ? m_tastaturbildschirm : folge.inGebrauch();
-}
-
 bool OberflächeOhne::bewegeFokusInReihe(const Element& element, const Taste& taste)
 {
     const bool inReihe =
@@ -119,7 +137,7 @@ bool OberflächeOhne::bewegeFokusInReihe(const Element& element, const Taste& ta
         return false;
     }
     const bool vor = taste.art == Taste::Art::Ab || taste.art == Taste::Art::Rechts;
-    auto* nachbar = nachbarInReihe(*this, element, vor);
+    auto* nachbar = nachbarInReihe(element, vor);
     if (nachbar == nullptr || !fokussiere(*nachbar)) {
         return true;
     }
@@ -132,7 +150,7 @@ bool OberflächeOhne::bewegeFokusInReihe(const Element& element, const Taste& ta
 void OberflächeOhne::drücke(const Taste& taste)
 {
     m_zustand->ablauf.ereignis([&] {
-        auto* bildschirm = tastaturbildschirm();
+        auto* bildschirm = tastaturbildschirm(m_zustand->folge, m_tastaturbildschirm);
         if (bildschirm == nullptr) {
             return;
         }

@@ -57,9 +57,7 @@ private:
     void drücke(const Taste& taste);
     bool fokussiere(Element& element);
     bool bewegeFokusInReihe(const Element& element, const Taste& taste);
-    /// The screen that the keyboard belongs to.
-    Bildschirm* tastaturbildschirm() const;
 
     Zustand* m_zustand = nullptr;
-    Bildschirm* m_tastaturbildschirm = nullptr;
+    const Bildschirm* m_tastaturbildschirm = nullptr; ///< that was acted on last
 };
