@@ -37,8 +37,7 @@ Exportspalte optionAus(const Satzfeld& feld, int nummer)
 
 Exportspalte diagnosespalteAus(const Satzfeld& feld, int nummer)
 {
-    const Exportspalte gespeichert{.satz = Satzart::Diagnose, .feld = nummer};
-    auto spalte = gespeichert;
+    Exportspalte spalte{.satz = Satzart::Diagnose, .feld = nummer};
     switch (feld.art) {
     case Feldart::option:
         return optionAus(feld, nummer);
@@ -57,8 +56,8 @@ Exportspalte diagnosespalteAus(const Satzfeld& feld, int nummer)
     case Feldart::hdAlter:
         spalte.kodierung = Kodierung::AlterHauptdiagnose;
         return spalte;
-    default:
-        return gespeichert;
+    default: // as stored
+        return spalte;
     }
 }
 
