@@ -66,10 +66,12 @@ public:
     virtual void legeOrdnerAn(const std::filesystem::path& pfad) = 0;
     virtual void entferneOrdner(const std::filesystem::path& pfad) = 0;
     virtual void sichereOrdnerAufPlatte(const std::filesystem::path& pfad) = 0;
-    virtual bool istDatei(const std::filesystem::path& pfad) = 0;
-    virtual bool istOrdner(const std::filesystem::path& pfad) = 0;
+
+    // the same on every system
+    virtual bool istDatei(const std::filesystem::path& pfad);
+    virtual bool istOrdner(const std::filesystem::path& pfad);
     /// The names of the files in the folder, sorted.
-    virtual std::vector<std::filesystem::path> dateienIn(const std::filesystem::path& ordner) = 0;
+    virtual std::vector<std::filesystem::path> dateienIn(const std::filesystem::path& ordner);
 };
 
 /// The operations of this system (one source file per system).

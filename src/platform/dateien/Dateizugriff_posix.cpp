@@ -2,7 +2,6 @@
 
 #include "platform/dateien/Systemgrund.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <system_error>
 #include <utility>
@@ -141,31 +140,6 @@ public:
         Griff griff(::open(pfad.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
         prüfe(::fsync(griff.nummer()) == 0);
         griff.schließe();
-    }
-    bool istDatei(const fs::path& pfad) override
-    {
-        std::error_code fehler;
-        return fs::is_regular_file(pfad, fehler);
-    }
-    bool istOrdner(const fs::path& pfad) override
-    {
-        std::error_code fehler;
-        return fs::is_directory(pfad, fehler);
-    }
-    std::vector<fs::path> dateienIn(const fs::path& ordner) override
-    {
-        std::vector<fs::path> namen;
-        std::error_code fehler;
-        for (fs::directory_iterator ort(ordner, fehler), ende; !fehler && ort != ende; ort.increment(fehler)) {
-            if (!ort->is_directory()) {
-                namen.push_back(ort->path().filename());
-            }
-        }
-        if (fehler) {
-            throw Dateifehler(systemgrund(fehler));
-        }
-        std::sort(namen.begin(), namen.end());
-        return namen;
     }
 };
 

@@ -124,31 +124,6 @@ public:
     void entferneOrdner(const fs::path& pfad) override { prüfe(::RemoveDirectoryW(pfad.c_str()) != 0); }
     /// MOVEFILE_WRITE_THROUGH has done it: folders cannot be flushed on this system.
     void sichereOrdnerAufPlatte(const fs::path&) override {}
-    bool istDatei(const fs::path& pfad) override
-    {
-        std::error_code fehler;
-        return fs::is_regular_file(pfad, fehler);
-    }
-    bool istOrdner(const fs::path& pfad) override
-    {
-        std::error_code fehler;
-        return fs::is_directory(pfad, fehler);
-    }
-    std::vector<fs::path> dateienIn(const fs::path& ordner) override
-    {
-        std::vector<fs::path> namen;
-        std::error_code fehler;
-        for (fs::directory_iterator ort(ordner, fehler), ende; !fehler && ort != ende; ort.increment(fehler)) {
-            if (!ort->is_directory()) {
-                namen.push_back(ort->path().filename());
-            }
-        }
-        if (fehler) {
-            throw Dateifehler(systemgrund(fehler));
-        }
-        std::sort(namen.begin(), namen.end());
-        return namen;
-    }
 };
 
 } // namespace
