@@ -46,13 +46,16 @@ const Handlertafel& alleHandler()
     return tafel;
 }
 
-std::optional<Fehlschlag> führeAus(const Szenario& szenario, Oberfläche& oberfläche)
+std::optional<Fehlschlag> führeAus(const Szenario& szenario, Oberfläche& oberfläche, const Beobachter& beobachter)
 {
     std::size_t zeile = 0;
     try {
         Lauf lauf(szenario, oberfläche);
         for (const auto& anweisung : szenario.anweisungen) {
             zeile = anweisung.zeile;
+            if (beobachter) {
+                beobachter(zeile);
+            }
             führeAus(lauf, anweisung);
         }
         schließeAb(lauf);
