@@ -85,10 +85,12 @@ TEST_F(moAnweisungenTest, Substanzgruppe)
 
 TEST_F(moAnweisungenTest, Hauptdiagnose)
 {
-    const auto gruppenMit = [this](std::string_view code) {
+    const auto tabelle = ladeAnweisungen(diagnoseanweisungen);
+    const auto gruppenMit = [&](std::string_view code) {
         std::vector<int> gruppen;
         for (int gruppe = 1; gruppe <= 29; ++gruppe) {
-            const auto text = ergebnis(diagnoseanweisungen, 10 + 8 * (gruppe - 1), code);
+            std::string ablage;
+            const auto text = schlageNach(tabelle.at(static_cast<std::size_t>(9 + 8 * (gruppe - 1))), code, ablage);
             EXPECT_TRUE(text == "0" || text == "1");
             if (text == "1") {
                 gruppen.push_back(gruppe);
