@@ -5,6 +5,7 @@
 #include "platform/qt/Umschrift.h"
 
 #include <QEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionButton>
@@ -130,6 +131,15 @@ void Optionsknopf::nextCheckState()
 bool Optionsknopf::hitButton(const QPoint& ort) const
 {
     return m_zelle.isEmpty() ? QRadioButton::hitButton(ort) : rect().contains(ort);
+}
+
+/// The second press of a double click is no click of its own: it would mark again what the double click has
+/// unmarked.
+void Optionsknopf::mouseDoubleClickEvent(QMouseEvent* ereignis)
+{
+    if (ereignis->button() == Qt::LeftButton && hitButton(ereignis->position().toPoint())) {
+        m_ansicht.ereignis([this] { m_element.doppelklicke(); });
+    }
 }
 
 void Optionsknopf::paintEvent(QPaintEvent* ereignis)

@@ -41,6 +41,7 @@ public:
 protected:
     void nextCheckState() override;
     bool hitButton(const QPoint& ort) const override;
+    void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
     void paintEvent(QPaintEvent* ereignis) override;
 
 private:
