@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
 #include <string>
 #include <vector>
 
@@ -182,6 +183,22 @@ TEST(Mappenschreiber, zahlenTexteUndDatumswerteBehaltenIhreArt)
     rückwandlung.wandle(versuch.ordner / "arten.xlsx", Rückwandlung::alsCsv);
     // a workbook of one sheet is written with its name too
     vergleicheBlatt(blatt, rückwandlung.blatt("arten", "Tabelle1"));
+}
+
+TEST(Mappenschreiber, eineDeutscheUmgebungÄndertKeineZahl)
+{
+    const Calcversuch versuch;
+    const Rückwandlung rückwandlung(versuch);
+    Arbeitsmappe mappe;
+    mappe.blatt(1).setze(1, 1, "1.234,5");
+    mappe.blatt(1).setze(1, 2, "-0,25");
+    mappe.blatt(1).passeSpaltenbreitenAn();
+    ASSERT_NE(std::setlocale(LC_ALL, "de_DE.utf8"), nullptr);
+    schreibeXlsx(mappe, versuch.ordner / "komma.xlsx");
+    EXPECT_STREQ(std::localeconv()->decimal_point, ",");
+    std::setlocale(LC_ALL, "C");
+    rückwandlung.wandle(versuch.ordner / "komma.xlsx", Rückwandlung::alsCsv);
+    vergleicheBlatt(mappe.blatt(1), rückwandlung.blatt("komma", "Tabelle1"));
 }
 
 TEST(Mappenschreiber, kommentareSindVerstecktUndZeilenFett)

@@ -8,6 +8,7 @@
 #include <xlsxwriter.h>
 
 #include <algorithm>
+#include <clocale>
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -87,6 +88,18 @@ public:
 
 private:
     std::vector<std::size_t> m_längen;
+};
+
+/// The library writes decimals as the process locale has them, but a file wants the point.
+class Dezimalpunkt {
+public:
+    Dezimalpunkt() : m_vorher(std::setlocale(LC_NUMERIC, nullptr)) { std::setlocale(LC_NUMERIC, "C"); }
+    Dezimalpunkt(const Dezimalpunkt&) = delete;
+    Dezimalpunkt& operator=(const Dezimalpunkt&) = delete;
+    ~Dezimalpunkt() { std::setlocale(LC_NUMERIC, m_vorher.c_str()); }
+
+private:
+    std::string m_vorher;
 };
 
 struct Formate {
@@ -190,6 +203,7 @@ private:
         }
     }
 
+    Dezimalpunkt m_dezimalpunkt;
     std::filesystem::path m_pfad;
     std::string m_ordner;
     lxw_workbook* m_mappe = nullptr;
