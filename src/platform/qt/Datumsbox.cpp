@@ -8,6 +8,8 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QLineEdit>
+#include <QRegularExpression>
 #include <QTextCharFormat>
 #include <QWheelEvent>
 
@@ -16,6 +18,25 @@ namespace {
 QDate alsQDate(const Datum& datum)
 {
     return {datum.jahr, datum.monat, datum.tag};
+}
+
+/// "02082007" as "02.08.2007".
+QString mitPunkten(const QString& text)
+{
+    constexpr int ziffern = 8;
+    const bool ohnePunkte = text.size() == ziffern && !text.contains(QChar('.'));
+    return ohnePunkte ? text.left(2) + QChar('.') + text.mid(2, 2) + QChar('.') + text.mid(4) : text;
+}
+
+QDate lies(const QString& text)
+{
+    const auto datum = leseDatum(mitPunkten(text).toStdString());
+    return datum ? alsQDate(*datum) : QDate();
+}
+
+bool hatVolleJahreszahl(const QString& text)
+{
+    return mitPunkten(text).section(QChar('.'), 2).size() == 4;
 }
 
 } // namespace
@@ -27,6 +48,8 @@ Datumsbox::Datumsbox(Datumsfeld& element, Ansicht& ansicht, QWidget* eltern)
     setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
     setCalendarPopup(true);
     setKeyboardTracking(false);
+    // the cursor is to stay where it was put, not to select sections
+    disconnect(lineEdit(), SIGNAL(cursorPositionChanged(int, int)), this, nullptr);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     richteKalenderEin();
     connect(this, &QDateEdit::dateChanged, this, [this](QDate datum) {
@@ -76,13 +99,52 @@ void Datumsbox::wheelEvent(QWheelEvent* ereignis)
 
 void Datumsbox::keyPressEvent(QKeyEvent* ereignis)
 {
-    QDateEdit::keyPressEvent(ereignis);
+    const bool blättert = ereignis->key() == Qt::Key_Up || ereignis->key() == Qt::Key_Down || ereignis->key() == Qt::Key_PageUp ||
+                          ereignis->key() == Qt::Key_PageDown;
+    if (blättert) {
+        QDateEdit::keyPressEvent(ereignis);
+    } else {
+        QAbstractSpinBox::keyPressEvent(ereignis);
+    }
+}
+
+void Datumsbox::stepBy(int schritte)
+{
+    interpretText();
+    const auto links = lineEdit()->text().left(lineEdit()->cursorPosition());
+    const auto punkte = lineEdit()->hasSelectedText() ? 0 : links.count(QChar('.'));
+    setCurrentSection(punkte == 0 ? DaySection : punkte == 1 ? MonthSection : YearSection);
+    QDateEdit::stepBy(schritte);
+}
+
+QValidator::State Datumsbox::validate(QString& text, int& /*marke*/) const
+{
+    static const QRegularExpression anfang(QStringLiteral("^(\\d{0,8}|\\d{0,2}\\.\\d{0,2}|\\d{0,2}\\.\\d{0,2}\\.\\d{0,4})$"));
+    if (!anfang.match(text).hasMatch()) {
+        return QValidator::Invalid;
+    }
+    const auto datum = lies(text);
+    const bool gilt = hatVolleJahreszahl(text) && datum.isValid() && datum >= minimumDate();
+    return gilt ? QValidator::Acceptable : QValidator::Intermediate;
+}
+
+/// A year of two digits is completed when the field is left.
+void Datumsbox::fixup(QString& text) const
+{
+    if (const auto datum = lies(text); datum.isValid()) {
+        text = datum.toString(displayFormat());
+    }
+}
+
+QDateTime Datumsbox::dateTimeFromText(const QString& text) const
+{
+    return lies(text).startOfDay();
 }
 
 void Datumsbox::focusInEvent(QFocusEvent* ereignis)
 {
-    QDateEdit::focusInEvent(ereignis);
-    if (ereignis->reason() != Qt::PopupFocusReason && ereignis->reason() != Qt::ActiveWindowFocusReason) {
-        setSelectedSection(QDateTimeEdit::DaySection);
+    QAbstractSpinBox::focusInEvent(ereignis);
+    if (ereignis->reason() == Qt::OtherFocusReason) {
+        selectAll(); // what is typed replaces the date
     }
 }

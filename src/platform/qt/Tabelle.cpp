@@ -81,7 +81,10 @@ int Antwortzeile::ordne(int breite, const std::vector<int>& spalten, int mindest
         ende += spalten[i];
     }
     const QRect platz(em(0.28), 0, ende - em(0.5), mindesthöhe);
-    const int höhe = std::max(mindesthöhe, m_beschriftung.heightForWidth(platz.width()) + 1);
+    int höhe = std::max(mindesthöhe, m_beschriftung.heightForWidth(platz.width()) + 1);
+    for (const auto* zelle : m_zellen) {
+        höhe = std::max(höhe, zelle == nullptr ? 0 : zelle->sizeHint().height());
+    }
     m_beschriftung.setGeometry(platz.x(), 0, platz.width(), höhe - 1);
     for (std::size_t i = 0; i < m_zellen.size(); ++i) {
         if (auto* zelle = m_zellen[i]) {

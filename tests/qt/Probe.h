@@ -1,0 +1,74 @@
+#pragma once
+
+#include "hilfen/Testumgebung.h"
+
+#include "platform/bildschirm/Ablauf.h"
+#include "platform/bildschirm/Bildschirm.h"
+#include "platform/bildschirm/Rahmen.h"
+#include "platform/qt/QtOberfläche.h"
+
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+/// Makes the application on which the widgets of the tests live.
+void stelleAnwendungBereit();
+
+/// A screen with an element of every kind, as the tests of the windows need it.
+class Probebildschirm : public Bildschirm {
+public:
+    Beschriftung lblHeader{"Probe"_t}, lblName, lblFrage{"Wie oft"_t};
+    Elementreihe<Beschriftung> lblZeile{1, 14};
+    Elementreihe<triCtlJaNein> triJaNein{1, 14};
+    Elementreihe<Auswahlfeld> comboZahl{1, 14, Auswahlfeld::Art::Tippbar};
+    Elementreihe<Optionsfeld> optWas{1, 3};
+    Optionsgruppe gruppe;
+    Textfeld tbName{Einzeilig, 20}, tbMemo{Mehrzeilig};
+    Auswahlfeld comboArt;
+    Datumsfeld DTPicker;
+    Ankreuzfeld cbHaken{"Haken"_t};
+    Liste lvw{{std::string("Nummer"), std::string("Name")}};
+    Schaltfläche cmdFüller{"!"_t, Schaltfläche::Rolle::Füller}, cmdDecke{"verdeckt"_t, Schaltfläche::Rolle::Decke};
+    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt}, cmdExit{"&Exit"_t};
+    Menüeintrag mnDatei{"Datei"_t}, mnEnde{"Ende"_t};
+
+    explicit Probebildschirm(std::string_view name = "frmProbe"_t);
+
+private:
+    void ordneAn();
+};
+
+/// A run with one Probebildschirm in real windows on the offscreen platform.
+class Fensterprobe : public ::testing::Test {
+protected:
+    Fensterprobe();
+    ~Fensterprobe() override;
+
+    /// Opens the screen, in the frame or as a child window.
+    void öffne();
+    QWidget& widget(const Element& element) const;
+    template <class W> W& widgetAls(const Element& element) const { return dynamic_cast<W&>(widget(element)); }
+    static void lasseGeschehen();
+
+    // what a person does
+    void klicke(const Element& element) const;
+    static void klicke(QWidget& widget, QPoint ort, bool doppelt = false);
+    void doppelklicke(const Element& element) const;
+    static void drücke(QWidget& widget, int taste, const QString& text = {}, Qt::KeyboardModifiers zusatz = Qt::NoModifier);
+    static void tippe(QWidget& widget, const QString& text);
+    void dreheRad(QWidget& widget) const;
+    /// The widget that has the keyboard.
+    QWidget& tastatur() const;
+
+    Testumgebung umgebung;
+    Bildschirmfolge folge;
+    Rahmen rahmen;
+    Ablauf ablauf{umgebung, folge};
+    std::unique_ptr<QtOberfläche> oberfläche;
+    std::unique_ptr<Probebildschirm> bildschirm = std::make_unique<Probebildschirm>();
+};
