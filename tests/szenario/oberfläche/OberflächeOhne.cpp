@@ -39,6 +39,13 @@ Element* nachbarInReihe(const Element& element, bool vor)
     return vor ? *std::next(ort) : *std::prev(ort);
 }
 
+/// For all others two quick clicks are two clicks.
+bool kenntDoppelklick(const Element& element)
+{
+    return dynamic_cast<const Beschriftung*>(&element) != nullptr || dynamic_cast<const Liste*>(&element) != nullptr ||
+           dynamic_cast<const Optionsfeld*>(&element) != nullptr;
+}
+
 bool istPfeil(const Taste& taste)
 {
     return taste.art == Taste::Art::Auf || taste.art == Taste::Art::Ab || taste.art == Taste::Art::Links ||
@@ -86,8 +93,13 @@ void OberflächeOhne::klickeZeile(Liste& liste, std::size_t zeile)
 void OberflächeOhne::doppelklicke(Element& element)
 {
     klicke(element);
-    if (istErreichbar(element)) {
+    if (!istErreichbar(element)) {
+        return;
+    }
+    if (kenntDoppelklick(element)) {
         handle(element, [&] { element.doppelklicke(); });
+    } else {
+        klicke(element);
     }
 }
 

@@ -153,7 +153,9 @@ QWidget& OberflächeQt::greife(const Element& element)
     m_qt->ordne();
     m_qt->bringeInSicht(element);
     m_qt->ordne();
-    return widget(element);
+    QWidget& w = widget(element);
+    qthand::rolleMitRad(w, qthand::griff(w));
+    return w;
 }
 
 void OberflächeQt::klicke(Element& element)

@@ -15,6 +15,7 @@
 #include <QTableView>
 #include <QTest>
 #include <QTreeView>
+#include <QWheelEvent>
 #include <QWindow>
 
 #include <algorithm>
@@ -36,9 +37,45 @@ QWindow& fensterFür(QWidget& widget)
     return *fenster;
 }
 
+/// The parent, however far up, beyond whose edge the place lies; nullptr for none.
+QWidget* abschneidendes(const QWidget& widget, QPoint ort)
+{
+    for (auto* um = widget.parentWidget(); um != nullptr; um = um->parentWidget()) {
+        if (!um->rect().contains(widget.mapTo(um, ort))) {
+            return um;
+        }
+        if (um->isWindow()) {
+            break;
+        }
+    }
+    return nullptr;
+}
+
+void dreheRad(QWidget& widget, bool abwärts)
+{
+    constexpr int raste = 120;
+    const QPoint mitte = widget.rect().center();
+    QWheelEvent ereignis(mitte, widget.mapToGlobal(mitte), {}, {0, abwärts ? -raste : raste}, Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&ereignis); // else it stays with this widget
+    qApp->notify(&widget, &ereignis);
+}
+
 QPoint imFenster(const QWidget& widget, QPoint ort)
 {
     return widget.mapTo(widget.window(), ort);
+}
+
+/// The place in the window, where the widget must be the one that a press meets.
+QPoint ziel(const QWidget& widget, QPoint ort)
+{
+    const QPoint stelle = imFenster(widget, ort);
+    const auto* getroffen = widget.window()->childAt(stelle);
+    if (getroffen != &widget && !widget.isAncestorOf(getroffen)) {
+        throw std::runtime_error("an der Stelle von " + widget.objectName().toStdString() + " liegt " +
+                                 (getroffen == nullptr ? "nichts" : getroffen->objectName().toStdString()));
+    }
+    return stelle;
 }
 
 constexpr std::array<std::pair<Taste::Art, Qt::Key>, 11> sondertasten{{
@@ -125,14 +162,30 @@ QPoint griff(const QWidget& widget)
     return istZeichen ? QPoint(std::min(mitte.x(), mitte.y()), mitte.y()) : mitte;
 }
 
+void rolleMitRad(QWidget& widget, QPoint ort)
+{
+    constexpr int rasten = 100;
+    for (int i = 0; i < rasten; ++i) {
+        auto* um = abschneidendes(widget, ort);
+        if (um == nullptr) {
+            return;
+        }
+        const QPoint vorher = imFenster(widget, ort);
+        dreheRad(*um, widget.mapTo(um, ort).y() > um->rect().center().y());
+        if (imFenster(widget, ort) == vorher) {
+            return;
+        }
+    }
+}
+
 void klicke(QWidget& widget, QPoint ort)
 {
-    QTest::mouseClick(&fensterFür(widget), Qt::LeftButton, Qt::NoModifier, imFenster(widget, ort));
+    QTest::mouseClick(&fensterFür(widget), Qt::LeftButton, Qt::NoModifier, ziel(widget, ort));
 }
 
 void doppelklicke(QWidget& widget, QPoint ort)
 {
-    QTest::mouseDClick(&fensterFür(widget), Qt::LeftButton, Qt::NoModifier, imFenster(widget, ort));
+    QTest::mouseDClick(&fensterFür(widget), Qt::LeftButton, Qt::NoModifier, ziel(widget, ort));
 }
 
 void drücke(QWidget& fenster, Qt::Key taste, Qt::KeyboardModifiers zusatz)

@@ -20,6 +20,9 @@ namespace qthand {
 /// Where a person would press the widget.
 QPoint griff(const QWidget& widget);
 
+/// Turns the wheel over what cuts the widget off, until the place is in view or nothing moves any more.
+void rolleMitRad(QWidget& widget, QPoint ort);
+
 void klicke(QWidget& widget, QPoint ort);
 /// The single click before it included.
 void doppelklicke(QWidget& widget, QPoint ort);
