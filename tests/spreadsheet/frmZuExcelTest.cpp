@@ -71,13 +71,10 @@ TEST_F(FrmZuExcel, einLaufFülltDenBalkenUndZeigtFertig)
     EXPECT_TRUE(zuExcel.cmdFertig.istSichtbar());
     EXPECT_EQ(übergaben, 1);
     EXPECT_EQ(standBeiÜbergabe, 6);
-    const std::vector<std::pair<int, std::string>> erwartet{{1, "schreibe BetrDat"},
-                                                            {2, "schreibe DiagDat"},
-                                                            {3, "schreibe DiagDat"},
-                                                            {4, "suche Hauptdiagnose-Daten"},
-                                                            {5, "suche Kern-Daten"},
-                                                            {6, "suche Betreuungsdaten"},
-                                                            {7, "Fertig"}};
+    const std::vector<std::pair<int, std::string>> erwartet{{0, "schreibe KernDat"},          {1, "schreibe BetrDat"},
+                                                            {2, "schreibe DiagDat"},          {3, "schreibe DiagDat"},
+                                                            {4, "suche Hauptdiagnose-Daten"}, {5, "suche Kern-Daten"},
+                                                            {6, "suche Betreuungsdaten"},     {7, "Fertig"}};
     EXPECT_EQ(schritte, erwartet);
 }
 
