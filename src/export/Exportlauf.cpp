@@ -71,7 +71,9 @@ std::int32_t Exportlauf::führeAus()
     });
     Zeilen klienten(m_klienten->text());
     while (const auto zeile = klienten.nächste()) {
-        beiKlient(static_cast<std::int32_t>(klienten.nummer()));
+        if (beiKlient) {
+            beiKlient(static_cast<std::int32_t>(klienten.nummer()));
+        }
         exportiereKlient(*zeile, klienten.nummer());
     }
     beimSchreiben([&] {
@@ -86,7 +88,7 @@ void Exportlauf::exportiereKlient(std::string_view zeile, std::size_t nummer)
     const auto kernID = leseSchlüssel(zeile, 2, bits, zustand().pfade.kernDat, nummer);
     m_klient.lies(zeile);
     if (!m_betreuungen) {
-        suchtBetreuungen(kernID);
+        sucheBetreuungen(kernID);
     } else if (const auto ort = m_imJahr.find(kernID); ort != m_imJahr.end()) {
         for (const auto& betreuung : ort->second) {
             exportiere(kernID, betreuung.zeile, betreuung.nummer);
@@ -94,7 +96,7 @@ void Exportlauf::exportiereKlient(std::string_view zeile, std::size_t nummer)
     }
 }
 
-void Exportlauf::suchtBetreuungen(std::int32_t erster)
+void Exportlauf::sucheBetreuungen(std::int32_t erster)
 {
     const auto& pfad = zustand().pfade.betrDat;
     m_betreuungen = dateien().lies(pfad);

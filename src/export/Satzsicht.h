@@ -22,8 +22,6 @@ public:
         return ort < m_felder.size() ? m_felder[ort] : std::string_view{};
     }
 
-    int anzahl() const { return static_cast<int>(m_felder.size()); }
-
 private:
     std::vector<std::string_view> m_felder;
 };

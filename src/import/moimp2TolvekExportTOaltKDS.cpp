@@ -19,6 +19,9 @@ namespace {
 constexpr int kernspalten = 163;
 constexpr int diagnosespalten = 215;
 
+constexpr auto null = "0"_t;
+constexpr auto zwei = "2"_t;
+
 constexpr int feldBeginn = 3;
 constexpr int feldAlter = 152; ///< the value that stage 1 added
 
@@ -40,7 +43,7 @@ constexpr std::array nationalitäten{Codewort{"Deutsche(r)"_t, "1"_t}, Codewort{
 template <std::size_t N> std::string_view codeVon(const std::array<Codewort, N>& liste, std::string_view text)
 {
     const auto ort = std::find_if(liste.begin(), liste.end(), [&](const Codewort& w) { return w.text == text; });
-    return ort == liste.end() ? "0"_t : ort->code;
+    return ort == liste.end() ? null : ort->code;
 }
 
 class Klientenverzeichnis {
@@ -97,7 +100,7 @@ void baueKernzeile(AltKDSZeile& zeile, const Klientenwerte& klient, const Betreu
     for (int spalte = 1; spalte <= kernspalten; ++spalte) {
         switch (spalte) {
         case 1:
-            zeile.wert("2"_t);
+            zeile.wert(zwei);
             break;
         case 6:
             zeile.wert(codeVon(geschlechter, klient.geschl));
@@ -129,17 +132,17 @@ std::string_view klassencode(const Betreuungssatz& satz, int spalte)
 {
     const int feld = 51 + 4 * (spalte - 5);
     if (satz.istLeer(feld)) {
-        return "0"_t;
+        return null;
     }
-    return satz.feld(feld) == "10" ? "1"_t : "2"_t;
+    return satz.feld(feld) == "10" ? "1"_t : zwei;
 }
 
 /// The columns of the diagnosis row that no instruction fills; nothing for the others.
 std::optional<std::string_view> festeDiagnosespalte(const Betreuungssatz& satz, int spalte)
 {
-    const auto belegt = [](bool ja) { return ja ? "2"_t : "0"_t; };
+    const auto belegt = [](bool ja) { return ja ? zwei : null; };
     if (spalte == 1) {
-        return "2"_t;
+        return zwei;
     }
     if (spalte >= 5 && spalte <= 14) { // F10 to F19
         return klassencode(satz, spalte);
