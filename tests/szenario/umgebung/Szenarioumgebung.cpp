@@ -46,6 +46,9 @@ Antwort Szenarioumgebung::zeigeMeldung(const Meldung& meldung)
 
 Antwort Szenarioumgebung::beantworte(const Meldung& meldung)
 {
+    if (m_antworten.empty() && antwortgeber) {
+        return antwortgeber(meldung);
+    }
     std::string gefunden = "keine";
     if (!m_antworten.empty()) {
         const Antwort antwort = m_antworten.front();
@@ -65,6 +68,9 @@ Antwort Szenarioumgebung::beantworte(const Meldung& meldung)
 
 std::optional<std::filesystem::path> Szenarioumgebung::wähleDatei(const Dateiwahl& /*wahl*/)
 {
+    if (m_dateiwahlen.empty() && dateigeber) {
+        return dateigeber();
+    }
     if (m_dateiwahlen.empty()) {
         if (!m_versäumnis) {
             m_versäumnis.emplace("dateiwahl für den Dialog", "keine");

@@ -37,6 +37,10 @@ public:
     void stelleAntwortBereit(Antwort antwort) { m_antworten.push_back(antwort); }
     /// Nothing: the dialogue is cancelled.
     void stelleDateiBereit(std::optional<std::filesystem::path> datei) { m_dateiwahlen.push_back(std::move(datei)); }
+    /// Answers a box that offers a choice, or a file dialogue, for which nothing is queued; without them that
+    /// is a failure of the scenario.
+    std::function<Antwort(const Meldung&)> antwortgeber;
+    std::function<std::optional<std::filesystem::path>()> dateigeber;
     /// How the surface draws at once; nothing without a toolkit.
     std::function<void()> zeichnung;
 
