@@ -60,8 +60,54 @@ void OberflächeOhne::beginne(Programm& programm)
     m_tastaturbildschirm = nullptr;
 }
 
+void OberflächeOhne::beende()
+{
+    m_datumseingabe.reset();
+    m_zustand = nullptr;
+}
+
+/// A date that is being typed is read before anything else happens.
+void OberflächeOhne::schließeDatumAb()
+{
+    if (!m_datumseingabe) {
+        return;
+    }
+    const auto geladene = m_zustand->folge.geladene();
+    const auto* bildschirm = m_datumsbildschirm;
+    if (std::find(geladene.begin(), geladene.end(), bildschirm) != geladene.end()) {
+        m_datumseingabe->übernimm();
+    }
+    m_datumseingabe.reset();
+}
+
+bool OberflächeOhne::gibDatumsfeld(Element& element, const Taste& taste)
+{
+    auto* feld = dynamic_cast<Datumsfeld*>(&element);
+    if (feld == nullptr) {
+        return false;
+    }
+    if (!m_datumseingabe || !m_datumseingabe->gilt()) {
+        m_datumseingabe.emplace(*feld);
+        m_datumsbildschirm = feld->bildschirm();
+    }
+    if (m_datumseingabe->taste(taste)) {
+        return true;
+    }
+    schließeDatumAb();
+    return false;
+}
+
+std::string OberflächeOhne::text(const Element& element) const
+{
+    const bool wirdGetippt = m_datumseingabe && &m_datumseingabe->feld() == &element && m_datumseingabe->gilt();
+    return wirdGetippt ? m_datumseingabe->text() : element.text();
+}
+
 bool OberflächeOhne::fokussiere(Element& element)
 {
+    if (!element.hatFokus() && element.nimmtFokus()) {
+        schließeDatumAb();
+    }
     return !element.nimmtFokus() || element.bildschirm()->fokussiere(&element);
 }
 
@@ -138,7 +184,10 @@ void OberflächeOhne::wähleEintrag(Auswahlfeld& feld, std::size_t eintrag)
 
 void OberflächeOhne::wähleDatum(Datumsfeld& feld, const Datum& datum)
 {
-    handle(feld, [&] { feld.wähle(datum); });
+    handle(feld, [&] {
+        m_datumseingabe.reset();
+        feld.wähle(datum);
+    });
 }
 
 bool OberflächeOhne::bewegeFokusInReihe(const Element& element, const Taste& taste)
@@ -168,7 +217,8 @@ void OberflächeOhne::drücke(const Taste& taste)
         }
         auto* element = bildschirm->fokus();
         const bool erreicht = element != nullptr && istErreichbar(*element);
-        if (erreicht && (element->taste(taste) || bewegeFokusInReihe(*element, taste))) {
+        if (erreicht &&
+            (gibDatumsfeld(*element, taste) || element->taste(taste) || bewegeFokusInReihe(*element, taste))) {
             return;
         }
         bildschirm->taste(taste);
@@ -211,6 +261,7 @@ void OberflächeOhne::verlasse(Element& element)
 {
     m_zustand->ablauf.ereignis([&] {
         if (element.hatFokus()) {
+            schließeDatumAb();
             element.bildschirm()->fokussiere(nullptr);
         }
     });

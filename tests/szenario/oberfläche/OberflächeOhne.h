@@ -1,5 +1,6 @@
 #pragma once
 
+#include "oberfläche/Datumseingabe.h"
 #include "oberfläche/Oberfläche.h"
 
 #include "zustand/Zustand.h"
@@ -12,7 +13,7 @@ class OberflächeOhne : public Oberfläche {
 public:
     std::string_view name() const override { return "ohne"; }
     void beginne(Programm& programm) override;
-    void beende() override { m_zustand = nullptr; }
+    void beende() override;
     void zeichne() override {}
 
     void klicke(Element& element) override;
@@ -34,7 +35,7 @@ public:
     bool istZuSehen(const Element& element) const override;
     bool istFrei(const Element& element) const override;
     bool hatFokus(const Element& element) const override;
-    std::string text(const Element& element) const override { return element.text(); }
+    std::string text(const Element& element) const override;
     std::string hinweis(const Element& element) const override { return element.hinweis(); }
     Farbe hintergrund(const Element& element) const override { return element.hintergrund(); }
     bool istAn(const Optionsfeld& feld) const override { return feld.istAn(); }
@@ -56,8 +57,12 @@ private:
     void handle(Element& element, const std::function<void()>& aktion);
     void drücke(const Taste& taste);
     bool fokussiere(Element& element);
+    bool gibDatumsfeld(Element& element, const Taste& taste);
+    void schließeDatumAb();
     bool bewegeFokusInReihe(const Element& element, const Taste& taste);
 
     Zustand* m_zustand = nullptr;
+    std::optional<Datumseingabe> m_datumseingabe; ///< in the date field that has the focus
+    const Bildschirm* m_datumsbildschirm = nullptr;
     const Bildschirm* m_tastaturbildschirm = nullptr; ///< that was acted on last
 };
