@@ -3,8 +3,8 @@
 #include "platform/qt/Antwortfeld.h"
 #include "platform/qt/Auswahlbox.h"
 
-#include <QCoreApplication>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDateEdit>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -20,7 +20,8 @@ TEST_F(Fensterprobe, WheelChangesOnlyWhatHasTheFocus)
 {
     öffne();
     bildschirm->setzeFokus(&bildschirm->tbName);
-    for (auto* element : std::initializer_list<Element*>{&bildschirm->comboArt, &bildschirm->comboZahl(1), &bildschirm->DTPicker}) {
+    for (auto* element :
+         std::initializer_list<Element*>{&bildschirm->comboArt, &bildschirm->comboZahl(1), &bildschirm->DTPicker}) {
         const auto vorher = element->text();
         dreheRad(widget(*element));
         EXPECT_EQ(element->text(), vorher) << element->name();
@@ -226,18 +227,22 @@ TEST_P(DatumGetippt, IsReadWhenTheFieldIsLeft)
     EXPECT_EQ(widgetAls<QDateEdit>(bildschirm->DTPicker).text().toStdString(), GetParam().erwartet);
 }
 
-INSTANTIATE_TEST_SUITE_P(Schreibweisen, DatumGetippt,
-                         ::testing::Values(Datumseingabe{"2.8.1974", "02.08.1974"}, Datumseingabe{"02.08.1974", "02.08.1974"},
-                                           Datumseingabe{"31.12.2006", "31.12.2006"}, Datumseingabe{"02081974", "02.08.1974"},
-                                           Datumseingabe{"8.3.74", "08.03.1974"}, Datumseingabe{"29.2.2004", "29.02.2004"},
-                                           Datumseingabe{"29.2.2005", "02.08.2007"}, Datumseingabe{"31.12.", "02.08.2007"}));
+INSTANTIATE_TEST_SUITE_P(
+    Schreibweisen, DatumGetippt,
+    ::testing::Values(Datumseingabe{"2.8.1974", "02.08.1974"}, Datumseingabe{"02.08.1974", "02.08.1974"},
+                      Datumseingabe{"31.12.2006", "31.12.2006"}, Datumseingabe{"02081974", "02.08.1974"},
+                      Datumseingabe{"8.3.74", "08.03.1974"}, Datumseingabe{"29.2.2004", "29.02.2004"},
+                      Datumseingabe{"29.2.2005", "02.08.2007"}, Datumseingabe{"31.12.", "02.08.2007"}));
 
 TEST_F(Fensterprobe, ListTakesClicksKeysAndHeaderClicksToItsElement)
 {
     öffne();
     std::vector<std::string> geschehen;
     auto& liste = bildschirm->lvw;
-    liste.setzeZeilen({"1\xB7" "Zander", "2\xB7" "Adler"});
+    liste.setzeZeilen({"1\xB7"
+                       "Zander",
+                       "2\xB7"
+                       "Adler"});
     liste.beiKlick = [&] { geschehen.push_back("klick " + std::to_string(liste.auswahl())); };
     liste.beiDoppelklick = [&] { geschehen.push_back("doppelklick " + std::to_string(liste.auswahl())); };
     liste.beiKopfklick = [&](std::size_t spalte) { liste.sortiereNach(spalte); };
@@ -254,7 +259,8 @@ TEST_F(Fensterprobe, ListTakesClicksKeysAndHeaderClicksToItsElement)
     EXPECT_EQ(ansicht.model()->index(0, 1).data().toString(), QStringLiteral("Adler"));
     EXPECT_EQ(ansicht.header()->sortIndicatorSection(), 1);
     EXPECT_EQ(ansicht.currentIndex().row(), 1); // the selection stays with its row
-    liste.setzeZeilen({"3\xB7" "Bach"});
+    liste.setzeZeilen({"3\xB7"
+                       "Bach"});
     EXPECT_FALSE(ansicht.header()->isSortIndicatorShown());
     EXPECT_FALSE(ansicht.selectionModel()->hasSelection());
 }

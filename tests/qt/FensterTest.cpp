@@ -217,7 +217,8 @@ TEST_F(Fensterprobe, FrameAsksBeforeItCloses)
 TEST(Meldungsfenster, HasTheButtonsTheDefaultAndTheGermanTextsOfItsMessage)
 {
     stelleAnwendungBereit();
-    const auto fenster = baueMeldungsfenster({"Erste\r\nZweite", Symbol::Warnung, Knöpfe::JaNein, Antwort::Nein, "Tolvek7"});
+    const auto fenster =
+        baueMeldungsfenster({"Erste\r\nZweite", Symbol::Warnung, Knöpfe::JaNein, Antwort::Nein, "Tolvek7"});
     EXPECT_EQ(fenster->text(), QStringLiteral("Erste\nZweite"));
     EXPECT_EQ(fenster->icon(), QMessageBox::Warning);
     EXPECT_EQ(fenster->standardButtons(), QMessageBox::Yes | QMessageBox::No);

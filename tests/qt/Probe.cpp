@@ -88,11 +88,13 @@ void Probebildschirm::ordneAn()
     for (int i = 1; i <= 14; ++i) {
         zeilen.push_back(tabellenzeile(lblZeile(i), {&triJaNein(i), &comboZahl(i)}));
     }
-    const std::vector<Tabellenspalte> köpfe{{std::string("intern"), {}, &cmdFüller}, {std::string("Anzahl"), {}, nullptr}};
-    auto links = spalte({karte({}, formular({feld("Name:"_t, tbName), feld("Memo:"_t, tbMemo), feld(lblFrage, comboArt),
-                                             feld("Datum:"_t, DTPicker, 10)})),
-                         karte("Was"_t, decke(spalte({element(optWas(1)), element(optWas(2)), element(optWas(3))}), cmdDecke)),
-                         karte({}, element(cbHaken)), karte("Liste"_t, füllend(element(lvw)))});
+    const std::vector<Tabellenspalte> köpfe{{std::string("intern"), {}, &cmdFüller},
+                                            {std::string("Anzahl"), {}, nullptr}};
+    auto links =
+        spalte({karte({}, formular({feld("Name:"_t, tbName), feld("Memo:"_t, tbMemo), feld(lblFrage, comboArt),
+                                    feld("Datum:"_t, DTPicker, 10)})),
+                karte("Was"_t, decke(spalte({element(optWas(1)), element(optWas(2)), element(optWas(3))}), cmdDecke)),
+                karte({}, element(cbHaken)), karte("Liste"_t, füllend(element(lvw)))});
     aufbau = karten({std::move(links), spalte({karte({}, tabelle("Tabelle"_t, köpfe, std::move(zeilen)))})});
     leiste.rechts = {&cmdOK, &cmdExit};
 }
@@ -164,7 +166,8 @@ void Fensterprobe::tippe(QWidget& widget, const QString& text)
 void Fensterprobe::dreheRad(QWidget& widget) const
 {
     const QPoint mitte = widget.rect().center();
-    QWheelEvent ereignis(mitte, widget.mapToGlobal(mitte), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent ereignis(mitte, widget.mapToGlobal(mitte), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
     QApplication::sendEvent(&widget, &ereignis);
 }
 

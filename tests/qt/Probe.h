@@ -59,7 +59,8 @@ protected:
     void klicke(const Element& element) const;
     static void klicke(QWidget& widget, QPoint ort, bool doppelt = false);
     void doppelklicke(const Element& element) const;
-    static void drücke(QWidget& widget, int taste, const QString& text = {}, Qt::KeyboardModifiers zusatz = Qt::NoModifier);
+    static void drücke(QWidget& widget, int taste, const QString& text = {},
+                       Qt::KeyboardModifiers zusatz = Qt::NoModifier);
     static void tippe(QWidget& widget, const QString& text);
     void dreheRad(QWidget& widget) const;
     /// The widget that has the keyboard.

@@ -128,7 +128,8 @@ bool Anordner::fügeElement(const Anordnung& a, QBoxLayout& ziel)
     const bool dehnbar = regel.expandingDirections().testFlag(istWaagrecht(ziel) ? Qt::Horizontal : Qt::Vertical);
     const bool füllt = a.füllt || (dehnbar && !istWaagrecht(ziel));
     // what does not grow stands at the left of a column
-    const bool steht = !istWaagrecht(ziel) && (regel.horizontalPolicy() == QSizePolicy::Fixed || regel.horizontalPolicy() == QSizePolicy::Maximum);
+    const bool steht = !istWaagrecht(ziel) && (regel.horizontalPolicy() == QSizePolicy::Fixed ||
+                                               regel.horizontalPolicy() == QSizePolicy::Maximum);
     ziel.addWidget(widget, füllt || dehnbar ? 1000 : 0, steht ? Qt::AlignLeft : Qt::Alignment());
     return füllt;
 }
@@ -242,11 +243,13 @@ bool Anordner::fügeKarten(const Anordnung& a, QBoxLayout& ziel)
     for (const auto& teil : a.teile) {
         bool spalteFüllt = teil.füllt;
         auto* spalte = macheKartenspalte(teil, spalteFüllt);
-        const bool hatKarten = teil.wort == Wort::Karte || std::any_of(teil.teile.begin(), teil.teile.end(), [](const Anordnung& t) {
-                                   return t.wort == Wort::Karte;
-                               });
+        const bool hatKarten =
+            teil.wort == Wort::Karte ||
+            std::any_of(teil.teile.begin(), teil.teile.end(), [](const Anordnung& t) { return t.wort == Wort::Karte; });
         // a column of buttons is as wide as they are
-        const int höchstbreite = teil.breite > 0 ? em(teil.breite) : hatKarten ? em(kartenbreite) : spalte->sizeHint().width();
+        const int höchstbreite = teil.breite > 0 ? em(teil.breite)
+                                 : hatKarten     ? em(kartenbreite)
+                                                 : spalte->sizeHint().width();
         reihe->füge(*spalte, höchstbreite, spalteFüllt);
         füllt = füllt || spalteFüllt;
     }

@@ -11,7 +11,9 @@ class QWidget;
 class Anordner {
 public:
     /// `istSeite`: cards of a given width stand in the middle, as they do on a page of the frame.
-    Anordner(Ansicht& ansicht, QWidget& wurzel, bool istSeite) : m_ansicht(ansicht), m_wurzel(wurzel), m_istSeite(istSeite) {}
+    Anordner(Ansicht& ansicht, QWidget& wurzel, bool istSeite)
+        : m_ansicht(ansicht), m_wurzel(wurzel), m_istSeite(istSeite)
+    {}
 
     /// The body of a screen.
     void baueSeite(const Anordnung& a, QVBoxLayout& ziel);

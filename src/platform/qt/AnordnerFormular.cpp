@@ -42,8 +42,14 @@ public:
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
     }
 
-    QSize sizeHint() const override { return (QWidget::sizeHint() + QSize(0, em(0.3))).expandedTo({0, em(zeilenhöhe)}); }
-    QSize minimumSizeHint() const override { return QWidget::minimumSizeHint().expandedTo({0, em(zeilenhöheMindestens)}); }
+    QSize sizeHint() const override
+    {
+        return (QWidget::sizeHint() + QSize(0, em(0.3))).expandedTo({0, em(zeilenhöhe)});
+    }
+    QSize minimumSizeHint() const override
+    {
+        return QWidget::minimumSizeHint().expandedTo({0, em(zeilenhöheMindestens)});
+    }
 };
 
 void benenneFelder(const Ansicht& ansicht, const std::vector<Element*>& elemente, const QWidget& beschriftung)
@@ -114,7 +120,8 @@ void Anordner::verbindeFeld(const Anordnung& feld, QWidget& beschriftung, QWidge
     regel.setRetainSizeWhenHidden(std::any_of(feld.teile.begin(), feld.teile.end(), behältPlatz));
     zeile.setSizePolicy(regel);
     auto zeige = [elemente, &zeile, &beschriftung, eigene = feld.element] {
-        const bool sichtbar = std::any_of(elemente.begin(), elemente.end(), [](const Element* e) { return e->istSichtbar(); });
+        const bool sichtbar =
+            std::any_of(elemente.begin(), elemente.end(), [](const Element* e) { return e->istSichtbar(); });
         zeile.setVisible(sichtbar || (eigene != nullptr && eigene->istSichtbar()));
         if (eigene == nullptr) {
             beschriftung.setVisible(sichtbar);

@@ -6,8 +6,7 @@
 
 Auswahlliste::Auswahlliste(const Auswahlfeld& element, const Ansicht& ansicht, QObject* eltern)
     : QAbstractListModel(eltern), m_element(element), m_ansicht(ansicht)
-{
-}
+{}
 
 int Auswahlliste::rowCount(const QModelIndex& eltern) const
 {
@@ -17,7 +16,8 @@ int Auswahlliste::rowCount(const QModelIndex& eltern) const
 QVariant Auswahlliste::data(const QModelIndex& ort, int rolle) const
 {
     const bool istText = rolle == Qt::DisplayRole || rolle == Qt::EditRole;
-    if (!istText || !m_ansicht.lebt() || !ort.isValid() || static_cast<std::size_t>(ort.row()) >= m_element.liste().size()) {
+    if (!istText || !m_ansicht.lebt() || !ort.isValid() ||
+        static_cast<std::size_t>(ort.row()) >= m_element.liste().size()) {
         return {};
     }
     return alsQString(m_element.liste()[static_cast<std::size_t>(ort.row())]);

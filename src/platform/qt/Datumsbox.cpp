@@ -7,9 +7,9 @@
 #include <QCalendarWidget>
 #include <QFocusEvent>
 #include <QKeyEvent>
-#include <QSignalBlocker>
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QSignalBlocker>
 #include <QTextCharFormat>
 #include <QWheelEvent>
 
@@ -99,8 +99,8 @@ void Datumsbox::wheelEvent(QWheelEvent* ereignis)
 
 void Datumsbox::keyPressEvent(QKeyEvent* ereignis)
 {
-    const bool blättert = ereignis->key() == Qt::Key_Up || ereignis->key() == Qt::Key_Down || ereignis->key() == Qt::Key_PageUp ||
-                          ereignis->key() == Qt::Key_PageDown;
+    const bool blättert = ereignis->key() == Qt::Key_Up || ereignis->key() == Qt::Key_Down ||
+                          ereignis->key() == Qt::Key_PageUp || ereignis->key() == Qt::Key_PageDown;
     if (blättert) {
         QDateEdit::keyPressEvent(ereignis);
     } else {
@@ -119,7 +119,8 @@ void Datumsbox::stepBy(int schritte)
 
 QValidator::State Datumsbox::validate(QString& text, int& /*marke*/) const
 {
-    static const QRegularExpression anfang(QStringLiteral("^(\\d{0,8}|\\d{0,2}\\.\\d{0,2}|\\d{0,2}\\.\\d{0,2}\\.\\d{0,4})$"));
+    static const QRegularExpression anfang(
+        QStringLiteral("^(\\d{0,8}|\\d{0,2}\\.\\d{0,2}|\\d{0,2}\\.\\d{0,2}\\.\\d{0,4})$"));
     if (!anfang.match(text).hasMatch()) {
         return QValidator::Invalid;
     }

@@ -27,7 +27,10 @@ void meldeFilter(QWidget& feld, const Feldeingabe& eingabe)
         return;
     }
     constexpr int vierSekunden = 4000;
-    const auto text = eingabe.verweigert ? QStringLiteral("Dieses Zeichen kann nicht gespeichert werden und wurde nicht übernommen.")
-                                         : QStringLiteral("Dieses Zeichen kann nicht gespeichert werden und wurde durch den nächsten Buchstaben ersetzt.");
+    const auto text =
+        eingabe.verweigert
+            ? QStringLiteral("Dieses Zeichen kann nicht gespeichert werden und wurde nicht übernommen.")
+            : QStringLiteral(
+                  "Dieses Zeichen kann nicht gespeichert werden und wurde durch den nächsten Buchstaben ersetzt.");
     QToolTip::showText(feld.mapToGlobal(QPoint(0, feld.height())), text, &feld, {}, vierSekunden);
 }

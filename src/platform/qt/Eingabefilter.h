@@ -13,7 +13,7 @@ struct Feldeingabe {
     std::size_t schreibmarke = 0; ///< characters of `text` left of the cursor
     bool ersetzt = false;
     bool verweigert = false;
-    bool istWieGetippt = true;    ///< the widget shows the result already
+    bool istWieGetippt = true; ///< the widget shows the result already
 };
 
 /// The text of a widget, cut down to the code page, with the cursor behind the same character.

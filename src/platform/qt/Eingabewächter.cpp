@@ -87,7 +87,8 @@ Element* nachbar(const Bildschirm& bildschirm, const Element& element, bool vor)
 {
     auto reihe = bildschirm.tabFolge();
     std::erase_if(reihe, [&](const Element* anderes) {
-        return reihenname(*anderes) != reihenname(element) || (anderes != &element && !bildschirm.istErreichbar(*anderes));
+        return reihenname(*anderes) != reihenname(element) ||
+               (anderes != &element && !bildschirm.istErreichbar(*anderes));
     });
     const auto ort = std::find(reihe.begin(), reihe.end(), &element);
     if (ort == reihe.end() || (vor ? std::next(ort) == reihe.end() : ort == reihe.begin())) {
@@ -153,6 +154,11 @@ bool Eingabewächter::beiMaus(QWidget& widget, const QMouseEvent& ereignis)
     if (element == nullptr || !element->nimmtFokus() || !widget.isEnabled()) {
         return false;
     }
+    const auto* seiteDavor = std::exchange(m_gedrückteSeite, ansicht->wurzel()).data();
+    if (ereignis.type() == QEvent::MouseButtonDblClick && seiteDavor != ansicht->wurzel()) {
+        m_verschluckt = true;
+        return true;
+    }
     ansicht->ereignis([&] { m_verschluckt = !ansicht->bildschirm().fokussiere(element); });
     return m_verschluckt;
 }
@@ -178,7 +184,8 @@ bool Eingabewächter::beiTaste(QWidget& widget, const QKeyEvent& ereignis)
     if (feld != nullptr && istSacheDesWidgets(*feld, *taste)) {
         return false;
     }
-    if (ereignis.isAutoRepeat() && taste->art == Taste::Art::Zeichen && dynamic_cast<QAbstractButton*>(feld) != nullptr) {
+    if (ereignis.isAutoRepeat() && taste->art == Taste::Art::Zeichen &&
+        dynamic_cast<QAbstractButton*>(feld) != nullptr) {
         return true; // a key that is held down presses once
     }
     if (auto* box = dynamic_cast<Auswahlbox*>(feld); box != nullptr && box->isEditable()) {

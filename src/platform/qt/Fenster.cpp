@@ -88,8 +88,7 @@ void Rahmenfenster::closeEvent(QCloseEvent* ereignis)
 Kindfenster::Kindfenster(Fensterereignisse ereignisse, int breite, QWidget* rahmen)
     : QWidget(rahmen, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
       m_ereignisse(std::move(ereignisse)), m_breite(breite)
-{
-}
+{}
 
 void Kindfenster::setzeSeite(QWidget& seite, QScrollArea& blatt)
 {

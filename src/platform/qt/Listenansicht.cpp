@@ -24,8 +24,7 @@ constexpr double kopfhöhe = 1.9;
 
 Listenmodell::Listenmodell(const Liste& element, const Ansicht& ansicht, QObject* eltern)
     : QAbstractTableModel(eltern), m_element(element), m_ansicht(ansicht)
-{
-}
+{}
 
 int Listenmodell::rowCount(const QModelIndex& eltern) const
 {
@@ -42,7 +41,8 @@ QVariant Listenmodell::data(const QModelIndex& ort, int rolle) const
     if (rolle != Qt::DisplayRole || !ort.isValid() || ort.row() >= rowCount()) {
         return {};
     }
-    return alsQString(m_element.zelle(static_cast<std::size_t>(ort.row()) + 1, static_cast<std::size_t>(ort.column()) + 1));
+    return alsQString(
+        m_element.zelle(static_cast<std::size_t>(ort.row()) + 1, static_cast<std::size_t>(ort.column()) + 1));
 }
 
 QVariant Listenmodell::headerData(int abschnitt, Qt::Orientation richtung, int rolle) const
@@ -173,8 +173,7 @@ void Listenansicht::mouseMoveEvent(QMouseEvent* /*ereignis*/)
 }
 
 void Listenansicht::mouseReleaseEvent(QMouseEvent* /*ereignis*/)
-{
-}
+{}
 
 void Listenansicht::mouseDoubleClickEvent(QMouseEvent* ereignis)
 {

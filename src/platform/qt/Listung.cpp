@@ -57,7 +57,8 @@ void Listungszeile::ordne(const std::vector<int>& spalten)
 
 void Listungszeile::paintEvent(QPaintEvent* /*ereignis*/)
 {
-    const bool leer = std::all_of(m_zellen.begin(), m_zellen.end(), [](const Etikett* zelle) { return zelle->text().isEmpty(); });
+    const bool leer =
+        std::all_of(m_zellen.begin(), m_zellen.end(), [](const Etikett* zelle) { return zelle->text().isEmpty(); });
     if (!leer) {
         QPainter(this).fillRect(0, height() - 1, width(), 1, farben().linie);
     }
@@ -113,7 +114,8 @@ void Listungsblatt::baueKopf(const std::vector<Tabellenspalte>& spalten)
 std::vector<int> Listungsblatt::spaltenbreiten() const
 {
     std::vector<int> breiten;
-    std::transform(m_breiten.begin(), m_breiten.end(), std::back_inserter(breiten), [](double breite) { return em(breite); });
+    std::transform(m_breiten.begin(), m_breiten.end(), std::back_inserter(breiten),
+                   [](double breite) { return em(breite); });
     const int fest = std::accumulate(breiten.begin(), breiten.end(), 0);
     const auto freie = static_cast<int>(std::count(breiten.begin(), breiten.end(), 0));
     if (freie == 0) {
@@ -212,8 +214,9 @@ QSize Listungsblatt::sizeHint() const
 
 QSize Listungsblatt::minimumSizeHint() const
 {
-    const double breite = std::accumulate(m_breiten.begin(), m_breiten.end(), 0.0,
-                                          [](double bisher, double eine) { return bisher + (eine > 0 ? eine : breiteFrei); });
+    const double breite = std::accumulate(m_breiten.begin(), m_breiten.end(), 0.0, [](double bisher, double eine) {
+        return bisher + (eine > 0 ? eine : breiteFrei);
+    });
     return {em(breite), höheFür(zeilenMindestens)};
 }
 

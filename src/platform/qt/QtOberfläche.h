@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class Fensterwart;
 class QAction;
 class QMainWindow;
 class QWidget;
@@ -52,6 +53,5 @@ public:
     void ordne() const;
 
 private:
-    class Innen;
-    std::unique_ptr<Innen> m_innen;
+    std::unique_ptr<Fensterwart> m_wart;
 };

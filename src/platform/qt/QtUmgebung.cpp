@@ -70,7 +70,8 @@ QMessageBox::StandardButton knopfFür(Antwort antwort)
 
 QString sperrpfad(const std::filesystem::path& ordner)
 {
-    const auto name = QCryptographicHash::hash(QByteArray::fromStdString(ordner.generic_string()), QCryptographicHash::Sha256);
+    const auto name =
+        QCryptographicHash::hash(QByteArray::fromStdString(ordner.generic_string()), QCryptographicHash::Sha256);
     auto platz = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     if (platz.isEmpty()) {
         platz = QDir::tempPath();
@@ -139,8 +140,7 @@ std::string alsQtFilter(const std::string& filter)
 
 QtUmgebung::QtUmgebung(Tabellenprogramm& tabellenprogramm)
     : m_tabellenprogramm(tabellenprogramm), m_dateien(erzeugeDateizugriff())
-{
-}
+{}
 
 QtUmgebung::~QtUmgebung() = default;
 
@@ -172,7 +172,8 @@ Antwort QtUmgebung::zeigeMeldung(const Meldung& meldung)
 std::optional<std::filesystem::path> QtUmgebung::wähleDatei(const Dateiwahl& wahl)
 {
     const auto ordner = QString::fromStdU16String(wahl.anfangsordner.u16string());
-    const auto pfad = QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, ordner, alsQString(alsQtFilter(wahl.filter)));
+    const auto pfad =
+        QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, ordner, alsQString(alsQtFilter(wahl.filter)));
     if (pfad.isEmpty()) {
         return std::nullopt;
     }

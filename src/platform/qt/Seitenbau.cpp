@@ -66,7 +66,8 @@ void fügeWerte(Ansicht& ansicht, const std::vector<Kopfband::Wert>& werte, QWid
 {
     for (const auto& wert : werte) {
         ziel.addSpacing(em(0.3));
-        auto& vor = fügeBandtext(*new Etikett(alsQString(wert.beschriftung), &band), "auf-band-leise", Schriftrolle::Grund, ziel);
+        auto& vor = fügeBandtext(*new Etikett(alsQString(wert.beschriftung), &band), "auf-band-leise",
+                                 Schriftrolle::Grund, ziel);
         auto& text = fügeBandtext(*zeichneElement(*wert.element, ansicht, &band), "auf-band", Schriftrolle::Wert, ziel);
         text.setAccessibleName(vor.text());
         zeigeNurGefüllt(ansicht, *wert.element, {&vor, &text});

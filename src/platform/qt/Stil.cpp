@@ -17,24 +17,12 @@
 namespace {
 
 constexpr std::array<std::pair<const char*, QColor Farbtafel::*>, 19> farbnamen{{
-    {"grund", &Farbtafel::grund},
-    {"flaeche", &Farbtafel::flaeche},
-    {"feld", &Farbtafel::feld},
-    {"zebra", &Farbtafel::zebra},
-    {"linie", &Farbtafel::linie},
-    {"rand", &Farbtafel::rand},
-    {"feldrand", &Farbtafel::feldrand},
-    {"schrift", &Farbtafel::schrift},
-    {"schrift2", &Farbtafel::schrift2},
-    {"gesperrt", &Farbtafel::gesperrt},
-    {"akzent", &Farbtafel::akzent},
-    {"akzentH", &Farbtafel::akzentH},
-    {"aufakzent", &Farbtafel::aufakzent},
-    {"wahl", &Farbtafel::wahl},
-    {"band", &Farbtafel::band},
-    {"aufband", &Farbtafel::aufband},
-    {"band2", &Farbtafel::band2},
-    {"fokus", &Farbtafel::fokus},
+    {"grund", &Farbtafel::grund},         {"flaeche", &Farbtafel::flaeche}, {"feld", &Farbtafel::feld},
+    {"zebra", &Farbtafel::zebra},         {"linie", &Farbtafel::linie},     {"rand", &Farbtafel::rand},
+    {"feldrand", &Farbtafel::feldrand},   {"schrift", &Farbtafel::schrift}, {"schrift2", &Farbtafel::schrift2},
+    {"gesperrt", &Farbtafel::gesperrt},   {"akzent", &Farbtafel::akzent},   {"akzentH", &Farbtafel::akzentH},
+    {"aufakzent", &Farbtafel::aufakzent}, {"wahl", &Farbtafel::wahl},       {"band", &Farbtafel::band},
+    {"aufband", &Farbtafel::aufband},     {"band2", &Farbtafel::band2},     {"fokus", &Farbtafel::fokus},
     {"fehler", &Farbtafel::fehler},
 }};
 
@@ -42,9 +30,10 @@ constexpr std::array<std::pair<const char*, QColor Farbtafel::*>, 19> farbnamen{
 constexpr std::array<QRgb, 19> hell{0xFFEEF2F5, 0xFFFFFFFF, 0xFFFFFFFF, 0xFFF5F8FA, 0xFFDDE4EA, 0xFFC5D0D9, 0xFF71808D,
                                     0xFF17232D, 0xFF465664, 0xFF5E6B77, 0xFF0A647F, 0xFF084C61, 0xFFFFFFFF, 0xFFD0E7EF,
                                     0xFF0F4657, 0xFFFFFFFF, 0xFFC9E0E8, 0xFF6363CC, 0xFFA3241B};
-constexpr std::array<QRgb, 19> dunkel{0xFF12181D, 0xFF1B232A, 0xFF12181D, 0xFF212B33, 0xFF2B363F, 0xFF3A4853, 0xFF7C8B98,
-                                      0xFFE4EBF0, 0xFFAEBBC6, 0xFF8898A5, 0xFF5CB6D2, 0xFF86CCE1, 0xFF06222B, 0xFF1F4857,
-                                      0xFF0E2E39, 0xFFEAF3F6, 0xFFA9C6D1, 0xFFA6A6FF, 0xFFFF9A90};
+constexpr std::array<QRgb, 19> dunkel{0xFF12181D, 0xFF1B232A, 0xFF12181D, 0xFF212B33, 0xFF2B363F,
+                                      0xFF3A4853, 0xFF7C8B98, 0xFFE4EBF0, 0xFFAEBBC6, 0xFF8898A5,
+                                      0xFF5CB6D2, 0xFF86CCE1, 0xFF06222B, 0xFF1F4857, 0xFF0E2E39,
+                                      0xFFEAF3F6, 0xFFA9C6D1, 0xFFA6A6FF, 0xFFFF9A90};
 
 struct Stilstand {
     Thema thema = Thema::Hell;

@@ -183,7 +183,8 @@ Tabelle::Tabelle(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern) : 
         m_spalten.push_back(em(spalte.breite));
         füller.push_back(spalte.füller == nullptr ? nullptr : zeichneElement(*spalte.füller, ansicht, this));
         if (füller.back() != nullptr) {
-            füller.back()->setAccessibleName(alsQString(verbinde(tabelle.text, ' ', spalte.gruppe, ' ', spalte.titel)).simplified());
+            füller.back()->setAccessibleName(
+                alsQString(verbinde(tabelle.text, ' ', spalte.gruppe, ' ', spalte.titel)).simplified());
         }
     }
     std::vector<Antwortzeile*> zeilen;

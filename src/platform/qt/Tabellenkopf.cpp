@@ -93,7 +93,8 @@ void Tabellenkopf::ordne(int breite, const std::vector<int>& spalten)
         }
         if (auto* füller = m_füller[i]) {
             const QSize größe = füller->maximumSize();
-            füller->setGeometry(links[i] + (spalten[i] - größe.width()) / 2, fuß + em(0.2), größe.width(), größe.height());
+            füller->setGeometry(links[i] + (spalten[i] - größe.width()) / 2, fuß + em(0.2), größe.width(),
+                                größe.height());
         }
     }
     for (auto& gruppe : m_gruppen) {

@@ -1,0 +1,318 @@
+#include "platform/qt/Fensterwart.h"
+
+#include "platform/qt/Maß.h"
+#include "platform/qt/Seitenbau.h"
+#include "platform/qt/Stil.h"
+#include "platform/qt/Tabelle.h"
+#include "platform/qt/Umschrift.h"
+#include "platform/umgebung/Umgebung.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStackedWidget>
+
+#include <algorithm>
+
+namespace {
+
+Antwortzeile* zeileUm(QWidget* widget)
+{
+    for (; widget != nullptr; widget = widget->parentWidget()) {
+        if (auto* zeile = dynamic_cast<Antwortzeile*>(widget)) {
+            return zeile;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void rolleInSicht(QWidget& widget)
+{
+    for (auto* um = widget.parentWidget(); um != nullptr && !um->isWindow(); um = um->parentWidget()) {
+        if (auto* rolle = dynamic_cast<QScrollArea*>(um)) {
+            rolle->ensureWidgetVisible(&widget, 0, em(1.4));
+        }
+    }
+}
+
+Fensterwart::Fensterwart(Ablauf& ablauf, Bildschirmfolge& folge, Rahmen& rahmen, Umgebung& umgebung)
+    : m_ablauf(ablauf), m_folge(folge), m_rahmen(rahmen), m_umgebung(umgebung), m_fenster(rahmenereignisse()),
+      m_wächter([this](const QWidget* widget) { return ansichtVon(widget); })
+{
+    QApplication::setQuitOnLastWindowClosed(false); // the end of the run ends the program, no window does
+    m_fenster.menuBar()->hide();
+    m_abonnements.push_back(folge.geändert.abonniere([this](Bildschirm&) { zeichneBildschirme(); }));
+    m_abonnements.push_back(folge.entladen.abonniere([this](Bildschirm& bildschirm) { entlade(bildschirm); }));
+    m_abonnements.push_back(rahmen.geändert.abonniere([this] { zeichneRahmen(); }));
+    m_abonnements.push_back(ablauf.beendet.abonniere([this] { QCoreApplication::exit(m_ablauf.status()); }));
+    m_fokusverbindung = QObject::connect(qApp, &QApplication::focusChanged, &m_fenster,
+                                         [this](QWidget* /*alt*/, QWidget* neu) { beiFokuswechsel(neu); });
+    zeichneRahmen();
+    zeichneBildschirme();
+}
+
+Fensterwart::~Fensterwart()
+{
+    QObject::disconnect(m_fokusverbindung);
+    for (auto& platz : m_plätze) {
+        platz.ansicht->löse();
+        delete platz.fenster; // before its Ansicht
+    }
+}
+
+Fensterereignisse Fensterwart::rahmenereignisse()
+{
+    return {.verschoben =
+                [this](QPoint ort) {
+                    ereignis([&] { m_rahmen.benutzerVerschiebt(alsTwips(ort.y()), alsTwips(ort.x())); });
+                },
+            .größeGeändert =
+                [this](QSize größe) {
+                    ereignis([&] { m_rahmen.benutzerÄndertGröße(alsTwips(größe.width()), alsTwips(größe.height())); });
+                },
+            .maximiert = [this](bool maximiert) { ereignis([&] { m_rahmen.benutzerMaximiert(maximiert); }); },
+            .schließwunsch = [this] { ereignis([&] { m_rahmen.benutzerSchließt(); }); }};
+}
+
+Fensterereignisse Fensterwart::kindereignisse(Bildschirm& bildschirm)
+{
+    return {.verschoben =
+                [&bildschirm](QPoint ort) {
+                    bildschirm.oben = alsTwips(ort.y());
+                    bildschirm.links = alsTwips(ort.x());
+                },
+            .größeGeändert = {},
+            .maximiert = {},
+            .schließwunsch =
+                [this, &bildschirm] {
+                    if (platzVon(&bildschirm) != nullptr && m_folge.istFrei(bildschirm)) {
+                        ereignis([&] { bildschirm.taste({Taste::Art::Esc, 0}); });
+                    }
+                }};
+}
+
+void Fensterwart::ereignis(const std::function<void()>& aktion)
+{
+    if (m_ablauf.ereignis(aktion)) {
+        gleicheFokusAb();
+    }
+}
+
+const Platz* Fensterwart::platzVon(const Bildschirm* bildschirm) const
+{
+    const auto ort = std::find_if(m_plätze.begin(), m_plätze.end(),
+                                  [&](const Platz& platz) { return &platz.ansicht->bildschirm() == bildschirm; });
+    return ort == m_plätze.end() ? nullptr : &*ort;
+}
+
+Platz& Fensterwart::baue(Bildschirm& bildschirm)
+{
+    Platz neu;
+    neu.ansicht = std::make_shared<Ansicht>(bildschirm, *this);
+    auto& ansicht = *neu.ansicht;
+    if (bildschirm.istKindfenster) {
+        neu.kind = new Kindfenster(kindereignisse(bildschirm), em(bildschirm.breiteEm), &m_fenster);
+        const auto seite = baueSeite(ansicht, neu.kind);
+        neu.kind->setzeSeite(*seite.wurzel, *seite.blatt);
+        neu.fenster = neu.kind;
+        ansicht.abonniere(bildschirm.lageGeändert, [this, &bildschirm] {
+            if (const auto* platz = platzVon(&bildschirm)) {
+                platziereKind(*platz);
+            }
+        });
+        ansicht.abonniere(bildschirm.titelGeändert, [fenster = neu.kind, &bildschirm] {
+            fenster->setWindowTitle(alsQString(bildschirm.titel()));
+        });
+        neu.kind->setWindowTitle(alsQString(bildschirm.titel()));
+    } else {
+        neu.fenster = baueSeite(ansicht, &m_fenster.seiten()).wurzel;
+        m_fenster.seiten().addWidget(neu.fenster);
+    }
+    // the widgets may outlast the screen until the event at hand has ended, and their Ansicht with them
+    QObject::connect(neu.fenster, &QObject::destroyed, neu.fenster, [behalten = neu.ansicht] {});
+    ansicht.abonniere(bildschirm.fokusGeändert, [this] { gleicheFokusAb(); });
+    m_plätze.push_back(std::move(neu));
+    return m_plätze.back();
+}
+
+void Fensterwart::zeichneBildschirme()
+{
+    Bildschirm* seite = nullptr;
+    for (auto* bildschirm : m_folge.geladene()) {
+        const bool sichtbar = m_folge.istSichtbar(*bildschirm);
+        if (platzVon(bildschirm) == nullptr && sichtbar) {
+            baue(*bildschirm);
+        }
+        const auto* platz = platzVon(bildschirm);
+        if (platz == nullptr) {
+            continue;
+        }
+        platz->ansicht->wurzel()->setEnabled(m_folge.istFrei(*bildschirm));
+        if (platz->kind != nullptr) {
+            zeichneKind(*platz);
+        } else if (sichtbar) {
+            seite = bildschirm;
+        }
+    }
+    zeichneSeite(seite);
+    gleicheFokusAb();
+}
+
+void Fensterwart::zeichneKind(const Platz& platz)
+{
+    const bool sichtbar = m_folge.istSichtbar(platz.ansicht->bildschirm());
+    if (sichtbar == platz.kind->isVisible()) {
+        return;
+    }
+    if (sichtbar) {
+        platz.kind->passeHöheAn();
+        platziereKind(platz);
+        platz.kind->platzwächter().platziere([&] { platz.kind->show(); });
+        platz.kind->activateWindow();
+    } else {
+        platz.kind->hide();
+        m_fenster.activateWindow();
+    }
+}
+
+void Fensterwart::platziereKind(const Platz& platz)
+{
+    const auto& bildschirm = platz.ansicht->bildschirm();
+    const QPoint ort(alsPixel(bildschirm.links), alsPixel(bildschirm.oben));
+    platz.kind->platzwächter().platziere([&] { platz.kind->move(inDenSchirm(ort, platz.kind->size())); });
+}
+
+void Fensterwart::zeichneSeite(Bildschirm* bildschirm)
+{
+    const auto* platz = platzVon(bildschirm);
+    auto& seiten = m_fenster.seiten();
+    seiten.setCurrentWidget(platz == nullptr ? seiten.widget(0) : platz->fenster);
+    if (m_seite != bildschirm) {
+        m_seite = bildschirm;
+        zeichneMenü(bildschirm);
+    }
+    m_fenster.menuBar()->setEnabled(platz != nullptr && m_folge.istFrei(*bildschirm));
+}
+
+void Fensterwart::zeichneMenü(const Bildschirm* bildschirm)
+{
+    auto& leiste = *m_fenster.menuBar();
+    leiste.clear();
+    for (auto* menü : m_menüs) {
+        menü->deleteLater();
+    }
+    m_menüs.clear();
+    const auto* platz = platzVon(bildschirm);
+    const bool hatMenü = platz != nullptr && !bildschirm->menü.empty();
+    leiste.setVisible(hatMenü);
+    if (!hatMenü) {
+        return;
+    }
+    for (const auto& menü : bildschirm->menü) {
+        auto* titel = platz->ansicht->aktionVon(*menü.titel);
+        auto* liste = new QMenu(&m_fenster);
+        for (const auto* eintrag : menü.einträge) {
+            liste->addAction(platz->ansicht->aktionVon(*eintrag));
+        }
+        m_menüs.push_back(liste);
+        titel->setMenu(liste);
+        leiste.addAction(titel);
+    }
+}
+
+void Fensterwart::zeichneRahmen()
+{
+    m_fenster.setWindowTitle(alsQString(m_rahmen.titel()));
+    m_fenster.platzwächter().platziere([this] {
+        if (m_rahmen.istMaximiert() != m_fenster.isMaximized()) {
+            m_fenster.setWindowState(m_rahmen.istMaximiert() ? Qt::WindowMaximized : Qt::WindowNoState);
+        }
+        if (!m_rahmen.istMaximiert() && m_rahmen.breite() > 0) {
+            const QSize größe(alsPixel(m_rahmen.breite()), alsPixel(m_rahmen.höhe()));
+            const QSize platz = m_fenster.screen()->availableSize();
+            m_fenster.resize(größe.boundedTo(platz));
+            m_fenster.move(inDenSchirm({alsPixel(m_rahmen.links()), alsPixel(m_rahmen.oben())}, m_fenster.size()));
+        }
+        m_fenster.setVisible(m_rahmen.istSichtbar());
+    });
+}
+
+void Fensterwart::entlade(const Bildschirm& bildschirm)
+{
+    const auto ort = std::find_if(m_plätze.begin(), m_plätze.end(),
+                                  [&](const Platz& platz) { return &platz.ansicht->bildschirm() == &bildschirm; });
+    if (ort == m_plätze.end()) {
+        return;
+    }
+    if (m_seite == &bildschirm) {
+        zeichneSeite(nullptr);
+    }
+    ort->ansicht->löse();
+    ort->fenster->hide();
+    if (ort->kind == nullptr) {
+        m_fenster.seiten().removeWidget(ort->fenster);
+    }
+    ort->fenster->deleteLater();
+    m_plätze.erase(ort);
+}
+
+/// The focus of the window follows the focus of the screen. Where the element that has it can no longer be
+/// reached, the next one in reading order gets it, so that the keyboard is never lost.
+void Fensterwart::gleicheFokusAb()
+{
+    auto* bildschirm = m_folge.inGebrauch();
+    const auto* platz = platzVon(bildschirm);
+    if (platz == nullptr) {
+        return;
+    }
+    auto* element = bildschirm->fokus();
+    if (element != nullptr && !bildschirm->istErreichbar(*element)) {
+        auto folge = bildschirm->tabFolge();
+        auto ort = std::find(folge.begin(), folge.end(), element);
+        std::rotate(folge.begin(), ort, folge.end());
+        const auto ziel =
+            std::find_if(folge.begin(), folge.end(), [&](const Element* e) { return bildschirm->istErreichbar(*e); });
+        if (ziel != folge.end()) {
+            bildschirm->setzeFokus(*ziel); // comes back here
+        }
+        return;
+    }
+    auto* widget = element == nullptr ? nullptr : platz->ansicht->widgetVon(*element);
+    auto* bisher = platz->ansicht->wurzel()->window()->focusWidget();
+    if (widget == nullptr) {
+        if (bisher != nullptr) {
+            bisher->clearFocus();
+        }
+    } else if (bisher != widget) {
+        widget->setFocus(Qt::OtherFocusReason);
+        rolleInSicht(*widget);
+    }
+}
+
+void Fensterwart::beiFokuswechsel(QWidget* neu)
+{
+    auto* zeile = zeileUm(neu);
+    if (auto* alte = dynamic_cast<Antwortzeile*>(m_aktiveZeile.data()); alte != nullptr && alte != zeile) {
+        alte->setzeAktiv(false);
+    }
+    if (zeile != nullptr) {
+        zeile->setzeAktiv(true);
+    }
+    m_aktiveZeile = zeile;
+}
+
+Ansicht* Fensterwart::ansichtVon(const QWidget* widget) const
+{
+    for (const auto& platz : m_plätze) {
+        const auto* wurzel = platz.ansicht->wurzel();
+        const bool istFenster = widget == wurzel->window() && wurzel->isVisible();
+        if (istFenster || wurzel == widget || wurzel->isAncestorOf(widget)) {
+            return wurzel->isEnabled() ? platz.ansicht.get() : nullptr;
+        }
+    }
+    return nullptr;
+}
