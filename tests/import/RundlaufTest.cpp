@@ -1,7 +1,10 @@
 #include "export/Exportlauf.h"
+#include "hilfen/Textdatei.h"
 #include "import/Importfall.h"
+#include "import/moImp4KDStoMorvek.h"
 #include "platform/text/Datum.h"
 #include "platform/text/Zahl.h"
+#include "store/Satzaufbau.h"
 #include "store/moHelferlein.h"
 
 #include <map>
@@ -285,6 +288,70 @@ TEST_F(RundlaufTest, ÜbernommenesKommtImExportWiederHeraus)
     for (std::size_t i = 0; i < kern.size(); ++i) {
         prüfeKern(alt.klienten[i / betreuungen], alt.betreuungen[i], kern[i]);
         prüfeDiagnose(alt.betreuungen[i], diagnose[i]);
+    }
+}
+
+/// What a care field reads like after the way through the export and back: the answers lose their case, a state
+/// that is none and the text of the debts are what the tables make of them.
+std::string nachDemWeg(int feld, std::string_view text)
+{
+    if (feld == betreuungsfeld("Nation") && text == "Atlantis") {
+        return "keine Angaben";
+    }
+    if (feld == betreuungsfeld("Schulden")) {
+        return ersetzt(text, "bis 10.000"_t, "bis10.000"_t);
+    }
+    if (feld == betreuungsfeld("memoB")) {
+        return "?";
+    }
+    if ((feld == betreuungsfeld("Kinder1") || feld == betreuungsfeld("Kinder2")) && text == "k.A.") {
+        return "99"; // the export's code, which the way back does not know
+    }
+    const auto kleines = klein(text);
+    if (kleines == "k.a.") {
+        return "k.A.";
+    }
+    const bool istInfektion = feld >= betreuungsfeld("HIVInfekt") && feld <= betreuungsfeld("HepatC");
+    if (istInfektion && text.empty()) {
+        return "keine Angaben";
+    }
+    return kleines == "ja" || kleines == "nein" ? kleines : std::string(text);
+}
+
+/// Options of which several are marked come back with one: `Wahr` at the place that the export told.
+bool istOption(int feld)
+{
+    return (feld >= betreuungsfeld("HDohne0") && feld <= betreuungsfeld("HDohne5")) ||
+           (feld >= betreuungsfeld("IVKonsum0") && feld <= betreuungsfeld("IVKonsum3"));
+}
+
+TEST_F(RundlaufTest, ExportzeilenGebenDieFelderZurück)
+{
+    const auto muster = leseTextdatei("tests/export/Musterzeilen.txt");
+    std::vector<std::string> kern;
+    std::vector<std::string> diagnose;
+    for (std::size_t i = 0; i < muster.size(); i += 5) {
+        kern.push_back(muster[i + 3]);
+        diagnose.push_back(muster[i + 4]);
+    }
+    Testlauf::schreibeZeilen(datei("k.txt"), kern);
+    Testlauf::schreibeZeilen(datei("d.txt"), diagnose);
+    Testlauf::schreibeZeilen(datei("e.txt"), {altKlient(1)});
+    moImp4KDStoMorvek(datei("k.txt"), datei("d.txt"), datei("K.txt"), datei("B.txt"), datei("D.txt"), datei("e.txt"));
+    const auto betreuungen = zeilen(datei("B.txt"));
+    const auto diagnosen = zeilen(datei("D.txt"));
+    ASSERT_EQ(betreuungen.size(), kern.size());
+    for (std::size_t i = 0; i < betreuungen.size(); ++i) {
+        for (int feld = 1; feld <= 192; ++feld) {
+            if (!istOption(feld)) {
+                EXPECT_EQ(getFeld(betreuungen[i], feld), nachDemWeg(feld, getFeld(muster[5 * i + 1], feld)))
+                    << "sample " << i + 1 << " field " << feld;
+            }
+        }
+        for (int feld = 235; feld <= 246; ++feld) {
+            EXPECT_EQ(getFeld(diagnosen[i], feld), getFeld(muster[5 * i + 2], feld))
+                << "sample " << i + 1 << " field " << feld;
+        }
     }
 }
 
