@@ -41,7 +41,7 @@ void stelleAnwendungBereit()
     anwendung->stelleBereit();
 }
 
-Probebildschirm::Probebildschirm(std::string_view name) : Bildschirm(name)
+Probebildschirm::Probebildschirm() : Bildschirm("frmProbe"_t)
 {
     benenne("lblHeader"_t, lblHeader);
     benenne("lblName"_t, lblName);

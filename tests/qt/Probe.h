@@ -37,7 +37,7 @@ public:
     Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt}, cmdExit{"&Exit"_t};
     Menüeintrag mnDatei{"Datei"_t}, mnEnde{"Ende"_t};
 
-    explicit Probebildschirm(std::string_view name = "frmProbe"_t);
+    Probebildschirm();
 
 private:
     void ordneAn();
