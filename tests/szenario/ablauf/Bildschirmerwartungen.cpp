@@ -13,6 +13,9 @@ void bildschirm(Lauf& lauf, const Anweisung& anweisung)
     const auto* hier = lauf.inGebrauch();
     const std::string name = hier != nullptr ? hier->name() : lauf.läuft() ? "keinen" : "kein laufendes Programm";
     vergleicheText("den Bildschirm", alsTabellentext(anweisung.argument(0)), name);
+    if (hier != nullptr && !lauf.oberfläche().istOffen(*hier)) {
+        throw Scheitern(alsUtf8(name) + " vor Augen", "kein Fenster davon");
+    }
 }
 
 std::string textVon(const Lauf& lauf, const std::u32string& name)
@@ -29,13 +32,13 @@ std::string textVon(const Lauf& lauf, const std::u32string& name)
 
 void text(Lauf& lauf, const Anweisung& anweisung)
 {
-    vergleicheText({}, alsTabellentext(anweisung.argument(1)),
+    vergleicheText({}, mitEinfachenUmbrüchen(alsTabellentext(anweisung.argument(1))),
                    mitEinfachenUmbrüchen(textVon(lauf, anweisung.argument(0))));
 }
 
 void textMit(Lauf& lauf, const Anweisung& anweisung)
 {
-    vergleicheTeil({}, alsTabellentext(anweisung.argument(1)),
+    vergleicheTeil({}, mitEinfachenUmbrüchen(alsTabellentext(anweisung.argument(1))),
                    mitEinfachenUmbrüchen(textVon(lauf, anweisung.argument(0))));
 }
 
@@ -120,7 +123,7 @@ void aus(Lauf& lauf, const Anweisung& anweisung)
 void hinweis(Lauf& lauf, const Anweisung& anweisung)
 {
     const Element& element = lauf.findeElement(anweisung.argument(0));
-    vergleicheText("den Hinweis", alsTabellentext(anweisung.argument(1)),
+    vergleicheText("den Hinweis", mitEinfachenUmbrüchen(alsTabellentext(anweisung.argument(1))),
                    mitEinfachenUmbrüchen(lauf.oberfläche().hinweis(element)));
 }
 

@@ -58,7 +58,8 @@ int alsInt(std::int64_t zahl)
 void zelle(Lauf& lauf, const Anweisung& anweisung)
 {
     const Zellwert wert = blattVon(lauf, anweisung).zelle(alsInt(anweisung.zahl(1)), alsInt(anweisung.zahl(2)));
-    vergleicheText("die Zelle", alsTabellentext(anweisung.argument(3)), mitEinfachenUmbrüchen(alsText(wert)));
+    vergleicheText("die Zelle", mitEinfachenUmbrüchen(alsTabellentext(anweisung.argument(3))),
+                   mitEinfachenUmbrüchen(alsText(wert)));
     if (const auto art = anweisung.optionen.find("art"); art != anweisung.optionen.end()) {
         vergleicheText("die Art", alsTabellentext(art->second), wortFür(wert.art));
     }
@@ -67,7 +68,7 @@ void zelle(Lauf& lauf, const Anweisung& anweisung)
 void kommentar(Lauf& lauf, const Anweisung& anweisung)
 {
     const auto* text = blattVon(lauf, anweisung).kommentar(alsInt(anweisung.zahl(1)), alsInt(anweisung.zahl(2)));
-    vergleicheText("den Kommentar", alsTabellentext(anweisung.argument(3)),
+    vergleicheText("den Kommentar", mitEinfachenUmbrüchen(alsTabellentext(anweisung.argument(3))),
                    text == nullptr ? std::string() : mitEinfachenUmbrüchen(*text));
 }
 

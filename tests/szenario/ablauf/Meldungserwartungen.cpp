@@ -37,7 +37,7 @@ void prüfeMerkmale(const Anweisung& anweisung, const Meldung& meldung)
 
 void meldung(Lauf& lauf, const Anweisung& anweisung)
 {
-    const std::string erwartet = alsTabellentext(anweisung.argument(0));
+    const std::string erwartet = mitEinfachenUmbrüchen(alsTabellentext(anweisung.argument(0)));
     const Meldung gefunden = nimmMeldung(lauf, erwartet);
     vergleicheText("die Meldung", erwartet, mitEinfachenUmbrüchen(gefunden.text));
     prüfeMerkmale(anweisung, gefunden);
@@ -45,7 +45,7 @@ void meldung(Lauf& lauf, const Anweisung& anweisung)
 
 void meldungMit(Lauf& lauf, const Anweisung& anweisung)
 {
-    const std::string erwartet = alsTabellentext(anweisung.argument(0));
+    const std::string erwartet = mitEinfachenUmbrüchen(alsTabellentext(anweisung.argument(0)));
     const Meldung gefunden = nimmMeldung(lauf, erwartet);
     vergleicheTeil("die Meldung", erwartet, mitEinfachenUmbrüchen(gefunden.text));
     prüfeMerkmale(anweisung, gefunden);

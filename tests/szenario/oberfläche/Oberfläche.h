@@ -39,7 +39,7 @@ public:
     virtual void beginne(Programm& programm) = 0;
     /// The program is about to go.
     virtual void beende() = 0;
-    /// Draws what has changed at once.
+    /// Draws what has changed at once; may be called while an action is going on.
     virtual void zeichne() = 0;
 
     // actions
@@ -75,6 +75,8 @@ public:
     virtual std::vector<std::string> zeilen(const Liste& liste) const = 0;
     virtual std::vector<std::string> spaltenköpfe(const Liste& liste) const = 0;
     virtual std::size_t auswahl(const Liste& liste) const = 0;
+    /// Whether a person sees the screen (its page or its window).
+    virtual bool istOffen(const Bildschirm& bildschirm) const = 0;
     virtual std::string titel(const Bildschirm& bildschirm) const = 0;
     virtual Lage lage(const Bildschirm& bildschirm) const = 0;
     virtual std::string rahmentitel() const = 0;

@@ -46,6 +46,7 @@ public:
     std::vector<std::string> zeilen(const Liste& liste) const override;
     std::vector<std::string> spaltenköpfe(const Liste& liste) const override { return liste.spalten(); }
     std::size_t auswahl(const Liste& liste) const override { return liste.auswahl(); }
+    bool istOffen(const Bildschirm& bildschirm) const override { return m_zustand->folge.istSichtbar(bildschirm); }
     std::string titel(const Bildschirm& bildschirm) const override { return bildschirm.titel(); }
     Lage lage(const Bildschirm& bildschirm) const override { return {bildschirm.links, bildschirm.oben}; }
     std::string rahmentitel() const override { return m_zustand->rahmen.titel(); }

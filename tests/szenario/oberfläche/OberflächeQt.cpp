@@ -68,6 +68,7 @@ public:
         return qtauge::spaltenköpfe(als<QTreeView>(liste));
     }
     std::size_t auswahl(const Liste& liste) const override { return qtauge::auswahl(als<QTreeView>(liste)); }
+    bool istOffen(const Bildschirm& bildschirm) const override;
     std::string titel(const Bildschirm& bildschirm) const override;
     Lage lage(const Bildschirm& bildschirm) const override;
     std::string rahmentitel() const override { return qtauge::text(m_qt->rahmenfenster()->windowTitle()); }
@@ -78,6 +79,7 @@ private:
     template <class W> W& als(const Element& element) const;
     QWidget& widget(const Element& element) const;
     const QAction* aktion(const Element& element) const;
+    void ruhe();
     /// Scrolls to the element and lets everything take its place.
     QWidget& greife(const Element& element);
     void fokussiere(Element& element);
@@ -112,10 +114,16 @@ void OberflächeQt::beginne(Programm& programm)
 void OberflächeQt::beende()
 {
     m_qt.reset();
-    zeichne();
+    ruhe();
 }
 
 void OberflächeQt::zeichne()
+{
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+/// Lets everything happen that an action has started.
+void OberflächeQt::ruhe()
 {
     QApplication::processEvents();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -166,14 +174,14 @@ void OberflächeQt::klicke(Element& element)
         QWidget& w = greife(element);
         qthand::klicke(w, qthand::griff(w));
     }
-    zeichne();
+    ruhe();
 }
 
 void OberflächeQt::doppelklicke(Element& element)
 {
     QWidget& w = greife(element);
     qthand::doppelklicke(w, qthand::griff(w));
-    zeichne();
+    ruhe();
 }
 
 void OberflächeQt::klickeZeile(Liste& liste, std::size_t zeile)
@@ -181,7 +189,7 @@ void OberflächeQt::klickeZeile(Liste& liste, std::size_t zeile)
     greife(liste);
     auto& ansicht = als<QTreeView>(liste);
     qthand::klicke(*ansicht.viewport(), qthand::zeilenort(ansicht, static_cast<int>(zeile) - 1));
-    zeichne();
+    ruhe();
 }
 
 void OberflächeQt::doppelklickeZeile(Liste& liste, std::size_t zeile)
@@ -189,7 +197,7 @@ void OberflächeQt::doppelklickeZeile(Liste& liste, std::size_t zeile)
     greife(liste);
     auto& ansicht = als<QTreeView>(liste);
     qthand::doppelklicke(*ansicht.viewport(), qthand::zeilenort(ansicht, static_cast<int>(zeile) - 1));
-    zeichne();
+    ruhe();
 }
 
 void OberflächeQt::klickeKopf(Liste& liste, std::size_t spalte)
@@ -197,7 +205,7 @@ void OberflächeQt::klickeKopf(Liste& liste, std::size_t spalte)
     greife(liste);
     auto& ansicht = als<QTreeView>(liste);
     qthand::klicke(*ansicht.header()->viewport(), qthand::kopfort(ansicht, static_cast<int>(spalte) - 1));
-    zeichne();
+    ruhe();
 }
 
 /// Presses Tab, in the shorter direction, until the element has the focus or a field does not let go.
@@ -233,21 +241,21 @@ void OberflächeQt::ersetzeText(Textfeld& feld, std::u32string_view text)
             qthand::tippe(w, text);
         }
     }
-    zeichne();
+    ruhe();
 }
 
 void OberflächeQt::wähleEintrag(Auswahlfeld& feld, std::size_t eintrag)
 {
     greife(feld);
     qthand::wähle(als<QComboBox>(feld), static_cast<int>(eintrag));
-    zeichne();
+    ruhe();
 }
 
 void OberflächeQt::wähleDatum(Datumsfeld& feld, const Datum& datum)
 {
     greife(feld);
     qthand::wähle(als<QDateEdit>(feld), QDate(datum.jahr, datum.monat, datum.tag));
-    zeichne();
+    ruhe();
 }
 
 void OberflächeQt::tippe(Element& element, const std::vector<Tastendruck>& tasten)
@@ -264,7 +272,7 @@ void OberflächeQt::tippe(Element& element, const std::vector<Tastendruck>& tast
             break;
         }
         qthand::drücke(*fenster, druck);
-        zeichne();
+        ruhe();
     }
 }
 
@@ -275,7 +283,7 @@ void OberflächeQt::fügeInFeld(Element& element, std::u32string_view text)
     if (qtauge::hatFokus(w)) {
         qthand::fügeEin(w, text);
     }
-    zeichne();
+    ruhe();
 }
 
 void OberflächeQt::verlasse(Element& element)
@@ -284,25 +292,25 @@ void OberflächeQt::verlasse(Element& element)
     if (qtauge::hatFokus(w)) {
         qthand::drücke(w, Qt::Key_Tab);
     }
-    zeichne();
+    ruhe();
 }
 
 void OberflächeQt::schließeRahmen()
 {
     m_qt->rahmenfenster()->close();
-    zeichne();
+    ruhe();
 }
 
 void OberflächeQt::verschiebeRahmen(const Lage& lage)
 {
     m_qt->rahmenfenster()->move(alsPixel(lage.links), alsPixel(lage.oben));
-    zeichne();
+    ruhe();
 }
 
 void OberflächeQt::maximiereRahmen(bool maximiert)
 {
     m_qt->rahmenfenster()->setWindowState(maximiert ? Qt::WindowMaximized : Qt::WindowNoState);
-    zeichne();
+    ruhe();
 }
 
 bool OberflächeQt::istZuSehen(const Element& element) const
@@ -351,6 +359,12 @@ Farbe OberflächeQt::hintergrund(const Element& element) const
 {
     const auto* w = m_qt->widgetVon(element);
     return w == nullptr ? element.hintergrund() : qtauge::hintergrund(element, *w);
+}
+
+bool OberflächeQt::istOffen(const Bildschirm& bildschirm) const
+{
+    const auto* fenster = m_qt->fensterVon(bildschirm);
+    return fenster != nullptr && fenster->isVisible();
 }
 
 std::string OberflächeQt::titel(const Bildschirm& bildschirm) const

@@ -1,9 +1,23 @@
 #include "umgebung/Wegwerfordner.h"
 
+#include <cstdlib>
 #include <random>
 #include <stdexcept>
 #include <string>
 #include <system_error>
+
+namespace {
+
+/// Small and short-lived files are best kept in memory, where the system offers that.
+std::filesystem::path ablage()
+{
+    const std::filesystem::path imSpeicher = "/dev/shm";
+    const bool gewählt = std::getenv("TMPDIR") != nullptr;
+    return std::filesystem::canonical(
+        !gewählt && std::filesystem::is_directory(imSpeicher) ? imSpeicher : std::filesystem::temp_directory_path());
+}
+
+} // namespace
 
 Wegwerfordner::Wegwerfordner()
 {
