@@ -24,8 +24,7 @@ Wegwerfordner::Wegwerfordner()
     static std::mt19937_64 zufall{std::random_device{}()};
     constexpr int versuche = 100;
     for (int i = 0; i < versuche; ++i) {
-        m_pfad = std::filesystem::canonical(std::filesystem::temp_directory_path()) /
-                 ("szenario-" + std::to_string(zufall()));
+        m_pfad = ablage() / ("szenario-" + std::to_string(zufall()));
         if (std::filesystem::create_directory(m_pfad)) {
             return;
         }
