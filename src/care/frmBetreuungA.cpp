@@ -56,6 +56,7 @@ frmBetreuungA::frmBetreuungA(Bildschirm& hauptmenü) : Bildschirm("frmBetreuungA
     beschrifte(lblKosten, kostenträgerarten);
     benenneElemente();
     baueTafel();
+    m_tafel.fülleListen(); // the page is in view, behind the period dialogue, before it is loaded
     ordneAn();
     richteKnöpfeEin();
 }

@@ -20,7 +20,8 @@
 /// working copy away, and nothing has to be restored, since nothing was written.
 class frmBetreuungA : public Bildschirm {
 public:
-    Beschriftung lblHeader, lblName, lblBetrBeg, lblBetrEnd;
+    Beschriftung lblHeader{"Betreuung Hauptseite"_t};
+    Beschriftung lblName, lblBetrBeg, lblBetrEnd;
     Auswahlfeld comboWieder, comboBetrGru, comboAngeho, comboProblem, comboNation, comboSprache;
     Auswahlfeld comboMigrant1, comboMigrant2, comboVermitt, comboAuflagen1, comboAuflagen2;
     Elementreihe<Beschriftung> lblKosten{1, 9};

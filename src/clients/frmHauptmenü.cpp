@@ -75,13 +75,15 @@ void frmHauptmenü::baueMenü()
 void frmHauptmenü::ordneAn()
 {
     kopfband.titel = &lblHeader;
-    // four short columns need no more; the clients take the rest
-    constexpr double breiteDerBetreuungen = 29;
+    // lists fill the page: wider than a card of fields, also on a wide screen
+    constexpr double breiteDerKlienten = 66;
+    constexpr double breiteDerBetreuungen = 42;
     auto klienten = spalte(
         {listenkarte("Klienten"_t, lvwKlienten, cmdKlientenHinzufügen, cmdKlientenBearbeiten, cmdKlientenLöschen)});
     auto betreuungen = spalte({listenkarte("Betreuungen des ausgewählten Klienten"_t, lvwBetreuungen,
                                            cmdBetreuungHinzufügen, cmdBetreuungBearbeiten, cmdBetreuungLöschen)});
-    aufbau = karten({std::move(klienten), breit(std::move(betreuungen), breiteDerBetreuungen)});
+    aufbau =
+        karten({breit(std::move(klienten), breiteDerKlienten), breit(std::move(betreuungen), breiteDerBetreuungen)});
     leiste = {.links = {&cmdRollback, &cmdDatenübernahme}, .rechts = {&cmdExit}};
     beiEscape = &cmdExit;
 }

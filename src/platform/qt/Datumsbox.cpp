@@ -77,9 +77,12 @@ void Datumsbox::übernimm()
 {
     const QSignalBlocker still(this);
     setDate(alsQDate(m_element.datum()));
-    if (QFont schriftart = font(); schriftart.strikeOut() != m_element.istDurchgestrichen()) {
+    if (QFont schriftart = lineEdit()->font(); schriftart.strikeOut() != m_element.istDurchgestrichen()) {
         schriftart.setStrikeOut(m_element.istDurchgestrichen());
-        setFont(schriftart);
+        lineEdit()->setFont(schriftart);
+    }
+    if (!m_element.istFrei()) {
+        lineEdit()->deselect(); // nothing there waits for the keyboard
     }
 }
 

@@ -83,14 +83,16 @@ Stapelfläche::Stapelfläche(std::vector<QWidget*> teile, QWidget* eltern) : Han
 
 QSize Stapelfläche::sizeHint() const
 {
-    return std::accumulate(m_teile.begin(), m_teile.end(), QSize(),
-                           [](QSize größe, const QWidget* teil) { return größe.expandedTo(teil->sizeHint()); });
+    return std::accumulate(m_teile.begin(), m_teile.end(), QSize(), [](QSize größe, const QWidget* teil) {
+        return größe.expandedTo(teil->sizeHint()).expandedTo(teil->minimumSize());
+    });
 }
 
 QSize Stapelfläche::minimumSizeHint() const
 {
-    return std::accumulate(m_teile.begin(), m_teile.end(), QSize(),
-                           [](QSize größe, const QWidget* teil) { return größe.expandedTo(teil->minimumSizeHint()); });
+    return std::accumulate(m_teile.begin(), m_teile.end(), QSize(), [](QSize größe, const QWidget* teil) {
+        return größe.expandedTo(teil->minimumSizeHint()).expandedTo(teil->minimumSize());
+    });
 }
 
 void Stapelfläche::ordne()
