@@ -7,6 +7,7 @@
 #include "oberfläche/OberflächeQt.h"
 #endif
 
+#include <clocale>
 #include <iostream>
 #include <memory>
 #include <vector>
@@ -102,6 +103,7 @@ int führeAlleAus(const Befehlszeile& befehlszeile)
 
 int main(int argc, char** argv)
 {
+    std::setlocale(LC_ALL, ""); // on both surfaces alike, as the windows' library does it
     try {
         return führeAlleAus(liesBefehlszeile({argv + 1, argv + argc}));
     } catch (const Aufruffehler& fehler) {
