@@ -19,5 +19,7 @@ struct Feldeingabe {
 /// The text of a widget, cut down to the code page, with the cursor behind the same character.
 Feldeingabe filtere(const QString& text, int schreibmarke, bool mehrzeilig, std::size_t höchstlänge);
 
+/// Name of the label that tells it.
+inline const QString filterhinweis = QStringLiteral("filterhinweis");
 /// Says at the field, for four seconds, that a character was replaced or not taken.
 void meldeFilter(QWidget& feld, const Feldeingabe& eingabe);
