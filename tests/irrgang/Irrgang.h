@@ -59,6 +59,7 @@ private:
     Lauf m_lauf;
     Mitschrift m_mitschrift;
     Datum m_heute{2007, 8, 2};
+    std::string m_element; ///< name of the element that is acted on
     Tabellenstand m_stand;
     Tabellenstand m_sicherung;
     int m_gegangen = 0;

@@ -148,16 +148,17 @@ bool Eingabewächter::beiMaus(QWidget& widget, const QMouseEvent& ereignis)
     if (ereignis.type() == QEvent::MouseButtonRelease) {
         return std::exchange(m_verschluckt, false);
     }
-    m_verschluckt = false;
+    if (ereignis.type() == QEvent::MouseButtonPress) {
+        m_gedrücktes = &widget;
+    }
+    m_verschluckt = m_gedrücktes == nullptr || !m_gedrücktes->isVisible();
+    if (m_verschluckt) {
+        return true;
+    }
     auto* ansicht = m_ansichtVon(&widget);
     auto* element = ansicht == nullptr ? nullptr : ansicht->elementVon(&widget);
     if (element == nullptr || !element->nimmtFokus() || !widget.isEnabled()) {
         return false;
-    }
-    const auto* seiteDavor = std::exchange(m_gedrückteSeite, ansicht->wurzel()).data();
-    if (ereignis.type() == QEvent::MouseButtonDblClick && seiteDavor != ansicht->wurzel()) {
-        m_verschluckt = true;
-        return true;
     }
     ansicht->ereignis([&] { m_verschluckt = !ansicht->bildschirm().fokussiere(element); });
     return m_verschluckt;

@@ -17,9 +17,9 @@ class QMouseEvent;
 /// Sees every press of the mouse and every key before the widgets do.
 ///
 /// A press on an element asks the element that has the focus to let go; where it does not, the whole press
-/// up to its release is swallowed. So is the second press of a double click whose first press has brought up
-/// another screen: OK stands in the same place everywhere, and a page that is left by a double click is not to
-/// save the episode behind it as well. Keys go to the element, and what it has no use for to its screen, so that
+/// up to its release is swallowed. So is the second press of a double click whose first press has hidden what
+/// it met: OK stands in the same place everywhere, and a page that is left by a double click is not to save the
+/// episode behind it as well. Keys go to the element, and what it has no use for to its screen, so that
 /// the rules for keys are the logic's; only editing texts is left to the toolkit.
 class Eingabewächter : public QObject {
 public:
@@ -35,6 +35,6 @@ private:
     bool gibElement(Ansicht& ansicht, Element& element, const Taste& taste);
 
     std::function<Ansicht*(const QWidget*)> m_ansichtVon;
-    QPointer<QWidget> m_gedrückteSeite; ///< the screen that took the last press
+    QPointer<QWidget> m_gedrücktes; ///< what the last press met, that of a double click aside
     bool m_verschluckt = false; ///< a press was refused; its release is still to come
 };
