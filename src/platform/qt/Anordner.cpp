@@ -78,13 +78,13 @@ bool Anordner::füge(const Anordnung& a, QBoxLayout& ziel)
     case Wort::Karten:
         return fügeKarten(a, ziel);
     case Wort::Tabelle:
-        return fügeWidget(*new Tabelle(a, m_ansicht, &m_wurzel), ziel, false);
+        return fügeWidget(*new Tabelle(a, m_ansicht, m_eltern), ziel, false);
     case Wort::Decke:
         return fügeDecke(a, ziel);
     case Wort::Stapel:
         return fügeStapel(a, ziel);
     case Wort::Listung:
-        return fügeWidget(*new Listung(a, m_ansicht, &m_wurzel), ziel, true);
+        return fügeWidget(*new Listung(a, m_ansicht, m_eltern), ziel, true);
     case Wort::Dehnung:
         ziel.addStretch(1);
         return true;
@@ -100,7 +100,7 @@ bool Anordner::fügeWidget(QWidget& widget, QBoxLayout& ziel, bool füllt)
 
 QWidget* Anordner::macheElement(const Anordnung& a)
 {
-    auto* widget = zeichneElement(*a.element, m_ansicht, &m_wurzel);
+    auto* widget = zeichneElement(*a.element, m_ansicht, m_eltern);
     if (a.behältPlatz) {
         auto regel = widget->sizePolicy();
         regel.setRetainSizeWhenHidden(true);
@@ -136,7 +136,7 @@ bool Anordner::fügeElement(const Anordnung& a, QBoxLayout& ziel)
 
 bool Anordner::fügeText(const Anordnung& a, QBoxLayout& ziel)
 {
-    auto* text = new Etikett(alsQString(a.text), &m_wurzel);
+    auto* text = new Etikett(alsQString(a.text), m_eltern);
     text->setFont(schrift(Schriftrolle::Kartentitel));
     if (a.breite > 0) {
         text->setFixedWidth(em(a.breite));
@@ -177,17 +177,18 @@ QWidget* Anordner::macheWidget(const Anordnung& a, bool& füllt)
         füllt = a.füllt;
         return macheElement(a);
     }
-    auto* kasten = new QWidget(&m_wurzel);
+    auto* kasten = new QWidget(m_eltern);
+    const Unter unter(*this, *kasten);
     füllt = füge(a, *ohneRand(new QVBoxLayout(kasten), kastenabstand));
     return kasten;
 }
 
 QWidget* Anordner::macheLinie()
 {
-    auto* linie = new QFrame(&m_wurzel);
+    auto* kasten = new QWidget(m_eltern);
+    auto* linie = new QFrame(kasten);
     linie->setProperty("rolle", "linie");
     linie->setFixedHeight(1);
-    auto* kasten = new QWidget(&m_wurzel);
     auto* layout = ohneRand(new QVBoxLayout(kasten), 0);
     layout->setContentsMargins(0, em(0.35), 0, em(0.45));
     layout->addWidget(linie);
@@ -197,19 +198,24 @@ QWidget* Anordner::macheLinie()
 
 bool Anordner::fügeDecke(const Anordnung& a, QBoxLayout& ziel)
 {
+    auto* fläche = new Deckfläche(m_eltern);
+    const Unter unter(*this, *fläche);
     bool füllt = false;
     auto* darunter = macheWidget(a.teile.front(), füllt);
-    auto* decke = zeichneElement(*a.teile.back().element, m_ansicht, &m_wurzel);
+    auto* decke = zeichneElement(*a.teile.back().element, m_ansicht, m_eltern);
     if (a.teile.front().wort == Wort::Element) {
         if (auto* knopf = dynamic_cast<Knopf*>(decke)) {
             knopf->seiWertdecke();
         }
     }
-    return fügeWidget(*new Deckfläche(*darunter, *decke, &m_wurzel), ziel, füllt || a.füllt);
+    fläche->setze(*darunter, *decke);
+    return fügeWidget(*fläche, ziel, füllt || a.füllt);
 }
 
 bool Anordner::fügeStapel(const Anordnung& a, QBoxLayout& ziel)
 {
+    auto* fläche = new Stapelfläche(m_eltern);
+    const Unter unter(*this, *fläche);
     std::vector<QWidget*> teile;
     bool füllt = a.füllt;
     for (const auto& teil : a.teile) {
@@ -217,7 +223,8 @@ bool Anordner::fügeStapel(const Anordnung& a, QBoxLayout& ziel)
         teile.push_back(macheWidget(teil, dieserFüllt));
         füllt = füllt || dieserFüllt;
     }
-    return fügeWidget(*new Stapelfläche(std::move(teile), &m_wurzel), ziel, füllt);
+    fläche->setze(std::move(teile));
+    return fügeWidget(*fläche, ziel, füllt);
 }
 
 QWidget* Anordner::macheKartenspalte(const Anordnung& a, bool& füllt)
@@ -225,7 +232,8 @@ QWidget* Anordner::macheKartenspalte(const Anordnung& a, bool& füllt)
     if (a.wort == Wort::Karte) {
         return macheKarte(a, füllt);
     }
-    auto* spalte = new QWidget(&m_wurzel);
+    auto* spalte = new QWidget(m_eltern);
+    const Unter unter(*this, *spalte);
     auto* layout = ohneRand(new QVBoxLayout(spalte), 0.6);
     for (const auto& teil : a.teile) {
         füllt = füge(teil, *layout) || füllt;
@@ -238,7 +246,8 @@ QWidget* Anordner::macheKartenspalte(const Anordnung& a, bool& füllt)
 
 bool Anordner::fügeKarten(const Anordnung& a, QBoxLayout& ziel)
 {
-    auto* reihe = new Kartenreihe(&m_wurzel);
+    auto* reihe = new Kartenreihe(m_eltern);
+    const Unter unter(*this, *reihe);
     bool füllt = a.füllt;
     for (const auto& teil : a.teile) {
         bool spalteFüllt = teil.füllt;
@@ -275,7 +284,8 @@ bool Anordner::fügeKarte(const Anordnung& a, QBoxLayout& ziel)
 
 QWidget* Anordner::macheKarte(const Anordnung& a, bool& füllt)
 {
-    auto* karte = new QGroupBox(&m_wurzel);
+    auto* karte = new QGroupBox(m_eltern);
+    const Unter unter(*this, *karte);
     karte->setProperty("rolle", "karte");
     karte->setAccessibleName(alsQString(a.text));
     auto* layout = ohneRand(new QVBoxLayout(karte), 0.35);

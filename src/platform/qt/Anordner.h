@@ -2,6 +2,8 @@
 
 #include "platform/bildschirm/Anordnung.h"
 
+#include <utility>
+
 class Ansicht;
 class QBoxLayout;
 class QVBoxLayout;
@@ -12,13 +14,28 @@ class Anordner {
 public:
     /// `istSeite`: cards of a given width stand in the middle, as they do on a page of the frame.
     Anordner(Ansicht& ansicht, QWidget& wurzel, bool istSeite)
-        : m_ansicht(ansicht), m_wurzel(wurzel), m_istSeite(istSeite)
+        : m_ansicht(ansicht), m_eltern(&wurzel), m_istSeite(istSeite)
     {}
 
     /// The body of a screen.
     void baueSeite(const Anordnung& a, QVBoxLayout& ziel);
 
 private:
+    /// For its lifetime, widgets are made under another one.
+    class Unter {
+    public:
+        Unter(Anordner& anordner, QWidget& eltern)
+            : m_anordner(anordner), m_vorher(std::exchange(anordner.m_eltern, &eltern))
+        {}
+        Unter(const Unter&) = delete;
+        Unter& operator=(const Unter&) = delete;
+        ~Unter() { m_anordner.m_eltern = m_vorher; }
+
+    private:
+        Anordner& m_anordner;
+        QWidget* m_vorher;
+    };
+
     /// Appends the part to the layout; returns whether it takes what is left of the layout's direction.
     bool füge(const Anordnung& a, QBoxLayout& ziel);
     bool fügeElement(const Anordnung& a, QBoxLayout& ziel);
@@ -43,6 +60,8 @@ private:
     QWidget* macheElement(const Anordnung& a);
 
     Ansicht& m_ansicht;
-    QWidget& m_wurzel;
+    /// Under which widgets are made. Each is made under its final parent at once, since every move to another
+    /// parent makes the style sheet work again for all that lies below.
+    QWidget* m_eltern;
     bool m_istSeite;
 };

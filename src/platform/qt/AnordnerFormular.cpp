@@ -86,15 +86,16 @@ bool Anordner::fügeFormular(const Anordnung& a, QBoxLayout& ziel)
 QWidget* Anordner::macheFeldbeschriftung(const Anordnung& feld, double breite)
 {
     auto* beschriftung = feld.element != nullptr
-                             ? dynamic_cast<Etikett*>(zeichneElement(*feld.element, m_ansicht, &m_wurzel))
-                             : new Etikett(alsQString(feld.text), &m_wurzel);
+                             ? dynamic_cast<Etikett*>(zeichneElement(*feld.element, m_ansicht, m_eltern))
+                             : new Etikett(alsQString(feld.text), m_eltern);
     beschriftung->setzeUmbruchbreite(em(breite));
     return beschriftung;
 }
 
 void Anordner::fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBoxLayout& ziel)
 {
-    auto* zeile = new Formularzeile(&m_wurzel);
+    auto* zeile = new Formularzeile(m_eltern);
+    const Unter unter(*this, *zeile);
     auto* layout = new QHBoxLayout(zeile);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(em(0.5));

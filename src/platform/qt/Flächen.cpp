@@ -27,22 +27,19 @@ bool Handfläche::event(QEvent* ereignis)
     return QWidget::event(ereignis);
 }
 
-Deckfläche::Deckfläche(QWidget& darunter, QWidget& decke, QWidget* eltern)
-    : Handfläche(eltern), m_darunter(darunter), m_decke(decke)
+void Deckfläche::setze(QWidget& darunter, QWidget& decke)
 {
-    m_darunter.setParent(this);
-    const bool verdeckt = !m_decke.isHidden();
-    m_decke.setParent(this);
-    m_decke.setVisible(verdeckt);
-    m_decke.raise();
-    m_decke.installEventFilter(this);
-    setSizePolicy(m_darunter.sizePolicy());
+    m_darunter = &darunter;
+    m_decke = &decke;
+    m_decke->raise();
+    m_decke->installEventFilter(this);
+    setSizePolicy(m_darunter->sizePolicy());
     gleicheAb();
 }
 
 bool Deckfläche::eventFilter(QObject* objekt, QEvent* ereignis)
 {
-    if (objekt == &m_decke && (ereignis->type() == QEvent::ShowToParent || ereignis->type() == QEvent::HideToParent)) {
+    if (objekt == m_decke && (ereignis->type() == QEvent::ShowToParent || ereignis->type() == QEvent::HideToParent)) {
         gleicheAb();
     }
     return false;
@@ -50,32 +47,28 @@ bool Deckfläche::eventFilter(QObject* objekt, QEvent* ereignis)
 
 void Deckfläche::gleicheAb()
 {
-    m_darunter.setEnabled(m_decke.isHidden());
+    m_darunter->setEnabled(m_decke->isHidden());
 }
 
 QSize Deckfläche::sizeHint() const
 {
-    return m_darunter.sizeHint();
+    return m_darunter->sizeHint();
 }
 
 QSize Deckfläche::minimumSizeHint() const
 {
-    return m_darunter.minimumSizeHint();
+    return m_darunter->minimumSizeHint();
 }
 
 void Deckfläche::ordne()
 {
-    m_darunter.setGeometry(rect());
-    m_decke.setGeometry(rect());
+    m_darunter->setGeometry(rect());
+    m_decke->setGeometry(rect());
 }
 
-Stapelfläche::Stapelfläche(std::vector<QWidget*> teile, QWidget* eltern) : Handfläche(eltern), m_teile(std::move(teile))
+void Stapelfläche::setze(std::vector<QWidget*> teile)
 {
-    for (auto* teil : m_teile) {
-        const bool sichtbar = !teil->isHidden();
-        teil->setParent(this);
-        teil->setVisible(sichtbar);
-    }
+    m_teile = std::move(teile);
     if (!m_teile.empty()) {
         setSizePolicy(m_teile.front()->sizePolicy());
     }
@@ -109,7 +102,6 @@ Kartenreihe::Kartenreihe(QWidget* eltern) : Handfläche(eltern)
 
 void Kartenreihe::füge(QWidget& spalte, int höchstbreite, bool wächst)
 {
-    spalte.setParent(this);
     m_spalten.push_back({&spalte, höchstbreite});
     if (wächst) {
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

@@ -22,7 +22,10 @@ protected:
 /// elements' own state stays as it is.
 class Deckfläche : public Handfläche {
 public:
-    Deckfläche(QWidget& darunter, QWidget& decke, QWidget* eltern);
+    using Handfläche::Handfläche;
+
+    /// Both are its children already.
+    void setze(QWidget& darunter, QWidget& decke);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -34,14 +37,17 @@ protected:
 private:
     void gleicheAb();
 
-    QWidget& m_darunter;
-    QWidget& m_decke;
+    QWidget* m_darunter = nullptr;
+    QWidget* m_decke = nullptr;
 };
 
 /// Parts that share one place, which is as large as the largest of them, seen or not.
 class Stapelfläche : public Handfläche {
 public:
-    Stapelfläche(std::vector<QWidget*> teile, QWidget* eltern);
+    using Handfläche::Handfläche;
+
+    /// All are its children already.
+    void setze(std::vector<QWidget*> teile);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -58,7 +64,8 @@ class Kartenreihe : public Handfläche {
 public:
     explicit Kartenreihe(QWidget* eltern);
 
-    /// `höchstbreite` in pixels; `wächst` when the column takes the height that is there.
+    /// The column is its child already; `höchstbreite` in pixels; `wächst` when the column takes the height that is
+    /// there.
     void füge(QWidget& spalte, int höchstbreite, bool wächst);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -222,7 +222,7 @@ QSize Listungsblatt::minimumSizeHint() const
 
 Listung::Listung(const Anordnung& listung, Ansicht& ansicht, QWidget* eltern)
     : Handfläche(eltern), m_leiste(zeichneElement(*listung.element, ansicht, this)), m_rolle(new QScrollArea(this)),
-      m_blatt(new Listungsblatt(listung, ansicht, m_leiste, m_rolle))
+      m_blatt(new Listungsblatt(listung, ansicht, m_leiste, m_rolle->viewport()))
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_rolle->setFocusPolicy(Qt::NoFocus);

@@ -149,7 +149,7 @@ Seite baueSeite(Ansicht& ansicht, QWidget* eltern)
     stockwerke->setContentsMargins(0, 0, 0, 0);
     stockwerke->setSpacing(0);
     auto* blatt = new Blatt(wurzel);
-    auto* inhalt = new QWidget(blatt);
+    auto* inhalt = new QWidget(blatt->viewport());
     Anordner(ansicht, *inhalt, !ansicht.bildschirm().istKindfenster)
         .baueSeite(ansicht.bildschirm().aufbau, *new QVBoxLayout(inhalt));
     blatt->setWidget(inhalt);

@@ -28,6 +28,15 @@ int summe(const std::vector<int>& werte)
     return std::accumulate(werte.begin(), werte.end(), 0);
 }
 
+std::vector<int> spaltenbreiten(const Anordnung& tabelle)
+{
+    std::vector<int> breiten;
+    for (const auto& spalte : tabelle.spalten) {
+        breiten.push_back(em(spalte.breite));
+    }
+    return breiten;
+}
+
 QString zugänglicherName(const Tabellenspalte& spalte, const Anordnung& zeile)
 {
     QStringList teile{alsQString(zeile.element->text())};
@@ -53,23 +62,16 @@ QWidget* baueZelle(Element& element, int breite, Ansicht& ansicht, QWidget* elte
 
 } // namespace
 
-Antwortzeile::Antwortzeile(Etikett& beschriftung, std::vector<QWidget*> zellen, QWidget* eltern)
-    : QWidget(eltern), m_beschriftung(beschriftung), m_zellen(std::move(zellen))
+void Antwortzeile::setze(Etikett& beschriftung, std::vector<QWidget*> zellen)
 {
-    m_beschriftung.setParent(this);
-    m_beschriftung.setWordWrap(true);
-    for (auto* zelle : m_zellen) {
-        if (zelle != nullptr) {
-            const bool sichtbar = !zelle->isHidden();
-            zelle->setParent(this);
-            zelle->setVisible(sichtbar);
-        }
-    }
+    m_beschriftung = &beschriftung;
+    m_beschriftung->setWordWrap(true);
+    m_zellen = std::move(zellen);
 }
 
 int Antwortzeile::bevorzugteBeschriftungsbreite() const
 {
-    return m_beschriftung.fontMetrics().horizontalAdvance(m_beschriftung.text()) + em(0.8);
+    return m_beschriftung->fontMetrics().horizontalAdvance(m_beschriftung->text()) + em(0.8);
 }
 
 int Antwortzeile::ordne(int breite, const std::vector<int>& spalten, int mindesthöhe)
@@ -81,11 +83,11 @@ int Antwortzeile::ordne(int breite, const std::vector<int>& spalten, int mindest
         ende += spalten[i];
     }
     const QRect platz(em(0.28), 0, ende - em(0.5), mindesthöhe);
-    int höhe = std::max(mindesthöhe, m_beschriftung.heightForWidth(platz.width()) + 1);
+    int höhe = std::max(mindesthöhe, m_beschriftung->heightForWidth(platz.width()) + 1);
     for (const auto* zelle : m_zellen) {
         höhe = std::max(höhe, zelle == nullptr ? 0 : zelle->sizeHint().height());
     }
-    m_beschriftung.setGeometry(platz.x(), 0, platz.width(), höhe - 1);
+    m_beschriftung->setGeometry(platz.x(), 0, platz.width(), höhe - 1);
     for (std::size_t i = 0; i < m_zellen.size(); ++i) {
         if (auto* zelle = m_zellen[i]) {
             const QSize größe = zelle->sizeHint().boundedTo(zelle->maximumSize()).expandedTo(zelle->minimumSize());
@@ -127,12 +129,27 @@ void Antwortzeile::leaveEvent(QEvent* /*ereignis*/)
     update();
 }
 
-Tabellenblatt::Tabellenblatt(std::vector<Antwortzeile*> zeilen, std::vector<int> spalten, QWidget* eltern)
-    : Handfläche(eltern), m_zeilen(std::move(zeilen)), m_spalten(std::move(spalten))
+Tabellenblatt::Tabellenblatt(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern)
+    : Handfläche(eltern), m_spalten(spaltenbreiten(tabelle))
 {
-    for (auto* zeile : m_zeilen) {
-        zeile->setParent(this);
+    for (const auto& zeile : tabelle.teile) {
+        fügeZeile(zeile, tabelle.spalten, ansicht);
     }
+}
+
+void Tabellenblatt::fügeZeile(const Anordnung& zeile, const std::vector<Tabellenspalte>& köpfe, Ansicht& ansicht)
+{
+    auto* neue = new Antwortzeile(this);
+    std::vector<QWidget*> zellen;
+    for (std::size_t i = 0; i < zeile.teile.size(); ++i) {
+        auto* element = zeile.teile[i].element;
+        zellen.push_back(element == nullptr ? nullptr : baueZelle(*element, m_spalten[i], ansicht, neue));
+        if (zellen.back() != nullptr) {
+            zellen.back()->setAccessibleName(zugänglicherName(köpfe[i], zeile));
+        }
+    }
+    neue->setze(dynamic_cast<Etikett&>(*zeichneElement(*zeile.element, ansicht, neue)), std::move(zellen));
+    m_zeilen.push_back(neue);
 }
 
 int Tabellenblatt::zeilenhöhe() const
@@ -173,36 +190,14 @@ void Tabellenblatt::ordne()
     }
 }
 
-Tabelle::Tabelle(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern) : QScrollArea(eltern)
+Tabelle::Tabelle(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern)
+    : QScrollArea(eltern), m_spalten(spaltenbreiten(tabelle)), m_kopf(new Tabellenkopf(tabelle, ansicht, this)),
+      m_blatt(new Tabellenblatt(tabelle, ansicht, viewport()))
 {
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
-    std::vector<QWidget*> füller;
-    for (const auto& spalte : tabelle.spalten) {
-        m_spalten.push_back(em(spalte.breite));
-        füller.push_back(spalte.füller == nullptr ? nullptr : zeichneElement(*spalte.füller, ansicht, this));
-        if (füller.back() != nullptr) {
-            füller.back()->setAccessibleName(
-                alsQString(verbinde(tabelle.text, ' ', spalte.gruppe, ' ', spalte.titel)).simplified());
-        }
-    }
-    std::vector<Antwortzeile*> zeilen;
-    for (const auto& zeile : tabelle.teile) {
-        std::vector<QWidget*> zellen;
-        for (std::size_t i = 0; i < zeile.teile.size(); ++i) {
-            auto* element = zeile.teile[i].element;
-            zellen.push_back(element == nullptr ? nullptr : baueZelle(*element, m_spalten[i], ansicht, this));
-            if (zellen.back() != nullptr) {
-                zellen.back()->setAccessibleName(zugänglicherName(tabelle.spalten[i], zeile));
-            }
-        }
-        auto* beschriftung = dynamic_cast<Etikett*>(zeichneElement(*zeile.element, ansicht, this));
-        zeilen.push_back(new Antwortzeile(*beschriftung, std::move(zellen), this));
-    }
-    m_kopf = new Tabellenkopf(tabelle, std::move(füller), this);
     m_kopf->ordne(em(30), m_spalten);
-    m_blatt = new Tabellenblatt(std::move(zeilen), m_spalten, this);
     setViewportMargins(0, m_kopf->höhe(), 0, 0);
     setWidget(m_blatt);
     viewport()->setAutoFillBackground(false);

@@ -14,7 +14,10 @@ class Etikett;
 /// tints it, and more strongly the keyboard focus in one of its cells.
 class Antwortzeile : public QWidget {
 public:
-    Antwortzeile(Etikett& beschriftung, std::vector<QWidget*> zellen, QWidget* eltern);
+    using QWidget::QWidget;
+
+    /// Label and cells are its children already.
+    void setze(Etikett& beschriftung, std::vector<QWidget*> zellen);
 
     /// Places label and cells; returns the height it takes.
     int ordne(int breite, const std::vector<int>& spalten, int mindesthöhe);
@@ -27,7 +30,7 @@ protected:
     void leaveEvent(QEvent* ereignis) override;
 
 private:
-    Etikett& m_beschriftung;
+    Etikett* m_beschriftung = nullptr;
     std::vector<QWidget*> m_zellen; ///< nullptr where the row has no answer
     bool m_aktiv = false;
 };
@@ -35,7 +38,7 @@ private:
 /// The head of a table: groups, titles, and the "!" that fill the columns.
 class Tabellenkopf : public QWidget {
 public:
-    Tabellenkopf(const Anordnung& tabelle, std::vector<QWidget*> füller, QWidget* eltern);
+    Tabellenkopf(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern);
 
     int höhe() const { return m_höhe; }
     /// Places everything; the height does not depend on the width.
@@ -52,6 +55,7 @@ private:
         QRect unterstrich;
     };
 
+    void baueFüller(const Anordnung& tabelle, Ansicht& ansicht);
     void baueGruppen(const Anordnung& tabelle, const std::vector<int>& spalten);
     void messe(const std::vector<int>& spalten);
 
@@ -68,7 +72,7 @@ private:
 /// The rows, all of them.
 class Tabellenblatt : public Handfläche {
 public:
-    Tabellenblatt(std::vector<Antwortzeile*> zeilen, std::vector<int> spalten, QWidget* eltern);
+    Tabellenblatt(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern);
 
     int höheBei(int breite) const;
     /// Height of the first rows, as many as must always be in sight.
@@ -80,6 +84,7 @@ protected:
     void ordne() override;
 
 private:
+    void fügeZeile(const Anordnung& zeile, const std::vector<Tabellenspalte>& köpfe, Ansicht& ansicht);
     int zeilenhöhe() const;
 
     std::vector<Antwortzeile*> m_zeilen;

@@ -1,3 +1,4 @@
+#include "platform/qt/Elementzeichner.h"
 #include "platform/qt/Etikett.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Tabelle.h"
@@ -27,21 +28,29 @@ Etikett* macheTitel(const std::string& text, QWidget* eltern)
 
 } // namespace
 
-Tabellenkopf::Tabellenkopf(const Anordnung& tabelle, std::vector<QWidget*> füller, QWidget* eltern)
-    : QWidget(eltern), m_titel(new Etikett(alsQString(tabelle.text), this)), m_füller(std::move(füller))
+Tabellenkopf::Tabellenkopf(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern)
+    : QWidget(eltern), m_titel(new Etikett(alsQString(tabelle.text), this))
 {
     m_titel->setFont(schrift(Schriftrolle::Kartentitel));
     std::vector<int> breiten;
-    for (std::size_t i = 0; i < tabelle.spalten.size(); ++i) {
-        breiten.push_back(em(tabelle.spalten[i].breite));
-        m_titelzeile.push_back(macheTitel(tabelle.spalten[i].titel, this));
-        if (m_füller[i] != nullptr) {
-            m_füller[i]->setParent(this);
-            m_füller[i]->show();
-        }
+    for (const auto& spalte : tabelle.spalten) {
+        breiten.push_back(em(spalte.breite));
+        m_titelzeile.push_back(macheTitel(spalte.titel, this));
     }
+    baueFüller(tabelle, ansicht);
     baueGruppen(tabelle, breiten);
     messe(breiten);
+}
+
+void Tabellenkopf::baueFüller(const Anordnung& tabelle, Ansicht& ansicht)
+{
+    for (const auto& spalte : tabelle.spalten) {
+        m_füller.push_back(spalte.füller == nullptr ? nullptr : zeichneElement(*spalte.füller, ansicht, this));
+        if (m_füller.back() != nullptr) {
+            const auto name = verbinde(tabelle.text, ' ', spalte.gruppe, ' ', spalte.titel);
+            m_füller.back()->setAccessibleName(alsQString(name).simplified());
+        }
+    }
 }
 
 void Tabellenkopf::baueGruppen(const Anordnung& tabelle, const std::vector<int>& spalten)
