@@ -1,6 +1,6 @@
 #include "platform/calc/Mappenschreiber.h"
 
-#include "calc/Calcversuch.h"
+#include "platform/calc/Calcversuch.h"
 #include "platform/text/Eingabe.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "spreadsheet/Mappenlauf.h"

@@ -1,6 +1,6 @@
 #include "platform/calc/Rechenprogramm.h"
 
-#include "calc/Calcversuch.h"
+#include "platform/calc/Calcversuch.h"
 #include "platform/calc/Zwischenablage.h"
 #include "platform/mappe/Arbeitsmappe.h"
 #include "platform/umgebung/Laufzeitfehler.h"
