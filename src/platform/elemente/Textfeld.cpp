@@ -1,5 +1,7 @@
 #include "platform/elemente/Elemente.h"
 
+#include <algorithm>
+
 namespace {
 
 /// How many characters belong together at a place: a line break of two counts as one step.
@@ -29,6 +31,19 @@ std::size_t zeilenende(std::string_view text, std::size_t ort)
 {
     const auto umbruch = text.find('\r', ort);
     return umbruch == std::string_view::npos ? text.size() : umbruch;
+}
+
+/// The same place in the line before or after, at its end where that line is shorter.
+std::size_t nachbarzeile(std::string_view text, std::size_t ort, bool vor)
+{
+    const auto anfang = zeilenanfang(text, ort);
+    const auto ende = zeilenende(text, ort);
+    if (vor ? ende == text.size() : anfang == 0) {
+        return vor ? text.size() : 0;
+    }
+    const auto ziel =
+        vor ? std::min(ende + 2, text.size()) : zeilenanfang(text, anfang - std::min<std::size_t>(anfang, 2));
+    return std::min(ziel + (ort - anfang), zeilenende(text, ziel));
 }
 
 } // namespace
@@ -88,6 +103,12 @@ bool Textfeld::taste(const Taste& taste)
     case Taste::Art::Rechts:
         m_schreibmarke += schrittVor(m_text, m_schreibmarke);
         return true;
+    case Taste::Art::Auf:
+    case Taste::Art::Ab:
+        if (istMehrzeilig()) {
+            m_schreibmarke = nachbarzeile(m_text, m_schreibmarke, taste.art == Taste::Art::Ab);
+        }
+        return istMehrzeilig();
     case Taste::Art::Pos1:
         m_schreibmarke = istMehrzeilig() ? zeilenanfang(m_text, m_schreibmarke) : 0;
         return true;
