@@ -1,6 +1,7 @@
 #include "platform/qt/Eingabewächter.h"
 
 #include "platform/bildschirm/Bildschirm.h"
+#include "platform/bildschirm/Reihengang.h"
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Auswahlbox.h"
 #include "platform/qt/Datumsbox.h"
@@ -77,45 +78,6 @@ bool istSacheDesWidgets(const QWidget& widget, const Taste& taste)
     return box != nullptr && !box->isEditable() && taste.art == Taste::Art::Zeichen && taste.zeichen == ' ';
 }
 
-std::string_view reihenname(const Element& element)
-{
-    return std::string_view(element.name()).substr(0, element.name().find('('));
-}
-
-/// The next of the elements of the same array, in reading order.
-Element* nachbar(const Bildschirm& bildschirm, const Element& element, bool vor)
-{
-    auto reihe = bildschirm.tabFolge();
-    std::erase_if(reihe, [&](const Element* anderes) {
-        return reihenname(*anderes) != reihenname(element) ||
-               (anderes != &element && !bildschirm.istErreichbar(*anderes));
-    });
-    const auto ort = std::find(reihe.begin(), reihe.end(), &element);
-    if (ort == reihe.end() || (vor ? std::next(ort) == reihe.end() : ort == reihe.begin())) {
-        return nullptr;
-    }
-    return vor ? *std::next(ort) : *std::prev(ort);
-}
-
-/// Answer fields and options: the arrows that they have no use for move the focus in their column.
-bool geheInReihe(Bildschirm& bildschirm, Element& element, const Taste& taste)
-{
-    const auto* option = dynamic_cast<const Optionsfeld*>(&element);
-    const bool senkrecht = taste.art == Taste::Art::Auf || taste.art == Taste::Art::Ab;
-    const bool waagrecht = taste.art == Taste::Art::Links || taste.art == Taste::Art::Rechts;
-    const bool istAntwort = dynamic_cast<const triCtlJaNein*>(&element) != nullptr;
-    if (!(istAntwort && senkrecht) && !(option != nullptr && (senkrecht || waagrecht))) {
-        return false;
-    }
-    auto* ziel = nachbar(bildschirm, element, taste.art == Taste::Art::Ab || taste.art == Taste::Art::Rechts);
-    if (ziel != nullptr && bildschirm.fokussiere(ziel)) {
-        if (auto* neue = dynamic_cast<Optionsfeld*>(ziel); neue != nullptr && neue->pfeileMarkieren()) {
-            neue->klicke();
-        }
-    }
-    return true;
-}
-
 } // namespace
 
 Eingabewächter::Eingabewächter(std::function<Ansicht*(const QWidget*)> ansichtVon) : m_ansichtVon(std::move(ansichtVon))
@@ -170,7 +132,7 @@ bool Eingabewächter::gibElement(Ansicht& ansicht, Element& element, const Taste
     if (!bildschirm.istErreichbar(element)) {
         return false;
     }
-    return element.taste(taste) || (ansicht.lebt() && geheInReihe(bildschirm, element, taste));
+    return element.taste(taste) || (ansicht.lebt() && geheInReihe(element, taste));
 }
 
 bool Eingabewächter::beiTaste(QWidget& widget, const QKeyEvent& ereignis)

@@ -1,10 +1,10 @@
 #include "oberfläche/OberflächeOhne.h"
 
 #include "app/moMain.h"
+#include "platform/bildschirm/Reihengang.h"
 #include "platform/text/Eingabe.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace {
 
@@ -18,38 +18,11 @@ const Bildschirm* obersteSeite(const Bildschirmfolge& folge)
     return seite == geladene.rend() ? nullptr : *seite;
 }
 
-std::string_view reihenname(const Element& element)
-{
-    return std::string_view(element.name()).substr(0, element.name().find('('));
-}
-
-/// The next element of the same array in reading order; nullptr for none.
-Element* nachbarInReihe(const Element& element, bool vor)
-{
-    const auto& bildschirm = *element.bildschirm();
-    auto reihe = bildschirm.tabFolge();
-    std::erase_if(reihe, [&](const Element* anderes) {
-        return reihenname(*anderes) != reihenname(element) ||
-               (anderes != &element && !bildschirm.istErreichbar(*anderes));
-    });
-    const auto ort = std::find(reihe.begin(), reihe.end(), &element);
-    if (ort == reihe.end() || (vor ? std::next(ort) == reihe.end() : ort == reihe.begin())) {
-        return nullptr;
-    }
-    return vor ? *std::next(ort) : *std::prev(ort);
-}
-
 /// For all others two quick clicks are two clicks.
 bool kenntDoppelklick(const Element& element)
 {
     return dynamic_cast<const Beschriftung*>(&element) != nullptr || dynamic_cast<const Liste*>(&element) != nullptr ||
            dynamic_cast<const Optionsfeld*>(&element) != nullptr;
-}
-
-bool istPfeil(const Taste& taste)
-{
-    return taste.art == Taste::Art::Auf || taste.art == Taste::Art::Ab || taste.art == Taste::Art::Links ||
-           taste.art == Taste::Art::Rechts;
 }
 
 } // namespace
@@ -190,24 +163,6 @@ void OberflächeOhne::wähleDatum(Datumsfeld& feld, const Datum& datum)
     });
 }
 
-bool OberflächeOhne::bewegeFokusInReihe(const Element& element, const Taste& taste)
-{
-    const bool inReihe =
-        dynamic_cast<const triCtlJaNein*>(&element) != nullptr || dynamic_cast<const Optionsfeld*>(&element) != nullptr;
-    if (!inReihe || !istPfeil(taste)) {
-        return false;
-    }
-    const bool vor = taste.art == Taste::Art::Ab || taste.art == Taste::Art::Rechts;
-    auto* nachbar = nachbarInReihe(element, vor);
-    if (nachbar == nullptr || !fokussiere(*nachbar)) {
-        return true;
-    }
-    if (auto* option = dynamic_cast<Optionsfeld*>(nachbar); option != nullptr && option->pfeileMarkieren()) {
-        option->klicke();
-    }
-    return true;
-}
-
 void OberflächeOhne::drücke(const Taste& taste)
 {
     m_zustand->ablauf.ereignis([&] {
@@ -217,8 +172,7 @@ void OberflächeOhne::drücke(const Taste& taste)
         }
         auto* element = bildschirm->fokus();
         const bool erreicht = element != nullptr && istErreichbar(*element);
-        if (erreicht &&
-            (gibDatumsfeld(*element, taste) || element->taste(taste) || bewegeFokusInReihe(*element, taste))) {
+        if (erreicht && (gibDatumsfeld(*element, taste) || element->taste(taste) || geheInReihe(*element, taste))) {
             return;
         }
         bildschirm->taste(taste);

@@ -60,7 +60,6 @@ private:
     bool fokussiere(Element& element);
     bool gibDatumsfeld(Element& element, const Taste& taste);
     void schließeDatumAb();
-    bool bewegeFokusInReihe(const Element& element, const Taste& taste);
 
     Zustand* m_zustand = nullptr;
     std::optional<Datumseingabe> m_datumseingabe; ///< in the date field that has the focus

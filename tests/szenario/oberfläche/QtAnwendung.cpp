@@ -15,10 +15,11 @@ constexpr auto bildschirm = R"({
                  "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]
 })";
 
-/// What the offscreen platform lacks concerns no scenario.
+/// What platform and session lack concerns no scenario.
 void meldeWeiter(QtMsgType /*art*/, const QMessageLogContext& /*ort*/, const QString& text)
 {
-    if (!text.contains(QStringLiteral("plugin does not support"))) {
+    if (!text.contains(QStringLiteral("plugin does not support")) &&
+        !text.contains(QStringLiteral("XDG_RUNTIME_DIR"))) {
         std::fprintf(stderr, "%s\n", qPrintable(text));
     }
 }
