@@ -42,6 +42,8 @@ public:
     void setzeText(std::string_view text);
     Rolle rolle() const { return m_rolle; }
     void setzeRolle(Rolle rolle) { m_rolle = rolle; }
+    /// A cover without a text has nothing to read out.
+    bool nimmtFokus() const override { return m_rolle != Rolle::Decke || !m_text.empty(); }
     bool taste(const Taste& taste) override;
     void besuche(Elementbesucher& besucher) override;
 

@@ -71,8 +71,6 @@ void Knopf::übernimm()
         text.replace(QStringLiteral("- "), QStringLiteral("-\n"));
     }
     setText(text);
-    // a cover without text has nothing to read out
-    setFocusPolicy(m_element.rolle() == Rolle::Decke && text.isEmpty() ? Qt::NoFocus : Qt::TabFocus);
 }
 
 QSize Knopf::sizeHint() const
