@@ -101,7 +101,7 @@ TEST(Szenariodatei, WasKeineAnweisungIstWirdMitZeileGemeldet)
 {
     EXPECT_EQ(fehlerBei("starte\n\nklikke cmdOK"), "3: eine Anweisung statt »klikke«");
     EXPECT_EQ(fehlerBei("erwarte nichts"), "1: eine Anweisung statt »erwarte nichts«");
-    EXPECT_EQ(fehlerBei("klicke"), "1: der Name eines Elements");
+    EXPECT_EQ(fehlerBei("klicke"), "1: den Namen eines Elements");
     EXPECT_EQ(fehlerBei("klicke lvw 1 2"), "1: Zeilenende statt »2«");
     EXPECT_EQ(fehlerBei("klicke lvw eins"), "1: eine ganze Zahl statt »eins«");
     EXPECT_EQ(fehlerBei("heute 31.02.2007"), "1: ein Datum TT.MM.JJJJ statt »31.02.2007«");

@@ -52,13 +52,13 @@ std::string benennung(Argumentart art)
 {
     switch (art) {
     case Argumentart::Text:
-        return "ein Text";
+        return "einen Text";
     case Argumentart::Zahl:
         return "eine ganze Zahl";
     case Argumentart::Datum:
         return "ein Datum TT.MM.JJJJ";
     case Argumentart::Element:
-        return "der Name eines Elements";
+        return "den Namen eines Elements";
     case Argumentart::Rahmen:
         return "»rahmen«";
     case Argumentart::Tasten:
@@ -66,7 +66,7 @@ std::string benennung(Argumentart art)
     case Argumentart::Antwort:
         return "OK, Abbrechen, Ja oder Nein";
     case Argumentart::Dateiwahl:
-        return "ein Pfad oder »abbrechen«";
+        return "einen Pfad oder »abbrechen«";
     case Argumentart::Feldwert:
         return "FELD=TEXT";
     }
