@@ -36,5 +36,5 @@ private:
 
     std::function<Ansicht*(const QWidget*)> m_ansichtVon;
     QPointer<QWidget> m_gedrücktes; ///< what the last press met, that of a double click aside
-    bool m_verschluckt = false; ///< a press was refused; its release is still to come
+    bool m_verschluckt = false;     ///< a press was refused; its release is still to come
 };
