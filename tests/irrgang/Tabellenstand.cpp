@@ -41,13 +41,17 @@ int schlüssel(const std::vector<std::string_view>& felder, std::size_t feld)
     return zahl && *zahl >= 1 && *zahl <= höchsteNummer ? *zahl : 0;
 }
 
+constexpr auto keinSchlüssel = "kein Schlüssel: "_t; // Clang 14 loses literals inside templates
+constexpr auto doppelterSchlüssel = "doppelter Schlüssel: "_t;
+
 template <class S>
-void nimmAuf(std::map<S, std::string>& sätze, const S& nummer, bool gültig, const std::string& zeile, Verstöße& verstöße)
+void nimmAuf(std::map<S, std::string>& sätze, const S& nummer, bool gültig, const std::string& zeile,
+             Verstöße& verstöße)
 {
     if (!gültig) {
-        verstöße.push_back(verbinde("kein Schlüssel: "_t, zeile));
+        verstöße.push_back(verbinde(keinSchlüssel, zeile));
     } else if (!sätze.emplace(nummer, zeile).second) {
-        verstöße.push_back(verbinde("doppelter Schlüssel: "_t, zeile));
+        verstöße.push_back(verbinde(doppelterSchlüssel, zeile));
     }
 }
 

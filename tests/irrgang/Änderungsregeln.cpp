@@ -46,7 +46,8 @@ struct Unterschiede {
     Unterschied<Betreuungsschlüssel> betr, diag;
 
     Unterschiede(const Tabellenstand& vorher, const Tabellenstand& nachher)
-        : kern(vergleiche(vorher.klienten, nachher.klienten)), betr(vergleiche(vorher.betreuungen, nachher.betreuungen)),
+        : kern(vergleiche(vorher.klienten, nachher.klienten)),
+          betr(vergleiche(vorher.betreuungen, nachher.betreuungen)),
           diag(vergleiche(vorher.diagnosen, nachher.diagnosen))
     {}
 };
@@ -81,9 +82,8 @@ bool istErlaubtFürStammdaten(const Urheber& urheber, const Unterschiede& neu, c
                              const Tabellenstand& nachher)
 {
     const bool nurDieser = neu.kern.istNur(urheber.kernID, urheber.istNeu) && neu.betr.istLeer() && neu.diag.istLeer();
-    return nurDieser &&
-           (urheber.istNeu || gespeicherterStatus(vorher.klienten.at(urheber.kernID)) ==
-                                  gespeicherterStatus(nachher.klienten.at(urheber.kernID)));
+    return nurDieser && (urheber.istNeu || gespeicherterStatus(vorher.klienten.at(urheber.kernID)) ==
+                                               gespeicherterStatus(nachher.klienten.at(urheber.kernID)));
 }
 
 bool istErlaubtFürBetreuung(const Urheber& urheber, const Unterschiede& neu, const Tabellenstand& vorher,
@@ -132,8 +132,8 @@ std::string beschreibe(const Tabellenstand& vorher, const Tabellenstand& nachher
 {
     const Unterschiede neu(vorher, nachher);
     const auto zähle = [](std::string_view tabelle, const auto& unterschied) {
-        return verbinde(' ', tabelle, " +"_t, alsText(static_cast<std::int64_t>(unterschied.neu.size())), " ~"_t,
-                        alsText(static_cast<std::int64_t>(unterschied.anders.size())), " -"_t,
+        return verbinde(' ', tabelle, " +", alsText(static_cast<std::int64_t>(unterschied.neu.size())), " ~",
+                        alsText(static_cast<std::int64_t>(unterschied.anders.size())), " -",
                         alsText(static_cast<std::int64_t>(unterschied.weg.size())));
     };
     return zähle("kernDat"_t, neu.kern) + zähle("betrDat"_t, neu.betr) + zähle("diagDat"_t, neu.diag);
