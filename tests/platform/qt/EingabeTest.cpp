@@ -1,4 +1,4 @@
-#include "qt/Probe.h"
+#include "platform/qt/Probe.h"
 
 #include "platform/qt/Antwortfeld.h"
 #include "platform/qt/Auswahlbox.h"
