@@ -58,7 +58,7 @@ private:
 
 void Wähler::klickeOderTippe(const Element& element, int prozentKlicks)
 {
-    if (m_zufall.trifft(prozentKlicks)) {
+    if (!element.nimmtFokus() || m_zufall.trifft(prozentKlicks)) {
         klickeAuf(element);
     } else {
         tippe(element);
