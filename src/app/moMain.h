@@ -32,9 +32,6 @@ private:
     std::unique_ptr<frmHauptmenü> m_hauptmenü;
 };
 
-/// The absolute paths of a run in the program folder.
-Pfade bildePfade(const std::filesystem::path& programmordner);
-
 /// The file test: creates the data folder and the six empty files when all three tables are missing, and the
 /// settings file when that is missing. One or two missing tables are left alone: they are no first start.
 /// Laufzeitfehler when the program folder can't be written.

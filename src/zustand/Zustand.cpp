@@ -9,6 +9,23 @@ Zustand* aktuell = nullptr;
 
 } // namespace
 
+Pfade bildePfade(const std::filesystem::path& programmordner)
+{
+    const auto daten = programmordner / "Daten";
+    return {.programm = programmordner,
+            .ini = programmordner / "Tolvek7.ini",
+            .dummyIni = programmordner / "Tolvhek7Dummy.ini",
+            .daten = daten,
+            .kernDat = daten / "kernDat.txt",
+            .betrDat = daten / "betrDat.txt",
+            .diagDat = daten / "diagDat.txt",
+            .kernBak = daten / "kernDat.bak",
+            .betrBak = daten / "betrDat.bak",
+            .diagBak = daten / "diagDat.bak",
+            .dummyDatei = programmordner / "dummyFile.txt",
+            .importListe = programmordner / "importDatenListe.txt"};
+}
+
 Zustand& zustand()
 {
     if (aktuell == nullptr) {

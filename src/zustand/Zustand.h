@@ -29,6 +29,9 @@ struct Pfade {
     std::filesystem::path importListe; ///< importDatenListe.txt
 };
 
+/// The paths of a run in the program folder.
+Pfade bildePfade(const std::filesystem::path& programmordner);
+
 /// The working copy of the one care episode in flight. The care record is cut into one piece per page; each
 /// piece is text, its fields in order, each followed by the delimiter (also the last one). Nothing of it
 /// reaches the tables before the care main page's OK.

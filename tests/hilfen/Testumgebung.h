@@ -127,21 +127,8 @@ public:
     explicit Testlauf(std::unique_ptr<Dateizugriff> zugriff = erzeugeDateizugriff())
         : umgebung(std::move(zugriff)), stand(umgebung), m_platz(stand)
     {
-        const auto ordner = umgebung.programmordner();
-        const auto daten = ordner / "Daten";
         stand.titel = "Tolvek7 v7.0.0";
-        stand.pfade = {.programm = ordner,
-                       .ini = ordner / "Tolvek7.ini",
-                       .dummyIni = ordner / "Tolvhek7Dummy.ini",
-                       .daten = daten,
-                       .kernDat = daten / "kernDat.txt",
-                       .betrDat = daten / "betrDat.txt",
-                       .diagDat = daten / "diagDat.txt",
-                       .kernBak = daten / "kernDat.bak",
-                       .betrBak = daten / "betrDat.bak",
-                       .diagBak = daten / "diagDat.bak",
-                       .dummyDatei = ordner / "dummyFile.txt",
-                       .importListe = ordner / "importDatenListe.txt"};
+        stand.pfade = bildePfade(umgebung.programmordner());
         stand.anzahlKernFelder = 11;
         stand.anzahlBetrFelder = 192;
     }

@@ -87,7 +87,8 @@ void Irrgang::schreibeAltdaten()
 {
     const auto alt = erzeugeAltdaten(3, 2, static_cast<unsigned>(m_zufall.zahl(1, 1000)));
     sage("datei Alt/leer.txt");
-    for (const auto& [name, zeilen] : {std::pair("kernDat", &alt.klienten), std::pair("betreuungenDat", &alt.betreuungen)}) {
+    for (const auto& [name, zeilen] :
+         {std::pair("kernDat", &alt.klienten), std::pair("betreuungenDat", &alt.betreuungen)}) {
         std::string anweisung = std::string("datei Alt/") + name + ".txt";
         for (const auto& zeile : *zeilen) {
             anweisung += '\n' + alsZeile(zeile);
@@ -219,9 +220,8 @@ void Irrgang::vermerkeMeldungen()
 {
     auto& meldungen = m_lauf.umgebung().meldungen;
     for (const auto& meldung : meldungen) {
-        m_mitschrift.schreibe("erwarte meldung " + alsArgument(mitEinfachenUmbrüchen(meldung.text)) +
-                              " symbol=" + std::string(wortFür(meldung.symbol)) +
-                              " knöpfe=" + std::string(wortFür(meldung.knöpfe)));
+        m_mitschrift.schreibe("erwarte meldung " + alsArgument(mitEinfachenUmbrüchen(meldung.text)) + " symbol=" +
+                              std::string(wortFür(meldung.symbol)) + " knöpfe=" + std::string(wortFür(meldung.knöpfe)));
     }
     meldungen.clear();
 }
@@ -229,8 +229,8 @@ void Irrgang::vermerkeMeldungen()
 Antwort Irrgang::antworte(const Meldung& meldung)
 {
     const bool ja = m_zufall.trifft(60);
-    const auto antwort = meldung.knöpfe == Knöpfe::JaNein ? (ja ? Antwort::Ja : Antwort::Nein)
-                                                          : (ja ? Antwort::OK : Antwort::Abbrechen);
+    const auto antwort =
+        meldung.knöpfe == Knöpfe::JaNein ? (ja ? Antwort::Ja : Antwort::Nein) : (ja ? Antwort::OK : Antwort::Abbrechen);
     m_mitschrift.schreibe("antworte " + std::string(wortFür(antwort)));
     return antwort;
 }
@@ -239,10 +239,10 @@ std::optional<fs::path> Irrgang::wähleDatei()
 {
     // mostly the right file, else an import would hardly ever come to its end
     const auto* richtige = m_element == "cmdGetKernDat" ? U"Alt/kernDat.txt" : U"Alt/betreuungenDat.txt";
-    const auto wahl = m_zufall.trifft(80) ? std::u32string_view(richtige)
-                                          : m_zufall.eines<std::u32string_view>({U"Alt/kernDat.txt",
-                                                                                 U"Alt/betreuungenDat.txt", U"Alt/leer.txt",
-                                                                                 U"Tolvek7.ini", U"abbrechen"});
+    const auto wahl = m_zufall.trifft(80)
+                          ? std::u32string_view(richtige)
+                          : m_zufall.eines<std::u32string_view>({U"Alt/kernDat.txt", U"Alt/betreuungenDat.txt",
+                                                                 U"Alt/leer.txt", U"Tolvek7.ini", U"abbrechen"});
     m_mitschrift.schreibe("dateiwahl " + alsUtf8(wahl));
     return wahl == U"abbrechen" ? std::nullopt : std::optional(m_lauf.imProgramm(wahl));
 }

@@ -131,7 +131,8 @@ int main(int argc, char** argv)
         }
         return gut ? 0 : 1;
     } catch (const std::exception& fehler) {
-        std::cerr << fehler.what() << "\nirrgang [--oberfläche=ohne|qt|beide] [--saat S] [--schritte N] [--mitschrift DATEI]\n";
+        std::cerr << fehler.what()
+                  << "\nirrgang [--oberfläche=ohne|qt|beide] [--saat S] [--schritte N] [--mitschrift DATEI]\n";
         return 2;
     }
 }
