@@ -13,6 +13,8 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QStackedWidget>
+#include <QStyle>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -232,13 +234,28 @@ void Fensterwart::zeichneRahmen()
             m_fenster.setWindowState(m_rahmen.istMaximiert() ? Qt::WindowMaximized : Qt::WindowNoState);
         }
         if (!m_rahmen.istMaximiert() && m_rahmen.breite() > 0) {
+            const QSize rand = fensterrand();
             const QSize größe(alsPixel(m_rahmen.breite()), alsPixel(m_rahmen.höhe()));
-            const QSize platz = m_fenster.screen()->availableSize();
+            const QSize platz = m_fenster.screen()->availableSize() - rand;
             m_fenster.resize(größe.boundedTo(platz));
-            m_fenster.move(inDenSchirm({alsPixel(m_rahmen.links()), alsPixel(m_rahmen.oben())}, m_fenster.size()));
+            m_fenster.move(
+                inDenSchirm({alsPixel(m_rahmen.links()), alsPixel(m_rahmen.oben())}, m_fenster.size() + rand));
+        }
+        if (m_rahmen.istSichtbar() && !m_fenster.isVisible()) {
+            // by then the desktop has put its title bar on, and its real height counts
+            constexpr int bisDerRandDaIst = 300;
+            QTimer::singleShot(bisDerRandDaIst, &m_fenster, [this] { zeichneRahmen(); });
         }
         m_fenster.setVisible(m_rahmen.istSichtbar());
     });
+}
+
+/// What the desktop puts around the window, so that the bar with OK and Exit stays on a small screen; a title bar
+/// at least, until the window has its own.
+QSize Fensterwart::fensterrand() const
+{
+    const QSize geschätzt(0, m_fenster.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &m_fenster));
+    return (m_fenster.frameGeometry().size() - m_fenster.size()).expandedTo(geschätzt);
 }
 
 void Fensterwart::entlade(const Bildschirm& bildschirm)

@@ -45,6 +45,7 @@ private:
     void zeichneSeite(Bildschirm* bildschirm);
     void zeichneMenü(const Bildschirm* bildschirm);
     void zeichneRahmen();
+    QSize fensterrand() const;
     void platziereKind(const Platz& platz);
     void entlade(const Bildschirm& bildschirm);
     void gleicheFokusAb();
