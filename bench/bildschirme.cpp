@@ -12,6 +12,7 @@
 #include <QMainWindow>
 
 #include <ctime>
+#include <memory>
 
 namespace {
 
@@ -41,14 +42,20 @@ struct Lauf {
     {
         oberfläche.ordne();
         QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // as the event loop does in between
         oberfläche.rahmenfenster()->grab();
     }
 };
 
+/// Gone before the application is.
+std::unique_ptr<Lauf> einziger;
+
 Lauf& lauf()
 {
-    static Lauf einer;
-    return einer;
+    if (!einziger) {
+        einziger = std::make_unique<Lauf>();
+    }
+    return *einziger;
 }
 
 double prozessorzeit()
@@ -117,5 +124,6 @@ int main(int anzahl, char** werte)
     richteStilEin(programm);
     benchmark::Initialize(&anzahl, werte);
     benchmark::RunSpecifiedBenchmarks();
+    einziger.reset();
     return 0;
 }
