@@ -108,6 +108,8 @@ struct Formate {
     lxw_format* fettesDatum;
 };
 
+constexpr int zeilenJePause = 300;
+
 class Mappenschreiber {
 public:
     explicit Mappenschreiber(const std::filesystem::path& pfad) : m_pfad(pfad), m_ordner(pfad.parent_path().string())
@@ -132,7 +134,7 @@ public:
         }
     }
 
-    void schreibe(const Blatt& blatt)
+    void schreibe(const Blatt& blatt, const Zwischendurch& zwischendurch)
     {
         lxw_worksheet* ziel = workbook_add_worksheet(m_mappe, m_utf8.von(blatt.name()));
         if (ziel == nullptr) {
@@ -142,6 +144,9 @@ public:
         const int zeilen = std::max(blatt.zeilenanzahl(), blatt.letzteKommentarzeile());
         for (int zeile = 1; zeile <= zeilen; ++zeile) {
             schreibeZeile(blatt, ziel, zeile, breiten);
+            if (zwischendurch && zeile % zeilenJePause == 0) {
+                zwischendurch();
+            }
         }
         if (blatt.sindBreitenAngepasst()) {
             breiten.setze(ziel);
@@ -213,11 +218,11 @@ private:
 
 } // namespace
 
-void schreibeXlsx(const Arbeitsmappe& mappe, const std::filesystem::path& pfad)
+void schreibeXlsx(const Arbeitsmappe& mappe, const std::filesystem::path& pfad, const Zwischendurch& zwischendurch)
 {
     Mappenschreiber schreiber(pfad);
     for (std::size_t nummer = 1; nummer <= mappe.blattanzahl(); ++nummer) {
-        schreiber.schreibe(mappe.blatt(nummer));
+        schreiber.schreibe(mappe.blatt(nummer), zwischendurch);
     }
     schreiber.schließe();
 }

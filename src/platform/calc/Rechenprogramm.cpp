@@ -27,10 +27,10 @@ bool Rechenprogramm::istDa()
     return findeProgramm(libreOffice) || (findeProgramm(desktopÖffner) && kenntProgrammFürXlsx());
 }
 
-void Rechenprogramm::öffne(Arbeitsmappe& mappe)
+void Rechenprogramm::öffne(Arbeitsmappe& mappe, const Zwischendurch& zwischendurch)
 {
     auto ablage = std::make_unique<Zwischenablage>(dateiname);
-    schreibeXlsx(mappe, ablage->datei());
+    schreibeXlsx(mappe, ablage->datei(), zwischendurch);
     if (const auto programm = findeProgramm(libreOffice)) {
         std::vector<std::string> argumente = m_zusätze;
         argumente.emplace_back("-n");

@@ -21,7 +21,7 @@ public:
 
     bool istDa() override;
     /// Throws Laufzeitfehler when the file can't be written or the program can't be started.
-    void öffne(Arbeitsmappe& mappe) override;
+    void öffne(Arbeitsmappe& mappe, const Zwischendurch& zwischendurch = {}) override;
 
 private:
     std::vector<std::string> m_zusätze;

@@ -1,6 +1,11 @@
 #pragma once
 
+#include <functional>
+
 class Arbeitsmappe;
+
+/// Called now and then during work that takes seconds, so that the window can be painted.
+using Zwischendurch = std::function<void()>;
 
 /// A spreadsheet program of the desktop, as far as this program needs one.
 class Tabellenprogramm {
@@ -9,5 +14,5 @@ public:
     /// Whether one can be started.
     virtual bool istDa() = 0;
     /// Opens the workbook there as a new, unsaved document.
-    virtual void öffne(Arbeitsmappe& mappe) = 0;
+    virtual void öffne(Arbeitsmappe& mappe, const Zwischendurch& zwischendurch) = 0;
 };

@@ -187,7 +187,7 @@ bool QtUmgebung::findeTabellenprogramm()
 
 void QtUmgebung::übergibMappe(Arbeitsmappe& mappe)
 {
-    m_tabellenprogramm.öffne(mappe);
+    m_tabellenprogramm.öffne(mappe, [this] { zeichne(); });
 }
 
 Größe QtUmgebung::bildschirmgröße()

@@ -214,6 +214,18 @@ TEST(Mappenschreiber, kommentareSindVerstecktUndZeilenFett)
     EXPECT_NE(text.find("fo:font-weight=\"bold\""), std::string::npos);
 }
 
+TEST(Mappenschreiber, zwischendurchKommtDasFensterDran)
+{
+    const Calcversuch versuch;
+    Arbeitsmappe mappe;
+    for (int zeile = 1; zeile <= 1000; ++zeile) {
+        mappe.blatt(1).setze(zeile, 1, "x");
+    }
+    int pausen = 0;
+    schreibeXlsx(mappe, versuch.ordner / "a.xlsx", [&] { ++pausen; });
+    EXPECT_GE(pausen, 3);
+}
+
 TEST(Mappenschreiber, kommentarInEinerLeerenZeile)
 {
     const Calcversuch versuch;
