@@ -3,18 +3,6 @@
 #include "platform/text/Text.h"
 #include "store/moHelferlein.h"
 
-namespace {
-
-constexpr int feldNachname = 4;
-constexpr int feldVorname = 5;
-
-} // namespace
-
-std::string klientenname(std::string_view kernDS)
-{
-    return verbinde(getFeld(kernDS, feldNachname), ", "_t, getFeld(kernDS, feldVorname));
-}
-
 Betreuungsseite::Betreuungsseite(std::string_view name, std::string_view überschrift, Bildschirm& betreuung,
                                  std::string Arbeitskopie::*stück)
     : Bildschirm(name), lblHeader(überschrift), m_betreuung(betreuung), m_stück(stück)

@@ -45,6 +45,3 @@ private:
     std::string Arbeitskopie::*m_stück;
     bool m_istEingerichtet = false;
 };
-
-/// Surname and given name of a client record, as the care screens show them.
-std::string klientenname(std::string_view kernDS);

@@ -90,7 +90,7 @@ void frmBetrDiagnose::richteEin()
     const Arbeitskopie& kopie = zustand().arbeitskopie;
     setzeTitel(zustand().titel);
     lblHeader.setzeText("Diagnose und Konsum"_t);
-    lblName.setzeText(verbinde(getFeld(kopie.aktKernDS, 4), ", "_t, getFeld(kopie.aktKernDS, 5)));
+    lblName.setzeText(klientenname(kopie.aktKernDS));
     lblBetrBeg.setzeText(kopie.betrBeg);
     lblBetrEnd.setzeText(kopie.betrEnd);
     setzeRollbereich();

@@ -148,6 +148,13 @@ std::string felder(std::string_view zeile, int von, int bis)
     return ergebnis;
 }
 
+std::string klientenname(std::string_view kernDS)
+{
+    constexpr int feldNachname = 4;
+    constexpr int feldVorname = 5;
+    return verbinde(getFeld(kernDS, feldNachname), ", "_t, getFeld(kernDS, feldVorname));
+}
+
 bool vergleicheDatum(std::string_view a, std::string_view op, std::string_view b)
 {
     const auto ordnung = zerlegeDatum(a) <=> zerlegeDatum(b);

@@ -24,6 +24,8 @@ std::int16_t anzahlFelder(std::string_view zeile);
 std::string maskiereTrenner(std::string_view text);
 /// Fields 1 to n of the line, each followed by the delimiter, from `von` to `bis`.
 std::string felder(std::string_view zeile, int von, int bis);
+/// Surname and given name of a client record, as the screens of an episode show them.
+std::string klientenname(std::string_view kernDS);
 
 /// Compares two dates by year, month, day; operators ">", "<", ">=", "<="; any other yields false. A part
 /// that is no 16-bit number, or a fourth point, is a Laufzeitfehler.

@@ -41,7 +41,6 @@ public:
     std::string text() const override { return m_text; }
     void setzeText(std::string_view text);
     Rolle rolle() const { return m_rolle; }
-    void setzeRolle(Rolle rolle) { m_rolle = rolle; }
     /// A cover without a text has nothing to read out.
     bool nimmtFokus() const override { return m_rolle != Rolle::Decke || !m_text.empty(); }
     bool taste(const Taste& taste) override;
