@@ -38,4 +38,4 @@ bench: bauen
 	werkzeug/messen.sh
 
 format:
-	git ls-files '*.h' '*.cpp' | xargs clang-format -i
+	git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format -i

@@ -5,7 +5,7 @@
 #include "Messumgebung.h"
 
 #include "app/moMain.h"
-#include "platform/qt/QtOberfläche.h"
+#include "platform/qt/QtOberflaeche.h"
 #include "platform/qt/Stil.h"
 
 #include <QApplication>

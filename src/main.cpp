@@ -1,6 +1,6 @@
 #include "app/moMain.h"
 #include "platform/calc/Rechenprogramm.h"
-#include "platform/qt/QtOberfläche.h"
+#include "platform/qt/QtOberflaeche.h"
 #include "platform/qt/QtUmgebung.h"
 #include "platform/qt/Stil.h"
 

@@ -6,6 +6,6 @@ cd "$(dirname "$0")/.."
 rm -rf build/demo demo
 build/bin/musterdaten build/demo --klienten 200 --episoden-je 3 --saat 1
 for thema in hell dunkel; do
-    build/bin/vorfuehrung demo "$thema" tests/vorführung/*.szenario
+    build/bin/vorfuehrung demo "$thema" tests/vorfuehrung/*.szenario
 done
 echo "The pictures lie in demo/ ($(find demo -name '*.png' | wc -l) of them)."

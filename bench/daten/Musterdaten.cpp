@@ -7,7 +7,7 @@
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Datum.h"
 #include "platform/text/Text.h"
-#include "store/Satzaufbau.h"
+#include "satz/Satzaufbau.h"
 
 #include <array>
 #include <string_view>

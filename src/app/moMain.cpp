@@ -6,7 +6,7 @@
 #include "platform/dateien/Dateien.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "spreadsheet/moVariablen.h"
-#include "store/Satzaufbau.h"
+#include "satz/Satzaufbau.h"
 #include "store/moBereinigeBetrOA.h"
 #include "store/moBereinigeDatum.h"
 

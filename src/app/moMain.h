@@ -2,7 +2,7 @@
 
 #include "app/MDIfrm.h"
 #include "app/moExtras.h"
-#include "clients/frmHauptmenü.h"
+#include "clients/frmHauptmenue.h"
 #include "zustand/Zustand.h"
 
 #include <memory>

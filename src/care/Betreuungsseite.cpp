@@ -1,7 +1,7 @@
 #include "care/Betreuungsseite.h"
 
 #include "platform/text/Text.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 
 Betreuungsseite::Betreuungsseite(std::string_view name, std::string_view überschrift, Bildschirm& betreuung,
                                  std::string Arbeitskopie::*stück)

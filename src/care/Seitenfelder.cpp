@@ -2,7 +2,8 @@
 
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
+#include "zustand/Comboregeln.h"
 
 #include <utility>
 

@@ -3,7 +3,7 @@
 #include "platform/elemente/Elemente.h"
 #include "platform/elemente/Elementreihe.h"
 #include "platform/elemente/triCtlJaNein.h"
-#include "store/Wertelisten.h"
+#include "satz/Wertelisten.h"
 
 #include <string>
 #include <string_view>

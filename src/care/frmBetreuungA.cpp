@@ -5,7 +5,7 @@
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "store/Tabellen.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>

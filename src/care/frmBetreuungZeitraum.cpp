@@ -1,7 +1,7 @@
 #include "care/frmBetreuungZeitraum.h"
 
 #include "platform/text/Text.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
 frmBetreuungZeitraum::frmBetreuungZeitraum() : Bildschirm("frmBetreuungZeitraum"_t)

@@ -2,7 +2,7 @@
 
 #include "platform/text/Text.h"
 #include "store/Tabellen.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "clients/frmMemo.h"
 
 #include "platform/text/Zahl.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>

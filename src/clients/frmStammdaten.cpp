@@ -3,8 +3,8 @@
 #include "platform/text/Zahl.h"
 #include "store/Tabellen.h"
 #include "store/Tabellenleser.h"
-#include "store/Wertelisten.h"
-#include "store/moHelferlein.h"
+#include "satz/Wertelisten.h"
+#include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "diagnosis/moData.h"
-#include "store/Satzaufbau.h"
+#include "satz/Satzaufbau.h"
 
 #include <cstdint>
 #include <string>

@@ -2,8 +2,8 @@
 
 #include "diagnosis/Diagnosesatz.h"
 #include "diagnosis/WeitereDiagnosen.h"
-#include "store/Wertelisten.h"
-#include "store/moHelferlein.h"
+#include "satz/Wertelisten.h"
+#include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>

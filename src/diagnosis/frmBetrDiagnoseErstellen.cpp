@@ -3,8 +3,9 @@
 #include "diagnosis/Diagnosesatz.h"
 #include "diagnosis/frmBetrDiagnose.h"
 #include "platform/text/Zahl.h"
-#include "store/Wertelisten.h"
-#include "store/moHelferlein.h"
+#include "satz/Wertelisten.h"
+#include "satz/moHelferlein.h"
+#include "zustand/Comboregeln.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>

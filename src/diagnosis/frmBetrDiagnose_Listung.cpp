@@ -2,7 +2,7 @@
 
 #include "diagnosis/Diagnosesatz.h"
 #include "diagnosis/frmBetrDiagnose.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>

@@ -1,12 +1,12 @@
 #include "export/Exportlauf.h"
 
-#include "export/Datumsprüfung.h"
+#include "export/Datumspruefung.h"
 #include "export/Diagnosezeile.h"
 #include "export/Kernzeile.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "store/Tabellen.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/Wertelisten.h"
+#include "satz/Wertelisten.h"
 
 #include "platform/text/Text.h"
 

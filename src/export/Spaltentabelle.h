@@ -1,7 +1,7 @@
 #pragma once
 
 #include "export/Exportspalte.h"
-#include "store/Satzaufbau.h"
+#include "satz/Satzaufbau.h"
 
 #include <functional>
 #include <vector>

@@ -4,7 +4,7 @@
 #include "export/moNationen.h"
 #include "platform/text/Datum.h"
 #include "platform/text/Zahl.h"
-#include "store/Satzaufbau.h"
+#include "satz/Satzaufbau.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "import/Eingabedatei.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 
 #include <string>
 #include <unordered_map>

@@ -3,7 +3,8 @@
 #include "export/Satzsicht.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
+#include "zustand/Zustand.h"
 
 #include <algorithm>
 #include <array>

@@ -4,7 +4,7 @@
 #include "platform/Ressourcen.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
-#include "store/Satzaufbau.h"
+#include "satz/Satzaufbau.h"
 
 #include <algorithm>
 #include <array>

@@ -5,7 +5,7 @@
 #include "platform/text/Datum.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 
 #include <string>
 #include <unordered_map>

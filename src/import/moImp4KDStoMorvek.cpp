@@ -4,8 +4,8 @@
 #include "import/Eingabedatei.h"
 #include "import/Satzbau.h"
 #include "import/moAnweisungen.h"
-#include "store/Wertelisten.h"
-#include "store/moHelferlein.h"
+#include "satz/Wertelisten.h"
+#include "satz/moHelferlein.h"
 
 #include <string>
 #include <unordered_map>

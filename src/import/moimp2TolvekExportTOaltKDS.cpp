@@ -6,7 +6,7 @@
 #include "import/Instruktionsdatei.h"
 #include "platform/text/Datum.h"
 #include "platform/text/Zahl.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 
 #include <algorithm>
 #include <array>

@@ -6,8 +6,8 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/Satzaufbau.h"
-#include "store/moHelferlein.h"
+#include "satz/Satzaufbau.h"
+#include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
 #include <cstdint>

@@ -3,7 +3,7 @@
 #include "platform/dateien/Dateien.h"
 #include "platform/dateien/Zeilen.h"
 #include "platform/text/Text.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>

@@ -4,8 +4,9 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "spreadsheet/moVariablen.h"
-#include "store/Satzaufbau.h"
-#include "store/moHelferlein.h"
+#include "satz/Satzaufbau.h"
+#include "satz/moHelferlein.h"
+#include "zustand/Zustand.h"
 
 #include <cstddef>
 #include <map>

@@ -6,7 +6,7 @@
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "store/Reparatur.h"
 #include "store/Tabellenleser.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
 #include <unordered_map>

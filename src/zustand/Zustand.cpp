@@ -51,3 +51,9 @@ Antwort zeigeMeldung(std::string_view text, Symbol symbol, Knöpfe knöpfe, Antw
 {
     return zustand().umgebung.zeigeMeldung({std::string(text), symbol, knöpfe, vorgabe, zustand().titel});
 }
+
+std::string ladeResText(int nummer)
+{
+    const auto* text = zustand().ressourcen.finde(nummer);
+    return text == nullptr ? std::string("<leer>") : *text;
+}

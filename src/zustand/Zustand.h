@@ -110,3 +110,5 @@ private:
 Antwort zeigeMeldung(std::string_view text, Symbol symbol = Symbol::Keins, Knöpfe knöpfe = Knöpfe::OK);
 /// The same with a default button of its own.
 Antwort zeigeMeldung(std::string_view text, Symbol symbol, Knöpfe knöpfe, Antwort vorgabe);
+/// The string resource; "<leer>" when there is none.
+std::string ladeResText(int nummer);

@@ -37,16 +37,17 @@ dateien() {
 
 # What each folder may include, as the link graph has it (its own folder always).
 erlaubt() {
-    local unten="platform zustand store diagnosis"
+    local unten="platform satz zustand store diagnosis"
     case $1 in
         main) echo "$unten care export import spreadsheet clients app platform/qt platform/calc" ;;
         app) echo "$unten care export import spreadsheet clients" ;;
         clients) echo "$unten care export import spreadsheet" ;;
         import) echo "$unten export" ;;
         care | export | spreadsheet) echo "$unten" ;;
-        diagnosis) echo "platform zustand store" ;;
-        store) echo "platform zustand" ;;
-        zustand | platform/qt | platform/calc) echo "platform" ;;
+        diagnosis) echo "platform satz zustand store" ;;
+        store) echo "platform satz zustand" ;;
+        zustand) echo "platform satz" ;;
+        satz | platform/qt | platform/calc) echo "platform" ;;
         platform) echo "" ;;
         *) echo "?" ;;
     esac
@@ -82,8 +83,26 @@ sauber() {
     done < <(grep -rnE '[[:blank:]]$|	' --include='*.h' --include='*.cpp' --include='*.md' --include='CMakeLists.txt' src tests bench docs cmake 2>/dev/null)
 }
 
+# Checkouts on other systems, archives and half of all tools stumble over file names beyond ASCII, and over two that
+# differ by case alone.
+namen() {
+    while IFS= read -r -d '' name; do
+        case $name in
+            *[!\ -~]*) melde "rename it, file names are ASCII (ae, oe, ue, ss): $name" ;;
+        esac
+    done < <(dateiliste)
+    while IFS= read -r name; do
+        melde "rename one of them, they differ by case alone: $name"
+    done < <(dateiliste | tr '\0' '\n' | tr '[:upper:]' '[:lower:]' | sort | uniq -d)
+}
+
+# Files of the project, each ended by a zero byte; without version control, what lies there.
+dateiliste() {
+    git ls-files -z 2>/dev/null || find . -type f ! -path './build/*' ! -path './bau/*' -print0
+}
+
 case $regel in
-    toolkit | dateien | pfeile | allein | sauber) $regel ;;
+    toolkit | dateien | pfeile | allein | sauber | namen) $regel ;;
     *) echo "unknown rule $regel"; exit 2 ;;
 esac
 exit $fehler

@@ -1,7 +1,7 @@
 #include "care/Arbeitssatz.h"
 
 #include "platform/text/Text.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 
 #include <gtest/gtest.h>
 

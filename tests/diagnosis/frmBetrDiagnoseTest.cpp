@@ -2,7 +2,7 @@
 #include "app/moExtras.h"
 #include "diagnosis/Diagnosesatz.h"
 #include "hilfen/Testumgebung.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "diagnosis/moData.h"
 #include "platform/text/Text.h"
-#include "store/Satzaufbau.h"
+#include "satz/Satzaufbau.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "export/Diagnosezeile.h"
-#include "export/Exportsätze.h"
+#include "export/Exportsaetze.h"
 #include "hilfen/Testumgebung.h"
 
 #include "diagnosis/moData.h"

@@ -1,8 +1,8 @@
 #include "export/Exportlauf.h"
-#include "export/Datumsprüfung.h"
-#include "export/Exportsätze.h"
+#include "export/Datumspruefung.h"
+#include "export/Exportsaetze.h"
 #include "export/ZeilenweiserExport.h"
-#include "hilfen/Störzugriff.h"
+#include "hilfen/Stoerzugriff.h"
 #include "hilfen/Testumgebung.h"
 
 #include "diagnosis/moData.h"

@@ -1,6 +1,6 @@
 #include "export/Kernzeile.h"
 #include "export/Diagnosezeile.h"
-#include "export/Exportsätze.h"
+#include "export/Exportsaetze.h"
 #include "hilfen/Testumgebung.h"
 #include "hilfen/Textdatei.h"
 #include "platform/umgebung/Laufzeitfehler.h"

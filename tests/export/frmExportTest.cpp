@@ -1,5 +1,5 @@
 #include "export/frmExport.h"
-#include "export/Exportsätze.h"
+#include "export/Exportsaetze.h"
 #include "hilfen/Testumgebung.h"
 
 #include "diagnosis/moData.h"

@@ -2,7 +2,7 @@
 #include "hilfen/Testumgebung.h"
 
 #include "platform/Ressourcen.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 
 #include <set>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "hilfen/Altdaten.h"
-#include "hilfen/Störzugriff.h"
+#include "hilfen/Stoerzugriff.h"
 #include "hilfen/Testumgebung.h"
 #include "import/Importlauf.h"
 #include "import/moAnweisungen.h"

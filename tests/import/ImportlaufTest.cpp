@@ -3,7 +3,7 @@
 #include "import/Importfall.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "store/Tabellen.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 
 namespace {
 

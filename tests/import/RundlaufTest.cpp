@@ -4,8 +4,8 @@
 #include "import/moImp4KDStoMorvek.h"
 #include "platform/text/Datum.h"
 #include "platform/text/Zahl.h"
-#include "store/Satzaufbau.h"
-#include "store/moHelferlein.h"
+#include "satz/Satzaufbau.h"
+#include "satz/moHelferlein.h"
 
 #include <map>
 

@@ -7,7 +7,7 @@
 #include "import/moimp2TolvekExportTOaltKDS.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 
 #include <algorithm>
 

@@ -5,7 +5,8 @@
 
 #include "diagnosis/moData.h"
 #include "export/moNationen.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
+#include "zustand/Zustand.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "Zufall.h"
 
-#include "oberfläche/Oberfläche.h"
+#include "oberflaeche/Oberflaeche.h"
 
 #include <optional>
 #include <string>

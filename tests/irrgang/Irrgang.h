@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Aenderungsregeln.h"
 #include "Mitschrift.h"
 #include "Tabellenstand.h"
 #include "Zufall.h"
-#include "Änderungsregeln.h"
 
 #include "ablauf/Lauf.h"
 

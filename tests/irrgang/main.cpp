@@ -1,9 +1,9 @@
 #include "Irrgang.h"
 
-#include "oberfläche/OberflächeOhne.h"
+#include "oberflaeche/OberflaecheOhne.h"
 
 #ifdef SZENARIO_QT
-#include "oberfläche/OberflächeQt.h"
+#include "oberflaeche/OberflaecheQt.h"
 #endif
 
 #include <charconv>

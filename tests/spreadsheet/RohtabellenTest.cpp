@@ -1,6 +1,6 @@
 #include "spreadsheet/Mappenlauf.h"
 
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 
 namespace {
 

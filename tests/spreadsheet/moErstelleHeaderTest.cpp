@@ -4,7 +4,7 @@
 #include "hilfen/Abnahme.h"
 #include "hilfen/Testumgebung.h"
 #include "spreadsheet/moVariablen.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 
 namespace {
 

@@ -2,7 +2,8 @@
 
 #include "hilfen/Testumgebung.h"
 #include "hilfen/Textdatei.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
+#include "zustand/Zustand.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "hilfen/Störzugriff.h"
+#include "hilfen/Stoerzugriff.h"
 #include "hilfen/Testumgebung.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "store/Tabellen.h"

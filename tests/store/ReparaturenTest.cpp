@@ -2,7 +2,7 @@
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "store/moBereinigeBetrOA.h"
 #include "store/moBereinigeDatum.h"
-#include "store/moHelferlein.h"
+#include "satz/moHelferlein.h"
 
 namespace {
 

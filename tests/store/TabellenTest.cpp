@@ -1,8 +1,8 @@
 #include "store/Tabellen.h"
 #include "hilfen/Testumgebung.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/Satzaufbau.h"
-#include "store/moHelferlein.h"
+#include "satz/Satzaufbau.h"
+#include "satz/moHelferlein.h"
 
 #include <random>
 

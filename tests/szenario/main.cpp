@@ -1,10 +1,10 @@
 #include "Befehlszeile.h"
-#include "ablauf/Ausführung.h"
-#include "oberfläche/OberflächeOhne.h"
+#include "ablauf/Ausfuehrung.h"
+#include "oberflaeche/OberflaecheOhne.h"
 #include "sprache/Szenariodatei.h"
 
 #ifdef SZENARIO_QT
-#include "oberfläche/OberflächeQt.h"
+#include "oberflaeche/OberflaecheQt.h"
 #endif
 
 #include <clocale>

@@ -9,7 +9,7 @@
 #include "platform/qt/Datumsbox.h"
 #include "platform/qt/Einfaches.h"
 #include "platform/qt/Etikett.h"
-#include "platform/qt/Knöpfe.h"
+#include "platform/qt/Knoepfe.h"
 #include "platform/qt/Listenansicht.h"
 #include "platform/qt/Textbox.h"
 

@@ -1,6 +1,6 @@
 #include "platform/qt/Fensterwart.h"
 
-#include "platform/qt/Maß.h"
+#include "platform/qt/Mass.h"
 #include "platform/qt/Seitenbau.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Tabelle.h"

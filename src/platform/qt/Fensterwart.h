@@ -4,7 +4,7 @@
 #include "platform/bildschirm/Bildschirmfolge.h"
 #include "platform/bildschirm/Rahmen.h"
 #include "platform/qt/Ansicht.h"
-#include "platform/qt/Eingabewächter.h"
+#include "platform/qt/Eingabewaechter.h"
 #include "platform/qt/Fenster.h"
 
 #include <QPointer>

@@ -3,7 +3,7 @@
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Elementzeichner.h"
 #include "platform/qt/Etikett.h"
-#include "platform/qt/Maß.h"
+#include "platform/qt/Mass.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 

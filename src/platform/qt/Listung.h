@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/bildschirm/Anordnung.h"
-#include "platform/qt/Flächen.h"
+#include "platform/qt/Flaechen.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #include "platform/qt/QtUmgebung.h"
 
 #include "platform/mappe/Tabellenprogramm.h"
-#include "platform/qt/Maß.h"
+#include "platform/qt/Mass.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 

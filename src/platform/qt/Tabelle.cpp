@@ -5,7 +5,7 @@
 #include "platform/qt/Auswahlbox.h"
 #include "platform/qt/Elementzeichner.h"
 #include "platform/qt/Etikett.h"
-#include "platform/qt/Knöpfe.h"
+#include "platform/qt/Knoepfe.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 

@@ -5,7 +5,7 @@
 #include "platform/bildschirm/Ablauf.h"
 #include "platform/bildschirm/Bildschirm.h"
 #include "platform/bildschirm/Rahmen.h"
-#include "platform/qt/QtOberfläche.h"
+#include "platform/qt/QtOberflaeche.h"
 
 #include <QKeyEvent>
 #include <QMainWindow>

@@ -7,7 +7,7 @@
 #include "platform/text/Datum.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
-#include "store/Satzaufbau.h"
+#include "satz/Satzaufbau.h"
 
 #include <algorithm>
 

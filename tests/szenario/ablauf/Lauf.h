@@ -1,6 +1,6 @@
 #pragma once
 
-#include "oberfläche/Oberfläche.h"
+#include "oberflaeche/Oberflaeche.h"
 #include "sprache/Szenariodatei.h"
 #include "umgebung/Szenarioumgebung.h"
 #include "umgebung/Wegwerfordner.h"

@@ -1,6 +1,6 @@
 #include "sprache/Szenariodatei.h"
 
-#include "sprache/Argumentprüfung.h"
+#include "sprache/Argumentpruefung.h"
 #include "sprache/Unicode.h"
 #include "sprache/Zerlegung.h"
 

@@ -1,0 +1,194 @@
+#include "clients/frmHauptmenue.h"
+
+#include "platform/text/Zahl.h"
+#include "store/Tabellen.h"
+#include "satz/moHelferlein.h"
+#include "zustand/Zustand.h"
+
+#include <limits>
+#include <optional>
+
+// The commands of the main menu.
+
+namespace {
+
+constexpr int feldBetrao = 3;
+
+void meldeNichtsVerändert(Symbol symbol = Symbol::Keins)
+{
+    zeigeMeldung("Nichts wurde verändert"_t, symbol);
+}
+
+/// The number behind the highest one. The tables compare keys as 16-bit numbers, so a higher one could be
+/// written but never be read again.
+std::optional<std::int32_t> nächsteNummer(std::int32_t höchste)
+{
+    if (höchste >= std::numeric_limits<std::int16_t>::max()) {
+        zeigeMeldung("Es kann keine weitere Nummer vergeben werden, nichts wird verändert"_t);
+        return std::nullopt;
+    }
+    return höchste + 1;
+}
+
+bool nimmtVerlustDesImportsHin()
+{
+    return zeigeMeldung(
+               "Durch die Anlage eines Klienten in die Datenbank verlieren Sie die Möglichkeit, die Daten aus dem "
+               "'alten' Tolvek automatisch zu übernehmen.\r\nWollen Sie fortfahren ?"_t,
+               Symbol::Warnung, Knöpfe::JaNein, Antwort::Nein) == Antwort::Ja;
+}
+
+} // namespace
+
+void frmHauptmenü::fügeKlientenHinzu()
+{
+    if (lvwKlienten.istLeer() && !nimmtVerlustDesImportsHin()) {
+        meldeNichtsVerändert();
+        return;
+    }
+    if (const auto kernID = nächsteNummer(höchsteKernID())) {
+        zeigeStammdaten(*kernID, true);
+    }
+}
+
+void frmHauptmenü::bearbeiteKlienten()
+{
+    if (lvwKlienten.auswahl() == 0) {
+        zeigeMeldung("Es gibt keinen Klienten, der bearbeitet werden könnte, nichts wird verändert"_t, Symbol::Info);
+        return;
+    }
+    zeigeStammdaten(zustand().aktKernID, false);
+}
+
+void frmHauptmenü::zeigeStammdaten(std::int32_t kernID, bool istNeu)
+{
+    auto& stammdaten = m_stammdaten.neu(*this);
+    stammdaten.kernID = kernID;
+    stammdaten.istNeu = istNeu;
+    stammdaten.istErsterAufruf = true;
+    zustand().folge.verberge(*this);
+    zustand().folge.zeige(stammdaten);
+}
+
+void frmHauptmenü::löscheKlienten()
+{
+    if (lvwKlienten.auswahl() == 0) {
+        zeigeMeldung("Es sind keine Klienten angelegt"_t);
+        return;
+    }
+    // after arrow keys the care list may still show the neighbour, whose episodes must not go
+    beiKlientenKlick();
+    const auto antwort = zeigeMeldung(verbinde("Soll der Klient: "_t, lvwKlienten.zelle(lvwKlienten.auswahl(), 1),
+                                               "\r\nund alle seine Betreuungen wirklich gelöscht werden ?"_t),
+                                      Symbol::Frage, Knöpfe::OKAbbrechen);
+    if (antwort != Antwort::OK) {
+        meldeNichtsVerändert(Symbol::Info);
+        return;
+    }
+    löscheGewähltenKlienten();
+}
+
+void frmHauptmenü::löscheGewähltenKlienten()
+{
+    for (std::size_t nummer = 1; nummer <= lvwBetreuungen.anzahl(); ++nummer) {
+        const auto betrID = betrIDIn(nummer);
+        löscheBetrDS(zustand().aktKernID, betrID);
+        löscheDiagDS(zustand().aktKernID, betrID);
+    }
+    löscheKernDS(gewählteKernID());
+    zustand().aktKernID = 0;
+    leseListen();
+}
+
+void frmHauptmenü::fügeBetreuungHinzu()
+{
+    if (lvwKlienten.auswahl() == 0) {
+        zeigeMeldung("Bitte zuerst einen Klienten anlegen"_t, Symbol::Info);
+        return;
+    }
+    if (const auto betrID = nächsteNummer(höchsteBetrID(zustand().aktKernID))) {
+        zeigeBetreuung(*betrID, true);
+    }
+}
+
+void frmHauptmenü::bearbeiteBetreuung()
+{
+    if (lvwBetreuungen.auswahl() == 0) {
+        zeigeMeldung("Es gibt keine Betreuung, die bearbeitet werden könnte, nichts wird verändert"_t, Symbol::Info);
+        return;
+    }
+    zeigeBetreuung(gewählteBetrID(), false);
+}
+
+void frmHauptmenü::zeigeBetreuung(std::int32_t betrID, bool istNeu)
+{
+    auto& betreuung = m_betreuung.neu(*this);
+    betreuung.kernID = zustand().aktKernID;
+    betreuung.betrID = betrID;
+    betreuung.istNeu = istNeu;
+    betreuung.datenLaden = true;
+    betreuung.zeitraumGesetzt = !istNeu;
+    betreuung.startMitZeitraum = istNeu;
+    zustand().folge.verberge(*this);
+    zustand().folge.zeige(betreuung);
+}
+
+void frmHauptmenü::löscheBetreuung()
+{
+    if (lvwBetreuungen.auswahl() == 0) {
+        zeigeMeldung("Es gibt keine zu löschende Betreuung, nichts wird verändert"_t, Symbol::Info);
+        return;
+    }
+    const auto kernID = zustand().aktKernID;
+    const auto betrID = gewählteBetrID();
+    const auto antwort = zeigeMeldung(verbinde("Soll Betreuung kernID: "_t, alsText(kernID), " betrID: "_t,
+                                               alsText(betrID), " wirklich gelöscht werden ?"_t),
+                                      Symbol::Frage, Knöpfe::OKAbbrechen);
+    if (antwort != Antwort::OK) {
+        meldeNichtsVerändert();
+        return;
+    }
+    löscheBetrDS(kernID, betrID);
+    löscheDiagDS(kernID, betrID);
+    ersetzeKernDS(kernID, ersetzeFeld(getKernDS(kernID), feldBetrao, betrStatusVon(alsText(kernID))));
+    leseListen();
+}
+
+void frmHauptmenü::verwerfeEingaben()
+{
+    const auto antwort =
+        zeigeMeldung("Wollen Sie wirklich die Eingaben dieser Sitzung verwerfen und die Datenbank auf den "
+                     "Zustand zurücksetzen, auf dem sie vor ihrem Aufruf war ?"_t,
+                     Symbol::Frage, Knöpfe::JaNein, Antwort::Nein);
+    if (antwort != Antwort::Ja) {
+        meldeNichtsVerändert();
+        return;
+    }
+    verwerfeSitzung();
+    leseListen();
+}
+
+void frmHauptmenü::zeigeExport()
+{
+    zustand().folge.sperre(*this);
+    zustand().folge.zeige(m_export.neu(*this));
+}
+
+void frmHauptmenü::zeigeExcel()
+{
+    zustand().folge.entlade(*this);
+    zustand().folge.zeige(m_excel.neu(*this));
+}
+
+void frmHauptmenü::zeigeInfo()
+{
+    // the menu stays in use meanwhile, so the window may be there already
+    const bool istOffen = m_info.da() != nullptr && zustand().folge.istGeladen(*m_info.da());
+    zustand().folge.zeige(istOffen ? *m_info.da() : m_info.neu());
+}
+
+void frmHauptmenü::beende()
+{
+    zustand().folge.entlade(*this);
+    m_aufräumen();
+}

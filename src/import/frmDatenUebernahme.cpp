@@ -1,0 +1,145 @@
+#include "import/frmDatenUebernahme.h"
+
+#include "platform/dateien/Dateien.h"
+#include "platform/text/Eingabe.h"
+#include "platform/text/Zahl.h"
+#include "platform/umgebung/Laufzeitfehler.h"
+#include "zustand/Zustand.h"
+
+namespace {
+
+constexpr int höchsterFortschritt = 6;
+constexpr auto bereit = "Bereit"_t;
+
+std::filesystem::path pfadAus(std::string_view text)
+{
+    const auto utf8 = alsUtf8(text);
+    return std::u8string(utf8.begin(), utf8.end());
+}
+
+} // namespace
+
+frmDatenÜbernahme::frmDatenÜbernahme(Bildschirm& hauptmenü) : Bildschirm("frmDatenÜbernahme"_t), m_hauptmenü(hauptmenü)
+{
+    using namespace anordnung;
+    setzeTitel("Datenübernahme"_t);
+    benenne("lblHeader"_t, lblHeader);
+    benenne("tbKernDatAlt"_t, tbKernDatAlt);
+    benenne("cmdGetKernDat"_t, cmdGetKernDat);
+    benenne("tbBetrDatAlt"_t, tbBetrDatAlt);
+    benenne("cmdGetBetreuungenDat"_t, cmdGetBetreuungenDat);
+    benenne("cmdBeiDerArbeit"_t, cmdBeiDerArbeit);
+    benenne("lblStatus"_t, lblStatus);
+    benenne("ProgressBar1"_t, ProgressBar1);
+    benenne("cmdOK"_t, cmdOK);
+    benenne("cmdExit"_t, cmdExit);
+    kopfband.titel = &lblHeader;
+    aufbau = breit(karte({}, spalte({
+                                 zeile({füllend(element(tbKernDatAlt)), element(cmdGetKernDat, 9)}),
+                                 zeile({füllend(element(tbBetrDatAlt)), element(cmdGetBetreuungenDat, 9)}),
+                                 platzhaltend(element(cmdBeiDerArbeit)),
+                                 element(lblStatus),
+                                 element(ProgressBar1),
+                             })),
+                   44);
+    leiste.rechts = {&cmdOK, &cmdExit};
+    beiEscape = &cmdExit;
+
+    ProgressBar1.setzeBereich(0, höchsterFortschritt);
+    ProgressBar1.setzeWert(höchsterFortschritt);
+    cmdBeiDerArbeit.verberge();
+    cmdGetKernDat.beiKlick = [this] { wähle(tbKernDatAlt, m_kernDatAlt); };
+    cmdGetBetreuungenDat.beiKlick = [this] { wähle(tbBetrDatAlt, m_betrDatAlt); };
+    cmdOK.beiKlick = [this] { beiOK(); };
+    cmdExit.beiKlick = [this] { beiExit(); };
+}
+
+void frmDatenÜbernahme::beiAktivierung()
+{
+    if (!m_eingerichtet) {
+        m_eingerichtet = true;
+        zustand().wechsel->setzeFensterPosition(*this);
+    }
+}
+
+void frmDatenÜbernahme::beiEntladen()
+{
+    zustand().importKernPfad = tbKernDatAlt.text();
+    zustand().importBetrPfad = tbBetrDatAlt.text();
+    zustand().wechsel->speichereRahmenlage(*this);
+}
+
+void frmDatenÜbernahme::wähle(Textfeld& ziel, std::filesystem::path& gewählt)
+{
+    constexpr int dateiMussDaSein = 528388; // and the read-only box is hidden
+    const auto anfang = m_ordner.empty() ? zustand().pfade.programm : m_ordner;
+    const auto pfad = zustand().umgebung.wähleDatei(
+        {anfang, std::string("Text-Dateien (*.txt)|*.txt|alle Dateien (*.*)|*.*"_t), dateiMussDaSein});
+    if (pfad) {
+        m_ordner = pfad->parent_path();
+        gewählt = *pfad;
+        ziel.setzeText(pfadtext(*pfad));
+    }
+}
+
+std::filesystem::path frmDatenÜbernahme::pfadIn(const Textfeld& feld, const std::filesystem::path& gewählt) const
+{
+    // a chosen path may hold characters that the box can't show
+    const auto pfad = pfadtext(gewählt) == feld.text() ? gewählt : pfadAus(feld.text());
+    return zustand().pfade.programm / pfad;
+}
+
+void frmDatenÜbernahme::beiOK()
+{
+    if (tbKernDatAlt.text().empty() || tbBetrDatAlt.text().empty()) {
+        zeigeMeldung("Bitte zunächst kernDat.txt und betreuungenDat.txt aussuchen"_t);
+        return;
+    }
+    Importlauf lauf(pfadIn(tbKernDatAlt, m_kernDatAlt), pfadIn(tbBetrDatAlt, m_betrDatAlt));
+    lauf.beiSchritt = [this](std::string_view was, int schritt) { melde(was, schritt); };
+    lauf.nachSchritt = [this] { lblStatus.setzeText(bereit); };
+    ProgressBar1.setzeWert(0);
+    cmdBeiDerArbeit.zeige();
+    try {
+        importiere(lauf);
+    } catch (const Laufzeitfehler&) {
+        lauf.verwirf();
+        zeigeFehlschlag();
+    }
+}
+
+void frmDatenÜbernahme::importiere(Importlauf& lauf)
+{
+    const auto zahlen = lauf.führeAus();
+    cmdOK.sperre();
+    cmdBeiDerArbeit.verberge();
+    lblStatus.setzeText(verbinde("Import erfolgreich. #Klienten: "_t, std::to_string(zahlen.klienten),
+                                 ", #Betreuungen: "_t, std::to_string(zahlen.betreuungen)));
+}
+
+void frmDatenÜbernahme::melde(std::string_view status, int fortschritt)
+{
+    lblStatus.setzeText(status);
+    ProgressBar1.setzeWert(fortschritt);
+    zustand().umgebung.zeichne();
+}
+
+void frmDatenÜbernahme::zeigeFehlschlag()
+{
+    cmdBeiDerArbeit.verberge();
+    zeigeMeldung("Bei der Übernahme der Daten trat ein Fehler auf.\r"
+                 "Bitte überprüfen Sie, ob sie die richtigen Daten für die Übernahme ausgewählt haben.\r"
+                 "Es wurden keine Daten übernommen."_t,
+                 Symbol::Stop);
+    cmdOK.gibFrei();
+    ProgressBar1.setzeWert(höchsterFortschritt);
+    lblStatus.setzeText(bereit);
+}
+
+void frmDatenÜbernahme::beiExit()
+{
+    zustand().folge.verberge(*this);
+    zustand().folge.zeige(m_hauptmenü);
+    zustand().folge.gibFrei(m_hauptmenü);
+    zustand().folge.entlade(*this);
+}

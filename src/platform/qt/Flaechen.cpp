@@ -1,0 +1,202 @@
+#include "platform/qt/Flaechen.h"
+
+#include "platform/qt/Stil.h"
+
+#include <QEvent>
+
+#include <algorithm>
+#include <numeric>
+
+void Handfläche::resizeEvent(QResizeEvent* /*ereignis*/)
+{
+    ordne();
+    updateGeometry(); // the height may follow the width
+}
+
+void Handfläche::showEvent(QShowEvent* /*ereignis*/)
+{
+    updateGeometry(); // nobody was told of what changed while it was hidden
+}
+
+bool Handfläche::event(QEvent* ereignis)
+{
+    if (ereignis->type() == QEvent::LayoutRequest) {
+        ordne();
+        updateGeometry();
+    }
+    return QWidget::event(ereignis);
+}
+
+void Deckfläche::setze(QWidget& darunter, QWidget& decke)
+{
+    m_darunter = &darunter;
+    m_decke = &decke;
+    m_decke->raise();
+    m_decke->installEventFilter(this);
+    setSizePolicy(m_darunter->sizePolicy());
+    gleicheAb();
+}
+
+bool Deckfläche::eventFilter(QObject* objekt, QEvent* ereignis)
+{
+    if (objekt == m_decke && (ereignis->type() == QEvent::ShowToParent || ereignis->type() == QEvent::HideToParent)) {
+        gleicheAb();
+    }
+    return false;
+}
+
+void Deckfläche::gleicheAb()
+{
+    m_darunter->setEnabled(m_decke->isHidden());
+}
+
+QSize Deckfläche::sizeHint() const
+{
+    return m_darunter->sizeHint();
+}
+
+QSize Deckfläche::minimumSizeHint() const
+{
+    return m_darunter->minimumSizeHint();
+}
+
+void Deckfläche::ordne()
+{
+    m_darunter->setGeometry(rect());
+    m_decke->setGeometry(rect());
+}
+
+void Stapelfläche::setze(std::vector<QWidget*> teile)
+{
+    m_teile = std::move(teile);
+    if (!m_teile.empty()) {
+        setSizePolicy(m_teile.front()->sizePolicy());
+    }
+}
+
+QSize Stapelfläche::sizeHint() const
+{
+    return std::accumulate(m_teile.begin(), m_teile.end(), QSize(), [](QSize größe, const QWidget* teil) {
+        return größe.expandedTo(teil->sizeHint()).expandedTo(teil->minimumSize());
+    });
+}
+
+QSize Stapelfläche::minimumSizeHint() const
+{
+    return std::accumulate(m_teile.begin(), m_teile.end(), QSize(), [](QSize größe, const QWidget* teil) {
+        return größe.expandedTo(teil->minimumSizeHint()).expandedTo(teil->minimumSize());
+    });
+}
+
+void Stapelfläche::ordne()
+{
+    for (auto* teil : m_teile) {
+        teil->setGeometry(rect());
+    }
+}
+
+Kartenreihe::Kartenreihe(QWidget* eltern) : Handfläche(eltern)
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
+}
+
+void Kartenreihe::füge(QWidget& spalte, int höchstbreite, bool wächst)
+{
+    m_spalten.push_back({&spalte, höchstbreite});
+    if (wächst) {
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    }
+}
+
+bool Kartenreihe::passtNebeneinander(int breite) const
+{
+    int nötig = -em(0.6);
+    for (const auto& spalte : m_spalten) {
+        nötig += spalte.widget->minimumSizeHint().width() + em(0.6);
+    }
+    return nötig <= breite;
+}
+
+/// Preferred widths first; what is left over (or missing) is shared in proportion to them, between least and
+/// greatest width of each.
+std::vector<int> Kartenreihe::verteile(int breite) const
+{
+    const int frei = breite - em(0.6) * (static_cast<int>(m_spalten.size()) - 1);
+    std::vector<int> breiten;
+    std::vector<bool> fest(m_spalten.size(), false);
+    for (const auto& spalte : m_spalten) {
+        breiten.push_back(std::min(spalte.widget->sizeHint().width(), spalte.höchstbreite));
+    }
+    for (std::size_t runde = 0; runde < m_spalten.size(); ++runde) {
+        int rest = frei - std::accumulate(breiten.begin(), breiten.end(), 0);
+        int beweglich = 0;
+        for (std::size_t i = 0; i < breiten.size(); ++i) {
+            beweglich += fest[i] ? 0 : breiten[i];
+        }
+        for (std::size_t i = 0; i < breiten.size() && rest != 0 && beweglich > 0; ++i) {
+            if (fest[i]) {
+                continue;
+            }
+            const int anteil = rest * breiten[i] / beweglich;
+            const int kleinste = m_spalten[i].widget->minimumSizeHint().width();
+            const int größte = std::max(kleinste, m_spalten[i].höchstbreite);
+            beweglich -= breiten[i];
+            rest -= anteil;
+            const int neu = std::clamp(breiten[i] + anteil, kleinste, größte);
+            fest[i] = neu != breiten[i] + anteil;
+            breiten[i] = neu;
+        }
+    }
+    return breiten;
+}
+
+int Kartenreihe::höhe(bool kleinste) const
+{
+    const bool nebeneinander = passtNebeneinander(width());
+    int ergebnis = 0;
+    for (const auto& spalte : m_spalten) {
+        const int eine = (kleinste ? spalte.widget->minimumSizeHint() : spalte.widget->sizeHint()).height();
+        ergebnis = nebeneinander ? std::max(ergebnis, eine) : ergebnis + eine + em(0.6);
+    }
+    return nebeneinander ? ergebnis : ergebnis - em(0.6);
+}
+
+QSize Kartenreihe::sizeHint() const
+{
+    int breite = -em(0.6);
+    for (const auto& spalte : m_spalten) {
+        breite += spalte.widget->sizeHint().width() + em(0.6);
+    }
+    return {breite, höhe(false)};
+}
+
+QSize Kartenreihe::minimumSizeHint() const
+{
+    int breite = 0;
+    for (const auto& spalte : m_spalten) {
+        breite = std::max(breite, spalte.widget->minimumSizeHint().width());
+    }
+    return {breite, höhe(true)};
+}
+
+void Kartenreihe::ordne()
+{
+    if (passtNebeneinander(width())) {
+        const auto breiten = verteile(width());
+        int links = 0;
+        for (std::size_t i = 0; i < m_spalten.size(); ++i) {
+            m_spalten[i].widget->setGeometry(links, 0, breiten[i], height());
+            links += breiten[i] + em(0.6);
+        }
+        return;
+    }
+    int oben = 0;
+    const int fehlt = sizeHint().height() - height();
+    for (const auto& spalte : m_spalten) {
+        const auto& kleinste = spalte.widget->minimumSizeHint();
+        const int ganze = spalte.widget->sizeHint().height();
+        const int eine = fehlt > 0 ? kleinste.height() : ganze;
+        spalte.widget->setGeometry(0, oben, std::min(width(), std::max(kleinste.width(), spalte.höchstbreite)), eine);
+        oben += eine + em(0.6);
+    }
+}

@@ -1,0 +1,165 @@
+#include "satz/moHelferlein.h"
+
+#include "platform/text/Text.h"
+#include "platform/text/Zahl.h"
+#include "platform/umgebung/Laufzeitfehler.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <limits>
+
+namespace {
+
+constexpr std::size_t höchsteZeilenlänge = std::numeric_limits<std::int16_t>::max();
+
+void prüfeZeilenlänge(std::string_view zeile)
+{
+    if (zeile.size() > höchsteZeilenlänge) {
+        throw Laufzeitfehler(verbinde("Überlauf: Eine Zeile ist "_t, std::to_string(zeile.size()),
+                                      " Zeichen lang, erlaubt sind "_t, std::to_string(höchsteZeilenlänge)));
+    }
+}
+
+/// What is left of the line from field `nummer` on, without a value when there is no such field.
+std::optional<std::string_view> abFeld(std::string_view zeile, int nummer, char trennzeichen)
+{
+    if (nummer < 1) {
+        return std::nullopt;
+    }
+    for (int feld = 1; feld < nummer; ++feld) {
+        const auto ort = zeile.find(trennzeichen);
+        if (ort == std::string_view::npos) {
+            return std::nullopt;
+        }
+        zeile.remove_prefix(ort + 1);
+    }
+    return zeile;
+}
+
+/// Day, month, year as the older date texts are compared: a part that is missing is no number.
+struct Datumsteile {
+    std::int16_t jahr;
+    std::int16_t monat;
+    std::int16_t tag;
+
+    auto operator<=>(const Datumsteile&) const = default;
+};
+
+[[noreturn]] void keinDatum(std::string_view text)
+{
+    throw Laufzeitfehler(verbinde("\""_t, text, "\" ist kein gültiges Datum"_t));
+}
+
+std::int16_t datumsteil(std::string_view datum, int nummer)
+{
+    const auto teil = leseGanzzahl16(getFeldMit(datum, nummer, '.'));
+    if (!teil) {
+        keinDatum(datum);
+    }
+    return *teil;
+}
+
+/// A third point brings a part that is read but doesn't count; a fourth is too many.
+Datumsteile zerlegeDatum(std::string_view datum)
+{
+    const auto punkte = std::ranges::count(datum, '.');
+    if (punkte > 3) {
+        keinDatum(datum);
+    }
+    if (punkte == 3) {
+        datumsteil(datum, 4);
+    }
+    return {datumsteil(datum, 3), datumsteil(datum, 2), datumsteil(datum, 1)};
+}
+
+} // namespace
+
+std::string_view getFeld(std::string_view zeile, int nummer)
+{
+    return getFeldMit(zeile, nummer, trenner);
+}
+
+std::string_view getFeldMit(std::string_view zeile, int nummer, char trennzeichen)
+{
+    prüfeZeilenlänge(zeile);
+    const auto rest = abFeld(zeile, nummer, trennzeichen);
+    return rest ? rest->substr(0, rest->find(trennzeichen)) : std::string_view();
+}
+
+std::string ersetzeFeld(std::string_view zeile, int nummer, std::string_view neu)
+{
+    const auto rest = abFeld(zeile, std::max(nummer, 2), trenner);
+    if (!rest) {
+        throw Laufzeitfehler(verbinde("Die Zeile hat kein Feld "_t, std::to_string(nummer), ", sie beginnt mit \""_t,
+                                      zeile.substr(0, 40), "\""_t));
+    }
+    const auto kopf = zeile.substr(0, zeile.size() - rest->size());
+    const auto ende = rest->find(trenner);
+    return verbinde(kopf, neu, ende == std::string_view::npos ? std::string_view() : rest->substr(ende));
+}
+
+std::int16_t anzahlFelder(std::string_view zeile)
+{
+    prüfeZeilenlänge(zeile);
+    if (zeile.empty()) {
+        return 0;
+    }
+    const auto anzahl = std::ranges::count(zeile, trenner) + 1;
+    if (anzahl > std::numeric_limits<std::int16_t>::max()) {
+        throw Laufzeitfehler(std::string("Überlauf: Eine Zeile hat zu viele Felder"_t));
+    }
+    return static_cast<std::int16_t>(anzahl);
+}
+
+std::string maskiereTrenner(std::string_view text)
+{
+    std::string ergebnis(text);
+    std::ranges::replace(ergebnis, trenner, '\xBF');
+    return ergebnis;
+}
+
+std::string felder(std::string_view zeile, int von, int bis)
+{
+    prüfeZeilenlänge(zeile);
+    std::string ergebnis;
+    auto rest = abFeld(zeile, von, trenner);
+    for (int feld = von; feld <= bis; ++feld) {
+        ergebnis.append(rest ? rest->substr(0, rest->find(trenner)) : std::string_view()).push_back(trenner);
+        rest = rest ? abFeld(*rest, 2, trenner) : rest;
+    }
+    return ergebnis;
+}
+
+std::string klientenname(std::string_view kernDS)
+{
+    constexpr int feldNachname = 4;
+    constexpr int feldVorname = 5;
+    return verbinde(getFeld(kernDS, feldNachname), ", "_t, getFeld(kernDS, feldVorname));
+}
+
+bool vergleicheDatum(std::string_view a, std::string_view op, std::string_view b)
+{
+    const auto ordnung = zerlegeDatum(a) <=> zerlegeDatum(b);
+    return (op == ">" && ordnung > 0) || (op == "<" && ordnung < 0) || (op == ">=" && ordnung >= 0) ||
+           (op == "<=" && ordnung <= 0);
+}
+
+std::optional<Datum> datumAusText(std::string_view text)
+{
+    if (text.empty() || text == "." || text == "..") {
+        return std::nullopt;
+    }
+    const auto datum = leseDatum(text);
+    if (!datum) {
+        keinDatum(text);
+    }
+    return datum;
+}
+
+std::string pfadVon(std::string_view pfad)
+{
+    constexpr std::array ende{':', static_cast<char>(std::filesystem::path::preferred_separator)};
+    const auto ort = pfad.find_last_of(std::string_view(ende.data(), ende.size()));
+    return std::string(pfad.substr(0, ort == std::string_view::npos ? 0 : ort));
+}

@@ -1,0 +1,204 @@
+#include "satz/Satzaufbau.h"
+#include "hilfen/Testumgebung.h"
+#include "hilfen/Textdatei.h"
+#include "satz/moHelferlein.h"
+
+#include <map>
+#include <set>
+
+namespace {
+
+const std::map<std::string, Feldart>& feldarten()
+{
+    using enum Feldart;
+    static const std::map<std::string, Feldart> arten{
+        {"idKern", idKern}, {"idBetr", idBetr},   {"datum", datum},     {"option", option},     {"zuvor", zuvor},
+        {"kinder", kinder}, {"zahl", zahl},       {"nation", nation},   {"kontakte", kontakte}, {"hdOhne", hdOhne},
+        {"memo", memo},     {"hdAlter", hdAlter}, {"icd0000", icd0000}, {"ivKonsum", ivKonsum}, {"icdPsy", icdPsy},
+        {"text", text},     {"leer", leer},       {"icdNeu", icdNeu}};
+    return arten;
+}
+
+const std::map<std::string, Werteliste>& wertelisten()
+{
+    static const std::map<std::string, Werteliste> listen{{"kurz", werte::kurz},
+                                                          {"lang", werte::lang},
+                                                          {"geschlecht", werte::geschlecht},
+                                                          {"betrGru", werte::betrGru},
+                                                          {"angeho", werte::angeho},
+                                                          {"problem", werte::problem},
+                                                          {"vermitt", werte::vermitt},
+                                                          {"auflagen1", werte::auflagen1},
+                                                          {"auflagen2", werte::auflagen2},
+                                                          {"substitut", werte::substitut},
+                                                          {"famSta", werte::famSta},
+                                                          {"partner", werte::partner},
+                                                          {"wohnung", werte::wohnung},
+                                                          {"schule", werte::schule},
+                                                          {"ausbild", werte::ausbild},
+                                                          {"erwerb", werte::erwerb},
+                                                          {"schulden", werte::schulden},
+                                                          {"test", werte::test},
+                                                          {"artEnd1", werte::artEnd1},
+                                                          {"artEnd2", werte::artEnd2},
+                                                          {"hepatitisC", werte::hepatitisC},
+                                                          {"konsumart", werte::konsumart},
+                                                          {"problEnde", werte::problEnde},
+                                                          {"icdZusatz", werte::icdZusatz},
+                                                          {"essst\xF6rung", werte::essstörung}};
+    return listen;
+}
+
+/// The data files hold one line for each field: number;name;source;kind;list;default.
+void prüfeGegenListe(const std::vector<Satzfeld>& felder, const std::string& datei)
+{
+    const auto zeilen = leseTextdatei("tests/satz/" + datei);
+    ASSERT_EQ(felder.size(), zeilen.size()) << datei;
+    for (std::size_t i = 0; i < zeilen.size(); ++i) {
+        const auto ort = datei + ":" + std::to_string(i + 1);
+        const auto soll = [&](int spalte) { return std::string(getFeldMit(zeilen[i], spalte, ';')); };
+        const auto& feld = felder[i];
+        EXPECT_EQ(std::to_string(i + 1), soll(1)) << ort << ": number";
+        EXPECT_EQ(feld.name, soll(2)) << ort << ": name";
+        EXPECT_EQ(feld.quelle, soll(3)) << ort << ": source";
+        EXPECT_EQ(feld.art, feldarten().at(soll(4))) << ort << ": kind";
+        const auto liste = soll(5).empty() ? Werteliste{} : wertelisten().at(soll(5));
+        EXPECT_EQ(feld.werte.data(), liste.data()) << ort << ": list";
+        EXPECT_EQ(feld.vorgabe, soll(6)) << ort << ": default";
+    }
+}
+
+TEST(Satzaufbau, BetreuungsfelderStimmenMitDerListe)
+{
+    prüfeGegenListe(betreuungsfelder(), "Betreuungsfelder.txt");
+}
+
+TEST(Satzaufbau, DiagnosefelderStimmenMitDerListe)
+{
+    prüfeGegenListe(diagnosefelder(), "Diagnosefelder.txt");
+}
+
+/// The whole list with texts and codes, in order.
+TEST(Wertelisten, StimmenMitDerListe)
+{
+    std::map<std::string, std::vector<std::string>> soll;
+    std::string name;
+    for (const auto& zeile : leseTextdatei("tests/satz/Wertelisten.txt")) {
+        if (zeile.front() == '[') {
+            name = zeile.substr(1, zeile.size() - 2);
+        } else {
+            soll[name].push_back(zeile);
+        }
+    }
+    ASSERT_EQ(soll.size(), wertelisten().size());
+    for (const auto& [listenname, liste] : wertelisten()) {
+        std::vector<std::string> ist;
+        for (const auto& paar : liste) {
+            ist.push_back(verbinde(paar.code, '=', paar.text));
+        }
+        EXPECT_EQ(ist, soll[listenname]) << "Wertelisten.txt, list " << listenname;
+    }
+}
+
+/// Rules that every list has to keep, whatever it holds.
+TEST(Wertelisten, RegelnAllerListen)
+{
+    for (const auto& [name, liste] : wertelisten()) {
+        std::set<std::string_view> texte;
+        std::set<std::string_view> codes;
+        for (const auto& paar : liste) {
+            EXPECT_TRUE(texte.insert(paar.text).second) << name << ": text twice: " << paar.text;
+            EXPECT_TRUE(codes.insert(paar.code).second) << name << ": code twice: " << paar.code;
+            EXPECT_EQ(paar.text.find(trenner), std::string_view::npos) << name << ": delimiter in: " << paar.text;
+            EXPECT_EQ(paar.text, getrimmt(paar.text)) << name << ": blanks around: " << paar.text;
+            EXPECT_EQ(*werte::codeZu(liste, paar.text), paar.code) << name;
+            EXPECT_EQ(*werte::textZu(liste, paar.code), paar.text) << name;
+        }
+        EXPECT_EQ(werte::codeZu(liste, "gibt es nicht"_t), nullptr) << name;
+        EXPECT_EQ(werte::textZu(liste, "77"_t), nullptr) << name;
+    }
+}
+
+TEST(Wertelisten, VergleichenGenau)
+{
+    EXPECT_EQ(werte::codeZu(werte::kurz, "K.A."_t), nullptr);
+    EXPECT_EQ(werte::codeZu(werte::schulden, "bis10.000 €"_t), nullptr);
+    EXPECT_EQ(*werte::codeZu(werte::schulden, "bis 10.000 €"_t), "2");
+}
+
+TEST(Wertelisten, ListenFürAuswahlfelder)
+{
+    EXPECT_EQ(werte::texte(werte::kurz), (std::vector<std::string>{"k.A.", "nein", "ja"}));
+    EXPECT_EQ(werte::zahlen("k.A."_t, 0, 3), (std::vector<std::string>{"k.A.", "0", "1", "2", "3"}));
+    EXPECT_EQ(werte::zahlen("k.A."_t, 1, 99).size(), 100U);
+}
+
+/// An answer that nobody gave has the first entry of its list, with the one exception that is to stay.
+TEST(Satzaufbau, VorgabenSindDerErsteEintrag)
+{
+    for (const auto& feld : betreuungsfelder()) {
+        if (feld.art == Feldart::option && feld.name != "Vermitt") {
+            EXPECT_EQ(feld.vorgabe, feld.werte.front().text) << feld.name;
+        }
+    }
+    EXPECT_EQ(betreuungsfelder()[12].vorgabe, werte::vermitt[1].text);
+}
+
+TEST(Satzaufbau, NamenFindenFelder)
+{
+    std::set<std::string> namen;
+    for (std::size_t i = 0; i < betreuungsfelder().size(); ++i) {
+        const auto& name = betreuungsfelder()[i].name;
+        EXPECT_TRUE(namen.insert(name).second) << name;
+        EXPECT_EQ(betreuungsfeld(name), static_cast<int>(i + 1));
+    }
+    EXPECT_EQ(betreuungsfeld("Vermitt"_t), 13);
+    EXPECT_EQ(betreuungsfeld("Vermitt1"_t), 169);
+    EXPECT_EQ(betreuungsfeld("vermitt1"_t), 0);
+    EXPECT_EQ(betreuungsfeld(""_t), 0);
+}
+
+TEST(Satzaufbau, KlientenfelderInIhrerOrdnung)
+{
+    const std::vector<std::string> namen{"",    "kernID", "betrao",     "Nachname",     "Vorname", "Strasse",
+                                         "PLZ", "Ort",    "Geschlecht", "Geburtsdatum", "memoK"};
+    ASSERT_EQ(klientenfelder().size(), namen.size());
+    for (std::size_t i = 0; i < namen.size(); ++i) {
+        EXPECT_EQ(klientenfelder()[i].name, namen[i]);
+        EXPECT_EQ(klientenfelder()[i].art, Feldart::klient);
+    }
+}
+
+TEST(Vorgaben, KlientHatElfTrenner)
+{
+    EXPECT_EQ(erstelleDefaultKernDS(), "········keine Angaben·unbekannt··"_t);
+    EXPECT_EQ(anzahlFelder(erstelleDefaultKernDS()), 12);
+}
+
+TEST(Vorgaben, BetreuungHat192Felder)
+{
+    const auto satz = erstelleDefaultBetrDS();
+    EXPECT_EQ(anzahlFelder(satz), 192);
+    EXPECT_EQ(felder(satz, 1, 5), "1·1·02.08.2007·02.08.2007·k.A.·"_t);
+    EXPECT_EQ(getFeld(satz, 13), "Keine / Selbstmelder");
+    EXPECT_EQ(felder(satz, 141, 144), "k.A.·0·0·keine Angaben·"_t);
+    EXPECT_EQ(felder(satz, 150, 156), "Wahr·Falsch·Falsch·Falsch·Falsch·Falsch·keine Angaben·"_t);
+    EXPECT_EQ(felder(satz, 160, 164), "Wahr·Falsch·Falsch·Falsch·k.A.·"_t);
+    EXPECT_EQ(getFeld(satz, 192), "");
+    EXPECT_EQ(satz.back(), trenner);
+}
+
+TEST(Vorgaben, DiagnoseHatNurTrenner)
+{
+    EXPECT_EQ(erstelleDefaultDiagDS(), std::string(246, trenner));
+}
+
+TEST(Satzaufbau, DiagnosefeldRechnetDieGruppen)
+{
+    EXPECT_EQ(diagnosefeld(1, 1), 3);
+    EXPECT_EQ(diagnosefeld(1, 8), 10);
+    EXPECT_EQ(diagnosefeld(24, 4), 190);
+    EXPECT_EQ(diagnosefeld(29, 8), 234);
+}
+
+} // namespace
