@@ -5,7 +5,7 @@
 #include "export/Kernzeile.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/Tabellen.h"
+#include "store/Lesestand.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 

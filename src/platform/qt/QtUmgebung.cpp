@@ -7,16 +7,12 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QCryptographicHash>
 #include <QDate>
-#include <QDir>
 #include <QFileDialog>
 #include <QGridLayout>
-#include <QLockFile>
 #include <QMessageBox>
 #include <QScreen>
 #include <QSpacerItem>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <array>
@@ -66,17 +62,6 @@ QMessageBox::StandardButton knopfFür(Antwort antwort)
         }
     }
     return QMessageBox::Ok;
-}
-
-QString sperrpfad(const std::filesystem::path& ordner)
-{
-    const auto name =
-        QCryptographicHash::hash(QByteArray::fromStdString(ordner.generic_string()), QCryptographicHash::Sha256);
-    auto platz = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (platz.isEmpty()) {
-        platz = QDir::tempPath();
-    }
-    return platz + QStringLiteral("/tolvek7-") + QString::fromLatin1(name.toHex().left(24)) + QStringLiteral(".lock");
 }
 
 } // namespace
@@ -155,11 +140,10 @@ std::filesystem::path QtUmgebung::programmordner()
     return {QCoreApplication::applicationDirPath().toStdU16String()};
 }
 
-bool QtUmgebung::istErsteInstanz()
+bool QtUmgebung::istErsteInstanz(const std::filesystem::path& datenordner)
 {
-    m_sperre = std::make_unique<QLockFile>(sperrpfad(programmordner()));
-    m_sperre->setStaleLockTime(0); // a lock is stale when its process is gone, never by its age
-    return m_sperre->tryLock() || m_sperre->error() != QLockFile::LockFailedError;
+    m_sperre = sperreDatenordner(m_dateien, datenordner);
+    return m_sperre != nullptr;
 }
 
 Antwort QtUmgebung::zeigeMeldung(const Meldung& meldung)

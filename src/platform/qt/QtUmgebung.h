@@ -1,11 +1,11 @@
 #pragma once
 
 #include "platform/dateien/Dateien.h"
+#include "platform/dateien/Ordnersperre.h"
 #include "platform/umgebung/Umgebung.h"
 
 #include <memory>
 
-class QLockFile;
 class QMessageBox;
 class Tabellenprogramm;
 
@@ -17,8 +17,7 @@ public:
 
     Datum heute() override;
     std::filesystem::path programmordner() override;
-    /// Holds a lock of the system, named after the program folder, that ends with the process.
-    bool istErsteInstanz() override;
+    bool istErsteInstanz(const std::filesystem::path& datenordner) override;
     Dateien& dateien() override { return m_dateien; }
 
     Antwort zeigeMeldung(const Meldung& meldung) override;
@@ -34,7 +33,7 @@ public:
 private:
     Tabellenprogramm& m_tabellenprogramm;
     Dateien m_dateien;
-    std::unique_ptr<QLockFile> m_sperre;
+    std::unique_ptr<Ordnersperre> m_sperre;
 };
 
 /// The message box of a message, not shown yet.
