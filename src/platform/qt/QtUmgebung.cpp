@@ -1,6 +1,7 @@
 #include "platform/qt/QtUmgebung.h"
 
 #include "platform/mappe/Tabellenprogramm.h"
+#include "platform/qt/Geduld.h"
 #include "platform/qt/Mass.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
@@ -130,6 +131,9 @@ std::string alsQtFilter(const std::string& filter)
         const auto ende = std::min(filter.find('|', mitte + 1), filter.size());
         auto muster = filter.substr(mitte + 1, ende - mitte - 1);
         std::replace(muster.begin(), muster.end(), ';', ' ');
+        if (muster == "*.*") {
+            muster = "*"; // files without an extension as well
+        }
         auto name = filter.substr(von, mitte - von);
         name = name.substr(0, name.find('('));
         ergebnis += (ergebnis.empty() ? "" : ";;") + name + '(' + muster + ')';
@@ -164,6 +168,7 @@ bool QtUmgebung::istErsteInstanz()
 
 Antwort QtUmgebung::zeigeMeldung(const Meldung& meldung)
 {
+    const geduld::Pause pause;
     const auto fenster = baueMeldungsfenster(meldung);
     fenster->exec();
     return antwortVon(*fenster);
@@ -171,6 +176,7 @@ Antwort QtUmgebung::zeigeMeldung(const Meldung& meldung)
 
 std::optional<std::filesystem::path> QtUmgebung::wähleDatei(const Dateiwahl& wahl)
 {
+    const geduld::Pause pause;
     const auto ordner = QString::fromStdU16String(wahl.anfangsordner.u16string());
     const auto pfad =
         QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, ordner, alsQString(alsQtFilter(wahl.filter)));
@@ -185,9 +191,9 @@ bool QtUmgebung::findeTabellenprogramm()
     return m_tabellenprogramm.istDa();
 }
 
-void QtUmgebung::übergibMappe(Arbeitsmappe& mappe)
+bool QtUmgebung::übergibMappe(Arbeitsmappe& mappe, const std::function<void(double)>& fortschritt)
 {
-    m_tabellenprogramm.öffne(mappe, [this] { zeichne(); });
+    return m_tabellenprogramm.öffne(mappe, fortschritt);
 }
 
 Größe QtUmgebung::bildschirmgröße()
@@ -196,12 +202,38 @@ Größe QtUmgebung::bildschirmgröße()
     return {alsTwips(größe.width()), alsTwips(größe.height())};
 }
 
+Dateien& QtUmgebung::dateien()
+{
+    geduld::prüfe();
+    return m_dateien;
+}
+
+/// No more often than an eye can follow: drawing costs more than the work that it tells of.
+bool QtUmgebung::istBildFällig()
+{
+    constexpr qint64 bildabstandMs = 50;
+    geduld::prüfe();
+    return !m_seitDemBild.isValid() || m_seitDemBild.elapsed() >= bildabstandMs;
+}
+
 void QtUmgebung::zeichne()
 {
+    geduld::prüfe();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    m_seitDemBild.start();
+}
+
+void QtUmgebung::zeichneGelegentlich()
+{
+    if (istBildFällig()) {
+        zeichne();
+    }
 }
 
 void QtUmgebung::lasseEreignisseZu()
 {
-    QCoreApplication::processEvents();
+    if (istBildFällig()) {
+        QCoreApplication::processEvents();
+        m_seitDemBild.start();
+    }
 }

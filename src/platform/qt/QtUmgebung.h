@@ -3,6 +3,9 @@
 #include "platform/dateien/Dateien.h"
 #include "platform/umgebung/Umgebung.h"
 
+#include <QElapsedTimer>
+
+#include <functional>
 #include <memory>
 
 class QLockFile;
@@ -19,22 +22,26 @@ public:
     std::filesystem::path programmordner() override;
     /// Holds a lock of the system, named after the program folder, that ends with the process.
     bool istErsteInstanz() override;
-    Dateien& dateien() override { return m_dateien; }
+    Dateien& dateien() override;
 
     Antwort zeigeMeldung(const Meldung& meldung) override;
     std::optional<std::filesystem::path> wähleDatei(const Dateiwahl& wahl) override;
 
     bool findeTabellenprogramm() override;
-    void übergibMappe(Arbeitsmappe& mappe) override;
+    bool übergibMappe(Arbeitsmappe& mappe, const std::function<void(double anteil)>& fortschritt) override;
 
     Größe bildschirmgröße() override;
     void zeichne() override;
+    void zeichneGelegentlich() override;
     void lasseEreignisseZu() override;
 
 private:
+    bool istBildFällig();
+
     Tabellenprogramm& m_tabellenprogramm;
     Dateien m_dateien;
     std::unique_ptr<QLockFile> m_sperre;
+    QElapsedTimer m_seitDemBild;
 };
 
 /// The message box of a message, not shown yet.
