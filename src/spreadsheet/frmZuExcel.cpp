@@ -31,7 +31,6 @@ frmZuExcel::frmZuExcel(Bildschirm& hauptmenü) : Bildschirm("frmZuExcel"_t), m_h
 
     setzeTitel(zustand().titel);
     istKindfenster = true;
-    istMittig = true;
     breite = 7200;
     höhe = 3000;
     cmdFertig.setzeText("Fertig\r\n(bitte klicken, um zum Hauptmenü zurückzukehren)"_t);
@@ -73,6 +72,7 @@ void frmZuExcel::platziere()
     if (!rahmen.istMaximiert()) {
         rahmen.setzeLage(oben, links);
     }
+    istMittig = true; // not before the keys were read: their place is the frame's
     oben = rahmen.oben() + (rahmen.höhe() - höhe) / 2;
     links = rahmen.links() + (rahmen.breite() - breite) / 2;
     lageGeändert.melde();

@@ -40,7 +40,10 @@ public:
         setAccessibleName(QStringLiteral("Handbuch"));
         document()->setDefaultFont(schrift(Schriftrolle::Grund));
         document()->setDocumentMargin(em(1));
-        document()->setMarkdown(lies(), QTextDocument::MarkdownDialectGitHub);
+        // angle brackets stand for themselves, in messages and captions
+        const auto form =
+            QTextDocument::MarkdownFeatures(QTextDocument::MarkdownDialectGitHub) | QTextDocument::MarkdownNoHTML;
+        document()->setMarkdown(lies(), form);
         rahmeTabellen();
         connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& ziel) { gehe(ziel.fragment()); });
     }

@@ -48,8 +48,9 @@ QStringList treffer(const QString& text, const char* muster)
 QStringList marken()
 {
     stelleAnwendungBereit();
-    QTextDocument dokument;
-    dokument.setMarkdown(handbuch());
+    Handbuch buch([] { return std::string(); }, ordner);
+    buch.öffneBei({});
+    const auto& dokument = *buch.fenster()->findChild<QTextBrowser*>()->document();
     QStringList ergebnis;
     for (auto block = dokument.begin(); block.isValid(); block = block.next()) {
         if (block.blockFormat().headingLevel() > 0) {
@@ -82,9 +83,10 @@ TEST(Handbuchtext, NoHeadingIsThereTwice)
 TEST(Handbuchtext, EveryScreenHasItsPlace)
 {
     std::set<QString> genannte;
+    const auto alle = marken();
     for (const auto& stelle : handbuchstellen) {
         genannte.insert(alsQString(stelle.bildschirm));
-        EXPECT_TRUE(marken().contains(alsQString(stelle.marke))) << stelle.marke;
+        EXPECT_TRUE(alle.contains(alsQString(stelle.marke))) << stelle.marke;
     }
     std::set<QString> schirme;
     for (const auto& text : quelltexte()) {
@@ -119,7 +121,7 @@ TEST(Handbuchtext, EveryLinkAndEveryPictureExists)
 /// Each box that the program shows is explained: the longest piece of its text stands in the handbook.
 TEST(Handbuchtext, EveryMessageIsExplained)
 {
-    const auto text = handbuch().simplified();
+    const auto text = handbuch().simplified().remove(QLatin1Char('\\'));
     int geprüfte = 0;
     for (const auto& quelle : quelltexte()) {
         for (const auto& aufruf : treffer(quelle, "(?:zeigeMeldung|frage =|meldeNichtsVerändert)\\s*\\(?([^;]*);")) {
@@ -157,7 +159,7 @@ protected:
     }
 };
 
-TEST_F(Handbuchfenster, F1OpensItAndEscapeClosesIt)
+TEST_F(Handbuchfenster, F1OpensItAndTheScreenTakesInputAllTheSame)
 {
     öffne();
     drücke(tastatur(), Qt::Key_F1);
