@@ -19,7 +19,7 @@ public:
 
     Datum heute() override { return {2020, 6, 15}; }
     std::filesystem::path programmordner() override { return m_ordner; }
-    bool istErsteInstanz() override { return true; }
+    bool istErsteInstanz(const std::filesystem::path& /*datenordner*/) override { return true; }
     Dateien& dateien() override { return m_dateien; }
     Antwort zeigeMeldung(const Meldung& meldung) override
     {

@@ -2,7 +2,7 @@
 
 #include "platform/text/Text.h"
 #include "satz/moHelferlein.h"
-#include "store/Tabellen.h"
+#include "store/Lesestand.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>
@@ -51,7 +51,7 @@ Zeitraumliste leseZeitraumListe(std::int32_t kernID)
 {
     Zeitraumliste liste;
     const auto& tabelle = zustand().pfade.betrDat;
-    fürJedeZeile(tabelle, [&](std::string_view zeile, std::size_t nummer) {
+    zustand().bestand.fürJedeZeile(Tabelle::Betr, [&](std::string_view zeile, std::size_t nummer) {
         if (leseSchlüssel(zeile, feldKernID, 16, tabelle, nummer) == kernID) {
             liste.push_back({std::string(getFeld(zeile, feldBetrBeg)), std::string(getFeld(zeile, feldBetrEnd))});
         }

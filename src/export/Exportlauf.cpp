@@ -6,7 +6,7 @@
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/moHelferlein.h"
-#include "store/Tabellen.h"
+#include "store/Lesestand.h"
 #include "zustand/Zustand.h"
 
 namespace {

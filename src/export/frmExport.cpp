@@ -128,11 +128,17 @@ std::filesystem::path frmExport::richteOrdnerEin(int jahr)
     auto& dateien = zustand().umgebung.dateien();
     const auto exporte = zustand().pfade.programm / "Exporte";
     const auto ordner = exporte / verbinde("DBDD"_t, alsText(jahr));
-    if (!dateien.istOrdner(exporte)) {
-        beimSchreiben([&] { dateien.legeOrdnerAn(exporte); });
-    }
-    if (!dateien.istOrdner(ordner)) {
-        beimSchreiben([&] { dateien.legeOrdnerAn(ordner); });
+    bool istNeu = false;
+    beimSchreiben([&] {
+        if (!dateien.istOrdner(exporte)) {
+            dateien.legeOrdnerAn(exporte);
+        }
+        istNeu = !dateien.istOrdner(ordner);
+        if (istNeu) {
+            dateien.legeOrdnerAn(ordner);
+        }
+    });
+    if (istNeu) {
         return ordner;
     }
     const auto frage = verbinde("Es gibt schon einen Export für das Jahr "_t, alsText(jahr), "\rÜberschreiben ?"_t);

@@ -103,7 +103,7 @@ void frmDatenÜbernahme::beiOK()
     try {
         importiere(lauf);
     } catch (const Laufzeitfehler&) {
-        lauf.verwirf();
+        Importlauf::entferneReste();
         zeigeFehlschlag();
     }
 }

@@ -9,7 +9,7 @@ class Stummeumgebung : public Umgebung {
 public:
     Datum heute() override { return {2007, 8, 2}; }
     std::filesystem::path programmordner() override { return {}; }
-    bool istErsteInstanz() override { return true; }
+    bool istErsteInstanz(const std::filesystem::path& /*datenordner*/) override { return true; }
     Dateien& dateien() override { return m_dateien; }
     Antwort zeigeMeldung(const Meldung& /*meldung*/) override { return Antwort::OK; }
     std::optional<std::filesystem::path> wähleDatei(const Dateiwahl& /*wahl*/) override { return std::nullopt; }

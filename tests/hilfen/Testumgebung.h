@@ -81,7 +81,7 @@ public:
 
     Datum heute() override { return datum; }
     std::filesystem::path programmordner() override { return m_ordner.pfad(); }
-    bool istErsteInstanz() override { return ersteInstanz; }
+    bool istErsteInstanz(const std::filesystem::path& /*datenordner*/) override { return ersteInstanz; }
     Dateien& dateien() override { return m_dateien; }
     Antwort zeigeMeldung(const Meldung& meldung) override
     {

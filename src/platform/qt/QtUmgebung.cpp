@@ -8,16 +8,12 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QCryptographicHash>
 #include <QDate>
-#include <QDir>
 #include <QFileDialog>
 #include <QGridLayout>
-#include <QLockFile>
 #include <QMessageBox>
 #include <QScreen>
 #include <QSpacerItem>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <array>
@@ -69,16 +65,32 @@ QMessageBox::StandardButton knopfFür(Antwort antwort)
     return QMessageBox::Ok;
 }
 
-QString sperrpfad(const std::filesystem::path& ordner)
-{
-    const auto name =
-        QCryptographicHash::hash(QByteArray::fromStdString(ordner.generic_string()), QCryptographicHash::Sha256);
-    auto platz = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (platz.isEmpty()) {
-        platz = QDir::tempPath();
+/// Long actions are long because of their files, and come by here again and again.
+class GeduldigerZugriff : public Zugriffsweiche {
+public:
+    using Zugriffsweiche::Zugriffsweiche;
+
+    std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad) override
+    {
+        geduld::prüfe();
+        return Zugriffsweiche::lies(pfad);
     }
-    return platz + QStringLiteral("/tolvek7-") + QString::fromLatin1(name.toHex().left(24)) + QStringLiteral(".lock");
-}
+    std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) override
+    {
+        geduld::prüfe();
+        return Zugriffsweiche::öffne(pfad, wie);
+    }
+    void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach) override
+    {
+        geduld::prüfe();
+        Zugriffsweiche::benenneUm(von, nach);
+    }
+    void sichereOrdnerAufPlatte(const std::filesystem::path& pfad) override
+    {
+        geduld::prüfe();
+        Zugriffsweiche::sichereOrdnerAufPlatte(pfad);
+    }
+};
 
 } // namespace
 
@@ -143,7 +155,7 @@ std::string alsQtFilter(const std::string& filter)
 }
 
 QtUmgebung::QtUmgebung(Tabellenprogramm& tabellenprogramm)
-    : m_tabellenprogramm(tabellenprogramm), m_dateien(erzeugeDateizugriff())
+    : m_tabellenprogramm(tabellenprogramm), m_dateien(std::make_unique<GeduldigerZugriff>(erzeugeDateizugriff()))
 {}
 
 QtUmgebung::~QtUmgebung() = default;
@@ -159,11 +171,10 @@ std::filesystem::path QtUmgebung::programmordner()
     return {QCoreApplication::applicationDirPath().toStdU16String()};
 }
 
-bool QtUmgebung::istErsteInstanz()
+bool QtUmgebung::istErsteInstanz(const std::filesystem::path& datenordner)
 {
-    m_sperre = std::make_unique<QLockFile>(sperrpfad(programmordner()));
-    m_sperre->setStaleLockTime(0); // a lock is stale when its process is gone, never by its age
-    return m_sperre->tryLock() || m_sperre->error() != QLockFile::LockFailedError;
+    m_sperre = sperreDatenordner(m_dateien, datenordner);
+    return m_sperre != nullptr;
 }
 
 Antwort QtUmgebung::zeigeMeldung(const Meldung& meldung)
@@ -200,12 +211,6 @@ Größe QtUmgebung::bildschirmgröße()
 {
     const auto größe = QApplication::primaryScreen()->availableSize();
     return {alsTwips(größe.width()), alsTwips(größe.height())};
-}
-
-Dateien& QtUmgebung::dateien()
-{
-    geduld::prüfe();
-    return m_dateien;
 }
 
 /// No more often than an eye can follow: drawing costs more than the work that it tells of.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/dateien/Dateien.h"
+#include "platform/dateien/Ordnersperre.h"
 #include "platform/umgebung/Umgebung.h"
 
 #include <QElapsedTimer>
@@ -8,7 +9,6 @@
 #include <functional>
 #include <memory>
 
-class QLockFile;
 class QMessageBox;
 class Tabellenprogramm;
 
@@ -20,9 +20,8 @@ public:
 
     Datum heute() override;
     std::filesystem::path programmordner() override;
-    /// Holds a lock of the system, named after the program folder, that ends with the process.
-    bool istErsteInstanz() override;
-    Dateien& dateien() override;
+    bool istErsteInstanz(const std::filesystem::path& datenordner) override;
+    Dateien& dateien() override { return m_dateien; }
 
     Antwort zeigeMeldung(const Meldung& meldung) override;
     std::optional<std::filesystem::path> wähleDatei(const Dateiwahl& wahl) override;
@@ -40,7 +39,7 @@ private:
 
     Tabellenprogramm& m_tabellenprogramm;
     Dateien m_dateien;
-    std::unique_ptr<QLockFile> m_sperre;
+    std::unique_ptr<Ordnersperre> m_sperre;
     QElapsedTimer m_seitDemBild;
 };
 

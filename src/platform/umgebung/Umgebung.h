@@ -37,8 +37,9 @@ public:
     virtual Datum heute() = 0;
     /// The folder that holds the program file.
     virtual std::filesystem::path programmordner() = 0;
-    /// False when a previous instance works in the same program folder.
-    virtual bool istErsteInstanz() = 0;
+    /// False when a previous instance works on the same data folder, by whatever path, user or link. Makes the folder
+    /// when it is missing, and holds it until the process ends. Laufzeitfehler when that can't be found out.
+    virtual bool istErsteInstanz(const std::filesystem::path& datenordner) = 0;
     virtual Dateien& dateien() = 0;
 
     /// Blocks until the box is answered.
