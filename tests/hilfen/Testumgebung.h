@@ -69,6 +69,7 @@ public:
     Datum datum{2007, 8, 2};
     bool ersteInstanz = true;
     bool tabellenprogramm = true;
+    bool tabellenprogrammStartet = true;
     std::deque<Antwort> antworten;
     std::vector<Meldung> meldungen;
     std::deque<std::optional<std::filesystem::path>> dateiwahlen;
@@ -103,11 +104,13 @@ public:
         return nächste(dateiwahlen, "file dialogue");
     }
     bool findeTabellenprogramm() override { return tabellenprogramm; }
-    void übergibMappe(Arbeitsmappe& mappe) override
+    bool übergibMappe(Arbeitsmappe& mappe, const std::function<void(double)>& fortschritt) override
     {
+        fortschritt(0.5);
         if (beiMappe) {
             beiMappe(mappe);
         }
+        return tabellenprogrammStartet;
     }
     Größe bildschirmgröße() override { return {28800, 16200}; }
     void zeichne() override {}
