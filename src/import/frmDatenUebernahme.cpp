@@ -4,6 +4,7 @@
 #include "platform/text/Eingabe.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "store/Vorgang.h"
 #include "zustand/Zustand.h"
 
 namespace {
@@ -102,6 +103,8 @@ void frmDatenÜbernahme::beiOK()
     cmdBeiDerArbeit.zeige();
     try {
         importiere(lauf);
+    } catch (const Unvollendet&) {
+        throw; // the data are taken over, only not in all tables yet
     } catch (const Laufzeitfehler&) {
         Importlauf::entferneReste();
         zeigeFehlschlag();

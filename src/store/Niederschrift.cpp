@@ -4,6 +4,7 @@
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "store/Sicherungen.h"
 #include "store/Vollzugsvermerk.h"
+#include "store/Vorgang.h"
 
 #include <algorithm>
 #include <set>
@@ -131,10 +132,11 @@ void legeBeiseite(Dateien& dateien, const Bestandspfade& pfade, const Bestandsme
     }
     dateien.sichereOrdner(ordner);
     dateien.lösche(pfade.vorgang);
-    meldung(verbinde("Die letzte Eingabe war gespeichert, aber noch nicht in allen Tabellen, und die Tabellen wurden "
-                     "seither von anderer Hand verändert. Sie bleiben, wie sie sind. Der gespeicherte Stand liegt in \""_t,
-                     pfadtext(ordner), "\"."_t),
-            Symbol::Stop);
+    meldung(
+        verbinde("Die letzte Eingabe war gespeichert, aber noch nicht in allen Tabellen, und die Tabellen wurden "
+                 "seither von anderer Hand verändert. Sie bleiben, wie sie sind. Der gespeicherte Stand liegt in \""_t,
+                 pfadtext(ordner), "\"."_t),
+        Symbol::Stop);
 }
 
 void vollende(Dateien& dateien, const Bestandspfade& pfade, const std::vector<Vermerk>& vermerke,
@@ -183,8 +185,7 @@ void schreibeNieder(Dateien& dateien, const Bestandspfade& pfade, const Bestands
     try {
         ersetzeDurchNeue(dateien, pfade, vermerke, vermerke);
     } catch (const Laufzeitfehler& fehler) {
-        throw Laufzeitfehler(
-            verbinde("Die Eingabe ist gespeichert und wird beim nächsten Start vollendet. "_t, fehler.text()));
+        throw Unvollendet(fehler);
     }
 }
 

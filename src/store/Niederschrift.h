@@ -18,8 +18,7 @@ struct Schreibauftrag {
 };
 
 /// Puts all of it in the place of the files, or nothing. A failure before the commit record is on the disk is a
-/// Laufzeitfehler that leaves everything as it was; one after it says that the entry is saved and will be completed at
-/// the next start.
+/// Laufzeitfehler that leaves everything as it was; one after it is `Unvollendet`.
 void schreibeNieder(Dateien& dateien, const Bestandspfade& pfade, const Bestandsmeldung& meldung,
                     const std::vector<Schreibauftrag>& aufträge);
 

@@ -6,6 +6,10 @@
 #include <utility>
 #include <vector>
 
+Unvollendet::Unvollendet(const Laufzeitfehler& grund)
+    : Laufzeitfehler(verbinde("Die Eingabe ist gespeichert und wird beim nächsten Start vollendet. "_t, grund.text()))
+{}
+
 Fassung& Vorgang::fassung(Tabelle tabelle)
 {
     auto ort = m_änderungen.find(tabelle);
@@ -124,9 +128,8 @@ void Vorgang::bestätige()
 {
     std::vector<Schreibauftrag> aufträge;
     for (const auto& [tabelle, änderung] : m_änderungen) {
-        aufträge.push_back({tabelle, änderung.alteLänge, [&fassung = änderung.fassung](Schreiber& schreiber) {
-                                fassung.schreibe(schreiber);
-                            }});
+        aufträge.push_back({tabelle, änderung.alteLänge,
+                            [&fassung = änderung.fassung](Schreiber& schreiber) { fassung.schreibe(schreiber); }});
     }
     schreibeNieder(m_bestand.dateien(), pfade(), m_bestand.meldung(), aufträge);
     m_änderungen.clear();
