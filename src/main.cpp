@@ -3,11 +3,13 @@
 #include "platform/qt/QtOberflaeche.h"
 #include "platform/qt/QtUmgebung.h"
 #include "platform/qt/Stil.h"
+#include "platform/umgebung/Prozessschutz.h"
 
 #include <QApplication>
 
 int main(int argc, char** argv)
 {
+    verhindereSpeicherabbilder();
     QApplication anwendung(argc, argv);
     richteStilEin(anwendung);
     Rechenprogramm rechenprogramm;
