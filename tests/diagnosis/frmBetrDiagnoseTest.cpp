@@ -1,6 +1,6 @@
 #include "diagnosis/frmBetrDiagnose.h"
 #include "app/moExtras.h"
-#include "diagnosis/Diagnosesatz.h"
+#include "satz/Diagnosesatz.h"
 #include "hilfen/Testumgebung.h"
 #include "satz/moHelferlein.h"
 
