@@ -12,6 +12,7 @@
 
 #include "platform/text/Eingabe.h"
 #include "platform/text/Text.h"
+#include "store/Pruefung.h"
 
 #include <algorithm>
 #include <set>
@@ -111,6 +112,7 @@ void Irrgang::starteNeu()
     m_sicherung = liesTabellen(ordner, ".bak", verstöße);
     prüfeStart(vorher, m_stand, m_sicherung, verstöße);
     prüfeAufbau(m_stand, verstöße);
+    prüfeMitPrüfer(verstöße);
     prüfeOrdner(verstöße);
     prüfeBildschirme(verstöße);
     wirf(verstöße);
@@ -256,6 +258,8 @@ void Irrgang::prüfeNach(const Urheber& urheber)
     auto neu = liesTabellen(ordner, ".txt", verstöße);
     if (neu != m_stand) {
         ++m_gespeichert;
+        m_hatImportiert = m_hatImportiert || urheber.bildschirm == "frmDatenÜbernahme"_t;
+        prüfeMitPrüfer(verstöße);
         prüfeAufbau(neu, verstöße);
         prüfeÄnderung(urheber, m_stand, neu, m_sicherung, verstöße);
         if (liesTabellen(ordner, ".bak", verstöße) != m_sicherung) {
@@ -272,6 +276,18 @@ void Irrgang::prüfeAbsturz(Verstöße& verstöße) const
 {
     if (!m_lauf.absturz().empty()) {
         verstöße.push_back(verbinde("Absturz: "_t, m_lauf.absturz()));
+    }
+}
+
+/// The older data bring what they say; all else that the program writes must stand up to its own checker.
+void Irrgang::prüfeMitPrüfer(Verstöße& verstöße) const
+{
+    Dateien dateien(erzeugeDateizugriff());
+    const auto pfade = bildeBestandspfade(m_lauf.imProgramm({}));
+    for (const auto& befund : prüfeBestand(dateien, pfade).befunde) {
+        if (!befund.istHinweis() && !(m_hatImportiert && betrifftAngaben(befund.art))) {
+            verstöße.push_back(alsBerichtszeile(befund, pfade));
+        }
     }
 }
 
