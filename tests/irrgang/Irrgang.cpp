@@ -21,7 +21,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// What may lie in the program folder between two actions; the folder of the exports may hold anything.
+/// What may lie in the program folder between two actions; the folder of the exports may hold anything, that of the
+/// backups is looked at by the checker.
 const std::set<fs::path>& erlaubteOrte()
 {
     static const std::set<fs::path> orte{
@@ -32,6 +33,7 @@ const std::set<fs::path>& erlaubteOrte()
         "Daten/kernDat.bak",
         "Daten/betrDat.bak",
         "Daten/diagDat.bak",
+        "Daten/Sicherungen",
         "Tolvek7.ini",
         "Exporte",
         "importDatenListe.txt",
@@ -299,7 +301,7 @@ void Irrgang::prüfeOrdner(Verstöße& verstöße) const
         if (!erlaubteOrte().contains(pfad)) {
             verstöße.push_back(verbinde("bleibt liegen: "_t, pfad.string()));
         }
-        if (pfad == "Exporte") {
+        if (pfad == "Exporte" || pfad == "Daten/Sicherungen") {
             ort.disable_recursion_pending();
         }
     }
