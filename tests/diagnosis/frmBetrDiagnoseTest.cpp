@@ -1,7 +1,7 @@
 #include "diagnosis/frmBetrDiagnose.h"
 #include "app/moExtras.h"
-#include "satz/Diagnosesatz.h"
 #include "hilfen/Testumgebung.h"
+#include "satz/Diagnosesatz.h"
 #include "satz/moHelferlein.h"
 
 #include <gtest/gtest.h>

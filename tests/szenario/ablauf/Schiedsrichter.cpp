@@ -11,8 +11,8 @@
 bool betrifftAngaben(Befundart art)
 {
     using enum Befundart;
-    constexpr std::array arten{WertUnbekannt, Überschneidung,  MehrereOffen,
-                               EndeVorBeginn, DatumUngültig, DatumZweistellig};
+    constexpr std::array arten{WertUnbekannt, Überschneidung, MehrereOffen,
+                               EndeVorBeginn, DatumUngültig,  DatumZweistellig};
     return std::ranges::find(arten, art) != arten.end();
 }
 
