@@ -2,6 +2,7 @@
 
 #include "platform/text/Text.h"
 #include "satz/moHelferlein.h"
+#include "zustand/Fehlerort.h"
 #include "zustand/Zustand.h"
 
 frmBetreuungZeitraum::frmBetreuungZeitraum() : Bildschirm("frmBetreuungZeitraum"_t)
@@ -55,8 +56,10 @@ void frmBetreuungZeitraum::beiAktivierung()
 {
     zustand().wechsel->holeFensterlage(*this);
     setzeTitel(zustand().titel);
-    m_zeitraumListe = leseZeitraumListe(kernID);
-    setzeStufeEins();
+    mitDatumsort(kernID, [this] {
+        m_zeitraumListe = leseZeitraumListe(kernID);
+        setzeStufeEins();
+    });
 }
 
 void frmBetreuungZeitraum::beiEntladen()
@@ -113,11 +116,13 @@ Nachbarn frmBetreuungZeitraum::nachbarn() const
 
 void frmBetreuungZeitraum::beiOK()
 {
-    if (m_stufe == Stufe::Beginn) {
-        übernimmVon();
-    } else {
-        übernimmBis();
-    }
+    mitDatumsort(kernID, [this] {
+        if (m_stufe == Stufe::Beginn) {
+            übernimmVon();
+        } else {
+            übernimmBis();
+        }
+    });
 }
 
 void frmBetreuungZeitraum::übernimmVon()

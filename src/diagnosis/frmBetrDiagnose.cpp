@@ -1,9 +1,11 @@
 #include "diagnosis/frmBetrDiagnose.h"
 
+#include "platform/text/Zahl.h"
 #include "satz/Diagnosesatz.h"
 #include "satz/WeitereDiagnosen.h"
 #include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
+#include "zustand/Fehlerort.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>
@@ -77,7 +79,18 @@ void frmBetrDiagnose::beiAktivierung()
         richteEin();
         m_istEingerichtet = true;
     }
+    prüfeBitfeld();
     setFrmData();
+}
+
+/// A bit field that is no number would come up somewhere in the middle of the page; here its record can be named.
+void frmBetrDiagnose::prüfeBitfeld()
+{
+    constexpr int felderDesSchlüssels = 2;
+    const auto& satz = zustand().arbeitskopie.aktDiagDS;
+    const Satzschlüssel schlüssel{static_cast<std::int32_t>(führendeZahl(getFeld(satz, 1))),
+                                  static_cast<std::int32_t>(führendeZahl(getFeld(satz, 2)))};
+    mitSatzort(Tabelle::Diag, schlüssel, bitfeldposition + felderDesSchlüssels, [] { leseBitfeld(DSDiag()); });
 }
 
 void frmBetrDiagnose::beiEntladen()
