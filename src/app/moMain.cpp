@@ -1,7 +1,7 @@
 #include "app/moMain.h"
 
-#include "diagnosis/moData.h"
-#include "export/moNationen.h"
+#include "satz/moData.h"
+#include "satz/moNationen.h"
 #include "import/Importlauf.h"
 #include "import/moAnweisungen.h"
 #include "platform/dateien/Dateien.h"
@@ -115,6 +115,7 @@ void prüfeDateien()
     const bool iniFehlt = dateien.fehlt(pfade.ini);
 
     prüfeSchreibbarkeit(dateien, pfade);
+    dateien.entferne(pfade.dummyIni); // of a run that was broken off
     if (alleFehlen) {
         legeTabellenAn(zustand().bestand);
     }

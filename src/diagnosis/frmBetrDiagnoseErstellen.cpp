@@ -1,6 +1,6 @@
 #include "diagnosis/frmBetrDiagnoseErstellen.h"
 
-#include "diagnosis/Diagnosesatz.h"
+#include "satz/Diagnosesatz.h"
 #include "diagnosis/frmBetrDiagnose.h"
 #include "platform/text/Zahl.h"
 #include "satz/Wertelisten.h"
@@ -172,10 +172,10 @@ void frmBetrDiagnoseErstellen::bereiteFragenVor()
         comboAntwort(Riskant).fülle(werte::texte(werte::kurz), keineAngabe);
     }
     for (const int i : {TageBeginn, TageEnde}) {
-        comboAntwort(i).fülle(werte::zahlen(keineAngabe, 0, 30), keineAngabe);
+        comboAntwort(i).fülle(werte::zahlen(keineAngabe, werte::konsumtage), keineAngabe);
     }
     for (const int i : {AlterStörung, AlterErstkonsum}) {
-        comboAntwort(i).fülle(werte::zahlen(keineAngabe, 1, 99), keineAngabe);
+        comboAntwort(i).fülle(werte::zahlen(keineAngabe, werte::alter), keineAngabe);
     }
     const auto icd = icdListe(art);
     comboAntwort(ICDStelle4).fülle(icd, icd.empty() ? std::string_view() : keineAngabe);

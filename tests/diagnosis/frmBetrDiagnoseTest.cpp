@@ -1,7 +1,7 @@
 #include "diagnosis/frmBetrDiagnose.h"
 #include "app/moExtras.h"
-#include "diagnosis/Diagnosesatz.h"
 #include "diagnosis/frmBetrDiagnoseErstellen.h"
+#include "satz/Diagnosesatz.h"
 #include "hilfen/Testumgebung.h"
 #include "satz/moHelferlein.h"
 

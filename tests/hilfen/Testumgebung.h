@@ -55,8 +55,16 @@ private:
 /// of all boxes. A box with a choice but without a queued answer fails the test.
 class Testumgebung : public Umgebung {
 public:
-    explicit Testumgebung(std::unique_ptr<Dateizugriff> zugriff = erzeugeDateizugriff()) : m_dateien(std::move(zugriff))
-    {}
+    /// With a program folder of one's own, or a fresh one that goes with the object.
+    explicit Testumgebung(std::unique_ptr<Dateizugriff> zugriff = erzeugeDateizugriff(),
+                          std::filesystem::path programmordner = {})
+        : m_dateien(std::move(zugriff)), m_programmordner(std::move(programmordner))
+    {
+        if (m_programmordner.empty()) {
+            m_ordner.emplace();
+            m_programmordner = m_ordner->pfad();
+        }
+    }
 
     Datum datum{2007, 8, 2};
     bool ersteInstanz = true;
@@ -80,7 +88,7 @@ public:
     }
 
     Datum heute() override { return datum; }
-    std::filesystem::path programmordner() override { return m_ordner.pfad(); }
+    std::filesystem::path programmordner() override { return m_programmordner; }
     bool istErsteInstanz(const std::filesystem::path& /*datenordner*/) override { return ersteInstanz; }
     Dateien& dateien() override { return m_dateien; }
     Antwort zeigeMeldung(const Meldung& meldung) override
@@ -119,8 +127,9 @@ private:
         return erstes;
     }
 
-    Testordner m_ordner;
+    std::optional<Testordner> m_ordner;
     Dateien m_dateien;
+    std::filesystem::path m_programmordner;
 };
 
 /// A program run for a test: the state with its paths below the test's folder, without screens. `legeTabellenAn`
