@@ -48,12 +48,6 @@ Gruppenart artVon(int gruppe)
     return gruppe <= 28 ? Gruppenart::MissbrauchOderSpiel : Gruppenart::Essstörung;
 }
 
-/// The name of the group, empty for a number that is none.
-std::string_view gruppenname(int gruppe)
-{
-    return artVon(gruppe) == Gruppenart::Keine ? std::string_view() : aryProblem[static_cast<std::size_t>(gruppe)];
-}
-
 bool wirdGefragt(Gruppenart art, int frage)
 {
     switch (art) {

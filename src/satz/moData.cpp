@@ -59,7 +59,8 @@ constexpr std::array<Problembereich, höchsteGruppe> katalog{{
 
 std::string_view gruppenname(int gruppe)
 {
-    return katalog.at(static_cast<std::size_t>(gruppe - 1)).problem;
+    const bool istGruppe = gruppe >= 1 && gruppe <= höchsteGruppe;
+    return istGruppe ? katalog[static_cast<std::size_t>(gruppe - 1)].problem : std::string_view();
 }
 
 std::string gruppencode(int gruppe)
