@@ -1,8 +1,8 @@
 #include "diagnosis/frmBetrDiagnoseErstellen.h"
 
-#include "satz/Diagnosesatz.h"
 #include "diagnosis/frmBetrDiagnose.h"
 #include "platform/text/Zahl.h"
+#include "satz/Diagnosesatz.h"
 #include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Comboregeln.h"

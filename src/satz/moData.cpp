@@ -59,8 +59,8 @@ constexpr std::array<Problembereich, höchsteGruppe> katalog{{
 
 std::string_view gruppenname(int gruppe)
 {
-    const bool istGruppe = gruppe >= 1 && gruppe <= höchsteGruppe;
-    return istGruppe ? katalog[static_cast<std::size_t>(gruppe - 1)].problem : std::string_view();
+    const auto ort = static_cast<std::size_t>(gruppe - 1);
+    return gruppe < 1 || ort >= katalog.size() ? std::string_view() : katalog[ort].problem;
 }
 
 std::string gruppencode(int gruppe)
