@@ -152,21 +152,6 @@ TEST_F(OhneRecht, DatenordnerOhneRecht)
     EXPECT_EQ(tabellenIn(ordner), vorher);
 }
 
-/// Whether a set of backups holds exactly these three.
-bool hebtAuf(const fs::path& ordner, const Dreitafel& tabellen)
-{
-    const auto sätze = ordner / "Daten" / "Sicherungen";
-    if (!fs::is_directory(sätze)) {
-        return false;
-    }
-    const fs::directory_iterator alle(sätze);
-    return std::any_of(begin(alle), end(alle), [&](const fs::directory_entry& satz) {
-        return liesDatei(satz.path() / "kernDat.bak") == tabellen[0] &&
-               liesDatei(satz.path() / "betrDat.bak") == tabellen[1] &&
-               liesDatei(satz.path() / "diagDat.bak") == tabellen[2];
-    });
-}
-
 TEST_F(Startfall, TabellenFortAberSicherungDaNichtsVerloren)
 {
     for (const auto* tabelle : dreiTabellen) {

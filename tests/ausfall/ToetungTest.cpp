@@ -120,6 +120,9 @@ protected:
     {
         fs::create_directories(vorlage);
         fall.legeAn(vorlage);
+        if (fs::exists(vorlage / "Daten" / "kernDat.bak")) {
+            alteSicherung = bakIn(vorlage);
+        }
         if (!fall.abStart) {
             ASSERT_TRUE(startet(vorlage)) << "the folder before the action";
         }
@@ -206,6 +209,7 @@ protected:
         }
         EXPECT_EQ(resteIn(ordner), "") << punkt.plan << " " << punkt.ort;
         if (fall.abStart) {
+            EXPECT_TRUE(alteSicherung == ist || hebtAuf(ordner, alteSicherung)) << punkt.plan << " " << punkt.ort;
             EXPECT_EQ(bakIn(ordner), ist) << punkt.plan << " " << punkt.ort;
         }
     }
@@ -222,6 +226,7 @@ protected:
     fs::path vorlage = platz.pfad() / "vorlage";
     Dreitafel vorher;
     Dreitafel nachher;
+    Dreitafel alteSicherung; ///< the .bak files before the start
     std::minstd_rand zufall{static_cast<unsigned>(saat())};
     bool istNachher = false;
     int punkte = 0;
@@ -250,6 +255,57 @@ TEST_P(Toetung, LäßtVorherOderNachher)
     }
     berichte("killed");
 }
+
+#ifdef AUSFALL_PROGRAMM
+/// The program itself with its windows, without a display. It finds its records beside itself.
+class Programmstart : public Versuchsreihe {
+protected:
+    static std::vector<std::string> programm(const fs::path& ordner) { return {(ordner / "tolvek7").string()}; }
+    static Umgebungswerte ohneBildschirm(Umgebungswerte alle)
+    {
+        alle["QT_QPA_PLATFORM"] = "offscreen";
+        return alle;
+    }
+    static void legeProgrammHin(const fs::path& ordner)
+    {
+        fs::copy_file(AUSFALL_PROGRAMM, ordner / "tolvek7", fs::copy_options::skip_existing);
+    }
+    /// The calls of a start: it is done when no more come.
+    std::vector<Ruf> rufeDesStarts() const
+    {
+        const auto ordner = frischeKopie();
+        legeProgrammHin(ordner);
+        const auto liste = platz.pfad() / "liste";
+        auto alle = vorspann(ordner, "", {{"AUSFALL_LISTE", liste.string()}});
+        Prozess lauf(programm(ordner), ohneBildschirm(alle));
+        std::size_t bisher = 0;
+        for (int ruhe = 0; ruhe < 10; ++ruhe) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(100));
+            const auto jetzt = fs::exists(liste) ? leseListe(liste).size() : 0;
+            ruhe = jetzt == bisher && jetzt > 0 ? ruhe : 0;
+            bisher = jetzt;
+        }
+        return leseListe(liste);
+    }
+};
+
+TEST_P(Programmstart, GetötetUndWiederGestartet)
+{
+    ASSERT_NO_FATAL_FAILURE(messeVorherUndNachher());
+    const auto rufe = rufeDesStarts();
+    ASSERT_GT(rufe.size(), 10U);
+    for (const auto& punkt : stichprobe(tötungspunkte(rufe), 19)) {
+        const auto ordner = frischeKopie();
+        legeProgrammHin(ordner);
+        Prozess lauf(programm(ordner), ohneBildschirm(vorspann(ordner, punkt.plan)));
+        ASSERT_TRUE(lauf.warte()) << punkt.plan;
+        ASSERT_EQ(lauf.signal(), SIGKILL) << punkt.plan << " " << punkt.ort << "\n" << lauf.ausgabe();
+        töteBeimErholen(ordner, 1);
+        erwarteVorherOderNachher(ordner, punkt);
+    }
+    berichte("tolvek7 killed");
+}
+#endif
 
 /// What the person is told is what holds: a failure leaves the old state, unless it says that the entry is saved.
 TEST_P(Toetung, FehlerSagtWasGilt)
@@ -292,6 +348,13 @@ const std::vector<Fall>& fälle()
     };
     return alle;
 }
+
+#ifdef AUSFALL_PROGRAMM
+INSTANTIATE_TEST_SUITE_P(ToetungDesProgramms, Programmstart,
+                         testing::Values(Fall{"Erststart", "start", legeNichtsAn, true},
+                                         Fall{"Sitzungssicherung", "start", legeBestandMitAlterSicherungAn, true}),
+                         [](const auto& angabe) { return angabe.param.name; });
+#endif
 
 INSTANTIATE_TEST_SUITE_P(Handlungen, Toetung, testing::ValuesIn(fälle()),
                          [](const auto& angabe) { return angabe.param.name; });

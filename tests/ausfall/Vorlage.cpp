@@ -5,6 +5,7 @@
 #include "satz/Satzaufbau.h"
 #include "satz/moHelferlein.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
@@ -182,6 +183,23 @@ void legeAltdatenAn(const fs::path& ordner)
 void legeNichtsAn(const fs::path& ordner)
 {
     fs::create_directories(ordner);
+}
+
+bool hebtAuf(const fs::path& ordner, const Dreitafel& tabellen)
+{
+    if (tabellen == Dreitafel{}) {
+        return true;
+    }
+    const auto sätze = ordner / "Daten" / "Sicherungen";
+    if (!fs::is_directory(sätze)) {
+        return false;
+    }
+    const fs::directory_iterator alle(sätze);
+    return std::any_of(begin(alle), end(alle), [&](const fs::directory_entry& satz) {
+        return liesDatei(satz.path() / "kernDat.bak") == tabellen[0] &&
+               liesDatei(satz.path() / "betrDat.bak") == tabellen[1] &&
+               liesDatei(satz.path() / "diagDat.bak") == tabellen[2];
+    });
 }
 
 std::string resteIn(const fs::path& ordner)
