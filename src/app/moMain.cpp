@@ -1,7 +1,7 @@
 #include "app/moMain.h"
 
-#include "diagnosis/moData.h"
-#include "export/moNationen.h"
+#include "satz/moData.h"
+#include "satz/moNationen.h"
 #include "import/Importlauf.h"
 #include "import/moAnweisungen.h"
 #include "platform/dateien/Dateien.h"

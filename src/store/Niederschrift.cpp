@@ -1,10 +1,8 @@
 #include "store/Niederschrift.h"
 
 #include "platform/text/Text.h"
-#include "platform/umgebung/Laufzeitfehler.h"
 #include "store/Sicherungen.h"
 #include "store/Vollzugsvermerk.h"
-#include "store/Vorgang.h"
 
 #include <algorithm>
 #include <set>
@@ -132,11 +130,10 @@ void legeBeiseite(Dateien& dateien, const Bestandspfade& pfade, const Bestandsme
     }
     dateien.sichereOrdner(ordner);
     dateien.lösche(pfade.vorgang);
-    meldung(
-        verbinde("Die letzte Eingabe war gespeichert, aber noch nicht in allen Tabellen, und die Tabellen wurden "
-                 "seither von anderer Hand verändert. Sie bleiben, wie sie sind. Der gespeicherte Stand liegt in \""_t,
-                 pfadtext(ordner), "\"."_t),
-        Symbol::Stop);
+    meldung(verbinde("Die letzte Eingabe war gespeichert, aber noch nicht in allen Tabellen, und die Tabellen wurden "
+                     "seither von anderer Hand verändert. Sie bleiben, wie sie sind. Der gespeicherte Stand liegt in \""_t,
+                     pfadtext(ordner), "\"."_t),
+            Symbol::Stop);
 }
 
 void vollende(Dateien& dateien, const Bestandspfade& pfade, const std::vector<Vermerk>& vermerke,
@@ -185,7 +182,8 @@ void schreibeNieder(Dateien& dateien, const Bestandspfade& pfade, const Bestands
     try {
         ersetzeDurchNeue(dateien, pfade, vermerke, vermerke);
     } catch (const Laufzeitfehler& fehler) {
-        throw Unvollendet(fehler);
+        throw UnvollendeterVorgang(
+            verbinde("Die Eingabe ist gespeichert und wird beim nächsten Start vollendet. "_t, fehler.text()));
     }
 }
 

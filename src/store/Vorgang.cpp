@@ -6,10 +6,6 @@
 #include <utility>
 #include <vector>
 
-Unvollendet::Unvollendet(const Laufzeitfehler& grund)
-    : Laufzeitfehler(verbinde("Die Eingabe ist gespeichert und wird beim nächsten Start vollendet. "_t, grund.text()))
-{}
-
 Fassung& Vorgang::fassung(Tabelle tabelle)
 {
     auto ort = m_änderungen.find(tabelle);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/umgebung/Laufzeitfehler.h"
 #include "store/Bestand.h"
 #include "store/Fassung.h"
 
@@ -11,12 +10,6 @@
 #include <string>
 #include <string_view>
 #include <utility>
-
-/// The entry is saved, but not in all tables yet; the next start completes it. Nobody may tell that nothing was saved.
-class Unvollendet : public Laufzeitfehler {
-public:
-    explicit Unvollendet(const Laufzeitfehler& grund);
-};
 
 /// One action, one transaction, in one essay.
 ///
@@ -29,9 +22,8 @@ public:
 ///
 /// 1. Each table is written whole to `<table>.neu` beside it, a new file, flushed to the disk. Killed here, the tables
 ///    are the old ones, and the next start removes what lies beside them.
-/// 2. The commit record `Daten/Vorgang.txt` (names, old and new lengths, a checksum of each new file, a checksum of
-/// itself)
-///    is written under another name, flushed, renamed into place, and the folder is flushed. This is the moment of the
+/// 2. The commit record `Daten/Vorgang.txt` (names, old and new lengths, checksums of the new files and of itself) is
+///    written under another name, flushed, renamed into place, and the folder is flushed. This is the moment of the
 ///    OK: killed before it, the old state holds; killed after it, the new one.
 /// 3. The new files are renamed over the tables, the folder is flushed, the record is removed. Killed between, the
 ///    next start finds the record and does the rest (`vollendeVorgang`), as often as it is killed itself: a table that
@@ -41,8 +33,9 @@ public:
 /// An append is a rewrite too: so there is no half line, ever. A table that is a link is followed, its new file lies
 /// beside the place where it really is, so that the last step is a renaming on one file system.
 ///
-/// A failure before step 2 is done leaves the old state and a message; one after it (`Unvollendet`) says that the entry
-/// is saved and will be completed at the next start. An action that is dropped without `bestätige` has changed nothing.
+/// A failure before step 2 is done leaves the old state and a message; one after it (`UnvollendeterVorgang`) says that
+/// the entry is saved and will be completed at the next start. An action that is dropped without `bestätige` has
+/// changed nothing.
 class Vorgang : public Lesestand {
 public:
     explicit Vorgang(const Bestand& bestand) : Lesestand(bestand.pfade(), bestand.meldung()), m_bestand(bestand) {}

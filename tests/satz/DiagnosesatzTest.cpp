@@ -1,4 +1,4 @@
-#include "diagnosis/Diagnosesatz.h"
+#include "satz/Diagnosesatz.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"

@@ -1,4 +1,4 @@
-#include "diagnosis/moData.h"
+#include "satz/moData.h"
 #include "platform/text/Text.h"
 #include "satz/Satzaufbau.h"
 

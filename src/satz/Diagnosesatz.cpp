@@ -1,4 +1,4 @@
-#include "diagnosis/Diagnosesatz.h"
+#include "satz/Diagnosesatz.h"
 
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
@@ -26,8 +26,10 @@ std::size_t hinterTrenner(std::string_view text, int anzahl)
     return ort;
 }
 
-/// Imported records write an answer that was not given as a number of its own: 9 for eating disorders, 99 for
-/// gaming machines (the other forms of gambling don't), 0 everywhere else.
+} // namespace
+
+// Imported records write an answer that was not given as a number of its own: 9 for eating disorders, 99 for
+// gaming machines (the other forms of gambling don't), 0 everywhere else.
 bool istLeerwert(int gruppe, int platz, std::string_view wert)
 {
     if (wert.empty()) {
@@ -41,8 +43,6 @@ bool istLeerwert(int gruppe, int platz, std::string_view wert)
     }
     return wert == "0"_t || (platz == Riskant && wert == "k.A."_t);
 }
-
-} // namespace
 
 Blockteile zerlegeDSDiag(std::string_view dsDiag, int gruppe)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diagnosis/moData.h"
+#include "satz/moData.h"
 #include "satz/Satzaufbau.h"
 
 #include <cstdint>
@@ -31,9 +31,11 @@ constexpr int weitereDiagnose(int nummer)
 }
 inline constexpr int bitfeldposition = weitereDiagnose(anzahlWeitereDiagnosen) + 1;
 
+/// The bit of the group; none for a number that can't be one.
 constexpr std::int64_t gruppenbit(int gruppe)
 {
-    return std::int64_t{1} << gruppe;
+    constexpr int höchstesBit = 62;
+    return gruppe < 0 || gruppe > höchstesBit ? 0 : std::int64_t{1} << gruppe;
 }
 
 /// DSDiag cut at the block of a group; the three parts joined are DSDiag again.
@@ -46,6 +48,8 @@ Blockteile zerlegeDSDiag(std::string_view dsDiag, int gruppe);
 
 std::string_view blockfeld(std::string_view dsDiag, int gruppe, int platz);
 
+/// Whether the answer says nothing: empty, or the number that imported records write for an answer not given.
+bool istLeerwert(int gruppe, int platz, std::string_view wert);
 /// The lowest group with the mark of the main diagnosis, -1 for none.
 std::int16_t getHDGruppenNr(std::string_view dsDiag);
 /// Whether an answer of the block says anything (the empty texts of each answer aside).

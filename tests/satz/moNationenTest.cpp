@@ -1,4 +1,4 @@
-#include "export/moNationen.h"
+#include "satz/moNationen.h"
 #include "hilfen/Testumgebung.h"
 
 #include "platform/Ressourcen.h"

@@ -1,4 +1,4 @@
-#include "diagnosis/moData.h"
+#include "satz/moData.h"
 
 #include "platform/text/Text.h"
 
@@ -56,6 +56,11 @@ constexpr std::array<Problembereich, höchsteGruppe> katalog{{
 }};
 
 } // namespace
+
+std::string_view gruppenname(int gruppe)
+{
+    return katalog.at(static_cast<std::size_t>(gruppe - 1)).problem;
+}
 
 std::string gruppencode(int gruppe)
 {

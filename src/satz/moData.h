@@ -16,6 +16,9 @@ extern std::array<std::string, höchsteGruppe + 1> aryProblem;
 extern std::array<std::string, höchsteGruppe + 1> aryProblemKurz;
 extern std::array<std::string, höchsteGruppe + 1> aryProblemZusatz;
 
+/// The full name of the group, also before the tables are filled.
+std::string_view gruppenname(int gruppe);
+
 /// The number that forms a group's variable names in the column headers ("100" in icd1001).
 std::string gruppencode(int gruppe);
 

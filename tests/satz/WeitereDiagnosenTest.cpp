@@ -1,4 +1,4 @@
-#include "diagnosis/WeitereDiagnosen.h"
+#include "satz/WeitereDiagnosen.h"
 #include "platform/text/Text.h"
 
 #include <gtest/gtest.h>

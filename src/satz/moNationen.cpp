@@ -1,4 +1,4 @@
-#include "export/moNationen.h"
+#include "satz/moNationen.h"
 
 #include "platform/Ressourcen.h"
 #include "platform/text/Text.h"
@@ -212,4 +212,10 @@ std::string_view getCodeZuNation(std::string_view name)
 {
     const auto ort = std::find_if(nationen.begin(), nationen.end(), [&](const Nation& n) { return n.name == name; });
     return ort == nationen.end() ? std::string_view{} : ort->code;
+}
+
+bool istNation(std::string_view name)
+{
+    return std::find_if(nationen.begin(), nationen.end(), [&](const Nation& n) { return n.name == name; }) !=
+           nationen.end();
 }
