@@ -16,19 +16,16 @@ struct Bruchstück {
     std::size_t nummer; ///< of its line
 };
 
-/// The last line when it has neither a line end nor whole keys: a key is whole when something follows it.
-std::optional<Bruchstück> bruchstückIn(const Bestand& bestand, Tabelle tabelle)
+std::optional<Bruchstück> findeBruchstück(const Bestand& bestand, Tabelle tabelle)
 {
-    constexpr int schlüsselfelder = 2;
     const auto inhalt = bestand.inhalt(tabelle);
     const auto text = inhalt->text();
-    const auto ende = text.find_last_of("\r\n");
-    const auto anfang = ende == std::string_view::npos ? 0 : ende + 1;
-    const auto rest = text.substr(anfang);
-    if (rest.empty() || std::ranges::count(rest, trenner) >= schlüsselfelder) {
+    const auto rest = bruchstückIn(text);
+    if (rest.empty()) {
         return std::nullopt;
     }
-    return Bruchstück{tabelle, std::string(text.substr(0, anfang)), std::string(rest), zähleZeilen(text)};
+    return Bruchstück{tabelle, std::string(text.substr(0, text.size() - rest.size())), std::string(rest),
+                      zähleZeilen(text)};
 }
 
 void melde(const Bestand& bestand, const Bruchstück& stück, const std::filesystem::path& ordner)
@@ -43,11 +40,19 @@ void melde(const Bestand& bestand, const Bruchstück& stück, const std::filesys
 
 } // namespace
 
+std::string_view bruchstückIn(std::string_view inhalt)
+{
+    constexpr int schlüsselfelder = 2;
+    const auto ende = inhalt.find_last_of("\r\n");
+    const auto rest = inhalt.substr(ende == std::string_view::npos ? 0 : ende + 1);
+    return std::ranges::count(rest, trenner) < schlüsselfelder ? rest : std::string_view();
+}
+
 void stelleBruchstückeBeiseite(const Bestand& bestand)
 {
     auto& dateien = bestand.dateien();
     for (const auto tabelle : dieTabellen) {
-        auto stück = bruchstückIn(bestand, tabelle);
+        auto stück = findeBruchstück(bestand, tabelle);
         if (!stück) {
             continue;
         }

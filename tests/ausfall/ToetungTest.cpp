@@ -1,5 +1,6 @@
 #include "ausfall/Prozess.h"
 #include "ausfall/Vorlage.h"
+#include "store/Pruefung.h"
 
 #include <gtest/gtest.h>
 
@@ -173,14 +174,25 @@ protected:
         }
         ASSERT_TRUE(startet(ordner));
         vorher = tabellenIn(ordner);
+        berichtVorher = prüfberichtÜber(ordner);
         const auto anderer = frischeKopie();
         Prozess ganz(handlung(anderer, fall.handlung));
         ASSERT_TRUE(ganz.warte() && ganz.sagt("FERTIG")) << ganz.ausgabe();
         ASSERT_TRUE(startet(anderer));
         nachher = tabellenIn(anderer);
+        berichtNachher = prüfberichtÜber(anderer);
+        EXPECT_TRUE(berichtVorher.starts_with("Keine Befunde")) << berichtVorher;
+        EXPECT_TRUE(berichtNachher.starts_with("Keine Befunde")) << berichtNachher;
         if (!fall.abStart) {
             ASSERT_NE(vorher, nachher) << "the action changes something";
         }
+    }
+    /// The program's own checker as the referee.
+    static std::string prüfberichtÜber(const fs::path& ordner)
+    {
+        std::ostringstream bericht;
+        pruefe(ordner, bericht);
+        return bericht.str();
     }
     /// Starts that are killed on the way, at any of their calls.
     void töteBeimErholen(const fs::path& ordner, int wieOft)
@@ -207,6 +219,8 @@ protected:
             ++dazwischen;
             ADD_FAILURE() << "between: " << punkt.plan << " " << punkt.ort;
         }
+        EXPECT_EQ(prüfberichtÜber(ordner), istNachher ? berichtNachher : berichtVorher)
+            << punkt.plan << " " << punkt.ort;
         EXPECT_EQ(resteIn(ordner), "") << punkt.plan << " " << punkt.ort;
         if (fall.abStart) {
             EXPECT_TRUE(alteSicherung == ist || hebtAuf(ordner, alteSicherung)) << punkt.plan << " " << punkt.ort;
@@ -226,6 +240,8 @@ protected:
     fs::path vorlage = platz.pfad() / "vorlage";
     Dreitafel vorher;
     Dreitafel nachher;
+    std::string berichtVorher;
+    std::string berichtNachher;
     Dreitafel alteSicherung; ///< the .bak files before the start
     std::minstd_rand zufall{static_cast<unsigned>(saat())};
     bool istNachher = false;
