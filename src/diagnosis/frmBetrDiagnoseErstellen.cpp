@@ -49,7 +49,7 @@ Gruppenart artVon(int gruppe)
 }
 
 /// The name of the group, empty for a number that is none.
-std::string_view gruppenname(int gruppe)
+std::string_view nameOderNichts(int gruppe)
 {
     return artVon(gruppe) == Gruppenart::Keine ? std::string_view() : aryProblem[static_cast<std::size_t>(gruppe)];
 }
@@ -162,7 +162,7 @@ void frmBetrDiagnoseErstellen::beiEntladen()
 void frmBetrDiagnoseErstellen::bereiteFragenVor()
 {
     const Gruppenart art = artVon(gruppeAktuell);
-    lblAntwort.setzeText(gruppenname(gruppeAktuell));
+    lblAntwort.setzeText(nameOderNichts(gruppeAktuell));
     for (int i = 1; i <= comboAntwort.bis(); ++i) {
         lblFrage(i).zeige(wirdGefragt(art, i));
         comboAntwort(i).zeige(wirdGefragt(art, i));
@@ -231,8 +231,8 @@ void frmBetrDiagnoseErstellen::prüfeHDWechsel()
 
 void frmBetrDiagnoseErstellen::frageHDWechsel()
 {
-    const std::string_view alt = gruppenname(m_hdGruppeAlt);
-    const std::string_view neu = gruppenname(gruppeAktuell);
+    const std::string_view alt = nameOderNichts(m_hdGruppeAlt);
+    const std::string_view neu = nameOderNichts(gruppeAktuell);
     if (!cbHD.istAn()) {
         zeigeMeldung(verbinde(alt, " wird wieder als Hauptdiagnose gesetzt"_t), Symbol::Info);
         return;
