@@ -1,8 +1,8 @@
 #include "diagnosis/frmBetrDiagnoseErstellen.h"
 
-#include "satz/Diagnosesatz.h"
 #include "diagnosis/frmBetrDiagnose.h"
 #include "platform/text/Zahl.h"
+#include "satz/Diagnosesatz.h"
 #include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Comboregeln.h"
@@ -46,12 +46,6 @@ Gruppenart artVon(int gruppe)
         return Gruppenart::Substanz;
     }
     return gruppe <= 28 ? Gruppenart::MissbrauchOderSpiel : Gruppenart::Essstörung;
-}
-
-/// The name of the group, empty for a number that is none.
-std::string_view nameOderNichts(int gruppe)
-{
-    return artVon(gruppe) == Gruppenart::Keine ? std::string_view() : aryProblem[static_cast<std::size_t>(gruppe)];
 }
 
 bool wirdGefragt(Gruppenart art, int frage)
@@ -162,7 +156,7 @@ void frmBetrDiagnoseErstellen::beiEntladen()
 void frmBetrDiagnoseErstellen::bereiteFragenVor()
 {
     const Gruppenart art = artVon(gruppeAktuell);
-    lblAntwort.setzeText(nameOderNichts(gruppeAktuell));
+    lblAntwort.setzeText(gruppenname(gruppeAktuell));
     for (int i = 1; i <= comboAntwort.bis(); ++i) {
         lblFrage(i).zeige(wirdGefragt(art, i));
         comboAntwort(i).zeige(wirdGefragt(art, i));
@@ -231,8 +225,8 @@ void frmBetrDiagnoseErstellen::prüfeHDWechsel()
 
 void frmBetrDiagnoseErstellen::frageHDWechsel()
 {
-    const std::string_view alt = nameOderNichts(m_hdGruppeAlt);
-    const std::string_view neu = nameOderNichts(gruppeAktuell);
+    const std::string_view alt = gruppenname(m_hdGruppeAlt);
+    const std::string_view neu = gruppenname(gruppeAktuell);
     if (!cbHD.istAn()) {
         zeigeMeldung(verbinde(alt, " wird wieder als Hauptdiagnose gesetzt"_t), Symbol::Info);
         return;
