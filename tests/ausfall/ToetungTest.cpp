@@ -102,10 +102,10 @@ std::vector<Punkt> fehlerpunkte(const std::vector<Ruf>& rufe)
     return punkte;
 }
 
-/// The sample of this run, with the first point always in it.
-std::vector<Punkt> stichprobe(const std::vector<Punkt>& alle, long üblicherSchritt)
+/// The sample of this run: about so many of them, unless the environment says how far apart they lie.
+std::vector<Punkt> stichprobe(const std::vector<Punkt>& alle, long etwa)
 {
-    const long schritt = zahlAus("TOLVEK_AUSFALL_SCHRITT", üblicherSchritt);
+    const long schritt = zahlAus("TOLVEK_AUSFALL_SCHRITT", static_cast<long>(alle.size()) / etwa + 1);
     std::vector<Punkt> einige;
     for (std::size_t i = 0; i < alle.size(); ++i) {
         if ((static_cast<long>(i) + saat()) % schritt == 0) {
@@ -259,7 +259,7 @@ TEST_P(Toetung, LäßtVorherOderNachher)
     const auto rufe = rufeDerHandlung();
     ASSERT_GT(rufe.size(), 10U);
     bool warNachher = false;
-    for (const auto& punkt : stichprobe(tötungspunkte(rufe), 6)) {
+    for (const auto& punkt : stichprobe(tötungspunkte(rufe), 7)) {
         const auto ordner = frischeKopie();
         Prozess lauf(handlung(ordner, fall.handlung), werte(ordner, punkt.plan));
         ASSERT_TRUE(lauf.warte()) << punkt.plan;
@@ -310,7 +310,7 @@ TEST_P(Programmstart, GetötetUndWiederGestartet)
     ASSERT_NO_FATAL_FAILURE(messeVorherUndNachher());
     const auto rufe = rufeDesStarts();
     ASSERT_GT(rufe.size(), 10U);
-    for (const auto& punkt : stichprobe(tötungspunkte(rufe), 19)) {
+    for (const auto& punkt : stichprobe(tötungspunkte(rufe), 4)) {
         const auto ordner = frischeKopie();
         legeProgrammHin(ordner);
         Prozess lauf(programm(ordner), ohneBildschirm(vorspann(ordner, punkt.plan)));
@@ -327,7 +327,7 @@ TEST_P(Programmstart, GetötetUndWiederGestartet)
 TEST_P(Toetung, FehlerSagtWasGilt)
 {
     ASSERT_NO_FATAL_FAILURE(messeVorherUndNachher());
-    for (const auto& punkt : stichprobe(fehlerpunkte(rufeDerHandlung()), 47)) {
+    for (const auto& punkt : stichprobe(fehlerpunkte(rufeDerHandlung()), 4)) {
         const auto ordner = frischeKopie();
         Prozess lauf(handlung(ordner, fall.handlung), werte(ordner, punkt.plan));
         ASSERT_TRUE(lauf.warte()) << punkt.plan;

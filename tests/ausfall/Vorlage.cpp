@@ -75,8 +75,8 @@ Dreitafel bestand(std::string_view jahrhundert)
                     betreuung(2, 1, neuer("01.03", "05"), neuer("30.06", "05")),
                     betreuung(2, 2, neuer("01.08", "05"), neuer("30.11", "05")),
                     betreuung(2, 3, neuer("01.02", "06"), "offen"_t)}),
-            zeilen({diagnose(1, 1, "Injektion"_t), diagnose(2, 1, "Rauchen"_t), diagnose(2, 2, "oral"_t),
-                    diagnose(2, 3, "nasal"_t)})};
+            zeilen({diagnose(1, 1, "Injektion"_t), diagnose(2, 1, "Andere Arten"_t), diagnose(2, 2, "Essen/Trinken"_t),
+                    diagnose(2, 3, "Schnupfen/Sniefen"_t)})};
 }
 
 constexpr std::array namenDerTabellen{"kernDat", "betrDat", "diagDat"};
@@ -175,7 +175,7 @@ void legeAltdatenAn(const fs::path& ordner)
     for (const auto& datei : fs::directory_iterator(fs::path(TOLVEK_QUELLEN) / "anweisungen")) {
         fs::copy_file(datei.path(), ordner / datei.path().filename());
     }
-    const auto alt = erzeugeAltdaten(4, 2, 7);
+    const auto alt = erzeugeAltdaten(6, 1, 7);
     schreibeDatei(ordner / "alt" / "kernDat.txt", zeilen(alt.klienten));
     schreibeDatei(ordner / "alt" / "betreuungenDat.txt", zeilen(alt.betreuungen));
 }
