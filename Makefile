@@ -1,6 +1,6 @@
 # The two commands for everyone are `make start` and `make test`; the others are their parts.
 
-.PHONY: start test demo bilder bauen einrichten pruefung windows bench format
+.PHONY: start test demo bilder bauen einrichten pruefung windows bench ausfall format
 
 start: bauen
 	werkzeug/starten.sh
@@ -37,6 +37,12 @@ pruefung: einrichten
 windows: einrichten
 	cmake --preset windows
 	cmake --build --preset windows
+
+# Every point at which the real process can be killed or refused something; `make test` takes a sample.
+ausfall: einrichten
+	cmake --preset entwicklung
+	cmake --build --preset entwicklung --target ausfall
+	TOLVEK_AUSFALL_SCHRITT=1 bau/entwicklung/bin/ausfall --gtest_brief=1
 
 bench: bauen
 	werkzeug/messen.sh
