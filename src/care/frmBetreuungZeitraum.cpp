@@ -8,8 +8,10 @@ frmBetreuungZeitraum::frmBetreuungZeitraum() : Bildschirm("frmBetreuungZeitraum"
 {
     istKindfenster = true;
     breiteEm = 29;
-    DTPickerVon.setzeDatum(zustand().umgebung.heute());
-    DTPickerBis.setzeDatum(zustand().umgebung.heute());
+    for (auto* feld : {&DTPickerVon, &DTPickerBis}) {
+        feld->heute = [] { return zustand().umgebung.heute(); };
+        feld->setzeDatum(zustand().umgebung.heute());
+    }
     benenneElemente();
     ordneAn();
     beiEingabe = &cmdOK;
@@ -97,13 +99,16 @@ void frmBetreuungZeitraum::zeigeEnde()
     cmdOffenEintragen.zeige(amEnde && !offen);
     DTPickerBis.gibFrei(!offen);
     DTPickerBis.streicheDurch(offen);
-    if (!amEnde) {
-        setzeFokus(&DTPickerVon);
-    } else if (offen) {
-        setzeFokus(&cmdIsOffen);
+    if (amEnde) {
+        setzeFokusAufsEnde();
     } else {
-        setzeFokus(&DTPickerBis);
+        setzeFokus(&DTPickerVon);
     }
+}
+
+void frmBetreuungZeitraum::setzeFokusAufsEnde()
+{
+    setzeFokus(cmdIsOffen.istSichtbar() ? static_cast<Element*>(&cmdIsOffen) : &DTPickerBis);
 }
 
 Nachbarn frmBetreuungZeitraum::nachbarn() const
@@ -128,6 +133,7 @@ void frmBetreuungZeitraum::übernimmVon()
                      "Möglicherweise liegt es innerhalb eines schon angelegten Betreuungszeitraums.\n"
                      "Bitte geben Sie ein neues Datum an."_t,
                      Symbol::Warnung);
+        setzeFokus(&DTPickerVon);
         return;
     }
     strVon = kandidat;
@@ -146,6 +152,7 @@ void frmBetreuungZeitraum::übernimmBis()
                      "Möglicherweise überlappt dieser Zeitraum einen schon angelegten.\n"
                      "Bitte korrigieren Sie die Angaben."_t,
                      Symbol::Warnung);
+        setzeFokusAufsEnde();
         return;
     }
     strBis = kandidat;

@@ -1,10 +1,10 @@
 #include "clients/frmStammdaten.h"
 
 #include "platform/text/Zahl.h"
-#include "store/Tabellen.h"
-#include "store/Tabellenleser.h"
 #include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
+#include "store/Tabellen.h"
+#include "store/Tabellenleser.h"
 #include "zustand/Zustand.h"
 
 #include <array>
@@ -55,6 +55,7 @@ frmStammdaten::frmStammdaten(Bildschirm& hauptmenü) : Bildschirm("frmStammdaten
     benenne("cmdOK"_t, cmdOK);
     benenne("cmdExit"_t, cmdExit);
     ordneAn();
+    DTPickerGeburtsdatum.heute = [] { return zustand().umgebung.heute(); };
     DTPickerGeburtsdatum.setzeDatum(zustand().umgebung.heute());
     cmdGebUnbekanntEintragen.verberge();
 
@@ -162,6 +163,7 @@ void frmStammdaten::beiOK()
     const auto satz = erstelleKernDS();
     if (liegtNeuInDerZukunft(satz) && zeigeMeldung("Geburtsdatum liegt in der Zukunft. Fortfahren ?"_t, Symbol::Frage,
                                                    Knöpfe::OKAbbrechen) != Antwort::OK) {
+        setzeFokus(&DTPickerGeburtsdatum);
         return;
     }
     if (istNeu) {

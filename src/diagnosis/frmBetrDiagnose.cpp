@@ -73,11 +73,21 @@ void frmBetrDiagnose::beiAktivierung()
         m_alteDSBetrDiag = DSBetrDiag();
     }
     zustand().wechsel->setzeFensterPosition(*this);
-    if (!m_istEingerichtet) {
+    const bool istErsteAktivierung = !m_istEingerichtet;
+    if (istErsteAktivierung) {
         richteEin();
         m_istEingerichtet = true;
     }
     setFrmData();
+    if (istErsteAktivierung) {
+        setzeFokus(&ersteFrage()); // not the scroll bar of the listing above it
+    }
+}
+
+Element& frmBetrDiagnose::ersteFrage()
+{
+    auto& grund = optHDohne(optHDohne.von());
+    return istErreichbar(grund) ? grund : optIVKonsum(optIVKonsum.von());
 }
 
 void frmBetrDiagnose::beiEntladen()

@@ -93,6 +93,7 @@ private:
     void bestimmeZeilenregeln(int zeile);
 
     void richteEin();
+    Element& ersteFrage();
     void setzeRollbereich();
 
     // the elements and the two working strings

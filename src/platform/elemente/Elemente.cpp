@@ -103,28 +103,6 @@ bool Ankreuzfeld::taste(const Taste& taste)
     return true;
 }
 
-void Datumsfeld::setzeDatum(const Datum& datum)
-{
-    if (m_datum != datum) {
-        m_datum = datum;
-        meldeÄnderung();
-    }
-}
-
-void Datumsfeld::streicheDurch(bool ja)
-{
-    if (m_durchgestrichen != ja) {
-        m_durchgestrichen = ja;
-        meldeÄnderung();
-    }
-}
-
-void Datumsfeld::wähle(const Datum& datum)
-{
-    setzeDatum(datum);
-    rufe(beiWahl);
-}
-
 void Fortschrittsbalken::setzeBereich(int kleinstes, int größtes)
 {
     m_kleinstes = kleinstes;

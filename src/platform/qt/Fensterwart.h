@@ -48,7 +48,9 @@ private:
     QSize fensterrand() const;
     void platziereKind(const Platz& platz);
     void entlade(const Bildschirm& bildschirm);
+    void gibTastaturWeiter();
     void gleicheFokusAb();
+    void gleicheFokusAb(Bildschirm& bildschirm);
     void beiFokuswechsel(QWidget* neu);
     Ansicht* ansichtVon(const QWidget* widget) const;
 

@@ -7,8 +7,10 @@
 #include "platform/qt/Umschrift.h"
 
 #include <QFocusEvent>
-#include <QScrollBar>
 #include <QTextCursor>
+#include <QTextDocument>
+
+#include <algorithm>
 
 namespace {
 
@@ -24,9 +26,7 @@ Textzeile::Textzeile(Textfeld& element, Ansicht& ansicht, QWidget* eltern)
     : QLineEdit(eltern), m_element(element), m_ansicht(ansicht)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    if (element.höchstlänge() > 0) {
-        setMaxLength(static_cast<int>(element.höchstlänge()));
-    }
+    // no length of the widget's own: it would cut what was stored longer
     connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { gibEin(text); });
     ansicht.binde(element, *this, [this] { übernimm(); });
 }
@@ -41,13 +41,16 @@ void Textzeile::übernimm()
 
 void Textzeile::gibEin(const QString& text)
 {
-    const auto eingabe = filtere(text, cursorPosition(), false, m_element.höchstlänge());
-    meldeFilter(*this, eingabe);
-    if (!eingabe.istWieGetippt) {
-        setText(alsQString(eingabe.text));
+    if (!m_ansicht.lebt()) {
+        return;
+    }
+    const auto eingabe = filtere(m_element.text(), text, cursorPosition(), false, m_element.höchstlänge());
+    if (const auto genommen = alsQString(eingabe.ergebnis.text); genommen != text) {
+        setText(genommen);
         setCursorPosition(static_cast<int>(eingabe.schreibmarke));
     }
-    m_ansicht.ereignis([&] { m_element.gibEin(eingabe.text, eingabe.schreibmarke); });
+    meldeFilter(*this, eingabe.ergebnis, m_element.höchstlänge());
+    m_ansicht.ereignis([&] { m_element.gibEin(eingabe.ergebnis.text, eingabe.schreibmarke); });
 }
 
 void Textzeile::focusInEvent(QFocusEvent* ereignis)
@@ -83,11 +86,46 @@ void Textblock::setzeText(const QString& text)
     m_wirdGefüllt = false;
 }
 
+/// As the document holds it; `toPlainText` would make blanks of no-break spaces.
+QString Textblock::rohtext() const
+{
+    auto text = document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, QChar('\n'));
+    text.replace(QChar::LineSeparator, QChar('\n'));
+    return text;
+}
+
 void Textblock::übernimm()
 {
-    if (const auto neu = alsMehrzeiler(m_element.text()); toPlainText() != neu) {
+    if (const auto neu = alsMehrzeiler(m_element.text()); rohtext() != neu) {
         setzeText(neu);
     }
+}
+
+/// Puts the text that the field takes in place of what was typed; as a step of the same undo, so that the old text
+/// can still be had back.
+void Textblock::verbessere(const QString& genommen, int marke)
+{
+    const auto roh = rohtext();
+    const auto kürzere = std::min(roh.size(), genommen.size());
+    qsizetype vorn = 0;
+    while (vorn < kürzere && roh[vorn] == genommen[vorn]) {
+        ++vorn;
+    }
+    qsizetype hinten = 0;
+    while (hinten < kürzere - vorn && roh[roh.size() - 1 - hinten] == genommen[genommen.size() - 1 - hinten]) {
+        ++hinten;
+    }
+    m_wirdGefüllt = true;
+    QTextCursor stelle(document());
+    stelle.joinPreviousEditBlock();
+    stelle.setPosition(static_cast<int>(vorn));
+    stelle.setPosition(static_cast<int>(roh.size() - hinten), QTextCursor::KeepAnchor);
+    stelle.insertText(genommen.mid(vorn, genommen.size() - vorn - hinten));
+    stelle.endEditBlock();
+    stelle.setPosition(marke);
+    setTextCursor(stelle);
+    m_wirdGefüllt = false;
 }
 
 void Textblock::gibEin()
@@ -95,15 +133,16 @@ void Textblock::gibEin()
     if (m_wirdGefüllt || !m_ansicht.lebt()) {
         return;
     }
-    const auto eingabe = filtere(toPlainText(), textCursor().position(), true, m_element.höchstlänge());
-    meldeFilter(*this, eingabe);
-    if (!eingabe.istWieGetippt) {
-        setzeText(alsMehrzeiler(eingabe.text));
-        auto marke = textCursor();
-        marke.setPosition(markeIn(eingabe.text, eingabe.schreibmarke));
-        setTextCursor(marke);
+    const auto roh = rohtext();
+    const auto eingabe = filtere(m_element.text(), roh, textCursor().position(), true, m_element.höchstlänge());
+    if (eingabe.ergebnis.text == m_element.text() && alsMehrzeiler(eingabe.ergebnis.text) == roh) {
+        return; // only the looks have changed
     }
-    m_ansicht.ereignis([&] { m_element.gibEin(eingabe.text, eingabe.schreibmarke); });
+    if (const auto genommen = alsMehrzeiler(eingabe.ergebnis.text); genommen != roh) {
+        verbessere(genommen, markeIn(eingabe.ergebnis.text, eingabe.schreibmarke));
+    }
+    meldeFilter(*this, eingabe.ergebnis, m_element.höchstlänge());
+    m_ansicht.ereignis([&] { m_element.gibEin(eingabe.ergebnis.text, eingabe.schreibmarke); });
 }
 
 void Textblock::focusInEvent(QFocusEvent* ereignis)

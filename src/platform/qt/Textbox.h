@@ -25,7 +25,8 @@ private:
     Ansicht& m_ansicht;
 };
 
-/// The text box of several lines.
+/// The text box of several lines. Its document is never the record: what was changed in it is carried over to the
+/// element place by place, so that bytes which the toolkit cannot hold or would change stay as they are.
 class Textblock : public QPlainTextEdit {
 public:
     Textblock(Textfeld& element, Ansicht& ansicht, QWidget* eltern);
@@ -40,6 +41,8 @@ private:
     void übernimm();
     void gibEin();
     void setzeText(const QString& text);
+    QString rohtext() const;
+    void verbessere(const QString& genommen, int marke);
 
     Textfeld& m_element;
     Ansicht& m_ansicht;
