@@ -106,9 +106,10 @@ void frmBetreuungZeitraum::zeigeEnde()
     }
 }
 
+/// An open end is taken with Return, as most of them are; a dated one is typed.
 void frmBetreuungZeitraum::setzeFokusAufsEnde()
 {
-    setzeFokus(cmdIsOffen.istSichtbar() ? static_cast<Element*>(&cmdIsOffen) : &DTPickerBis);
+    setzeFokus(cmdIsOffen.istSichtbar() ? static_cast<Element*>(&cmdOK) : &DTPickerBis);
 }
 
 Nachbarn frmBetreuungZeitraum::nachbarn() const

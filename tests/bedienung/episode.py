@@ -11,7 +11,7 @@ SCHRITTE = [
     ("lvwKlienten", "{Tab} "),  # the warning about the older data comes up: two boxes are answered in between
     ("tbNachname", "Muster{Tab}Erika{Tab}Weg 1{Tab}99999{Tab}Musterstadt{Tab}w{Tab} 8.3.1974{Tab}{Alt+O}"),
     ("cmdKlientenHinzufügen", "{Tab}{Tab}{Tab}{Tab} "),
-    ("DTPickerVon", "1.2.2019{Eingabe} 300619{Eingabe}"),
+    ("DTPickerVon", "1.2.2019{Eingabe}{Umschalt+Tab} 300619{Eingabe}"),
     ("comboWieder", "n{Tab}e{Tab}d{Tab}j{Tab}n{Tab}n{Tab}{Ab}{Ab}{Tab}{Ab}{Tab}{Ab}{Tab} {Tab}{Rechts}{Ab}{Rechts}{Ab}{Ab}{Links}"),
     ("triJaNeinKosten(4)", "{Tab}{Tab}{Tab}{Tab}{Tab}{Tab} "),
     ("comboSubstitut", "{Ab}{Tab}{Ab}{Tab} {Tab} {Tab}{Tab}{Rechts}{Tab}{Rechts}{Tab}5{Tab}{Links}{Tab}{Rechts}{Tab}12{Tab}{Alt+O}"),

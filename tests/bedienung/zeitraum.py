@@ -26,7 +26,7 @@ def speichere(bühne, rahmen):
 def prüfe_zeitraum_wird_getippt(bühne):
     rahmen = öffne_zeitraum(bühne)
     bühne.tippe("1.1.2025")
-    bühne.taste("Return", "space")  # the end is open; Space on "offen" asks for a date
+    bühne.taste("Return", "shift+Tab", "Return")  # the end is open; "offen" stands before OK and asks for a date
     bühne.tippe("31.12.2025")
     bühne.taste("Return")
     speichere(bühne, rahmen)
@@ -51,7 +51,7 @@ def prüfe_nach_der_warnung_wird_neu_getippt(bühne):
         bühne.taste("Return")
     with bühne.zurück_zum(dialog):
         bühne.taste("Return")
-    bühne.taste("space")
+    bühne.taste("shift+Tab", "space")
     bühne.tippe("7.1.06")
     bühne.taste("Return")
     with bühne.zurück_zum(rahmen):

@@ -88,6 +88,7 @@ void Textfeld::fügeEin(std::u32string_view zeichen)
     jetzt += alsFeldtext(std::string_view(m_text).substr(bis), istMehrzeilig());
     const auto änderung = nimmÄnderung(m_text, jetzt, marke, istMehrzeilig(), m_höchstlänge);
     gibEin(änderung.ergebnis.text, änderung.schreibmarke);
+    m_anker = änderung.anker;
 }
 
 void Textfeld::ersetze(std::size_t von, std::size_t bis)

@@ -5,6 +5,7 @@
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Auswahlbox.h"
 #include "platform/qt/Datumsbox.h"
+#include "platform/qt/Eingabefilter.h"
 #include "platform/qt/Textbox.h"
 #include "platform/text/Eingabe.h"
 #include "platform/text/Text.h"
@@ -122,7 +123,8 @@ std::optional<Taste> alsTaste(const QKeyEvent& ereignis)
     }
     const auto byte = getipptesZeichen(ereignis, taste.istKombination());
     taste.zeichen = byte.value_or('\0');
-    return byte ? std::optional(taste) : std::nullopt;
+    const bool istZeichen = byte || (!zeichen.isEmpty() && zeichen.front() >= 0x20);
+    return istZeichen ? std::optional(taste) : std::nullopt;
 }
 
 Eingabewächter::Eingabewächter(std::function<Ansicht*(const QWidget*)> ansichtVon) : m_ansichtVon(std::move(ansichtVon))
@@ -204,9 +206,14 @@ bool Eingabewächter::beiTaste(QWidget& widget, const QKeyEvent& ereignis)
     if (feld != nullptr && istSacheDesWidgets(*feld, *taste)) {
         return false;
     }
-    if (ereignis.isAutoRepeat() && taste->art == Taste::Art::Zeichen &&
+    const bool drückt = taste->art == Taste::Art::Zeichen || taste->art == Taste::Art::Eingabe;
+    if (ereignis.isAutoRepeat() && drückt &&
         dynamic_cast<QAbstractButton*>(feld) != nullptr) {
         return true; // a key that is held down presses once
+    }
+    if (taste->art == Taste::Art::Zeichen && taste->zeichen == 0) {
+        meldeFilter(widget, {.text = {}, .verweigert = true}, 0); // nothing that could be stored
+        return true;
     }
     if (auto* box = dynamic_cast<Auswahlbox*>(feld); box != nullptr && box->isEditable()) {
         box->gleicheSchreibmarkeAb(taste->art == Taste::Art::Zeichen || taste->art == Taste::Art::Rück ||

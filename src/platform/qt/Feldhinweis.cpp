@@ -17,8 +17,9 @@ constexpr int vierSekunden = 4000;
 /// hears of it; this label lies in the window of the field and lets every press through.
 class Feldhinweis : public QLabel {
 public:
-    Feldhinweis(const QString& text, QWidget& fenster) : QLabel(text, &fenster)
+    Feldhinweis(const QString& text, QWidget& fenster) : QLabel(&fenster)
     {
+        setText(text); // here it is known what it is: a screen reader asks at once
         setObjectName(QLatin1String(feldhinweis));
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setWordWrap(true);
@@ -53,11 +54,6 @@ void legeAn(const QWidget& feld, QLabel& hinweis)
 
 } // namespace
 
-void nimmFeldhinweis(QWidget& feld)
-{
-    delete feld.window()->findChild<QLabel*>(QLatin1String(feldhinweis), Qt::FindDirectChildrenOnly);
-}
-
 void zeigeFeldhinweis(QWidget& feld, const QString& text)
 {
     static const bool angemeldet = [] {
@@ -65,7 +61,7 @@ void zeigeFeldhinweis(QWidget& feld, const QString& text)
         return true;
     }();
     Q_UNUSED(angemeldet)
-    nimmFeldhinweis(feld);
+    delete feld.window()->findChild<QLabel*>(QLatin1String(feldhinweis), Qt::FindDirectChildrenOnly);
     auto* hinweis = new Feldhinweis(text, *feld.window());
     hinweis->ensurePolished();
     legeAn(feld, *hinweis);

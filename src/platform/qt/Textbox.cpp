@@ -7,6 +7,9 @@
 #include "platform/qt/Umschrift.h"
 
 #include <QFocusEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
 #include <QTextCursor>
 #include <QTextDocument>
 
@@ -47,7 +50,10 @@ void Textzeile::gibEin(const QString& text)
     const auto eingabe = filtere(m_element.text(), text, cursorPosition(), false, m_element.höchstlänge());
     if (const auto genommen = alsQString(eingabe.ergebnis.text); genommen != text) {
         setText(genommen);
-        setCursorPosition(static_cast<int>(eingabe.schreibmarke));
+        const auto marke = static_cast<int>(eingabe.schreibmarke);
+        const auto anker = static_cast<int>(eingabe.anker);
+        setCursorPosition(marke);
+        setSelection(anker, marke - anker);
     }
     meldeFilter(*this, eingabe.ergebnis, m_element.höchstlänge());
     m_ansicht.ereignis([&] { m_element.gibEin(eingabe.ergebnis.text, eingabe.schreibmarke); });
@@ -75,7 +81,7 @@ Textblock::Textblock(Textfeld& element, Ansicht& ansicht, QWidget* eltern)
     : QPlainTextEdit(eltern), m_element(element), m_ansicht(ansicht)
 {
     setTabChangesFocus(true);
-    connect(this, &QPlainTextEdit::textChanged, this, [this] { gibEin(); });
+    connect(this, &QPlainTextEdit::textChanged, this, [this] { übertrage(); });
     ansicht.binde(element, *this, [this] { übernimm(); });
 }
 
@@ -102,9 +108,8 @@ void Textblock::übernimm()
     }
 }
 
-/// Puts the text that the field takes in place of what was typed; as a step of the same undo, so that the old text
-/// can still be had back.
-void Textblock::verbessere(const QString& genommen, int marke)
+/// Makes the document what the field takes, by one step that can be undone.
+void Textblock::ersetze(const QString& genommen, int marke)
 {
     const auto roh = rohtext();
     const auto kürzere = std::min(roh.size(), genommen.size());
@@ -116,33 +121,74 @@ void Textblock::verbessere(const QString& genommen, int marke)
     while (hinten < kürzere - vorn && roh[roh.size() - 1 - hinten] == genommen[genommen.size() - 1 - hinten]) {
         ++hinten;
     }
-    m_wirdGefüllt = true;
     QTextCursor stelle(document());
-    stelle.joinPreviousEditBlock();
     stelle.setPosition(static_cast<int>(vorn));
     stelle.setPosition(static_cast<int>(roh.size() - hinten), QTextCursor::KeepAnchor);
     stelle.insertText(genommen.mid(vorn, genommen.size() - vorn - hinten));
-    stelle.endEditBlock();
     stelle.setPosition(marke);
     setTextCursor(stelle);
-    m_wirdGefüllt = false;
+    ensureCursorVisible();
 }
 
-void Textblock::gibEin()
+void Textblock::fügeEin(const QString& getippt)
+{
+    if (!m_ansicht.lebt() || getippt.isEmpty()) {
+        return;
+    }
+    const auto auswahl = textCursor();
+    auto jetzt = rohtext();
+    jetzt.replace(auswahl.selectionStart(), auswahl.selectionEnd() - auswahl.selectionStart(), getippt);
+    const int marke = auswahl.selectionStart() + static_cast<int>(getippt.size());
+    const auto eingabe = filtere(m_element.text(), jetzt, marke, true, m_element.höchstlänge());
+    meldeFilter(*this, eingabe.ergebnis, m_element.höchstlänge());
+    if (eingabe.schreibmarke != eingabe.anker) {
+        return; // nothing was taken, and what is selected stays
+    }
+    m_wirdGefüllt = true;
+    ersetze(alsMehrzeiler(eingabe.ergebnis.text), markeIn(eingabe.ergebnis.text, eingabe.schreibmarke));
+    m_wirdGefüllt = false;
+    m_ansicht.ereignis([&] { m_element.gibEin(eingabe.ergebnis.text, eingabe.schreibmarke); });
+}
+
+/// What the toolkit did by itself: deleted, broken a line, undone.
+void Textblock::übertrage()
 {
     if (m_wirdGefüllt || !m_ansicht.lebt()) {
         return;
     }
-    const auto roh = rohtext();
-    const auto eingabe = filtere(m_element.text(), roh, textCursor().position(), true, m_element.höchstlänge());
-    if (eingabe.ergebnis.text == m_element.text() && alsMehrzeiler(eingabe.ergebnis.text) == roh) {
-        return; // only the looks have changed
+    const auto roh = alsZeichen(rohtext());
+    const auto marke = static_cast<std::size_t>(textCursor().position());
+    const auto neu = übertrageÄnderung(m_element.text(), roh, std::min(marke, roh.size()), true);
+    if (neu.ergebnis.text != m_element.text()) {
+        m_ansicht.ereignis([&] { m_element.gibEin(neu.ergebnis.text, neu.schreibmarke); });
     }
-    if (const auto genommen = alsMehrzeiler(eingabe.ergebnis.text); genommen != roh) {
-        verbessere(genommen, markeIn(eingabe.ergebnis.text, eingabe.schreibmarke));
+}
+
+void Textblock::keyPressEvent(QKeyEvent* ereignis)
+{
+    const bool istKombination = (ereignis->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+    const bool istAltGr = ereignis->modifiers().testFlag(Qt::ControlModifier) && ereignis->modifiers().testFlag(Qt::AltModifier);
+    const auto text = ereignis->text();
+    const bool istZeichen = !text.isEmpty() && text.front().unicode() >= 0x20 && text.front().unicode() != 0x7F;
+    if (istZeichen && (!istKombination || istAltGr)) {
+        fügeEin(text);
+        ereignis->accept();
+    } else {
+        QPlainTextEdit::keyPressEvent(ereignis);
     }
-    meldeFilter(*this, eingabe.ergebnis, m_element.höchstlänge());
-    m_ansicht.ereignis([&] { m_element.gibEin(eingabe.ergebnis.text, eingabe.schreibmarke); });
+}
+
+void Textblock::inputMethodEvent(QInputMethodEvent* ereignis)
+{
+    QInputMethodEvent ohneText(ereignis->preeditString(), ereignis->attributes());
+    QPlainTextEdit::inputMethodEvent(&ohneText);
+    fügeEin(ereignis->commitString());
+    ereignis->accept();
+}
+
+void Textblock::insertFromMimeData(const QMimeData* daten)
+{
+    fügeEin(daten->text());
 }
 
 void Textblock::focusInEvent(QFocusEvent* ereignis)

@@ -186,6 +186,26 @@ Unberührt vergleiche(const std::vector<Feldzeichen>& alt, std::u32string_view j
     return {vorn, hinten};
 }
 
+/// The bytes that were touched.
+struct Stelle {
+    std::size_t anfang;
+    std::size_t ende;
+};
+
+Stelle bytesZu(const std::vector<Feldzeichen>& alt, std::size_t länge, const Unberührt& unberührt)
+{
+    return {unberührt.vorn == alt.size() ? länge : alt[unberührt.vorn].anfang,
+            unberührt.hinten == 0 ? länge : alt[alt.size() - unberührt.hinten].anfang};
+}
+
+/// The old text with what is new in place of what was touched.
+Feldänderung eingesetzt(std::string_view bisher, const Stelle& stelle, Eingabeergebnis neu)
+{
+    const std::size_t marke = stelle.anfang + neu.text.size();
+    neu.text = std::string(bisher.substr(0, stelle.anfang)) + neu.text + std::string(bisher.substr(stelle.ende));
+    return {std::move(neu), marke, marke};
+}
+
 void kürze(Eingabeergebnis& ergebnis, std::size_t platz)
 {
     if (ergebnis.text.size() > platz) {
@@ -271,27 +291,42 @@ Feldänderung nimmÄnderung(std::string_view bisher, std::u32string_view jetzt, 
 {
     const auto alt = feldzeichen(bisher, mehrzeilig);
     auto [vorn, hinten] = vergleiche(alt, jetzt, marke);
+    const auto getipptes = [&] { return jetzt.substr(vorn, jetzt.size() - vorn - hinten); };
     // a mark that is typed behind a letter changes that letter
-    if (vorn > 0 && vorn + hinten < jetzt.size() && mitAkzent(jetzt[vorn - 1], jetzt[vorn])) {
+    const bool beginntMitAkzent = vorn > 0 && !getipptes().empty() && istAkzent(getipptes().front());
+    if (beginntMitAkzent && mitAkzent(jetzt[vorn - 1], jetzt[vorn])) {
         --vorn;
     }
-    const bool amBuchstaben = vorn > 0 && vorn + hinten < jetzt.size() && istAkzent(jetzt[vorn]);
-    auto getippt = nimmEingabe(jetzt.substr(vorn, jetzt.size() - vorn - hinten), mehrzeilig);
-    if (amBuchstaben && getippt.verweigert) {
+    auto getippt = nimmEingabe(getipptes(), mehrzeilig);
+    if (beginntMitAkzent && getippt.verweigert) {
         getippt.verweigert = false;
         getippt.ersetzt = true;
     }
-    const std::size_t anfang = vorn == alt.size() ? bisher.size() : alt[vorn].anfang;
-    const std::size_t ende = hinten == 0 ? bisher.size() : alt[alt.size() - hinten].anfang;
-    const std::size_t bleibt = anfang + bisher.size() - ende;
+    const Stelle stelle = bytesZu(alt, bisher.size(), {vorn, hinten});
     if (höchstlänge > 0) {
+        const std::size_t bleibt = stelle.anfang + bisher.size() - stelle.ende;
         kürze(getippt, höchstlänge - std::min(höchstlänge, bleibt));
     }
-    Feldänderung änderung{std::move(getippt), 0};
-    auto& text = änderung.ergebnis.text;
-    änderung.schreibmarke = anfang + text.size();
-    text = std::string(bisher.substr(0, anfang)) + text + std::string(bisher.substr(ende));
-    return änderung;
+    if (getippt.text.empty() && !getipptes().empty()) {
+        getippt.text = bisher;
+        return {std::move(getippt), stelle.ende, stelle.anfang};
+    }
+    return eingesetzt(bisher, stelle, std::move(getippt));
+}
+
+Feldänderung übertrageÄnderung(std::string_view bisher, std::u32string_view jetzt, std::size_t marke, bool mehrzeilig)
+{
+    const auto alt = feldzeichen(bisher, mehrzeilig);
+    const auto unberührt = vergleiche(alt, jetzt, marke);
+    Eingabeergebnis neu;
+    for (const char32_t zeichen : jetzt.substr(unberührt.vorn, jetzt.size() - unberührt.vorn - unberührt.hinten)) {
+        if (mehrzeilig && zeichen == U'\n') {
+            neu.text.append("\r\n");
+        } else if (const auto byte = zeichensatz::byteVon(zeichen)) {
+            neu.text.push_back(*byte);
+        }
+    }
+    return eingesetzt(bisher, bytesZu(alt, bisher.size(), unberührt), std::move(neu));
 }
 
 std::u32string ausUtf8(std::string_view text)

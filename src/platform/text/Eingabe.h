@@ -27,13 +27,19 @@ std::u32string alsFeldtext(std::string_view text, bool mehrzeilig);
 struct Feldänderung {
     Eingabeergebnis ergebnis;
     std::size_t schreibmarke = 0; ///< bytes left of the cursor
+    std::size_t anker = 0;        ///< the other end of what stays selected, since nothing was taken in its place
 };
 
 /// The field held `bisher`; now it shows `jetzt` (line breaks are line feeds) with the cursor behind `marke`
 /// characters. Only what was typed or pasted goes through nimmEingabe, and only its length counts against
-/// `höchstlänge`: what nobody has touched stays to the byte, also what could not be typed.
+/// `höchstlänge`: what nobody has touched stays to the byte, also what could not be typed. Where nothing of it can be
+/// taken, nothing changes, and what it would have replaced stays too.
 Feldänderung nimmÄnderung(std::string_view bisher, std::u32string_view jetzt, std::size_t marke, bool mehrzeilig,
                           std::size_t höchstlänge = 0);
+
+/// The same for a change that only moves characters which the field has held before (deleting, undoing): every byte
+/// comes back as it was.
+Feldänderung übertrageÄnderung(std::string_view bisher, std::u32string_view jetzt, std::size_t marke, bool mehrzeilig);
 
 /// The byte for one character: itself, its nearest letter, or nothing.
 std::optional<char> nächstesZeichen(char32_t zeichen);

@@ -104,6 +104,21 @@ TEST(Feldeingabe, WasNiemandAngefasstHatBleibtAufsByte)
     }
 }
 
+TEST(Feldeingabe, WasNichtGenommenWirdErsetztAuchNichts)
+{
+    const auto änderung = nimmÄnderung("abc", U"a漢", 2, false);
+    EXPECT_EQ(änderung.ergebnis.text, "abc");
+    EXPECT_TRUE(änderung.ergebnis.verweigert);
+}
+
+TEST(Feldeingabe, ZurückgenommenesKommtMitJedemByteWieder)
+{
+    const auto änderung = übertrageÄnderung("ad", U"a\u00A0\u0081\n\td", 5, true);
+    EXPECT_EQ(änderung.ergebnis.text, "a\xA0\x81\r\n\td");
+    EXPECT_EQ(änderung.schreibmarke, 6U);
+    EXPECT_EQ(übertrageÄnderung("a\xA0\x81\r\nd", U"a\u0081\nd", 1, true).ergebnis.text, "a\x81\r\nd");
+}
+
 TEST(Feldeingabe, DieLängeGiltNurFürHinzugetipptes)
 {
     const auto kürzer = nimmÄnderung("abcdefgh", U"abcdefg", 7, false, 5);

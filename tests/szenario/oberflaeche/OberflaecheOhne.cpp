@@ -165,7 +165,9 @@ void OberflächeOhne::wähleDatum(Datumsfeld& feld, const Datum& datum)
 bool OberflächeOhne::gibElement(Element& element, const Tastendruck& druck, const Taste& taste)
 {
     auto* auswahl = dynamic_cast<Auswahlfeld*>(&element);
-    if (auswahl != nullptr && taste.klapptAuf()) {
+    const bool mitLeertaste = auswahl != nullptr && !auswahl->istTippbar() && !taste.istKombination() &&
+                              taste.art == Taste::Art::Zeichen && taste.zeichen == ' ';
+    if (auswahl != nullptr && (mitLeertaste || taste.klapptAuf())) {
         m_offeneListe.öffne(*auswahl);
         return true;
     }
