@@ -2,7 +2,7 @@
 
 #include "daten/Zufall.h"
 
-#include "export/moNationen.h"
+#include "satz/moNationen.h"
 #include "platform/Ressourcen.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Datum.h"

@@ -1,6 +1,6 @@
 #include "diagnosis/frmBetrDiagnoseCodeAuswahl.h"
 
-#include "diagnosis/Diagnosesatz.h"
+#include "satz/Diagnosesatz.h"
 #include "diagnosis/frmBetrDiagnose.h"
 #include "zustand/Zustand.h"
 

@@ -1,7 +1,7 @@
 #include "export/Zeilenbauer.h"
 
-#include "diagnosis/moData.h"
-#include "export/moNationen.h"
+#include "satz/moData.h"
+#include "satz/moNationen.h"
 #include "platform/text/Datum.h"
 #include "platform/text/Zahl.h"
 #include "satz/Satzaufbau.h"

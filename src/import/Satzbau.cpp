@@ -1,6 +1,6 @@
 #include "import/Satzbau.h"
 
-#include "export/moNationen.h"
+#include "satz/moNationen.h"
 #include "platform/text/Zahl.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "import/moAnweisungen.h"
 
-#include "diagnosis/moData.h"
+#include "satz/moData.h"
 #include "platform/Ressourcen.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"

@@ -1,6 +1,6 @@
 #include "spreadsheet/Auswertung.h"
 
-#include "diagnosis/moData.h"
+#include "satz/moData.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/dateien/Zeilen.h"
 #include "platform/text/Text.h"

@@ -1,6 +1,6 @@
 #include "spreadsheet/moErstelleHeader.h"
 
-#include "diagnosis/moData.h"
+#include "satz/moData.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "spreadsheet/moVariablen.h"

@@ -2,7 +2,7 @@
 
 #include "fuzz/Stummeumgebung.h"
 
-#include "diagnosis/moData.h"
+#include "satz/moData.h"
 #include "export/Diagnosezeile.h"
 #include "export/Kernzeile.h"
 #include "platform/text/Text.h"

@@ -3,8 +3,8 @@
 #include "hilfen/Testumgebung.h"
 #include "import/Feldanweisung.h"
 
-#include "diagnosis/moData.h"
-#include "export/moNationen.h"
+#include "satz/moData.h"
+#include "satz/moNationen.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "diagnosis/moData.h"
+#include "satz/moData.h"
 #include "hilfen/Testumgebung.h"
 #include "platform/mappe/Arbeitsmappe.h"
 #include "spreadsheet/Auswertung.h"

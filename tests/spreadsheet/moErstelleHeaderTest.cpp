@@ -1,6 +1,6 @@
 #include "spreadsheet/moErstelleHeader.h"
 
-#include "diagnosis/moData.h"
+#include "satz/moData.h"
 #include "hilfen/Abnahme.h"
 #include "hilfen/Testumgebung.h"
 #include "spreadsheet/moVariablen.h"
