@@ -13,15 +13,16 @@ struct Tastenzeile {
 };
 
 /// The handbook has the whole table.
-constexpr std::array<Tastenzeile, 8> tasten{{
+constexpr std::array<Tastenzeile, 9> tasten{{
     {"F1"_t, "öffnet das Handbuch bei diesem Bildschirm"_t},
     {"Tab, Umschalt+Tab"_t, "nächstes Feld, voriges Feld"_t},
     {"Leertaste"_t, "drückt die Schaltfläche, markiert die Option"_t},
     {"Pfeil links, rechts"_t, "ändern ein Antwortfeld (k.A., ja, nein)"_t},
     {"Pfeil auf, ab"_t, "wechseln die Zeile, wählen in Listen"_t},
     {"Alt + Buchstabe"_t, "drückt die Schaltfläche mit diesem unterstrichenen Buchstaben"_t},
-    {"Eingabe"_t, "OK in den Fenstern Zeitraum und Problembereiche"_t},
-    {"Esc"_t, "Exit"_t},
+    {"F4, Alt+Pfeil ab"_t, "öffnet eine Auswahl, beim Datum den Kalender"_t},
+    {"Eingabe"_t, "drückt die Schaltfläche, sonst OK in den Fenstern Zeitraum und Problembereiche"_t},
+    {"Esc"_t, "Exit; ein getipptes Datum nimmt es erst zurück"_t},
 }};
 
 std::string tastenliste()

@@ -290,19 +290,21 @@ Feldänderung nimmÄnderung(std::string_view bisher, std::u32string_view jetzt, 
                           std::size_t höchstlänge)
 {
     const auto alt = feldzeichen(bisher, mehrzeilig);
-    auto [vorn, hinten] = vergleiche(alt, jetzt, marke);
-    const auto getipptes = [&] { return jetzt.substr(vorn, jetzt.size() - vorn - hinten); };
+    auto unberührt = vergleiche(alt, jetzt, marke);
+    const auto getipptes = [&] {
+        return jetzt.substr(unberührt.vorn, jetzt.size() - unberührt.vorn - unberührt.hinten);
+    };
     // a mark that is typed behind a letter changes that letter
-    const bool beginntMitAkzent = vorn > 0 && !getipptes().empty() && istAkzent(getipptes().front());
-    if (beginntMitAkzent && mitAkzent(jetzt[vorn - 1], jetzt[vorn])) {
-        --vorn;
+    const bool beginntMitAkzent = unberührt.vorn > 0 && !getipptes().empty() && istAkzent(getipptes().front());
+    if (beginntMitAkzent && mitAkzent(jetzt[unberührt.vorn - 1], jetzt[unberührt.vorn])) {
+        --unberührt.vorn;
     }
     auto getippt = nimmEingabe(getipptes(), mehrzeilig);
     if (beginntMitAkzent && getippt.verweigert) {
         getippt.verweigert = false;
         getippt.ersetzt = true;
     }
-    const Stelle stelle = bytesZu(alt, bisher.size(), {vorn, hinten});
+    const Stelle stelle = bytesZu(alt, bisher.size(), unberührt);
     if (höchstlänge > 0) {
         const std::size_t bleibt = stelle.anfang + bisher.size() - stelle.ende;
         kürze(getippt, höchstlänge - std::min(höchstlänge, bleibt));
