@@ -1,8 +1,8 @@
 #include "diagnosis/frmBetrDiagnoseErstellen.h"
 
-#include "satz/Diagnosesatz.h"
 #include "diagnosis/frmBetrDiagnose.h"
 #include "platform/text/Zahl.h"
+#include "satz/Diagnosesatz.h"
 #include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Comboregeln.h"
@@ -46,12 +46,6 @@ Gruppenart artVon(int gruppe)
         return Gruppenart::Substanz;
     }
     return gruppe <= 28 ? Gruppenart::MissbrauchOderSpiel : Gruppenart::Essstörung;
-}
-
-/// The name of the group, empty for a number that is none.
-std::string_view gruppenname(int gruppe)
-{
-    return artVon(gruppe) == Gruppenart::Keine ? std::string_view() : aryProblem[static_cast<std::size_t>(gruppe)];
 }
 
 bool wirdGefragt(Gruppenart art, int frage)

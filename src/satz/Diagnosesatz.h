@@ -1,7 +1,7 @@
 #pragma once
 
-#include "satz/moData.h"
 #include "satz/Satzaufbau.h"
+#include "satz/moData.h"
 
 #include <cstdint>
 #include <string>

@@ -71,8 +71,8 @@ constexpr std::array regeln{
                 "bleibt liegen; darin kann der Stand einer Tabelle stehen"_t},
     Befundregel{Importordner, Fehler, "Arbeitsordner eines abgebrochenen Imports"_t, wirdEntfernt},
     Befundregel{SicherungAngefangen, Fehler, "angefangene Sicherung"_t, wirdEntfernt},
-    Befundregel{SicherungUnvollendet, Hinweis, "beiseite gelegter Stand einer Eingabe, die nicht vollendet werden konnte"_t,
-                "bleibt liegen"_t},
+    Befundregel{SicherungUnvollendet, Hinweis,
+                "beiseite gelegter Stand einer Eingabe, die nicht vollendet werden konnte"_t, "bleibt liegen"_t},
 };
 
 std::string feldnameAn(const Fundort& ort)
@@ -109,8 +109,8 @@ void Befundliste::melde(Befundart art, Fundort ort, std::string_view genauer, st
     const auto& regel = regelFür(art);
     auto feldname = feldnameAn(ort);
     auto text = genauer.empty() ? std::string(regel.was) : verbinde(regel.was, ": "_t, genauer);
-    m_befunde.push_back({art, std::move(ort), std::move(feldname), std::move(text),
-                         std::string(folge.empty() ? regel.folge : folge)});
+    m_befunde.push_back(
+        {art, std::move(ort), std::move(feldname), std::move(text), std::string(folge.empty() ? regel.folge : folge)});
 }
 
 std::vector<Befund> Befundliste::nimm()

@@ -106,8 +106,8 @@ void Bezugsprüfung::prüfeZeiträume(std::int32_t kernID)
                             siehe(alsNummer(schlüssel), weiteste->zeile));
         }
         offene = betreuung.zeitraum.offen ? &betreuung : offene;
-        if (weiteste == nullptr || (!weiteste->zeitraum.offen && (betreuung.zeitraum.offen ||
-                                                                 *betreuung.zeitraum.bis > *weiteste->zeitraum.bis))) {
+        if (weiteste == nullptr || (!weiteste->zeitraum.offen &&
+                                    (betreuung.zeitraum.offen || *betreuung.zeitraum.bis > *weiteste->zeitraum.bis))) {
             weiteste = &betreuung;
         }
     }

@@ -111,15 +111,12 @@ Prüfbericht prüfeBestand(Dateien& dateien, const Bestandspfade& pfade)
     Befundliste befunde;
     Bezugsprüfung bezüge(befunde);
     Prüfbericht bericht;
-    bericht.klienten = prüfeTabelle(dateien, pfade, Tabelle::Kern, befunde, [&](const Satzzeile& satz) {
-        prüfeKlientensatz(satz, bezüge, befunde);
-    });
-    bericht.betreuungen = prüfeTabelle(dateien, pfade, Tabelle::Betr, befunde, [&](const Satzzeile& satz) {
-        prüfeBetreuungssatz(satz, bezüge, befunde);
-    });
-    prüfeTabelle(dateien, pfade, Tabelle::Diag, befunde, [&](const Satzzeile& satz) {
-        prüfeDiagnosesatz(satz, bezüge, befunde);
-    });
+    bericht.klienten = prüfeTabelle(dateien, pfade, Tabelle::Kern, befunde,
+                                    [&](const Satzzeile& satz) { prüfeKlientensatz(satz, bezüge, befunde); });
+    bericht.betreuungen = prüfeTabelle(dateien, pfade, Tabelle::Betr, befunde,
+                                       [&](const Satzzeile& satz) { prüfeBetreuungssatz(satz, bezüge, befunde); });
+    prüfeTabelle(dateien, pfade, Tabelle::Diag, befunde,
+                 [&](const Satzzeile& satz) { prüfeDiagnosesatz(satz, bezüge, befunde); });
     bezüge.schließeAb();
     prüfeReste(dateien, pfade, befunde);
     bericht.befunde = befunde.nimm();

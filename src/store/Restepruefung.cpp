@@ -23,8 +23,7 @@ std::vector<Vermerk> prüfeVermerk(Dateien& dateien, const Bestandspfade& pfade,
         return {};
     }
     const auto vermerke = leseVermerke(dateien.lies(pfade.vorgang)->text(), pfade);
-    befunde.melde(vermerke ? Befundart::VermerkGanz : Befundart::VermerkUnvollständig,
-                  anDatei(pfade.vorgang, wurzel));
+    befunde.melde(vermerke ? Befundart::VermerkGanz : Befundart::VermerkUnvollständig, anDatei(pfade.vorgang, wurzel));
     return vermerke.value_or(std::vector<Vermerk>());
 }
 

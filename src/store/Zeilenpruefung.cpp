@@ -37,9 +37,7 @@ void prüfeFelderzahl(const Satzzeile& satz, Befundliste& befunde)
 {
     const auto form = formVon(satz.tabelle);
     const auto gefunden = satz.felder.size();
-    const auto genauer = [&] {
-        return verbinde(std::to_string(gefunden), " statt "_t, std::to_string(form.felder));
-    };
+    const auto genauer = [&] { return verbinde(std::to_string(gefunden), " statt "_t, std::to_string(form.felder)); };
     if (gefunden < form.felder) {
         befunde.melde(Befundart::FelderZuWenige, satz.ort(), genauer(),
                       gefunden < form.nötigeFelder ? "endet beim Start mit einem Laufzeitfehler"_t
@@ -82,10 +80,10 @@ void prüfeZeichen(const Satzzeile& satz, Befundliste& befunde)
         });
         if (fund != text.end()) {
             const auto stelle = std::to_string(fund - text.begin() + 1);
-            befunde.melde(artVon(*fund) == Zeichenart::Steuer ? Befundart::Steuerzeichen : Befundart::ZeichenUnbelegt,
-                          satz.ort(feld),
-                          verbinde("Code "_t, std::to_string(static_cast<unsigned char>(*fund)), " an Stelle "_t,
-                                   stelle));
+            befunde.melde(
+                artVon(*fund) == Zeichenart::Steuer ? Befundart::Steuerzeichen : Befundart::ZeichenUnbelegt,
+                satz.ort(feld),
+                verbinde("Code "_t, std::to_string(static_cast<unsigned char>(*fund)), " an Stelle "_t, stelle));
         }
     }
 }

@@ -1,8 +1,8 @@
 #include "diagnosis/frmBetrDiagnose.h"
 #include "app/moExtras.h"
 #include "diagnosis/frmBetrDiagnoseErstellen.h"
-#include "satz/Diagnosesatz.h"
 #include "hilfen/Testumgebung.h"
+#include "satz/Diagnosesatz.h"
 #include "satz/moHelferlein.h"
 
 #include <gtest/gtest.h>

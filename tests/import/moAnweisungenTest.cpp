@@ -4,8 +4,8 @@
 #include "import/Feldanweisung.h"
 
 #include "satz/moData.h"
-#include "satz/moNationen.h"
 #include "satz/moHelferlein.h"
+#include "satz/moNationen.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>
