@@ -8,7 +8,7 @@ pakete=(
     # tests and benchmarks
     libgtest-dev libgmock-dev libbenchmark-dev libclang-rt-14-dev g++-mingw-w64-x86-64-win32 locales
     # opening workbooks, windows without a display, pictures
-    libreoffice-calc xvfb xauth x11-utils xdotool fonts-noto-core fontconfig unzip
+    libreoffice-calc xvfb xauth x11-utils xdotool openbox python3 fonts-noto-core fontconfig unzip
     # counting a process's calls to the system
     strace
 )

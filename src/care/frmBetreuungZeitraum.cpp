@@ -9,8 +9,10 @@ frmBetreuungZeitraum::frmBetreuungZeitraum() : Bildschirm("frmBetreuungZeitraum"
 {
     istKindfenster = true;
     breiteEm = 29;
-    DTPickerVon.setzeDatum(zustand().umgebung.heute());
-    DTPickerBis.setzeDatum(zustand().umgebung.heute());
+    for (auto* feld : {&DTPickerVon, &DTPickerBis}) {
+        feld->heute = [] { return zustand().umgebung.heute(); };
+        feld->setzeDatum(zustand().umgebung.heute());
+    }
     benenneElemente();
     ordneAn();
     beiEingabe = &cmdOK;
@@ -100,13 +102,17 @@ void frmBetreuungZeitraum::zeigeEnde()
     cmdOffenEintragen.zeige(amEnde && !offen);
     DTPickerBis.gibFrei(!offen);
     DTPickerBis.streicheDurch(offen);
-    if (!amEnde) {
-        setzeFokus(&DTPickerVon);
-    } else if (offen) {
-        setzeFokus(&cmdIsOffen);
+    if (amEnde) {
+        setzeFokusAufsEnde();
     } else {
-        setzeFokus(&DTPickerBis);
+        setzeFokus(&DTPickerVon);
     }
+}
+
+/// An open end is taken with Return, as most of them are; a dated one is typed.
+void frmBetreuungZeitraum::setzeFokusAufsEnde()
+{
+    setzeFokus(cmdIsOffen.istSichtbar() ? static_cast<Element*>(&cmdOK) : &DTPickerBis);
 }
 
 Nachbarn frmBetreuungZeitraum::nachbarn() const
@@ -133,6 +139,7 @@ void frmBetreuungZeitraum::übernimmVon()
                      "Möglicherweise liegt es innerhalb eines schon angelegten Betreuungszeitraums.\n"
                      "Bitte geben Sie ein neues Datum an."_t,
                      Symbol::Warnung);
+        setzeFokus(&DTPickerVon);
         return;
     }
     strVon = kandidat;
@@ -151,6 +158,7 @@ void frmBetreuungZeitraum::übernimmBis()
                      "Möglicherweise überlappt dieser Zeitraum einen schon angelegten.\n"
                      "Bitte korrigieren Sie die Angaben."_t,
                      Symbol::Warnung);
+        setzeFokusAufsEnde();
         return;
     }
     strBis = kandidat;

@@ -84,8 +84,8 @@ void frmHauptmenü::ordneAn()
                                            cmdBetreuungHinzufügen, cmdBetreuungBearbeiten, cmdBetreuungLöschen)});
     aufbau =
         karten({breit(std::move(klienten), breiteDerKlienten), breit(std::move(betreuungen), breiteDerBetreuungen)});
+    // no Escape: leaving the program by one stray key would cost the rollback
     leiste = {.links = {&cmdRollback, &cmdDatenübernahme}, .rechts = {&cmdExit}};
-    beiEscape = &cmdExit;
 }
 
 void frmHauptmenü::verbindeRegeln()

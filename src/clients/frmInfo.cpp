@@ -21,8 +21,9 @@ constexpr std::array<Tastenzeile, 9> tasten{{
     {"Pfeil auf, ab"_t, "wechseln die Zeile, wählen in Listen"_t},
     {"F4"_t, "öffnet die Auswahlliste oder den Kalender"_t},
     {"Alt + Buchstabe"_t, "drückt die Schaltfläche mit diesem unterstrichenen Buchstaben"_t},
-    {"Eingabe"_t, "OK in den Fenstern Zeitraum und Problembereiche"_t},
-    {"Esc"_t, "Exit"_t},
+    {"F4, Alt+Pfeil ab"_t, "öffnet eine Auswahl, beim Datum den Kalender"_t},
+    {"Eingabe"_t, "drückt die Schaltfläche, sonst OK in den Fenstern Zeitraum und Problembereiche"_t},
+    {"Esc"_t, "Exit; ein getipptes Datum nimmt es erst zurück"_t},
 }};
 
 std::string tastenliste()

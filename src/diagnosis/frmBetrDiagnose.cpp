@@ -75,12 +75,22 @@ void frmBetrDiagnose::beiAktivierung()
         m_alteDSBetrDiag = DSBetrDiag();
     }
     zustand().wechsel->setzeFensterPosition(*this);
-    if (!m_istEingerichtet) {
+    const bool istErsteAktivierung = !m_istEingerichtet;
+    if (istErsteAktivierung) {
         richteEin();
         m_istEingerichtet = true;
     }
     prüfeBitfeld();
     setFrmData();
+    if (istErsteAktivierung) {
+        setzeFokus(&ersteFrage()); // not the scroll bar of the listing above it
+    }
+}
+
+Element& frmBetrDiagnose::ersteFrage()
+{
+    auto& grund = optHDohne(optHDohne.von());
+    return istErreichbar(grund) ? grund : optIVKonsum(optIVKonsum.von());
 }
 
 /// A bit field that is no number would come up somewhere in the middle of the page; here its record can be named.

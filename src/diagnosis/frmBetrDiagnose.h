@@ -94,6 +94,7 @@ private:
 
     void richteEin();
     void prüfeBitfeld();
+    Element& ersteFrage();
     void setzeRollbereich();
 
     // the elements and the two working strings

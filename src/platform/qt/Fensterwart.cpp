@@ -79,7 +79,23 @@ Fensterereignisse Fensterwart::rahmenereignisse()
                     ereignis([&] { m_rahmen.benutzerÄndertGröße(alsTwips(größe.width()), alsTwips(größe.height())); });
                 },
             .maximiert = [this](bool maximiert) { ereignis([&] { m_rahmen.benutzerMaximiert(maximiert); }); },
-            .schließwunsch = [this] { ereignis([&] { m_rahmen.benutzerSchließt(); }); }};
+            .schließwunsch = [this] { ereignis([&] { m_rahmen.benutzerSchließt(); }); },
+            .aktiviert = [this] { gibTastaturWeiter(); }};
+}
+
+/// A page that takes no input has no use for the keyboard: a click on it, or on the frame in the task bar, leads to
+/// the window that stands over it.
+void Fensterwart::gibTastaturWeiter()
+{
+    const auto* oben = platzVon(m_folge.inGebrauch());
+    if (m_seite == nullptr || m_folge.istFrei(*m_seite) || oben == nullptr || oben->kind == nullptr) {
+        return;
+    }
+    // the window manager is still busy with the frame
+    QTimer::singleShot(0, oben->kind, [kind = oben->kind] {
+        kind->raise();
+        kind->activateWindow();
+    });
 }
 
 Fensterereignisse Fensterwart::kindereignisse(Bildschirm& bildschirm)
@@ -295,20 +311,28 @@ void Fensterwart::entlade(const Bildschirm& bildschirm)
 /// reached, the next one in reading order gets it, so that the keyboard is never lost.
 void Fensterwart::gleicheFokusAb()
 {
-    auto* bildschirm = m_folge.inGebrauch();
-    const auto* platz = platzVon(bildschirm);
-    if (platz == nullptr) {
-        return;
+    for (auto* bildschirm : m_folge.geladene()) { // more than one takes input where a window leaves the page free
+        if (m_folge.istSichtbar(*bildschirm) && m_folge.istFrei(*bildschirm)) {
+            gleicheFokusAb(*bildschirm);
+        }
     }
-    auto* element = bildschirm->fokus();
-    if (element != nullptr && !bildschirm->istErreichbar(*element)) {
-        auto folge = bildschirm->tabFolge();
+}
+
+void Fensterwart::gleicheFokusAb(Bildschirm& bildschirm)
+{
+    const auto* platz = platzVon(&bildschirm);
+    if (platz == nullptr || (platz->kind == nullptr && &bildschirm != m_seite)) {
+        return; // the frame has one focus, that of the page it shows
+    }
+    auto* element = bildschirm.fokus();
+    if (element != nullptr && !bildschirm.istErreichbar(*element)) {
+        auto folge = bildschirm.tabFolge();
         auto ort = std::find(folge.begin(), folge.end(), element);
         std::rotate(folge.begin(), ort, folge.end());
         const auto ziel =
-            std::find_if(folge.begin(), folge.end(), [&](const Element* e) { return bildschirm->istErreichbar(*e); });
+            std::find_if(folge.begin(), folge.end(), [&](const Element* e) { return bildschirm.istErreichbar(*e); });
         if (ziel != folge.end()) {
-            bildschirm->setzeFokus(*ziel); // comes back here
+            bildschirm.setzeFokus(*ziel); // comes back here
         }
         return;
     }

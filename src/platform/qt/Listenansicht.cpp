@@ -7,6 +7,7 @@
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 #include <algorithm>
@@ -157,6 +158,12 @@ void Listenansicht::resizeEvent(QResizeEvent* ereignis)
 {
     QTreeView::resizeEvent(ereignis);
     verteileSpalten();
+}
+
+/// The rows are moved by the element's keys alone; a highlight that the toolkit moves is no selection.
+void Listenansicht::keyPressEvent(QKeyEvent* ereignis)
+{
+    ereignis->ignore();
 }
 
 void Listenansicht::mousePressEvent(QMouseEvent* ereignis)
