@@ -8,7 +8,9 @@ pakete=(
     # tests and benchmarks
     libgtest-dev libgmock-dev libbenchmark-dev libclang-rt-14-dev g++-mingw-w64-x86-64-win32 locales
     # opening workbooks, windows without a display, pictures
-    libreoffice-calc xvfb xauth x11-utils xdotool fonts-noto-core fontconfig unzip
+    libreoffice-calc xvfb xauth x11-utils xdotool openbox fonts-noto-core fontconfig unzip
+    # the windows as a screen reader meets them
+    at-spi2-core dbus python3-gi
 )
 
 fehlend=()

@@ -49,7 +49,7 @@ public:
     Element* elementVon(const QWidget* widget) const;
 
     QWidget* wurzel() const { return m_wurzel; }
-    void setzeWurzel(QWidget& wurzel) { m_wurzel = &wurzel; }
+    void setzeWurzel(QWidget& wurzel);
     void löse();
 
 private:

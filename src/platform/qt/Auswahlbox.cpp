@@ -6,6 +6,7 @@
 #include "platform/qt/Eingabefilter.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
+#include "platform/qt/Vorlesen.h"
 
 #include <QAbstractItemView>
 #include <QFocusEvent>
@@ -20,6 +21,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -105,8 +107,12 @@ void Auswahlbox::übernimm()
         liste->übernimm();
     }
     const auto text = m_element.text();
-    m_text = alsQString(text);
+    const bool istNeu = std::exchange(m_text, alsQString(text)) != alsQString(text);
+    const int vorher = currentIndex();
     setCurrentIndex(stelleIn(m_element.liste(), text));
+    if (istNeu && vorher == currentIndex()) {
+        meldeWert(*this, m_text); // the toolkit tells only of another entry of the list
+    }
     if (isEditable()) {
         übernimmTippbar();
     }

@@ -50,6 +50,7 @@ private:
     void entlade(const Bildschirm& bildschirm);
     void gleicheFokusAb();
     void beiFokuswechsel(QWidget* neu);
+    void folgeFremdemFokus(const QWidget& widget);
     Ansicht* ansichtVon(const QWidget* widget) const;
 
     Ablauf& m_ablauf;
@@ -61,6 +62,7 @@ private:
     const Bildschirm* m_seite = nullptr; ///< whose page the frame shows
     std::vector<QMenu*> m_menüs;
     QPointer<QWidget> m_aktiveZeile;
+    bool m_setztFokus = false; ///< the focus that changes is the program's own doing
     Eingabewächter m_wächter;
     std::vector<Abonnement> m_abonnements;
     QMetaObject::Connection m_fokusverbindung;

@@ -225,6 +225,7 @@ Listung::Listung(const Anordnung& listung, Ansicht& ansicht, QWidget* eltern)
       m_blatt(new Listungsblatt(listung, ansicht, m_leiste, m_rolle->viewport()))
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    m_leiste->setAccessibleName(alsQString(listung.text).section(QChar('\n'), 1));
     m_rolle->setFocusPolicy(Qt::NoFocus);
     m_rolle->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_rolle->setWidgetResizable(true);
