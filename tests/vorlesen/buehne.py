@@ -60,12 +60,13 @@ class Bühne:
     def _umgebung(self, **mehr):
         return {**os.environ, "DISPLAY": self.schirm, **mehr}
 
-    def starte(self, dpi):
-        """Starts the program with the desktop's font at this resolution (96 is 100 %)."""
-        platz = self.ordner / f"einrichtung-{dpi}"
+    def starte(self, dpi, leer=False):
+        """Starts the program with the desktop's font at this resolution (96 is 100 %), in a folder of its own."""
+        platz = self.ordner / ("leer" if leer else "einrichtung")
         platz.mkdir()
         shutil.copy2(self.vorlage, platz / "tolvek7")
-        richteEinrichtungEin(self.szenario, platz)
+        if not leer:
+            richteEinrichtungEin(self.szenario, platz)
         # stands for the spreadsheet program, so that the workbook is handed over and nothing else opens
         rechnet = platz / "rechnet"
         rechnet.mkdir()

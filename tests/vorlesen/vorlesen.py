@@ -7,7 +7,9 @@ SCHRIFT is the size of the desktop's font in percent. At 100 every rule is check
 pages change for SEKUNDEN while readers fetch children that may be gone by then. Exit status 1 on any finding.
 """
 
+import itertools
 import os
+import random
 import shutil
 import sys
 import time
@@ -22,9 +24,13 @@ sys.path.insert(0, str(Path(__file__).parent))
 from gi.repository import GLib
 
 import pruefungen
-from baum import ZUGANG, Leser, Verstummt
+from baum import NICHTS, ZUGANG, Leser, Verstummt
 from buehne import Bühne
 from weg import SEITEN, Verlaufen, Weg, prüfeStation
+
+LÄUFER = 120  # readers at the same time
+SCHRITTE = 14  # of each, for one change of the page
+STELLEN = (0, 0, 0, 1, 1, 2, 3, 4, 6, 9)  # children that they ask for, there or no longer there
 
 
 class Zähler:
@@ -46,63 +52,66 @@ class Zähler:
         print(f"{schirm}: {self.anzahl - vorher} Befunde ({time.monotonic() - beginn:.1f} s)", flush=True)
 
 
-def frageÜberall(leser, wurzel):
-    """The questions for all children that the objects had when they were last seen, and for some more."""
-    fragen = []
-    for k in wurzel.alle():
-        for stelle in range(min(len(k.kinder), 30) + 2):
-            fragen.append((k.pfad, ZUGANG, "GetChildAtIndex", GLib.Variant("(i)", (stelle,))))
-        fragen.append((k.pfad, ZUGANG, "GetChildren", None))
-        fragen.append((k.pfad, ZUGANG, "GetIndexInParent", None))
-    return fragen
-
-
 def bedränge(leser, weg, sekunden):
-    """Pages change while readers walk on in the tree that they knew; the number of walks."""
-    gänge = 0
-    ende = time.monotonic() + sekunden
+    """Pages change while readers go down the tree from place to place, as it was a moment ago. The number of their
+    walks from a window to a leaf (or to an object that is gone), and of the pages that have changed."""
+    zufall = random.Random(7)
     weg.zurBetreuung()
+    oben = weg.wurzel.pfad
+    läufer = [oben] * LÄUFER
+    gänge = wechsel = 0
+    knöpfe = itertools.cycle(anfang for knopf in SEITEN.values() for anfang in (knopf, "Exit"))
+    ende = time.monotonic() + sekunden
     while time.monotonic() < ende:
-        for knopf in SEITEN.values():
-            for anfang in (knopf, "Exit"):
-                alt = weg.schau()
-                druck = leser.frage_nach_druck(weg.knopf(anfang))
-                überall = frageÜberall(leser, alt)
-                # the press falls into the middle of the first walk, the page changes during the next ones
-                leser.frage_alle(überall[:200] + [druck] + überall[200:])
-                gänge += 1
-                neu = alt
-                for _ in range(25):
-                    leser.frage_alle(überall)
-                    gänge += 1
-                    neu = leser.baum() or neu
-                    gänge += 1
-                    ziel = weg.wurzel = neu
-                    if not any(k.pfad == druck[0] for k in ziel.alle()) and weg.knopf("Exit") is not None:
-                        break
-    return gänge
+        anfang = next(knöpfe)
+        if not leser.warte_bis(lambda: weg.schau() is not None and weg.knopf(anfang) is not None, 10):
+            raise Verlaufen(f"bei den wechselnden Seiten fehlt der Knopf '{anfang}'")
+        druck = leser.frage_nach_druck(weg.knopf(anfang))
+        wechsel += 1
+        for schritt in range(SCHRITTE):
+            fragen = [(pfad, ZUGANG, "GetChildAtIndex", GLib.Variant("(i)", (zufall.choice(STELLEN),)))
+                      for pfad in läufer]
+            if schritt == 1:  # the page changes in the middle of what the readers ask
+                fragen.insert(len(fragen) // 2, druck)
+            antworten = leser.frage_alle(fragen)
+            if schritt == 1:
+                del antworten[len(fragen) // 2]
+            for i, antwort in enumerate(antworten):
+                unten = antwort is None or antwort[0][1] == NICHTS
+                läufer[i] = oben if unten else antwort[0][1]
+                gänge += unten
+    return gänge, wechsel
+
+
+def beginne(leser, bühne, prozent, leer=False):
+    """Starts the program and waits until it is there."""
+    bühne.starte(prozent * 96 // 100, leer)
+    if not leser.warte_bis(leser.finde_programm, 20) or not leser.warte_bis(leser.fenster, 20):
+        raise Verlaufen("das Programm meldet sich nicht")
 
 
 def main():
     programm, szenario = sys.argv[1], sys.argv[2]
     prozent = int(sys.argv[3]) if len(sys.argv) > 3 else 100
-    sekunden = float(sys.argv[4]) if len(sys.argv) > 4 else 10
+    sekunden = float(sys.argv[4]) if len(sys.argv) > 4 else 6
     for werkzeug in ("Xvfb", "openbox", "xdotool"):
         if shutil.which(werkzeug) is None:
             sys.exit(f"{werkzeug} fehlt: werkzeug/einrichten.sh")
     zähler, leser = Zähler(), Leser()
     bühne = Bühne(programm, szenario)
     try:
-        bühne.starte(prozent * 96 // 100)
-        if not leser.warte_bis(leser.finde_programm, 20) or not leser.warte_bis(leser.fenster, 20):
-            raise Verlaufen("das Programm meldet sich nicht")
         weg = Weg(leser, bühne, zähler.besuche)
+        if prozent == 100:
+            beginne(leser, bühne, prozent, leer=True)
+            weg.leerer()
+            bühne.beende()
+        beginne(leser, bühne, prozent)
         if prozent == 100:
             weg.ganzer()
         else:
             weg.warte_auf("Hauptmenü")
-        gänge = bedränge(leser, weg, sekunden)
-        print(f"{gänge} Gänge durch wechselnde Seiten, {leser.schritte} Fragen", flush=True)
+        gänge, wechsel = bedränge(leser, weg, sekunden)
+        print(f"{gänge} Gänge im Baum, während {wechsel} Seiten wechselten", flush=True)
     except Verlaufen as fehler:
         zähler.nimm("Weg", [(None, str(fehler))])
         bühne.bild(os.environ.get("TOLVEK_VORLESEN_BILD", "/dev/null"))

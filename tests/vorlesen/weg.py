@@ -186,12 +186,18 @@ class Weg:
             self.warte_auf(schirm)
             self.besuche(schirm, self)
             self.zurück(ende, "Hauptmenü")
-        self.gehe("Import der Daten", "Übernahme")
-        self.zurück("Exit", "Hauptmenü")
         self.leser.drücke(self.menüeintrag("Daten > Excel"))
         self.warte_auf_knopf("Fertig")
         self.besuche("Arbeitsmappe", self)
         self.zurück("Fertig", "Hauptmenü")
+
+
+    def leerer(self):
+        """What is there only before the first client: the way from the older system."""
+        self.warte_auf("Hauptmenü")
+        self.besuche("Hauptmenü", self)
+        self.gehe("Import der Daten", "Übernahme")
+        self.zurück("Exit", "Hauptmenü")
 
 
 def prüfeBand(wurzel, teile):
