@@ -54,6 +54,26 @@ def prüfeNamen(wurzel, _leser):
     return befunde
 
 
+def prüfeUnterscheidbar(wurzel, _leser):
+    """Two choices on a screen never ask the same: some readers follow the first label and the description only."""
+    nach_pfad = {k.pfad: k for k in wurzel.alle()}
+    gesehen, befunde = set(), []
+    for k in wurzel.alle():
+        erste = nach_pfad.get(k.etiketten[0]) if k.etiketten else None
+        if k.rolle == "combo box" and erste is not None:
+            fragt = (erste.name, k.beschreibung)
+            if fragt in gesehen:
+                befunde.append((k, f"fragt dasselbe wie eine andere ({erste.name})"))
+            gesehen.add(fragt)
+    return befunde
+
+
+def prüfeFokusDa(wurzel, _leser):
+    """Who comes to the screen stands somewhere on it."""
+    steht = any(k.ist("fokussiert", "fokussierbar") for k in wurzel.alle())
+    return [] if steht or not fokussierbare(wurzel) else [(None, "nichts hat den Fokus")]
+
+
 def prüfeRollen(wurzel, _leser):
     """One of several answers is a radio button, and whatever takes the focus is something to a reader."""
     befunde = []
@@ -177,6 +197,20 @@ def prüfeAntworten(wurzel, leser, erwartet):
                 befunde.append((k, f"nach '{alt}' kommt '{neu}' ({frage(wurzel, k)})"))
             if not hatGemeldet(leser, {k.pfad}):
                 befunde.append((k, f"meldet '{neu}' nicht ({frage(wurzel, k)})"))
+    return befunde
+
+
+def prüfeAntworttasten(wurzel, leser, bühne):
+    """Right and left change the answer, and it is told each time."""
+    felder = [k for k in fokussierbare(wurzel) if istAntwort(leser, k)][:2]
+    befunde = []
+    for k in felder:
+        leser.nimm_fokus(k)
+        for taste, antwort in (("Right", "ja"), ("Left", "k.A. (offen)")):
+            leser.ereignisse.clear()
+            bühne.tasten(taste)
+            if not leser.warte_bis(lambda: leser.name(k) == antwort and hatGemeldet(leser, {k.pfad}), 2):
+                befunde.append((k, f"meldet '{antwort}' nicht nach der Taste {taste}"))
     return befunde
 
 

@@ -1,7 +1,9 @@
 """The way through all screens, as somebody goes it who hears them only: by names, roles and presses."""
 
+from gi.repository import GLib
+
 import pruefungen
-from baum import ZUGANG, Knoten
+from baum import SCHREIBEN, ZUGANG, Knoten
 
 # screen: words of its header band, number of its answer fields, parts of its band that must be read with their values
 STATIONEN = {
@@ -129,7 +131,7 @@ class Weg:
         """All screens, from the main menu and back to it."""
         self.warte_auf("Hauptmenü")
         self.besuche("Hauptmenü", self)
-        self.wähleErsteZeilen()
+        self.wähleKlienten("0001")
         self.klient()
         self.zurBetreuung()
         self.besuche("Betreuung", self)
@@ -143,28 +145,47 @@ class Weg:
         self.zurück("Exit", "Hauptmenü")
         self.drumherum()
 
-    def wähleErsteZeilen(self):
-        """Puts both lists on their first row."""
-        self.schau()
-        for liste in [k for k in self.wurzel.alle() if k.rolle in ("tree", "table")]:
-            self.leser.nimm_fokus(liste)
-            self.bühne.tasten("Home")
-        self.leser.lasse_geschehen(0.2)
-
     def klient(self):
         """The form of a client and its memo, and the box that asks before something is deleted."""
         self.gehe("Klienten bearbeiten", "Stammdaten")
         self.gehe("Memo", "Memo")
         self.zurück("Exit", "Stammdaten")
         self.zurück("Exit", "Hauptmenü")
+        self.diktiere("Ort:", "Neustadt")
+        self.wähleKlienten("0003")
+        dahinter = self.knopf("Klienten bearbeiten")
         self.drücke("Klienten löschen")
         self.warte_auf_knopf("Abbrechen")
+        if not any("0003" in k.name for k in self.wurzel.alle()):
+            raise Verlaufen("gelöscht würde ein anderer als der ausgewählte Klient")
+        self.leser.drücke(dahinter)  # behind the box nothing can be pressed
         self.besuche("Meldung", self)
         self.zurück("Abbrechen", "Hauptmenü")
 
+    def diktiere(self, frage, text):
+        """A text that the reader puts into a field, and that must be there after OK."""
+        for erwartet in (None, text):
+            self.drücke("Klienten bearbeiten")
+            self.warte_auf("Stammdaten")
+            feld = next(k for k in self.wurzel.alle() if k.rolle == "text" and k.name == frage)
+            if erwartet is not None and feld.text != erwartet:
+                raise Verlaufen(f"in '{frage}' steht '{feld.text}' statt des diktierten '{erwartet}'")
+            self.leser.frage(feld.pfad, SCHREIBEN, "SetTextContents", GLib.Variant("(s)", (text,)))
+            self.leser.lasse_geschehen(0.2)
+            self.zurück("OK" if erwartet is None else "Exit", "Hauptmenü")
+
+    def wähleKlienten(self, nummer):
+        """Selects the client's row as a reader does."""
+        zelle = next(k for k in self.wurzel.alle() if k.rolle == "cell" and k.name == nummer)
+        self.leser.drücke(zelle)
+        if not self.leser.warte_bis(lambda: "markiert" in self.leser.zustand(zelle), 3):
+            raise Verlaufen(f"die Zeile {nummer} wird nicht ausgewählt")
+
     def zurBetreuung(self):
         """From the main menu to the main page of the first episode."""
-        self.wähleErsteZeilen()
+        self.schau()
+        self.wähleKlienten("0001")
+        self.schau()
         self.drücke("Betreuung bearbeiten")
         self.warte_auf("Betreuung")
 
@@ -211,13 +232,16 @@ def prüfeStation(schirm, weg):
     leser, bühne = weg.leser, weg.bühne
     _, antworten, band = STATIONEN[schirm]
     befunde = []
-    for prüfe in (pruefungen.prüfeNamen, pruefungen.prüfeRollen, pruefungen.prüfeWerte, pruefungen.prüfeEltern,
+    weg.schau()
+    for prüfe in (pruefungen.prüfeNamen, pruefungen.prüfeUnterscheidbar, pruefungen.prüfeFokusDa,
+                  pruefungen.prüfeRollen, pruefungen.prüfeWerte, pruefungen.prüfeEltern,
                   pruefungen.prüfeVeralteteStellen):
-        befunde += prüfe(weg.schau(), leser)
+        befunde += prüfe(weg.wurzel, leser)
     befunde += prüfeBand(weg.wurzel, band)
     befunde += pruefungen.prüfeTabulator(weg.wurzel, leser, bühne)
     befunde += pruefungen.prüfeFokus(weg.wurzel, leser, bühne)
     befunde += pruefungen.prüfeAntworten(weg.wurzel, leser, antworten)
+    befunde += pruefungen.prüfeAntworttasten(weg.wurzel, leser, bühne)
     befunde += pruefungen.prüfeÄnderungen(weg.wurzel, leser, bühne)
     weg.schau()
     return befunde

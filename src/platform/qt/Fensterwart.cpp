@@ -10,8 +10,8 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScreen>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QStyle>

@@ -31,6 +31,7 @@ public:
     ~Fensterwart() override;
 
     void ereignis(const std::function<void()>& aktion) override;
+    bool istInEreignis() const override { return m_ablauf.istInEreignis(); }
     Datum heute() override { return m_umgebung.heute(); }
 
     Rahmenfenster& rahmenfenster() { return m_fenster; }

@@ -38,15 +38,23 @@ std::vector<int> spaltenbreiten(const Anordnung& tabelle)
     return breiten;
 }
 
-QString zugänglicherName(const Tabellenspalte& spalte, const Anordnung& zeile)
+/// What stands over the column.
+QStringList köpfeDer(const Tabellenspalte& spalte)
 {
-    QStringList teile{alsQString(zeile.element->text())};
-    for (const auto& kopf : {spalte.gruppe, spalte.titel}) {
-        if (!kopf.empty()) {
-            teile.append(alsQString(kopf));
-        }
+    QStringList teile{alsQString(spalte.gruppe), alsQString(spalte.titel)};
+    teile.removeAll(QString());
+    return teile;
+}
+
+/// A choice says its question by its labels, of which some readers follow the first one only.
+void benenneZelle(QWidget& zelle, const Tabellenspalte& spalte, const Anordnung& zeile)
+{
+    const auto trennung = QStringLiteral(", ");
+    const auto köpfe = köpfeDer(spalte);
+    benenne(zelle, gesprochen((QStringList(alsQString(zeile.element->text())) + köpfe).join(trennung)));
+    if (dynamic_cast<Optionsknopf*>(&zelle) == nullptr) {
+        unterscheide(zelle, köpfe.join(trennung));
     }
-    return gesprochen(teile.join(QStringLiteral(", ")));
 }
 
 QWidget* baueZelle(Element& element, int breite, Ansicht& ansicht, QWidget* eltern)
@@ -160,7 +168,7 @@ void Tabellenblatt::fügeZeile(const Anordnung& zeile, const std::vector<Tabelle
         auto* element = zeile.teile[i].element;
         zellen.push_back(element == nullptr ? nullptr : baueZelle(*element, m_spalten[i], ansicht, neue));
         if (zellen.back() != nullptr) {
-            benenne(*zellen.back(), zugänglicherName(köpfe[i], zeile));
+            benenneZelle(*zellen.back(), köpfe[i], zeile);
         }
     }
     neue->setze(beschriftung, std::move(zellen));

@@ -15,6 +15,7 @@
 #include <QAccessible>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <QTimer>
 #include <QVariant>
 
 namespace {
@@ -94,6 +95,11 @@ void beschrifte(QWidget& feld, QLabel& etikett)
     feld.setProperty(schlüsselEtiketten, QVariant::fromValue(alle));
 }
 
+void unterscheide(QWidget& feld, const QString& wodurch)
+{
+    feld.setAccessibleDescription(gesprochen(wodurch));
+}
+
 void benenne(QWidget& feld, const QString& name)
 {
     feld.setAccessibleName(name);
@@ -116,6 +122,25 @@ void benenneUnbenannte(QWidget& um, const QString& name)
 void benenneFüller(QWidget& füller, std::string_view gefülltes)
 {
     füller.setAccessibleName(QStringLiteral("Ausfüllen: ") + gesprochen(alsQString(gefülltes)));
+}
+
+void nimmFremdeEingabe(QWidget& feld, const Element& element, Ansicht& ansicht)
+{
+    const auto* box = dynamic_cast<QComboBox*>(&feld);
+    auto* zeile = box != nullptr ? box->lineEdit() : dynamic_cast<QLineEdit*>(&feld);
+    if (zeile == nullptr) {
+        return;
+    }
+    const auto gleicheAb = [zeile, &element, &ansicht] {
+        if (ansicht.lebt() && zeile->text() != alsQString(element.text())) {
+            Q_EMIT zeile->textEdited(zeile->text());
+        }
+    };
+    QObject::connect(zeile, &QLineEdit::textChanged, zeile, [zeile, &ansicht, gleicheAb] {
+        if (!zeile->isModified() && ansicht.lebt() && !ansicht.istInEreignis()) {
+            QTimer::singleShot(0, zeile, gleicheAb); // when all that belongs to this change has been done
+        }
+    });
 }
 
 void meldeWert(QWidget& feld, const QString& wert)

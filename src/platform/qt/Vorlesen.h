@@ -5,6 +5,7 @@
 #include <string_view>
 
 class Ansicht;
+class Element;
 class QLabel;
 class QWidget;
 
@@ -23,6 +24,8 @@ Ansicht* ansichtUm(const QWidget& widget);
 
 /// The label says what the field asks; a field may have several (row and column of a table).
 void beschrifte(QWidget& feld, QLabel& etikett);
+/// What tells the field from others with the same first question: the column of a table.
+void unterscheide(QWidget& feld, const QString& wodurch);
 /// The name of the field for readers that don't follow labels; a combo hands it to the text inside it.
 void benenne(QWidget& feld, const QString& name);
 
@@ -30,6 +33,9 @@ void benenne(QWidget& feld, const QString& name);
 void benenneUnbenannte(QWidget& um, const QString& name);
 /// The "!" is called after what it fills.
 void benenneFüller(QWidget& füller, std::string_view gefülltes);
+
+/// A text that a reader (or whoever dictates through it) puts into the widget comes to the element as a typed one does.
+void nimmFremdeEingabe(QWidget& feld, const Element& element, Ansicht& ansicht);
 
 /// The widget shows another value now.
 void meldeWert(QWidget& feld, const QString& wert);
