@@ -14,7 +14,7 @@ klient 2 Nachname=Berger Vorname=Bernd
 klient 3 Nachname=Celik Vorname=Cem
 betreuung 1 1 01.02.2005 02.03.2006
 betreuung 2 1 05.05.2006 offen
-diagnose 1 1
+diagnose 1 1 4=Injektion
 diagnose 2 1
 starte
 klicke cmdExit

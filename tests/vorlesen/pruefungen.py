@@ -2,7 +2,7 @@
 
 from gi.repository import GLib
 
-from baum import HANDLUNG, TEXT, WERT, ZUGANG
+from baum import WERT, ZUGANG, Knoten
 
 EINGABEN = {"push button", "check box", "radio button", "combo box", "text", "spin box", "tree", "list", "table",
             "scroll bar", "slider"}
@@ -80,6 +80,8 @@ def prüfeRollen(wurzel, _leser):
     for k in wurzel.alle():
         if k.rolle == "check box" and k.name not in KREUZE:
             befunde.append((k, "eine von mehreren Antworten, vorgelesen als Kästchen"))
+        if k.rolle == "frame" and k.eltern is not None:
+            befunde.append((k, "gibt sich als Fenster aus"))
         if k.ist("fokussierbar") and k.rolle not in EINGABEN | {"cell", "tree item", "list item", "menu item",
                                                                "label", "menu"}:
             befunde.append((k, "nimmt den Fokus und hat keine Rolle"))
@@ -211,6 +213,32 @@ def prüfeAntworttasten(wurzel, leser, bühne):
             bühne.tasten(taste)
             if not leser.warte_bis(lambda: leser.name(k) == antwort and hatGemeldet(leser, {k.pfad}), 2):
                 befunde.append((k, f"meldet '{antwort}' nicht nach der Taste {taste}"))
+    return befunde
+
+
+def prüfeOffeneListen(wurzel, leser, bühne):
+    """The list of a choice opens at a press, is named, and says the entry that is come to."""
+    befunde = []
+    for k in [k for k in fokussierbare(wurzel) if k.rolle == "combo box" and not istAntwort(leser, k)][:2]:
+        leser.drücke(k)
+        listen = []
+
+        def ist_offen():
+            listen[:] = [x for x in leser.baum(Knoten(k.pfad, None)).kinder if x.rolle == "list"]
+            return bool(listen)
+        if not leser.warte_bis(ist_offen, 3):
+            befunde.append((k, "die Liste geht nicht auf"))
+            continue
+        if not listen[0].name.strip():
+            befunde.append((k, "die offene Liste hat keinen Namen"))
+        leser.ereignisse.clear()
+        einträge = {x.pfad for x in listen[0].kinder}
+        bühne.tasten("Down", "Up")
+        if not leser.warte_bis(lambda: any(e.pfad in einträge and e.art == "focused" for e in leser.ereignisse), 2):
+            befunde.append((k, "die offene Liste sagt nicht, wo man steht"))
+        prüfeVeralteteStellen(listen[0], leser)
+        bühne.tasten("Escape")
+        leser.warte_bis(lambda: not ist_offen(), 2)
     return befunde
 
 

@@ -28,8 +28,9 @@ from baum import NICHTS, ZUGANG, Leser, Verstummt
 from buehne import Bühne
 from weg import SEITEN, Verlaufen, Weg, prüfeStation
 
-LÄUFER = 120  # readers at the same time
-SCHRITTE = 14  # of each, for one change of the page
+LÄUFER = 100  # readers at the same time
+SCHRITTE = 12  # of each, for one change of the page
+MINDESTENS = 12  # pages change, however slow the machine is
 STELLEN = (0, 0, 0, 1, 1, 2, 3, 4, 6, 9)  # children that they ask for, there or no longer there
 
 
@@ -62,7 +63,7 @@ def bedränge(leser, weg, sekunden):
     gänge = wechsel = 0
     knöpfe = itertools.cycle(anfang for knopf in SEITEN.values() for anfang in (knopf, "Exit"))
     ende = time.monotonic() + sekunden
-    while time.monotonic() < ende:
+    while time.monotonic() < ende or wechsel < MINDESTENS:
         anfang = next(knöpfe)
         if not leser.warte_bis(lambda: weg.schau() is not None and weg.knopf(anfang) is not None, 10):
             raise Verlaufen(f"bei den wechselnden Seiten fehlt der Knopf '{anfang}'")

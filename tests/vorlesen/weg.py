@@ -190,7 +190,12 @@ class Weg:
         self.warte_auf("Betreuung")
 
     def diagnosen(self):
-        """The chooser and the dialogue of a diagnosis."""
+        """The listing, the chooser and the dialogue of a diagnosis."""
+        leiste = next(k for k in self.wurzel.alle() if k.rolle == "scroll bar" and k.ist("fokussierbar"))
+        self.leser.nimm_fokus(leiste)
+        self.bühne.tasten("space")
+        if not self.leser.warte_bis(lambda: "Alkohol" in self.leser.name(leiste), 3):
+            raise Verlaufen(f"welche Diagnose markiert ist, sagt niemand ('{self.leser.name(leiste)}')")
         self.gehe("neuer Problembereich", "Diagnosewahl")
         self.leser.nimm_fokus(next(k for k in self.wurzel.alle() if k.rolle in ("tree", "table")))
         self.bühne.tasten("Home")
@@ -242,6 +247,7 @@ def prüfeStation(schirm, weg):
     befunde += pruefungen.prüfeFokus(weg.wurzel, leser, bühne)
     befunde += pruefungen.prüfeAntworten(weg.wurzel, leser, antworten)
     befunde += pruefungen.prüfeAntworttasten(weg.wurzel, leser, bühne)
+    befunde += pruefungen.prüfeOffeneListen(weg.wurzel, leser, bühne)
     befunde += pruefungen.prüfeÄnderungen(weg.wurzel, leser, bühne)
     weg.schau()
     return befunde

@@ -158,6 +158,7 @@ void Auswahlbox::showPopup()
 {
     const int breiteste = view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width() + em(1);
     view()->setMinimumWidth(std::min(std::max(breiteste, width()), screen()->availableSize().width()));
+    view()->setAccessibleName(accessibleName());
     QComboBox::showPopup();
 }
 

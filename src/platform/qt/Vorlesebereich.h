@@ -17,6 +17,12 @@ private:
     QWidgetList kinder() const;
 };
 
+/// A drawn part of a page (header band, button bar, hairline). The toolkit calls every frame a window.
+class Vorleseteil : public QAccessibleWidget {
+public:
+    explicit Vorleseteil(QWidget& teil, QAccessible::Role rolle) : QAccessibleWidget(&teil, rolle) {}
+};
+
 /// The window of a screen that stands over another one.
 class Vorlesefenster : public QAccessibleWidget {
 public:

@@ -12,11 +12,16 @@
 #include "platform/qt/Vorlesefeld.h"
 #include "platform/qt/Vorleseliste.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
+#include <QCalendarWidget>
+#include <QFrame>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QTimer>
 #include <QVariant>
+
+#include <typeinfo>
 
 namespace {
 
@@ -58,6 +63,11 @@ QAccessibleInterface* erzeuge(const QString& /*klasse*/, QObject* objekt)
     }
     if (dynamic_cast<QScrollArea*>(widget) != nullptr) {
         return new Vorlesebereich(*widget);
+    }
+    if (typeid(*widget) == typeid(QFrame)) {
+        const bool istLinie = widget->property("rolle").toString() == QStringLiteral("linie") ||
+                              widget->property("rolle").toString() == QStringLiteral("bandstrich");
+        return new Vorleseteil(*widget, istLinie ? QAccessible::Separator : QAccessible::Grouping);
     }
     if (dynamic_cast<Kindfenster*>(widget) != nullptr) {
         return new Vorlesefenster(*widget);
@@ -141,6 +151,20 @@ void nimmFremdeEingabe(QWidget& feld, const Element& element, Ansicht& ansicht)
             QTimer::singleShot(0, zeile, gleicheAb); // when all that belongs to this change has been done
         }
     });
+}
+
+void sprichKalender(QCalendarWidget& kalender)
+{
+    const auto sprich = [&kalender] {
+        auto* blatt = kalender.findChild<QAbstractItemView*>();
+        if (blatt == nullptr || !blatt->isVisible()) {
+            return;
+        }
+        blatt->setAccessibleName(kalender.locale().toString(kalender.selectedDate(), QLocale::LongFormat));
+        QAccessibleEvent erreicht(blatt, QAccessible::Focus);
+        QAccessible::updateAccessibility(&erreicht);
+    };
+    QObject::connect(&kalender, &QCalendarWidget::selectionChanged, &kalender, sprich);
 }
 
 void meldeWert(QWidget& feld, const QString& wert)
