@@ -44,8 +44,8 @@ def prüfeNamen(wurzel, _leser):
     """Every element says what it asks; a choice says it by its label, since its name is the value."""
     befunde = []
     for k in wurzel.alle():
-        if not k.ist("fokussierbar") or k.rolle in ("tree item", "cell"):  # an empty cell has no words
-            continue
+        if k.rolle in ("tree item", "cell") or not (k.ist("fokussierbar") or k.rolle == "push button"):
+            continue  # an empty cell has no words
         if k.rolle == "combo box":
             if not frage(wurzel, k):
                 befunde.append((k, "keine Beschriftung mit der Frage"))
@@ -69,9 +69,17 @@ def prüfeUnterscheidbar(wurzel, _leser):
 
 
 def prüfeFokusDa(wurzel, _leser):
-    """Who comes to the screen stands somewhere on it."""
-    steht = any(k.ist("fokussiert", "fokussierbar") for k in wurzel.alle())
-    return [] if steht or not fokussierbare(wurzel) else [(None, "nichts hat den Fokus")]
+    """Who comes to the screen stands somewhere on it, inside a page or window with its name."""
+    wo = next((k for k in wurzel.alle() if k.ist("fokussiert", "fokussierbar")), None)
+    if wo is None:
+        return [(None, "nichts hat den Fokus")] if fokussierbare(wurzel) else []
+    if wurzel.rolle != "frame":
+        return [] if wurzel.name.strip() else [(wurzel, "das Fenster hat keinen Namen")]
+    titel = next((k.name for k in wurzel.alle() if k.rolle == "label"), "")
+    um = wo.eltern
+    while um is not None and um.name != titel:
+        um = um.eltern
+    return [(wo, f"liegt auf keiner Seite namens '{titel}'")] if um is None else []
 
 
 def prüfeRollen(wurzel, _leser):

@@ -246,9 +246,8 @@ void Listung::sprichZeilen(const Anordnung& listung, Ansicht& ansicht)
         const auto markiert = std::find_if(zeilen.begin(), zeilen.end(), [](const Beschriftung* zeile) {
             return zeile->zeilenart() == Beschriftung::Zeilenart::Markiert;
         });
-        const auto neu = markiert == zeilen.end()
-                             ? name
-                             : name + QStringLiteral(", markiert: ") + alsQString((*markiert)->text());
+        const auto neu =
+            markiert == zeilen.end() ? name : name + QStringLiteral(", markiert: ") + alsQString((*markiert)->text());
         if (leiste->accessibleName() != neu) {
             leiste->setAccessibleName(neu);
         }

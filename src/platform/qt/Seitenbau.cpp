@@ -168,8 +168,11 @@ Seite baueSeite(Ansicht& ansicht, QWidget* eltern)
     stockwerke->addWidget(blatt, 1);
     stockwerke->addWidget(baueLeiste(ansicht, wurzel));
     baueMenü(ansicht, *wurzel);
-    if (const auto* titel = ansicht.bildschirm().kopfband.titel; titel != nullptr) {
+    if (auto* titel = ansicht.bildschirm().kopfband.titel; titel != nullptr) {
         benenneUnbenannte(*wurzel, alsQString(titel->text()));
+        const auto nenneSeite = [wurzel, titel] { wurzel->setAccessibleName(alsQString(titel->text())); };
+        nenneSeite();
+        ansicht.abonniere(titel->geändert, nenneSeite);
     }
     return {wurzel, blatt};
 }

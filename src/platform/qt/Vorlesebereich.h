@@ -17,7 +17,7 @@ private:
     QWidgetList kinder() const;
 };
 
-/// A drawn part of a page (header band, button bar, hairline). The toolkit calls every frame a window.
+/// A page or a drawn part of it (header band, button bar, hairline). The toolkit calls every frame a window.
 class Vorleseteil : public QAccessibleWidget {
 public:
     explicit Vorleseteil(QWidget& teil, QAccessible::Role rolle) : QAccessibleWidget(&teil, rolle) {}

@@ -82,7 +82,8 @@ Vorleseknopf::Vorleseknopf(QAbstractButton& knopf, Ansicht& ansicht, QAccessible
 QString Vorleseknopf::text(QAccessible::Text art) const
 {
     if (art == QAccessible::Name && m_knopf.accessibleName().isEmpty()) {
-        return gesprochen(m_knopf.text());
+        const auto name = gesprochen(m_knopf.text());
+        return name.isEmpty() ? QStringLiteral("entfällt") : name; // an empty cover: what it covers is not asked
     }
     return Vorlesefeld::text(art);
 }

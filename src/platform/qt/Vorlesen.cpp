@@ -33,6 +33,9 @@ QAccessibleInterface* erzeugeFürElement(QWidget& widget)
     if (ansicht == nullptr) {
         return nullptr;
     }
+    if (ansicht->wurzel() == &widget) {
+        return new Vorleseteil(widget, QAccessible::Grouping); // named, so that the page is said when it is entered
+    }
     if (auto* antwort = dynamic_cast<Antwortfeld*>(&widget)) {
         return new Vorleseantwort(*antwort, *ansicht);
     }
