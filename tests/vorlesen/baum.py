@@ -145,13 +145,20 @@ class Leser:
 
     # --- the program -------------------------------------------------------------------------------------------
 
-    def finde_programm(self):
-        """Finds the program on the bus; whether it is there."""
+    def finde_programm(self, nummer):
+        """Finds the program on the bus by the number of its process; whether it is there."""
         kinder = self.bus.call_sync("org.a11y.atspi.Registry", WURZEL, ZUGANG, "GetChildren", None, None,
                                     Gio.DBusCallFlags.NONE, 10000, None).unpack()[0]
-        if kinder:
-            self.programm = kinder[-1][0]
-        return bool(kinder)
+        self.programm = next((name for name, _ in kinder if self._prozess(name) == nummer), None)
+        return self.programm is not None
+
+    def _prozess(self, name):
+        try:
+            return self.bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+                                      "GetConnectionUnixProcessID", GLib.Variant("(s)", (name,)), None,
+                                      Gio.DBusCallFlags.NONE, 10000, None).unpack()[0]
+        except GLib.Error:
+            return None  # it has just gone
 
     def fenster(self):
         """The windows of the program that are to be seen, the active one last."""

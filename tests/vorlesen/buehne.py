@@ -5,6 +5,7 @@ import shutil
 import signal
 import subprocess
 import tempfile
+import time
 from pathlib import Path
 
 EINRICHTUNG = """
@@ -45,8 +46,7 @@ class Bühne:
         self.hilfen = []
         self.lauf = None
         self.schirm = self._starteSchirm()
-        self.hilfen.append(subprocess.Popen(["openbox"], env=self._umgebung(), stdout=subprocess.DEVNULL,
-                                            stderr=subprocess.DEVNULL))
+        self._starteFensterverwaltung()
 
     def _starteSchirm(self):
         lesen, schreiben = os.pipe()
@@ -56,6 +56,18 @@ class Bühne:
         self.hilfen.append(xvfb)
         with os.fdopen(lesen) as nummer:
             return ":" + nummer.readline().strip()
+
+    def _starteFensterverwaltung(self):
+        """A window that opens before the window manager is there would never get the keyboard."""
+        self.hilfen.append(subprocess.Popen(["openbox"], env=self._umgebung(), stdout=subprocess.DEVNULL,
+                                            stderr=subprocess.DEVNULL))
+        frage = ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]
+        for _ in range(100):
+            if "window id" in subprocess.run(frage, env=self._umgebung(), capture_output=True, text=True,
+                                             check=False).stdout:
+                return
+            time.sleep(0.1)
+        raise RuntimeError("openbox meldet sich nicht")
 
     def _umgebung(self, **mehr):
         return {**os.environ, "DISPLAY": self.schirm, **mehr}

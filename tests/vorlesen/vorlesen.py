@@ -5,6 +5,7 @@ vorlesen.py PROGRAMM SZENARIO [SCHRIFT] [SEKUNDEN]
 
 SCHRIFT is the size of the desktop's font in percent. At 100 every rule is checked on every screen; then, at any size,
 pages change for SEKUNDEN while readers fetch children that may be gone by then. Exit status 1 on any finding.
+TOLVEK_VORLESEN_BILD names a picture that is taken where the way does not go on.
 """
 
 import itertools
@@ -12,11 +13,13 @@ import os
 import random
 import shutil
 import sys
+import tempfile
 import time
 from pathlib import Path
 
 if "TOLVEK_VORLESEN" not in os.environ:  # a session bus of its own, with the accessibility bus on it
-    os.environ["TOLVEK_VORLESEN"] = "1"
+    # the accessibility bus lies in the run-time folder: two runs in one would take it from each other
+    os.environ["TOLVEK_VORLESEN"] = os.environ["XDG_RUNTIME_DIR"] = tempfile.mkdtemp(prefix="tolvek-vorlesen-")
     os.execvp("dbus-run-session", ["dbus-run-session", "--", sys.executable, *sys.argv])
 
 sys.path.insert(0, str(Path(__file__).parent))
@@ -87,8 +90,10 @@ def bedränge(leser, weg, sekunden):
 def beginne(leser, bühne, prozent, leer=False):
     """Starts the program and waits until it is there."""
     bühne.starte(prozent * 96 // 100, leer)
-    if not leser.warte_bis(leser.finde_programm, 20) or not leser.warte_bis(leser.fenster, 20):
+    if not leser.warte_bis(lambda: leser.finde_programm(bühne.lauf.pid), 20):
         raise Verlaufen("das Programm meldet sich nicht")
+    if not leser.warte_bis(lambda: any(fenster.ist("aktiv") for fenster in leser.fenster()), 20):
+        raise Verlaufen("kein Fenster hat die Tastatur")
 
 
 def main():
@@ -115,7 +120,8 @@ def main():
         print(f"{gänge} Gänge im Baum, während {wechsel} Seiten wechselten", flush=True)
     except Verlaufen as fehler:
         zähler.nimm("Weg", [(None, str(fehler))])
-        bühne.bild(os.environ.get("TOLVEK_VORLESEN_BILD", "/dev/null"))
+        if "TOLVEK_VORLESEN_BILD" in os.environ:
+            bühne.bild(os.environ["TOLVEK_VORLESEN_BILD"])
     except Verstummt:
         zähler.nimm("Programm", [(None, "antwortet nicht mehr")])
     finally:
@@ -123,6 +129,7 @@ def main():
         if bühne.absturz() is not None:
             zähler.nimm("Programm", [(None, f"abgestürzt ({bühne.absturz()})")])
         bühne.räumeAb()
+        shutil.rmtree(os.environ["TOLVEK_VORLESEN"], ignore_errors=True)
     print(f"Schrift {prozent} %: {zähler.anzahl} Befunde")
     return 1 if zähler.anzahl else 0
 
