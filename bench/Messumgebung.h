@@ -19,7 +19,7 @@ public:
 
     Datum heute() override { return {2020, 6, 15}; }
     std::filesystem::path programmordner() override { return m_ordner; }
-    bool istErsteInstanz() override { return true; }
+    bool istErsteInstanz(const std::filesystem::path& /*datenordner*/) override { return true; }
     Dateien& dateien() override { return m_dateien; }
     Antwort zeigeMeldung(const Meldung& meldung) override
     {
@@ -27,7 +27,10 @@ public:
     }
     std::optional<std::filesystem::path> wähleDatei(const Dateiwahl& /*wahl*/) override { return std::nullopt; }
     bool findeTabellenprogramm() override { return true; }
-    void übergibMappe(Arbeitsmappe& /*mappe*/) override {}
+    bool übergibMappe(Arbeitsmappe& /*mappe*/, const std::function<void(double)>& /*fortschritt*/) override
+    {
+        return true;
+    }
     Größe bildschirmgröße() override { return {28800, 16200}; }
     void zeichne() override {}
     void lasseEreignisseZu() override {}

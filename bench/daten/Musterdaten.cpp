@@ -2,12 +2,12 @@
 
 #include "daten/Zufall.h"
 
-#include "export/moNationen.h"
 #include "platform/Ressourcen.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Datum.h"
 #include "platform/text/Text.h"
 #include "satz/Satzaufbau.h"
+#include "satz/moNationen.h"
 
 #include <array>
 #include <string_view>

@@ -27,7 +27,7 @@ void MDIfrm::aufräumen()
 
 void MDIfrm::leereIni()
 {
-    m_zustand.umgebung.dateien().legeLeerAn(m_zustand.pfade.ini);
+    m_zustand.umgebung.dateien().schreibeNeu(m_zustand.pfade.ini)->schließe();
 }
 
 bool MDIfrm::beiSchließwunsch()

@@ -1,22 +1,26 @@
 #include "app/moMain.h"
 
-#include "diagnosis/moData.h"
-#include "export/moNationen.h"
+#include "import/Importlauf.h"
 #include "import/moAnweisungen.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "spreadsheet/moVariablen.h"
 #include "satz/Satzaufbau.h"
+#include "satz/moData.h"
+#include "satz/moNationen.h"
+#include "spreadsheet/moVariablen.h"
+#include "store/Niederschrift.h"
+#include "store/Sicherungen.h"
 #include "store/moBereinigeBetrOA.h"
 #include "store/moBereinigeDatum.h"
-
-#include <algorithm>
-#include <array>
 
 Programm::Programm(Umgebung& umgebung)
     : m_zustand(umgebung), m_platz(m_zustand), m_extras(m_zustand), m_rahmen(m_zustand, m_extras)
 {
     m_zustand.wechsel = &m_extras;
+    m_zustand.ablauf.hinweisBeiAbsturz = [this] {
+        const auto ort = ortDerSicherung(m_zustand.bestand);
+        return ort.empty() ? ort : verbinde("Die letzte Sicherung liegt in "_t, ort, '.');
+    };
 }
 
 void Programm::starte()
@@ -31,9 +35,14 @@ void Programm::Main()
         return;
     }
     initialisiere();
+    vollendeVorgang(m_zustand.umgebung.dateien(), m_zustand.pfade, m_zustand.bestandsmeldung);
+    Importlauf::entferneReste();
     prüfeDateien();
-    bereinigeDatum();
-    bereinigeBetrOA();
+    if (const auto gefunden = bereinigeDatum(m_zustand.bestand)) {
+        m_zustand.gefundeneKernFelder = gefunden->kern;
+        m_zustand.gefundeneBetrFelder = gefunden->betr;
+    }
+    bereinigeBetrOA(m_zustand.bestand);
     m_rahmen.zeige();
     m_hauptmenü = std::make_unique<frmHauptmenü>([this] { m_rahmen.aufräumen(); });
     m_zustand.folge.zeige(*m_hauptmenü);
@@ -41,7 +50,8 @@ void Programm::Main()
 
 bool Programm::istErsteInstanz()
 {
-    const bool erste = m_zustand.umgebung.istErsteInstanz();
+    const auto daten = bildeBestandspfade(m_zustand.umgebung.programmordner()).daten;
+    const bool erste = m_zustand.umgebung.istErsteInstanz(daten);
     if (!erste) {
         zeigeMeldung("Es ist schon eine Instanz dieses Programms geöffnet"_t, Symbol::Info);
     }
@@ -71,6 +81,7 @@ void prüfeSchreibbarkeit(Dateien& dateien, const Pfade& pfade)
 {
     const auto probe = pfade.programm / "Tolvek7.probe";
     try {
+        dateien.entferne(probe);
         dateien.legeLeerAn(probe);
         dateien.lösche(probe);
     } catch (const Laufzeitfehler& fehler) {
@@ -78,14 +89,15 @@ void prüfeSchreibbarkeit(Dateien& dateien, const Pfade& pfade)
     }
 }
 
-void legeTabellenAn(Dateien& dateien, const Pfade& pfade)
+/// Health data are nobody else's business: files that were copied here, or made by an older version, may be open to
+/// others.
+void verwehreAnderen(Dateien& dateien, const Pfade& pfade)
 {
-    if (!dateien.istOrdner(pfade.daten)) {
-        dateien.legeOrdnerAn(pfade.daten);
+    for (const auto& pfad : {pfade.daten, pfade.sicherungen, pfade.importListe, pfade.dummyDatei, pfade.ini}) {
+        dateien.verwehreAnderen(pfad);
     }
-    for (const auto* pfad :
-         {&pfade.kernDat, &pfade.betrDat, &pfade.diagDat, &pfade.kernBak, &pfade.betrBak, &pfade.diagBak}) {
-        dateien.legeLeerAn(*pfad);
+    for (const auto tabelle : alleSechs) {
+        dateien.verwehreAnderen(pfade.von(tabelle));
     }
 }
 
@@ -95,16 +107,20 @@ void prüfeDateien()
 {
     auto& dateien = zustand().umgebung.dateien();
     const auto& pfade = zustand().pfade;
-    const std::array tabellen{&pfade.kernDat, &pfade.betrDat, &pfade.diagDat};
-    const bool alleFehlen =
-        std::none_of(tabellen.begin(), tabellen.end(), [&](const auto* pfad) { return dateien.istLesbar(*pfad); });
-    const bool iniFehlt = !dateien.istLesbar(pfade.ini);
+    // what is there and can't be asked for is a failure here, never a missing table: it must not be made anew
+    bool alleFehlen = true;
+    for (const auto tabelle : dieTabellen) {
+        alleFehlen = dateien.fehlt(pfade.von(tabelle)) && alleFehlen;
+    }
+    const bool iniFehlt = dateien.fehlt(pfade.ini);
 
     prüfeSchreibbarkeit(dateien, pfade);
+    dateien.entferne(pfade.dummyIni); // of a run that was broken off
     if (alleFehlen) {
-        legeTabellenAn(dateien, pfade);
+        legeTabellenAn(zustand().bestand);
     }
     if (iniFehlt) {
         dateien.legeLeerAn(pfade.ini);
     }
+    verwehreAnderen(dateien, pfade);
 }

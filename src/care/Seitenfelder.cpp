@@ -17,10 +17,10 @@ void Seitenfelder::fügeWahl(Auswahlfeld& feld, Werteliste liste)
     fügeWahl(feld, werte::texte(liste));
 }
 
-void Seitenfelder::fügeZahl(Auswahlfeld& feld, int von, int bis, Leer leer)
+void Seitenfelder::fügeZahl(Auswahlfeld& feld, werte::Zahlenbereich bereich, Leer leer)
 {
     feld.beiTastendruck = [&feld](int& code) { ergänzeComboText(feld, code); };
-    m_felder.emplace_back(Wahl{&feld, werte::zahlen("k.A."_t, von, bis), leer});
+    m_felder.emplace_back(Wahl{&feld, werte::zahlen("k.A."_t, bereich), leer});
 }
 
 void Seitenfelder::fügeAntworten(Elementreihe<triCtlJaNein>& reihe)

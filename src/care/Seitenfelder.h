@@ -21,7 +21,7 @@ public:
     void fügeWahl(Auswahlfeld& feld, Werteliste liste);
     /// A typeable combo of "k.A." and the numbers from `von` to `bis`: gets the type-ahead, and is tested
     /// before OK.
-    void fügeZahl(Auswahlfeld& feld, int von, int bis, Leer leer = Leer::Übernehmen);
+    void fügeZahl(Auswahlfeld& feld, werte::Zahlenbereich bereich, Leer leer = Leer::Übernehmen);
     void fügeAntworten(Elementreihe<triCtlJaNein>& reihe);
     /// One field for the whole row of options: the index of the marked one, "0" for none.
     void fügeOptionen(Elementreihe<Optionsfeld>& reihe);

@@ -1,8 +1,8 @@
 #include "care/Zeitraumliste.h"
 
 #include "platform/text/Text.h"
-#include "store/Tabellen.h"
 #include "satz/moHelferlein.h"
+#include "store/Lesestand.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>
@@ -26,7 +26,7 @@ bool liegtIn(const Zeitraum& zeitraum, std::string_view tag)
 
 bool istEigener(const Nachbarn& nachbarn, const Zeitraum& zeitraum)
 {
-    return !nachbarn.eigenerBeginn.empty() && zeitraum.von == nachbarn.eigenerBeginn;
+    return zeitraum.von == nachbarn.eigenerBeginn;
 }
 
 /// Whether the period from `von` on would reach into the episode behind it.
@@ -51,7 +51,7 @@ Zeitraumliste leseZeitraumListe(std::int32_t kernID)
 {
     Zeitraumliste liste;
     const auto& tabelle = zustand().pfade.betrDat;
-    fürJedeZeile(tabelle, [&](std::string_view zeile, std::size_t nummer) {
+    zustand().bestand.fürJedeZeile(Tabelle::Betr, [&](std::string_view zeile, std::size_t nummer) {
         if (leseSchlüssel(zeile, feldKernID, 16, tabelle, nummer) == kernID) {
             liste.push_back({std::string(getFeld(zeile, feldBetrBeg)), std::string(getFeld(zeile, feldBetrEnd))});
         }

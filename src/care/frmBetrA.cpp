@@ -63,8 +63,6 @@ constexpr std::array zeilenfolge{1, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16
 /// answers of the row behind it are one number lower.
 constexpr int zeileSelbsthilfe = 17;
 
-constexpr int höchsteMaßnahmenzahl = 99;
-
 } // namespace
 
 frmBetrA::frmBetrA(Bildschirm& betreuung)
@@ -102,7 +100,7 @@ void frmBetrA::baueTafel()
     tafel.fügeAntworten(triJaNeinMasInt);
     tafel.fügeAntworten(triJaNeinMasExt);
     for (Auswahlfeld& feld : comboZuvor) {
-        tafel.fügeZahl(feld, 0, höchsteMaßnahmenzahl, Seitenfelder::Leer::LässtVorgabe);
+        tafel.fügeZahl(feld, werte::maßnahmen, Seitenfelder::Leer::LässtVorgabe);
     }
     tafel.fügeAntworten(triJaNeinKooper);
 }

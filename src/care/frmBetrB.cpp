@@ -11,7 +11,6 @@ constexpr std::array lebenssituationen{
     "Sonstiger/n Bezugsperson/en"_t,   "Sonstiger/n Person/en"_t};
 
 constexpr int alleinlebend = 0;
-constexpr int höchsteKinderzahl = 98; // 99 is the code of "k.A."
 
 } // namespace
 
@@ -47,8 +46,8 @@ void frmBetrB::baueTafel()
     for (Auswahlfeld& feld : comboLebensit) {
         tafel.fügeWahl(feld, werte::lang);
     }
-    tafel.fügeZahl(comboKinder1, 0, höchsteKinderzahl);
-    tafel.fügeZahl(comboKinder2, 0, höchsteKinderzahl);
+    tafel.fügeZahl(comboKinder1, werte::kinder);
+    tafel.fügeZahl(comboKinder2, werte::kinder);
     tafel.fügeWahl(comboWohnung1, werte::wohnung);
     tafel.fügeWahl(comboWohnung2, werte::wohnung);
     tafel.fügeWahl(comboWohnung3, werte::wohnung);

@@ -32,9 +32,6 @@ constexpr std::array vermittlungen{
     "Sonstige"_t,
 };
 
-constexpr int wenigsteKontakte = 1; // a care without any contact is none
-constexpr int meisteKontakte = 999;
-
 } // namespace
 
 frmBetrE::frmBetrE(Bildschirm& betreuung)
@@ -61,7 +58,7 @@ void frmBetrE::benenneElemente()
 
 void frmBetrE::baueTafel()
 {
-    tafel.fügeZahl(comboKontakte, wenigsteKontakte, meisteKontakte);
+    tafel.fügeZahl(comboKontakte, werte::kontakte);
     tafel.fügeWahl(comboArtEnd1, werte::artEnd1);
     tafel.fügeWahl(comboArtEnd2, werte::artEnd2);
     tafel.fügeWahl(comboProblEnde, werte::problEnde);

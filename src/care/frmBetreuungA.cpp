@@ -4,7 +4,7 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/Tabellen.h"
+#include "store/Vorgang.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
@@ -214,13 +214,13 @@ void frmBetreuungA::ladeSeite()
 void frmBetreuungA::ladeArbeitskopie()
 {
     Arbeitskopie& kopie = zustand().arbeitskopie;
-    kopie.aktKernDS = getKernDS(kernID);
+    kopie.aktKernDS = zustand().bestand.getKernDS(kernID);
     if (istNeu) {
         kopie.aktBetrDS = zustand().defaultBetrDS;
         kopie.aktDiagDS = zustand().defaultDiagDS;
     } else {
-        kopie.aktBetrDS = getBetrDS(kernID, betrID);
-        kopie.aktDiagDS = getDiagDS(kernID, betrID);
+        kopie.aktBetrDS = zustand().bestand.getBetrDS(kernID, betrID);
+        kopie.aktDiagDS = zustand().bestand.getDiagDS(kernID, betrID);
         kopie.betrBeg = getFeld(kopie.aktBetrDS, feldBetrBeg);
         kopie.betrEnd = getFeld(kopie.aktBetrDS, feldBetrEnd);
     }
@@ -322,16 +322,21 @@ void frmBetreuungA::speichere()
     const Betreuungsschlüssel schlüssel{kernID, betrID};
     const auto betrDS = baueBetrDS(schlüssel, lblBetrBeg.text(), lblBetrEnd.text(), kopie, zustand().memoBText);
     const auto diagDS = baueDiagDS(schlüssel, kopie);
+    Vorgang vorgang(zustand().bestand);
     if (istNeu) {
-        anfügeBetrDS(betrDS);
-        anfügeDiagDS(diagDS);
+        vorgang.anfügeBetrDS(betrDS);
+        vorgang.löscheDiagReste(kernID, betrID);
+        vorgang.anfügeDiagDS(diagDS);
     } else {
-        ersetzeBetrDS(kernID, betrID, betrDS);
-        ersetzeDiagDS(kernID, betrID, diagDS);
+        vorgang.ersetzeBetrDS(kernID, betrID, betrDS);
+        if (!vorgang.ersetzeDiagDS(kernID, betrID, diagDS)) {
+            vorgang.anfügeDiagDS(diagDS); // the diagnosis that was confirmed must not be lost
+        }
     }
     // the state is read from the care table, so the episode has to lie there by now
-    const auto betrao = betrStatusVon(getFeld(kopie.aktKernDS, feldKernID));
-    ersetzeKernDS(kernID, baueKernDS(kopie.aktKernDS, betrao, zustand().memoKText));
+    const auto betrao = vorgang.betrStatusVon(getFeld(kopie.aktKernDS, feldKernID));
+    vorgang.ersetzeKernDS(kernID, baueKernDS(kopie.aktKernDS, betrao, zustand().memoKText));
+    vorgang.bestätige();
 }
 
 void frmBetreuungA::beiExit()

@@ -1,7 +1,7 @@
 #include "clients/Listenzeilen.h"
 
 #include "platform/text/Text.h"
-#include "store/Tabellen.h"
+#include "store/Lesestand.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
@@ -32,8 +32,8 @@ std::string idText(std::string_view id)
 std::vector<std::string> klientenzeilen()
 {
     std::vector<std::string> zeilen;
-    fürJedeZeile(zustand().pfade.kernDat,
-                 [&](std::string_view satz, std::size_t) { zeilen.push_back(klientenzeile(satz)); });
+    zustand().bestand.fürJedeZeile(
+        Tabelle::Kern, [&](std::string_view satz, std::size_t) { zeilen.push_back(klientenzeile(satz)); });
     return zeilen;
 }
 
@@ -41,7 +41,7 @@ std::vector<std::string> betreuungszeilen(std::int32_t kernID)
 {
     const auto& tabelle = zustand().pfade.betrDat;
     std::vector<std::string> zeilen;
-    fürJedeZeile(tabelle, [&](std::string_view satz, std::size_t nummer) {
+    zustand().bestand.fürJedeZeile(Tabelle::Betr, [&](std::string_view satz, std::size_t nummer) {
         if (leseSchlüssel(satz, 1, 32, tabelle, nummer) == kernID) {
             zeilen.push_back(verbinde(getFeld(satz, 1), trenner, getFeld(satz, 2), trenner, getFeld(satz, 3), trenner,
                                       getFeld(satz, 4)));

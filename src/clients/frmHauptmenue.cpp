@@ -2,7 +2,7 @@
 
 #include "clients/Listenzeilen.h"
 #include "platform/text/Zahl.h"
-#include "store/Tabellen.h"
+#include "store/Sicherungen.h"
 #include "zustand/Zustand.h"
 
 #include <utility>
@@ -117,7 +117,8 @@ void frmHauptmenü::beiAktivierung()
 {
     zustand().wechsel->setzeFensterPosition(*this);
     if (!zustand().sitzungGesichert) {
-        sichereDateien();
+        sichereDateien(zustand().bestand);
+        zustand().aktKernID = 0;
         zustand().sitzungGesichert = true;
     }
     leseListen();

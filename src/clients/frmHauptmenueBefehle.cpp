@@ -1,7 +1,8 @@
 #include "clients/frmHauptmenue.h"
 
 #include "platform/text/Zahl.h"
-#include "store/Tabellen.h"
+#include "store/Sicherungen.h"
+#include "store/Vorgang.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
@@ -46,7 +47,7 @@ void frmHauptmenü::fügeKlientenHinzu()
         meldeNichtsVerändert();
         return;
     }
-    if (const auto kernID = nächsteNummer(höchsteKernID())) {
+    if (const auto kernID = nächsteNummer(zustand().bestand.höchsteKernID())) {
         zeigeStammdaten(*kernID, true);
     }
 }
@@ -90,12 +91,16 @@ void frmHauptmenü::löscheKlienten()
 
 void frmHauptmenü::löscheGewähltenKlienten()
 {
+    const auto kernID = zustand().aktKernID;
+    Vorgang vorgang(zustand().bestand);
     for (std::size_t nummer = 1; nummer <= lvwBetreuungen.anzahl(); ++nummer) {
         const auto betrID = betrIDIn(nummer);
-        löscheBetrDS(zustand().aktKernID, betrID);
-        löscheDiagDS(zustand().aktKernID, betrID);
+        vorgang.löscheBetrDS(kernID, betrID);
+        vorgang.löscheDiagDS(kernID, betrID);
     }
-    löscheKernDS(gewählteKernID());
+    vorgang.löscheAllesVon(kernID);
+    vorgang.löscheKernDS(gewählteKernID());
+    vorgang.bestätige();
     zustand().aktKernID = 0;
     leseListen();
 }
@@ -106,7 +111,7 @@ void frmHauptmenü::fügeBetreuungHinzu()
         zeigeMeldung("Bitte zuerst einen Klienten anlegen"_t, Symbol::Info);
         return;
     }
-    if (const auto betrID = nächsteNummer(höchsteBetrID(zustand().aktKernID))) {
+    if (const auto betrID = nächsteNummer(zustand().bestand.höchsteBetrID(zustand().aktKernID))) {
         zeigeBetreuung(*betrID, true);
     }
 }
@@ -148,9 +153,12 @@ void frmHauptmenü::löscheBetreuung()
         meldeNichtsVerändert();
         return;
     }
-    löscheBetrDS(kernID, betrID);
-    löscheDiagDS(kernID, betrID);
-    ersetzeKernDS(kernID, ersetzeFeld(getKernDS(kernID), feldBetrao, betrStatusVon(alsText(kernID))));
+    Vorgang vorgang(zustand().bestand);
+    vorgang.löscheBetrDS(kernID, betrID);
+    vorgang.löscheDiagDS(kernID, betrID);
+    const auto status = vorgang.betrStatusVon(alsText(kernID));
+    vorgang.ersetzeKernDS(kernID, ersetzeFeld(vorgang.getKernDS(kernID), feldBetrao, status));
+    vorgang.bestätige();
     leseListen();
 }
 
@@ -164,7 +172,7 @@ void frmHauptmenü::verwerfeEingaben()
         meldeNichtsVerändert();
         return;
     }
-    verwerfeSitzung();
+    verwerfeSitzung(zustand().bestand);
     leseListen();
 }
 

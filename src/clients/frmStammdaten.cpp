@@ -1,8 +1,7 @@
 #include "clients/frmStammdaten.h"
 
 #include "platform/text/Zahl.h"
-#include "store/Tabellen.h"
-#include "store/Tabellenleser.h"
+#include "store/Vorgang.h"
 #include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
@@ -21,13 +20,16 @@ constexpr int feldMemo = 11;
 /// The client's line, found as the tables compare keys; empty without one.
 std::string sucheKernDS(std::int32_t kernID)
 {
-    Tabellenleser leser(zustand().pfade.kernDat);
-    while (const auto zeile = leser.nächste()) {
-        if (leser.schlüssel(feldKernID, 16) == kernID) {
-            return std::string(*zeile);
+    const auto& bestand = zustand().bestand;
+    std::string gefunden;
+    bestand.laufe(Tabelle::Kern, [&](std::string_view zeile, std::size_t nummer) {
+        const bool trifft = leseSchlüssel(zeile, feldKernID, 16, bestand.pfade().kernDat, nummer) == kernID;
+        if (trifft) {
+            gefunden = zeile;
         }
-    }
-    return {};
+        return !trifft;
+    });
+    return gefunden;
 }
 
 /// The text boxes with the record fields that they show.
@@ -164,12 +166,14 @@ void frmStammdaten::beiOK()
                                                    Knöpfe::OKAbbrechen) != Antwort::OK) {
         return;
     }
+    Vorgang vorgang(zustand().bestand);
     if (istNeu) {
-        anfügeKernDS(satz);
+        vorgang.anfügeKernDS(satz);
         zustand().aktKernID = kernID;
     } else {
-        ersetzeKernDS(kernID, satz);
+        vorgang.ersetzeKernDS(kernID, satz);
     }
+    vorgang.bestätige();
     schließe();
 }
 

@@ -1,7 +1,7 @@
 #include "diagnosis/frmBetrDiagnose.h"
 
-#include "diagnosis/Diagnosesatz.h"
-#include "diagnosis/WeitereDiagnosen.h"
+#include "satz/Diagnosesatz.h"
+#include "satz/WeitereDiagnosen.h"
 #include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"

@@ -1,7 +1,7 @@
 #include "diagnosis/frmBetrDiagnoseCodeAuswahl.h"
 
-#include "diagnosis/Diagnosesatz.h"
 #include "diagnosis/frmBetrDiagnose.h"
+#include "satz/Diagnosesatz.h"
 #include "zustand/Zustand.h"
 
 #include <string>

@@ -1,7 +1,7 @@
 // The listing of the diagnosis page: its rows, their mark, and scrolling.
 
-#include "diagnosis/Diagnosesatz.h"
 #include "diagnosis/frmBetrDiagnose.h"
+#include "satz/Diagnosesatz.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 

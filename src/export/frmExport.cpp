@@ -5,7 +5,6 @@
 #include "platform/text/Zahl.h"
 #include "zustand/Zustand.h"
 
-#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
@@ -129,11 +128,17 @@ std::filesystem::path frmExport::richteOrdnerEin(int jahr)
     auto& dateien = zustand().umgebung.dateien();
     const auto exporte = zustand().pfade.programm / "Exporte";
     const auto ordner = exporte / verbinde("DBDD"_t, alsText(jahr));
-    if (!dateien.istOrdner(exporte)) {
-        beimSchreiben([&] { dateien.legeOrdnerAn(exporte); });
-    }
-    if (!dateien.istOrdner(ordner)) {
-        beimSchreiben([&] { dateien.legeOrdnerAn(ordner); });
+    bool istNeu = false;
+    beimSchreiben([&] {
+        if (!dateien.istOrdner(exporte)) {
+            dateien.legeOrdnerAn(exporte);
+        }
+        istNeu = !dateien.istOrdner(ordner);
+        if (istNeu) {
+            dateien.legeOrdnerAn(ordner);
+        }
+    });
+    if (istNeu) {
         return ordner;
     }
     const auto frage = verbinde("Es gibt schon einen Export für das Jahr "_t, alsText(jahr), "\rÜberschreiben ?"_t);
@@ -150,12 +155,6 @@ std::int32_t frmExport::führeAus(int jahr, const std::filesystem::path& ordner)
 
 void frmExport::zeigeFortschritt(std::int32_t nummer, std::int32_t anzahl)
 {
-    // drawing costs more than exporting a client, so that not each is drawn
-    constexpr std::int32_t höchstensGezeichnete = 100;
-    const auto schritt = std::max(1, anzahl / höchstensGezeichnete);
-    if (nummer % schritt != 0 && nummer != 1 && nummer != anzahl) {
-        return;
-    }
     lblMeldung.setzeText(verbinde("Klient "_t, alsText(nummer), " / "_t, alsText(anzahl)));
     ProgressBar1.setzeBereich(0, anzahl);
     ProgressBar1.setzeWert(nummer);

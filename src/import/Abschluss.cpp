@@ -1,14 +1,12 @@
 #include "import/Abschluss.h"
 
 #include "import/Eingabedatei.h"
-#include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/moHelferlein.h"
+#include "store/Vorgang.h"
 
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
-#include <utility>
-#include <vector>
 
 namespace {
 
@@ -87,49 +85,6 @@ std::unordered_map<std::string_view, std::string_view> statusAller(const Eingabe
     return status;
 }
 
-/// A live table as it was before the import.
-struct AlteTabelle {
-    std::filesystem::path pfad;
-    std::string inhalt;
-};
-
-std::vector<AlteTabelle> merkeTabellen()
-{
-    std::vector<AlteTabelle> alte;
-    const auto& pfade = zustand().pfade;
-    for (const auto* pfad : {&pfade.kernDat, &pfade.betrDat, &pfade.diagDat}) {
-        alte.push_back({*pfad, std::string(dateien().lies(*pfad)->text())});
-    }
-    return alte;
-}
-
-/// Also removes what a copy that failed has left beside the table: it holds personal data, and on a full disk
-/// its room is needed.
-void setzeZurück(const AlteTabelle& alte)
-{
-    auto daneben = alte.pfad;
-    daneben += ".neu";
-    if (dateien().istDatei(daneben)) {
-        dateien().lösche(daneben);
-    }
-    if (dateien().lies(alte.pfad)->text() != alte.inhalt) {
-        dateien().ersetze(alte.pfad, zustand().pfade.dummyDatei, [&](Schreiber& aus) { aus.text(alte.inhalt); });
-    }
-}
-
-void setzeAlleZurück(const std::vector<AlteTabelle>& tabellen)
-{
-    for (const auto& alte : tabellen) {
-        try {
-            setzeZurück(alte);
-        } catch (const Laufzeitfehler& fehler) {
-            zeigeMeldung(verbinde("Die Tabelle \""_t, pfadtext(alte.pfad),
-                                  "\" kann nicht auf den Stand vor der Übernahme gebracht werden. "_t, fehler.text()),
-                         Symbol::Stop);
-        }
-    }
-}
-
 } // namespace
 
 void entferneDoppelte(const NeueTabellen& tabellen)
@@ -182,17 +137,12 @@ Importzahlen schreibeImportListe(const NeueTabellen& tabellen, const std::filesy
     return zahlen;
 }
 
-void ersetzeTabellen(const NeueTabellen& tabellen, const std::function<void()>& danach)
+void ersetzeTabellen(const NeueTabellen& tabellen, const std::function<void()>& davor)
 {
-    const auto& pfade = zustand().pfade;
-    const auto alte = merkeTabellen();
-    try {
-        dateien().kopiereÜber(tabellen.kernDat, pfade.kernDat);
-        dateien().kopiereÜber(tabellen.betrDat, pfade.betrDat);
-        dateien().kopiereÜber(tabellen.diagDat, pfade.diagDat);
-        danach();
-    } catch (const Laufzeitfehler&) {
-        setzeAlleZurück(alte);
-        throw;
-    }
+    Vorgang vorgang(zustand().bestand);
+    vorgang.setzeInhalt(Tabelle::Kern, std::string(dateien().lies(tabellen.kernDat)->text()));
+    vorgang.setzeInhalt(Tabelle::Betr, std::string(dateien().lies(tabellen.betrDat)->text()));
+    vorgang.setzeInhalt(Tabelle::Diag, std::string(dateien().lies(tabellen.diagDat)->text()));
+    davor();
+    vorgang.bestätige();
 }

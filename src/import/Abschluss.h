@@ -34,6 +34,6 @@ struct Importzahlen {
 /// Writes the list of the imported episodes, columns separated by tabs, and counts both tables.
 Importzahlen schreibeImportListe(const NeueTabellen& tabellen, const std::filesystem::path& liste);
 
-/// Puts the new tables in the place of the live ones, then does `danach`. When any of it fails, the live tables
-/// get their old content back and the failure goes on.
-void ersetzeTabellen(const NeueTabellen& tabellen, const std::function<void()>& danach);
+/// Puts the new tables in the place of the live ones, all three or none. `davor` comes when they have been read and
+/// nothing is written yet; a failure of it leaves the live tables as they are.
+void ersetzeTabellen(const NeueTabellen& tabellen, const std::function<void()>& davor);

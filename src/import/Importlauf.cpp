@@ -15,18 +15,16 @@ Dateien& dateien()
     return zustand().umgebung.dateien();
 }
 
-void leereOrdner(const std::filesystem::path& ordner)
+std::filesystem::path arbeitsordner()
 {
-    for (const auto& name : dateien().dateienIn(ordner)) {
-        dateien().lösche(ordner / name);
-    }
+    return zustand().pfade.programm / "importDummyVerz";
 }
 
 } // namespace
 
 Importlauf::Importlauf(std::filesystem::path kernAlt, std::filesystem::path betreuungenAlt)
     : m_kernAlt(std::move(kernAlt)), m_betreuungenAlt(std::move(betreuungenAlt)),
-      m_ordner(zustand().pfade.programm / "importDummyVerz"), m_tabellen{datei("KernDat.txt"), datei("BetrDat.txt"),
+      m_ordner(arbeitsordner()), m_tabellen{datei("KernDat.txt"), datei("BetrDat.txt"),
                                                                          datei("DiagDat.txt"), datei("dummyDat.txt")}
 {}
 
@@ -40,28 +38,27 @@ Importzahlen Importlauf::führeAus()
     nachSchritt();
     fülleStatus(m_tabellen);
     const auto zahlen = schreibeImportListe(m_tabellen, zustand().pfade.importListe);
-    ersetzeTabellen(m_tabellen, [this] { räumeAuf(); });
+    ersetzeTabellen(m_tabellen, [this] { dateien().entferneOrdner(m_ordner); });
     return zahlen;
 }
 
-void Importlauf::verwirf() const
+void Importlauf::entferneReste()
 {
     try {
-        if (dateien().istOrdner(m_ordner)) {
-            räumeAuf();
+        if (dateien().istOrdner(arbeitsordner())) {
+            dateien().entferneOrdner(arbeitsordner());
         }
     } catch (const Laufzeitfehler&) {
-        // the run has failed already and is told so; the next run empties the folder
+        // whoever broke off has been told; the next run or start tries again
     }
 }
 
 void Importlauf::bereiteVor() const
 {
     if (dateien().istOrdner(m_ordner)) {
-        leereOrdner(m_ordner);
-    } else {
-        dateien().legeOrdnerAn(m_ordner);
+        dateien().entferneOrdner(m_ordner);
     }
+    dateien().legeOrdnerAn(m_ordner);
 }
 
 void Importlauf::führeStufenAus() const
@@ -89,8 +86,3 @@ void Importlauf::führeStufenAus() const
     beiSchritt("Bereit"_t, 5);
 }
 
-void Importlauf::räumeAuf() const
-{
-    leereOrdner(m_ordner);
-    dateien().entferneOrdner(m_ordner);
-}

@@ -18,15 +18,15 @@ public:
     /// Told after a step.
     std::function<void()> nachSchritt;
 
-    /// Empties the work folder or makes it, and runs. Throws Laufzeitfehler; call `verwirf` then.
+    /// Makes the work folder anew, and runs. Throws Laufzeitfehler; call `entferneReste` then.
     Importzahlen führeAus();
-    /// Removes the work folder, as far as that goes.
-    void verwirf() const;
+    /// Removes the work folder, as far as that goes: after a failure, and at start what a run that was killed has left,
+    /// since it holds personal data.
+    static void entferneReste();
 
 private:
     void bereiteVor() const;
     void führeStufenAus() const;
-    void räumeAuf() const;
     std::filesystem::path datei(std::string_view name) const { return m_ordner / name; }
 
     std::filesystem::path m_kernAlt;

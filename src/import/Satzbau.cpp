@@ -1,7 +1,7 @@
 #include "import/Satzbau.h"
 
-#include "export/moNationen.h"
 #include "platform/text/Zahl.h"
+#include "satz/moNationen.h"
 
 namespace {
 

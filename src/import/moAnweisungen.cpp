@@ -1,10 +1,10 @@
 #include "import/moAnweisungen.h"
 
-#include "diagnosis/moData.h"
 #include "platform/Ressourcen.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/Satzaufbau.h"
+#include "satz/moData.h"
 
 #include <algorithm>
 #include <array>

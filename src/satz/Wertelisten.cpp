@@ -278,10 +278,10 @@ std::vector<std::string> texte(Werteliste liste)
     return ergebnis;
 }
 
-std::vector<std::string> zahlen(std::string_view vorne, int von, int bis)
+std::vector<std::string> zahlen(std::string_view vorne, Zahlenbereich bereich)
 {
     std::vector<std::string> ergebnis{std::string(vorne)};
-    for (int zahl = von; zahl <= bis; ++zahl) {
+    for (int zahl = bereich.von; zahl <= bereich.bis; ++zahl) {
         ergebnis.push_back(std::to_string(zahl));
     }
     return ergebnis;

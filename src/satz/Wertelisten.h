@@ -44,10 +44,23 @@ extern const Werteliste icdZusatz; ///< digits 4 and 5 of F10 to F19: texts as t
                                    ///< Gebrauch)", code "10"; without "k.A."
 extern const Werteliste essstörung; ///< digit of F50: "0 (Anorexia nervosa)", code "0"; without "k.A."
 
+/// The whole numbers that a number field takes beside "k.A.".
+struct Zahlenbereich {
+    int von;
+    int bis;
+};
+
+inline constexpr Zahlenbereich maßnahmen{0, 99};  ///< former treatments
+inline constexpr Zahlenbereich kinder{0, 98};     ///< 99 is the code of "k.A."
+inline constexpr Zahlenbereich kontakte{1, 999};  ///< a care without any contact is none
+inline constexpr Zahlenbereich unterhalt{0, 12};  ///< main livelihood, 0 for none marked
+inline constexpr Zahlenbereich konsumtage{0, 30}; ///< of the last thirty
+inline constexpr Zahlenbereich alter{1, 99};
+
 /// The texts in order, for the list of a combo box.
 std::vector<std::string> texte(Werteliste liste);
-/// `vorne`, then the whole numbers from `von` to `bis`: the lists of the number combos.
-std::vector<std::string> zahlen(std::string_view vorne, int von, int bis);
+/// `vorne`, then the whole numbers of the range: the lists of the number combos.
+std::vector<std::string> zahlen(std::string_view vorne, Zahlenbereich bereich);
 /// The code of the text (exact comparison), or nullptr.
 const std::string_view* codeZu(Werteliste liste, std::string_view text);
 /// The text of the code (exact comparison), or nullptr.

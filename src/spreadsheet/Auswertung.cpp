@@ -1,12 +1,12 @@
 #include "spreadsheet/Auswertung.h"
 
-#include "diagnosis/moData.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/dateien/Zeilen.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/Satzaufbau.h"
+#include "satz/moData.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 

@@ -1,11 +1,11 @@
 #include "spreadsheet/moErstelleHeader.h"
 
-#include "diagnosis/moData.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
-#include "spreadsheet/moVariablen.h"
 #include "satz/Satzaufbau.h"
+#include "satz/moData.h"
 #include "satz/moHelferlein.h"
+#include "spreadsheet/moVariablen.h"
 #include "zustand/Zustand.h"
 
 #include <cstddef>

@@ -4,10 +4,8 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/Reparatur.h"
-#include "store/Tabellenleser.h"
 #include "satz/moHelferlein.h"
-#include "zustand/Zustand.h"
+#include "store/Vorgang.h"
 
 #include <unordered_map>
 
@@ -57,40 +55,28 @@ std::string mitStatus(std::string_view zeile, const Statustafel& tafel)
     return ersetzeFeld(zeile, statusfeld, verbinde(ort == tafel.end() ? ohneBetreuung : ort->second));
 }
 
-void schreibeStatus()
+std::string mitStatusAller(std::string_view klienten, const Statustafel& tafel)
 {
-    const auto& pfade = zustand().pfade;
-    auto klienten = öffneTabelle(pfade.kernDat);
-    const auto tafel = statusAusBetreuungen(öffneTabelle(pfade.betrDat)->text());
-    zustand().umgebung.dateien().ersetze(pfade.kernDat, reparaturdatei(), [&](Schreiber& schreiber) {
-        Zeilen zeilen(klienten->text());
-        while (const auto zeile = zeilen.nächste()) {
-            schreiber.zeile(mitStatus(*zeile, tafel));
-        }
-        klienten.reset();
-    });
-}
-
-/// What a failed repair leaves behind holds personal data.
-void entferneArbeitsdatei()
-{
-    auto& dateien = zustand().umgebung.dateien();
-    try {
-        if (dateien.istDatei(reparaturdatei())) {
-            dateien.lösche(reparaturdatei());
-        }
-    } catch (const Laufzeitfehler&) {
-        // the next start tries again
+    std::string neu;
+    neu.reserve(klienten.size());
+    Zeilen zeilen(klienten);
+    while (const auto zeile = zeilen.nächste()) {
+        neu.append(mitStatus(*zeile, tafel)).append("\r\n");
     }
+    return neu;
 }
 
 } // namespace
 
-void bereinigeBetrOA()
+void bereinigeBetrOA(const Bestand& bestand)
 {
     try {
-        schreibeStatus();
+        const auto klienten = bestand.inhalt(Tabelle::Kern);
+        const auto tafel = statusAusBetreuungen(bestand.inhalt(Tabelle::Betr)->text());
+        Vorgang vorgang(bestand);
+        vorgang.setzeInhalt(Tabelle::Kern, mitStatusAller(klienten->text(), tafel));
+        vorgang.bestätige();
     } catch (const Laufzeitfehler&) {
-        entferneArbeitsdatei();
+        // the status only decorates the list: the table stays as it was, and the next start tries again
     }
 }

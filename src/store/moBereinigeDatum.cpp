@@ -3,16 +3,12 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/Reparatur.h"
-#include "store/Tabellenleser.h"
 #include "satz/moHelferlein.h"
-#include "zustand/Zustand.h"
+#include "store/Vorgang.h"
 
 #include <algorithm>
-#include <memory>
 #include <span>
-
-namespace fs = std::filesystem;
+#include <utility>
 
 namespace {
 
@@ -43,83 +39,81 @@ bool brauchtReparatur(std::string_view zeile, std::span<const Datumsfeldstelle> 
     return std::ranges::any_of(stellen, [&](const auto& s) { return brauchtReparatur(getFeld(zeile, s.feld)); });
 }
 
-bool brauchtReparatur(const fs::path& tabelle, std::span<const Datumsfeldstelle> stellen)
+bool brauchtReparatur(const Bestand& bestand, Tabelle tabelle, std::span<const Datumsfeldstelle> stellen)
 {
-    Tabellenleser leser(tabelle);
-    while (const auto zeile = leser.nächste()) {
-        if (brauchtReparatur(*zeile, stellen)) {
-            return true;
-        }
-    }
-    return false;
+    bool braucht = false;
+    bestand.laufe(tabelle, [&](std::string_view zeile, std::size_t) {
+        braucht = brauchtReparatur(zeile, stellen);
+        return !braucht;
+    });
+    return braucht;
 }
 
 /// Years 0 to 8 were written in this century when the four digits came in.
-std::string repariert(std::string_view datum)
+std::string repariert(std::string_view datum, const Bestandsmeldung& meldung)
 {
     if (datum.find('.') == std::string_view::npos) {
-        zeigeMeldung("Fehler"_t);
+        meldung("Fehler"_t, Symbol::Keins);
     }
     const auto jahr = datum.substr(jahresanfang(datum));
     return verbinde(datum.substr(0, jahresanfang(datum)), führendeZahl(jahr) < 9 ? "20"_t : "19"_t, jahr);
 }
 
-std::string mitRepariertemFeld(const std::string& zeile, const Datumsfeldstelle& stelle)
+std::string mitRepariertemFeld(const std::string& zeile, const Datumsfeldstelle& stelle, const Bestandsmeldung& meldung)
 {
     const auto datum = getFeld(zeile, stelle.feld);
     const bool istAusnahme = !stelle.ausnahme.empty() && datum == stelle.ausnahme;
-    return istAusnahme || !brauchtReparatur(datum) ? zeile : ersetzeFeld(zeile, stelle.feld, repariert(datum));
+    return istAusnahme || !brauchtReparatur(datum) ? zeile : ersetzeFeld(zeile, stelle.feld, repariert(datum, meldung));
 }
 
-/// `ort` tells where the line stands, for the failure of a line that lacks the field.
-std::string repariert(std::string_view zeile, std::span<const Datumsfeldstelle> stellen, std::string_view ort)
+std::string mitReparierterZeile(std::string_view zeile, std::span<const Datumsfeldstelle> stellen,
+                                const Bestandsmeldung& meldung)
 {
-    try {
-        std::string neu(zeile);
-        for (const auto& stelle : stellen) {
-            neu = mitRepariertemFeld(neu, stelle);
-        }
-        return neu;
-    } catch (const Laufzeitfehler& fehler) {
-        throw Laufzeitfehler(verbinde(ort, ": "_t, fehler.text()));
+    std::string neu(zeile);
+    for (const auto& stelle : stellen) {
+        neu = mitRepariertemFeld(neu, stelle, meldung);
     }
+    return neu;
 }
 
-void repariere(const fs::path& tabelle, std::span<const Datumsfeldstelle> stellen)
+void repariere(const Bestand& bestand, Vorgang& vorgang, Tabelle tabelle, std::span<const Datumsfeldstelle> stellen)
 {
-    auto leser = std::make_unique<Tabellenleser>(tabelle);
-    zustand().umgebung.dateien().ersetze(tabelle, reparaturdatei(), [&](Schreiber& schreiber) {
-        while (const auto zeile = leser->nächste()) {
-            schreiber.zeile(repariert(*zeile, stellen, ortsangabe(tabelle, leser->nummer())));
+    std::string inhalt;
+    bestand.fürJedeZeile(tabelle, [&](std::string_view zeile, std::size_t nummer) {
+        try {
+            inhalt.append(mitReparierterZeile(zeile, stellen, bestand.meldung())).append("\r\n");
+        } catch (const Laufzeitfehler& fehler) {
+            throw Laufzeitfehler(verbinde(ortsangabe(bestand.pfade().von(tabelle), nummer), ": "_t, fehler.text()));
         }
-        leser.reset();
     });
+    vorgang.setzeInhalt(tabelle, std::move(inhalt));
 }
 
-std::string ersteZeile(const fs::path& tabelle)
+std::string ersteZeile(const Bestand& bestand, Tabelle tabelle)
 {
-    return std::string(Tabellenleser(tabelle).nächste().value_or(std::string_view()));
+    return std::string(Tabellenleser(bestand, tabelle).nächste().value_or(std::string_view()));
 }
 
 } // namespace
 
-void bereinigeDatum()
+std::optional<GefundeneFelder> bereinigeDatum(const Bestand& bestand)
 {
-    auto& stand = zustand();
-    const auto klient = ersteZeile(stand.pfade.kernDat);
+    const auto klient = ersteZeile(bestand, Tabelle::Kern);
     if (klient.empty()) {
-        return;
+        return std::nullopt;
     }
-    stand.gefundeneKernFelder = anzahlFelder(klient);
-    const auto betreuung = ersteZeile(stand.pfade.betrDat);
-    stand.gefundeneBetrFelder = anzahlFelder(betreuung.empty() ? klient : betreuung);
+    const auto betreuung = ersteZeile(bestand, Tabelle::Betr);
+    const GefundeneFelder gefunden{anzahlFelder(klient), anzahlFelder(betreuung.empty() ? klient : betreuung)};
 
-    const bool klienten = brauchtReparatur(stand.pfade.kernDat, klientendaten);
-    const bool betreuungen = brauchtReparatur(stand.pfade.betrDat, betreuungsdaten);
+    const bool klienten = brauchtReparatur(bestand, Tabelle::Kern, klientendaten);
+    const bool betreuungen = brauchtReparatur(bestand, Tabelle::Betr, betreuungsdaten);
+    Vorgang vorgang(bestand);
     if (klienten) {
-        repariere(stand.pfade.kernDat, klientendaten);
+        repariere(bestand, vorgang, Tabelle::Kern, klientendaten);
     }
     if (betreuungen) {
-        repariere(stand.pfade.betrDat, betreuungsdaten);
+        repariere(bestand, vorgang, Tabelle::Betr, betreuungsdaten);
     }
+    vorgang.bestätige();
+    return gefunden;
 }

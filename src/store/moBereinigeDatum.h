@@ -1,8 +1,19 @@
 #pragma once
 
+#include "store/Bestand.h"
+
+#include <cstdint>
+#include <optional>
+
+/// The numbers of fields that the repair found in the first lines of the tables.
+struct GefundeneFelder {
+    std::int16_t kern = 0;
+    std::int16_t betr = 0;
+};
+
 /// Repair at start: widens the years of stored dates to four digits (`Geburtsdatum` of the clients, begin and end
 /// of the care episodes). Does nothing while there is no client, and rewrites a table only if one of its dates
-/// needs it. Notes the field counts that it finds in the state. A date without a point shows the box "Fehler".
+/// needs it, both in one action. Answers the field counts that it finds, nothing while there is no client. A date without a point shows the box "Fehler".
 /// A table that can't be read, or a line that lacks the field, is a Laufzeitfehler; the old table is then still
 /// there.
-void bereinigeDatum();
+std::optional<GefundeneFelder> bereinigeDatum(const Bestand& bestand);

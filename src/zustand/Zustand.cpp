@@ -11,20 +11,22 @@ Zustand* aktuell = nullptr;
 
 Pfade bildePfade(const std::filesystem::path& programmordner)
 {
-    const auto daten = programmordner / "Daten";
-    return {.programm = programmordner,
-            .ini = programmordner / "Tolvek7.ini",
-            .dummyIni = programmordner / "Tolvhek7Dummy.ini",
-            .daten = daten,
-            .kernDat = daten / "kernDat.txt",
-            .betrDat = daten / "betrDat.txt",
-            .diagDat = daten / "diagDat.txt",
-            .kernBak = daten / "kernDat.bak",
-            .betrBak = daten / "betrDat.bak",
-            .diagBak = daten / "diagDat.bak",
-            .dummyDatei = programmordner / "dummyFile.txt",
-            .importListe = programmordner / "importDatenListe.txt"};
+    Pfade pfade;
+    static_cast<Bestandspfade&>(pfade) = bildeBestandspfade(programmordner);
+    pfade.programm = programmordner;
+    pfade.ini = programmordner / "Tolvek7.ini";
+    pfade.dummyIni = programmordner / "Tolvhek7Dummy.ini";
+    pfade.importListe = programmordner / "importDatenListe.txt";
+    return pfade;
 }
+
+Zustand::Zustand(Umgebung& umgebungDesLaufs)
+    : umgebung(umgebungDesLaufs), ablauf(umgebungDesLaufs, folge),
+      bestandsmeldung([this](std::string_view text, Symbol symbol) {
+          umgebung.zeigeMeldung({std::string(text), symbol, Knöpfe::OK, Antwort::OK, titel});
+      }),
+      bestand(umgebungDesLaufs.dateien(), pfade, bestandsmeldung)
+{}
 
 Zustand& zustand()
 {

@@ -6,6 +6,7 @@
 #include "platform/bildschirm/Rahmen.h"
 #include "platform/text/Text.h"
 #include "platform/umgebung/Umgebung.h"
+#include "store/Bestand.h"
 #include "zustand/Bildschirmwechsel.h"
 
 #include <cstdint>
@@ -13,19 +14,11 @@
 #include <string>
 #include <string_view>
 
-/// The absolute paths of a run, all below the program folder.
-struct Pfade {
+/// The absolute paths of a run, all below the program folder; those of the store are its own.
+struct Pfade : Bestandspfade {
     std::filesystem::path programm;    ///< the program folder itself
     std::filesystem::path ini;         ///< Tolvek7.ini
     std::filesystem::path dummyIni;    ///< Tolvhek7Dummy.ini
-    std::filesystem::path daten;       ///< Daten
-    std::filesystem::path kernDat;     ///< Daten/kernDat.txt
-    std::filesystem::path betrDat;     ///< Daten/betrDat.txt
-    std::filesystem::path diagDat;     ///< Daten/diagDat.txt
-    std::filesystem::path kernBak;     ///< Daten/kernDat.bak
-    std::filesystem::path betrBak;     ///< Daten/betrDat.bak
-    std::filesystem::path diagBak;     ///< Daten/diagDat.bak
-    std::filesystem::path dummyDatei;  ///< dummyFile.txt
     std::filesystem::path importListe; ///< importDatenListe.txt
 };
 
@@ -53,7 +46,7 @@ struct Arbeitskopie {
 /// The state of a program run, filled once at start and read by all.
 class Zustand {
 public:
-    explicit Zustand(Umgebung& umgebungDesLaufs) : umgebung(umgebungDesLaufs), ablauf(umgebungDesLaufs, folge) {}
+    explicit Zustand(Umgebung& umgebungDesLaufs);
     Zustand(const Zustand&) = delete;
     Zustand& operator=(const Zustand&) = delete;
 
@@ -68,6 +61,9 @@ public:
     /// Title of every message box and of the frame, "Tolvek7 v7.0.0"; empty before initialisation.
     std::string titel;
     Pfade pfade;
+    /// The store's door: its boxes come under the program's title.
+    Bestandsmeldung bestandsmeldung;
+    Bestand bestand;
     std::string defaultKernDS;
     std::string defaultBetrDS;
     std::string defaultDiagDS;

@@ -44,9 +44,9 @@ erlaubt() {
         clients) echo "$unten care export import spreadsheet" ;;
         import) echo "$unten export" ;;
         care | export | spreadsheet) echo "$unten" ;;
-        diagnosis) echo "platform satz zustand store" ;;
-        store) echo "platform satz zustand" ;;
-        zustand) echo "platform satz" ;;
+        diagnosis) echo "platform satz store zustand" ;;
+        zustand) echo "platform satz store" ;;
+        store) echo "platform satz" ;;
         satz | platform/qt | platform/calc) echo "platform" ;;
         platform) echo "" ;;
         *) echo "?" ;;

@@ -2,7 +2,7 @@
 #include "export/Exportsaetze.h"
 #include "hilfen/Testumgebung.h"
 
-#include "diagnosis/moData.h"
+#include "satz/moData.h"
 
 #include <algorithm>
 

@@ -5,7 +5,7 @@
 #include "hilfen/Stoerzugriff.h"
 #include "hilfen/Testumgebung.h"
 
-#include "diagnosis/moData.h"
+#include "satz/moData.h"
 
 #include <algorithm>
 #include <random>

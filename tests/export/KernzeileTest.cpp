@@ -5,7 +5,7 @@
 #include "hilfen/Textdatei.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 
-#include "diagnosis/moData.h"
+#include "satz/moData.h"
 
 #include <algorithm>
 

@@ -9,12 +9,15 @@ class Stummeumgebung : public Umgebung {
 public:
     Datum heute() override { return {2007, 8, 2}; }
     std::filesystem::path programmordner() override { return {}; }
-    bool istErsteInstanz() override { return true; }
+    bool istErsteInstanz(const std::filesystem::path& /*datenordner*/) override { return true; }
     Dateien& dateien() override { return m_dateien; }
     Antwort zeigeMeldung(const Meldung& /*meldung*/) override { return Antwort::OK; }
     std::optional<std::filesystem::path> wähleDatei(const Dateiwahl& /*wahl*/) override { return std::nullopt; }
     bool findeTabellenprogramm() override { return false; }
-    void übergibMappe(Arbeitsmappe& /*mappe*/) override {}
+    bool übergibMappe(Arbeitsmappe& /*mappe*/, const std::function<void(double)>& /*fortschritt*/) override
+    {
+        return false;
+    }
     Größe bildschirmgröße() override { return {20490, 11520}; }
     void zeichne() override {}
     void lasseEreignisseZu() override {}

@@ -2,11 +2,11 @@
 
 #include "fuzz/Stummeumgebung.h"
 
-#include "diagnosis/moData.h"
 #include "export/Diagnosezeile.h"
 #include "export/Kernzeile.h"
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/moData.h"
 
 #include <algorithm>
 #include <cstddef>

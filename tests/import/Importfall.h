@@ -6,8 +6,8 @@
 #include "import/Importlauf.h"
 #include "import/moAnweisungen.h"
 
-#include "diagnosis/moData.h"
-#include "export/moNationen.h"
+#include "satz/moData.h"
+#include "satz/moNationen.h"
 
 /// A run with the older files `alt/kernDat.txt` and `alt/betreuungenDat.txt`, the instruction files beside the
 /// program and empty live tables.
@@ -44,7 +44,7 @@ protected:
         try {
             return importlauf.führeAus();
         } catch (...) {
-            importlauf.verwirf();
+            Importlauf::entferneReste();
             throw;
         }
     }

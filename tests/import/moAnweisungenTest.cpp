@@ -3,9 +3,9 @@
 #include "hilfen/Testumgebung.h"
 #include "import/Feldanweisung.h"
 
-#include "diagnosis/moData.h"
-#include "export/moNationen.h"
+#include "satz/moData.h"
 #include "satz/moHelferlein.h"
+#include "satz/moNationen.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>

@@ -12,6 +12,7 @@
 
 #include "platform/text/Eingabe.h"
 #include "platform/text/Text.h"
+#include "store/Pruefung.h"
 
 #include <algorithm>
 #include <set>
@@ -20,7 +21,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// What may lie in the program folder between two actions; the folder of the exports may hold anything.
+/// What may lie in the program folder between two actions; the folder of the exports may hold anything, that of the
+/// backups is looked at by the checker.
 const std::set<fs::path>& erlaubteOrte()
 {
     static const std::set<fs::path> orte{
@@ -31,6 +33,7 @@ const std::set<fs::path>& erlaubteOrte()
         "Daten/kernDat.bak",
         "Daten/betrDat.bak",
         "Daten/diagDat.bak",
+        "Daten/Sicherungen",
         "Tolvek7.ini",
         "Exporte",
         "importDatenListe.txt",
@@ -111,6 +114,7 @@ void Irrgang::starteNeu()
     m_sicherung = liesTabellen(ordner, ".bak", verstöße);
     prüfeStart(vorher, m_stand, m_sicherung, verstöße);
     prüfeAufbau(m_stand, verstöße);
+    prüfeMitPrüfer(verstöße);
     prüfeOrdner(verstöße);
     prüfeBildschirme(verstöße);
     wirf(verstöße);
@@ -256,6 +260,8 @@ void Irrgang::prüfeNach(const Urheber& urheber)
     auto neu = liesTabellen(ordner, ".txt", verstöße);
     if (neu != m_stand) {
         ++m_gespeichert;
+        m_hatImportiert = m_hatImportiert || urheber.bildschirm == "frmDatenÜbernahme"_t;
+        prüfeMitPrüfer(verstöße);
         prüfeAufbau(neu, verstöße);
         prüfeÄnderung(urheber, m_stand, neu, m_sicherung, verstöße);
         if (liesTabellen(ordner, ".bak", verstöße) != m_sicherung) {
@@ -275,6 +281,18 @@ void Irrgang::prüfeAbsturz(Verstöße& verstöße) const
     }
 }
 
+/// The older data bring what they say; all else that the program writes must stand up to its own checker.
+void Irrgang::prüfeMitPrüfer(Verstöße& verstöße) const
+{
+    Dateien dateien(erzeugeDateizugriff());
+    const auto pfade = bildeBestandspfade(m_lauf.imProgramm({}));
+    for (const auto& befund : prüfeBestand(dateien, pfade).befunde) {
+        if (!befund.istHinweis() && !(m_hatImportiert && betrifftAngaben(befund.art))) {
+            verstöße.push_back(alsBerichtszeile(befund, pfade));
+        }
+    }
+}
+
 void Irrgang::prüfeOrdner(Verstöße& verstöße) const
 {
     const auto wurzel = m_lauf.imProgramm({});
@@ -283,7 +301,7 @@ void Irrgang::prüfeOrdner(Verstöße& verstöße) const
         if (!erlaubteOrte().contains(pfad)) {
             verstöße.push_back(verbinde("bleibt liegen: "_t, pfad.string()));
         }
-        if (pfad == "Exporte") {
+        if (pfad == "Exporte" || pfad == "Daten/Sicherungen") {
             ort.disable_recursion_pending();
         }
     }

@@ -50,6 +50,7 @@ private:
 
     void prüfeNach(const Urheber& urheber);
     void prüfeAbsturz(Verstöße& verstöße) const;
+    void prüfeMitPrüfer(Verstöße& verstöße) const;
     void prüfeOrdner(Verstöße& verstöße) const;
     void prüfeBildschirme(Verstöße& verstöße) const;
     void wirf(const Verstöße& verstöße) const;
@@ -62,6 +63,7 @@ private:
     std::string m_element; ///< name of the element that is acted on
     Tabellenstand m_stand;
     Tabellenstand m_sicherung;
+    bool m_hatImportiert = false;
     int m_gegangen = 0;
     int m_gespeichert = 0;
 };

@@ -129,8 +129,8 @@ TEST(Wertelisten, VergleichenGenau)
 TEST(Wertelisten, ListenFürAuswahlfelder)
 {
     EXPECT_EQ(werte::texte(werte::kurz), (std::vector<std::string>{"k.A.", "nein", "ja"}));
-    EXPECT_EQ(werte::zahlen("k.A."_t, 0, 3), (std::vector<std::string>{"k.A.", "0", "1", "2", "3"}));
-    EXPECT_EQ(werte::zahlen("k.A."_t, 1, 99).size(), 100U);
+    EXPECT_EQ(werte::zahlen("k.A."_t, {0, 3}), (std::vector<std::string>{"k.A.", "0", "1", "2", "3"}));
+    EXPECT_EQ(werte::zahlen("k.A."_t, {1, 99}).size(), 100U);
 }
 
 /// An answer that nobody gave has the first entry of its list, with the one exception that is to stay.

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "diagnosis/moData.h"
 #include "hilfen/Testumgebung.h"
 #include "platform/mappe/Arbeitsmappe.h"
+#include "satz/moData.h"
 #include "spreadsheet/Auswertung.h"
 #include "spreadsheet/Rohtabellen.h"
 #include "spreadsheet/moErstelleHeader.h"

@@ -1,10 +1,10 @@
 #include "spreadsheet/moErstelleHeader.h"
 
-#include "diagnosis/moData.h"
 #include "hilfen/Abnahme.h"
 #include "hilfen/Testumgebung.h"
-#include "spreadsheet/moVariablen.h"
+#include "satz/moData.h"
 #include "satz/moHelferlein.h"
+#include "spreadsheet/moVariablen.h"
 
 namespace {
 

@@ -35,7 +35,8 @@ void Ablauf::beende()
 
 void Ablauf::stürzeAb(const std::string& text)
 {
-    m_absturz = verbinde("Laufzeitfehler: "_t, text);
+    const auto hinweis = hinweisBeiAbsturz ? hinweisBeiAbsturz() : std::string();
+    m_absturz = verbinde("Laufzeitfehler: "_t, text, hinweis.empty() ? ""_t : "\r\n\r\n"_t, hinweis);
     m_status = 1;
     m_läuft = false; // before the box: nothing may be written while it stands
     m_umgebung.zeigeMeldung({m_absturz, Symbol::Stop, Knöpfe::OK, Antwort::OK, m_titel});

@@ -27,6 +27,9 @@ public:
     /// The title of the failure's box.
     void setzeTitel(const std::string& titel) { m_titel = titel; }
 
+    /// Asked for a sentence below the message of a fatal failure: what helps the person on. May be empty.
+    std::function<std::string()> hinweisBeiAbsturz;
+
     /// For the surface: the run has ended.
     Melder<> beendet;
 

@@ -37,11 +37,6 @@ void schreibeGanz(OffeneDatei& datei, std::string_view bytes)
     }
 }
 
-bool fehltZeilenende(std::string_view inhalt)
-{
-    return !inhalt.empty() && inhalt.back() != '\n' && inhalt.back() != '\r';
-}
-
 } // namespace
 
 std::string pfadtext(const fs::path& pfad)
@@ -51,10 +46,9 @@ std::string pfadtext(const fs::path& pfad)
     return nimmEingabe(zeichen, false).text;
 }
 
-Schreiber::Schreiber(Dateizugriff& zugriff, const fs::path& pfad) : m_pfad(pfad)
+Schreiber::Schreiber(Dateizugriff& zugriff, const fs::path& pfad, Öffnung wie) : m_pfad(pfad)
 {
-    m_datei =
-        mitNamen("Die Datei kann nicht angelegt werden:"_t, pfad, [&] { return zugriff.öffne(pfad, Öffnung::Leeren); });
+    m_datei = mitNamen("Die Datei kann nicht angelegt werden:"_t, pfad, [&] { return zugriff.öffne(pfad, wie); });
     m_block.reserve(blockgröße);
 }
 
@@ -62,6 +56,11 @@ Schreiber::~Schreiber() = default;
 
 void Schreiber::text(std::string_view bytes)
 {
+    if (bytes.size() >= blockgröße) {
+        leere();
+        schreibe(bytes);
+        return;
+    }
     m_block.append(bytes);
     if (m_block.size() >= blockgröße) {
         leere();
@@ -76,8 +75,15 @@ void Schreiber::zeile(std::string_view inhalt)
 
 void Schreiber::leere()
 {
-    mitNamen("In die Datei kann nicht geschrieben werden:"_t, m_pfad, [&] { schreibeGanz(*m_datei, m_block); });
+    schreibe(m_block);
     m_block.clear();
+}
+
+void Schreiber::schreibe(std::string_view bytes)
+{
+    m_prüfsumme.nimm(bytes);
+    m_länge += bytes.size();
+    mitNamen("In die Datei kann nicht geschrieben werden:"_t, m_pfad, [&] { schreibeGanz(*m_datei, bytes); });
 }
 
 void Schreiber::schließe()
@@ -99,31 +105,29 @@ std::unique_ptr<Dateiinhalt> Dateien::lies(const fs::path& pfad)
     return mitNamen("Die Datei kann nicht gelesen werden:"_t, pfad, [&] { return m_zugriff->lies(pfad); });
 }
 
-bool Dateien::istLesbar(const fs::path& pfad)
+Fund Dateien::findet(const fs::path& pfad)
 {
-    try {
-        return m_zugriff->lies(pfad) != nullptr;
-    } catch (const Dateifehler&) {
-        return false;
-    }
+    return mitNamen("Es kann nicht festgestellt werden, was unter diesem Namen liegt:"_t, pfad,
+                    [&] { return m_zugriff->findet(pfad); });
 }
 
-bool Dateien::istOrdner(const fs::path& pfad)
+fs::path Dateien::ziel(const fs::path& pfad)
 {
-    return m_zugriff->istOrdner(pfad);
+    return mitNamen("Der Verweis kann nicht verfolgt werden:"_t, pfad, [&] { return m_zugriff->ziel(pfad); });
 }
 
-bool Dateien::istDatei(const fs::path& pfad)
+std::string Dateien::zeitVon(const fs::path& pfad)
 {
-    return m_zugriff->istDatei(pfad);
+    return mitNamen("Die Zeit der Datei kann nicht gelesen werden:"_t, pfad, [&] { return m_zugriff->zeitVon(pfad); });
 }
 
 void Dateien::ersetze(const fs::path& ziel, const fs::path& arbeitsdatei, const std::function<void(Schreiber&)>& inhalt)
 {
-    Schreiber schreiber(*m_zugriff, arbeitsdatei);
-    inhalt(schreiber);
-    schreiber.schließe();
+    const auto schreiber = schreibeArbeitsdatei(arbeitsdatei);
+    inhalt(*schreiber);
+    schreiber->schließe();
     benenneUm(arbeitsdatei, ziel);
+    sichereOrdner(ziel.parent_path());
 }
 
 void Dateien::kopiereÜber(const fs::path& quelle, const fs::path& ziel)
@@ -134,31 +138,31 @@ void Dateien::kopiereÜber(const fs::path& quelle, const fs::path& ziel)
     ersetze(ziel, daneben, [&](Schreiber& schreiber) { schreiber.text(inhalt->text()); });
 }
 
-void Dateien::hängeZeileAn(const fs::path& pfad, std::string_view zeile)
-{
-    const auto ergänzung = verbinde(fehltZeilenende(lies(pfad)->text()) ? "\r\n" : "", zeile, "\r\n");
-    mitNamen("An die Datei kann nichts angefügt werden:"_t, pfad, [&] {
-        const auto datei = m_zugriff->öffne(pfad, Öffnung::Anhängen);
-        const auto länge = datei->länge();
-        try {
-            schreibeGanz(*datei, ergänzung);
-            datei->sichereAufPlatte();
-        } catch (const Dateifehler&) {
-            datei->schneideAb(länge);
-            throw;
-        }
-        datei->schließe();
-    });
-}
-
 void Dateien::legeLeerAn(const fs::path& pfad)
 {
-    Schreiber(*m_zugriff, pfad).schließe();
+    Schreiber(*m_zugriff, pfad, Öffnung::Neu).schließe();
 }
 
 std::unique_ptr<Schreiber> Dateien::schreibeNeu(const fs::path& pfad)
 {
-    return std::make_unique<Schreiber>(*m_zugriff, pfad);
+    return std::make_unique<Schreiber>(*m_zugriff, pfad, Öffnung::Leeren);
+}
+
+std::unique_ptr<Schreiber> Dateien::schreibeArbeitsdatei(const fs::path& pfad)
+{
+    entferne(pfad);
+    return std::make_unique<Schreiber>(*m_zugriff, pfad, Öffnung::Neu);
+}
+
+void Dateien::verdopple(const fs::path& von, const fs::path& nach)
+{
+    try {
+        m_zugriff->verknüpfe(von, nach);
+    } catch (const Dateifehler&) {
+        const auto schreiber = schreibeArbeitsdatei(nach);
+        schreiber->text(lies(von)->text());
+        schreiber->schließe();
+    }
 }
 
 void Dateien::lösche(const fs::path& pfad)
@@ -166,25 +170,63 @@ void Dateien::lösche(const fs::path& pfad)
     mitNamen("Die Datei kann nicht gelöscht werden:"_t, pfad, [&] { m_zugriff->lösche(pfad); });
 }
 
+void Dateien::entferne(const fs::path& pfad)
+{
+    mitNamen("Die Datei kann nicht gelöscht werden:"_t, pfad, [&] {
+        if (m_zugriff->istVergeben(pfad)) {
+            m_zugriff->lösche(pfad);
+        }
+    });
+}
+
 void Dateien::benenneUm(const fs::path& von, const fs::path& nach)
 {
-    mitNamen("Die Datei kann nicht ersetzt werden:"_t, nach, [&] {
-        m_zugriff->benenneUm(von, nach);
-        m_zugriff->sichereOrdnerAufPlatte(nach.parent_path());
-    });
+    mitNamen("Die Datei kann nicht ersetzt werden:"_t, nach, [&] { m_zugriff->benenneUm(von, nach); });
+}
+
+void Dateien::sichereOrdner(const fs::path& ordner)
+{
+    mitNamen("Der Ordner kann nicht auf die Platte gesichert werden:"_t, ordner,
+             [&] { m_zugriff->sichereOrdnerAufPlatte(ordner); });
 }
 
 void Dateien::legeOrdnerAn(const fs::path& pfad)
 {
-    mitNamen("Der Ordner kann nicht angelegt werden:"_t, pfad, [&] { m_zugriff->legeOrdnerAn(pfad); });
+    mitNamen("Der Ordner kann nicht angelegt werden:"_t, pfad, [&] {
+        m_zugriff->legeOrdnerAn(pfad);
+        m_zugriff->sichereOrdnerAufPlatte(pfad.parent_path());
+    });
 }
 
-void Dateien::entferneOrdner(const fs::path& pfad)
+void Dateien::entferneOrdner(const fs::path& ordner)
 {
-    mitNamen("Der Ordner kann nicht entfernt werden:"_t, pfad, [&] { m_zugriff->entferneOrdner(pfad); });
+    if (ziel(ordner) != ordner) {
+        lösche(ordner); // a link to somebody's folder is not ours to empty
+        return;
+    }
+    for (const auto& name : dateienIn(ordner)) {
+        lösche(ordner / name);
+    }
+    mitNamen("Der Ordner kann nicht entfernt werden:"_t, ordner, [&] { m_zugriff->entferneOrdner(ordner); });
 }
 
 std::vector<fs::path> Dateien::dateienIn(const fs::path& ordner)
 {
-    return mitNamen("Der Ordner kann nicht gelesen werden:"_t, ordner, [&] { return m_zugriff->dateienIn(ordner); });
+    return mitNamen("Der Ordner kann nicht gelesen werden:"_t, ordner,
+                    [&] { return m_zugriff->namenIn(ordner, false); });
+}
+
+std::vector<fs::path> Dateien::ordnerIn(const fs::path& ordner)
+{
+    return mitNamen("Der Ordner kann nicht gelesen werden:"_t, ordner,
+                    [&] { return m_zugriff->namenIn(ordner, true); });
+}
+
+void Dateien::verwehreAnderen(const fs::path& pfad)
+{
+    try {
+        m_zugriff->verwehreAnderen(pfad);
+    } catch (const Dateifehler&) {
+        // some file systems know no rights
+    }
 }

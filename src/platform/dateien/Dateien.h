@@ -1,11 +1,12 @@
 #pragma once
 
-#include <cstddef>
+#include "platform/dateien/Dateizugriff.h"
+#include "platform/dateien/Pruefsumme.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,73 +16,23 @@
 /// The records are health data that were confirmed with OK, so a write counts only when it is on the disk.
 /// `Dateizugriff` holds the single operations of the system (open, write, flush, close, rename, …); each of
 /// them reports its failure, and each can be made to fail in a test. `Dateien` builds from them what the
-/// program needs: reading as a view, appending, and replacing a file so that whoever pulls the plug finds
-/// the old file or the new one: the work file is written completely, flushed to the disk, closed, renamed
+/// program needs: reading into a buffer, writing a new file, and replacing a file so that whoever pulls the plug
+/// finds the old file or the new one: the work file is written completely, flushed to the disk, closed, renamed
 /// over the target, and the folder is flushed. Every failure is a `Laufzeitfehler` that names file and
 /// cause; the old file is then still there. A failed flush is a failure and is never retried, since the
-/// system may have dropped the pages. An append that fails part-way is cut back to the old length.
-/// Files are created readable by their owner alone (0600), folders likewise (0700).
-
-/// The content of a file as a view that stays valid as long as the object lives (a mapped file or a
-/// buffer).
-class Dateiinhalt {
-public:
-    virtual ~Dateiinhalt() = default;
-    virtual std::string_view text() const = 0;
-};
-
-/// An open file as the system knows it.
-class OffeneDatei {
-public:
-    virtual ~OffeneDatei() = default;
-    /// Writes as much as it can; returns the number of bytes written or throws Dateifehler.
-    virtual std::size_t schreibe(std::string_view bytes) = 0;
-    virtual std::uint64_t länge() = 0;
-    virtual void schneideAb(std::uint64_t länge) = 0;
-    virtual void sichereAufPlatte() = 0;
-    virtual void schließe() = 0;
-};
-
-/// What one operation of the system failed with; `Dateien` turns it into a Laufzeitfehler.
-class Dateifehler : public std::runtime_error {
-public:
-    /// `grund` is the system's reason in German, code page.
-    explicit Dateifehler(const std::string& grund) : std::runtime_error(grund) {}
-};
-
-enum class Öffnung { Leeren, Anhängen };
-
-/// The operations of the system; every one throws Dateifehler.
-class Dateizugriff {
-public:
-    Dateizugriff() = default;
-    Dateizugriff(const Dateizugriff&) = delete;
-    Dateizugriff& operator=(const Dateizugriff&) = delete;
-    virtual ~Dateizugriff() = default;
-
-    virtual std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad) = 0;
-    virtual std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) = 0;
-    virtual void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach) = 0;
-    virtual void lösche(const std::filesystem::path& pfad) = 0;
-    virtual void legeOrdnerAn(const std::filesystem::path& pfad) = 0;
-    virtual void entferneOrdner(const std::filesystem::path& pfad) = 0;
-    virtual void sichereOrdnerAufPlatte(const std::filesystem::path& pfad) = 0;
-
-    // the same on every system
-    virtual bool istDatei(const std::filesystem::path& pfad);
-    virtual bool istOrdner(const std::filesystem::path& pfad);
-    /// The names of the files in the folder, sorted.
-    virtual std::vector<std::filesystem::path> dateienIn(const std::filesystem::path& ordner);
-};
-
-/// The operations of this system (one source file per system).
-std::unique_ptr<Dateizugriff> erzeugeDateizugriff();
+/// system may have dropped the pages. Several tables at once are the work of `store/Vorgang`.
+///
+/// Files are created readable by their owner alone (0600), folders likewise (0700). A work file is always a new
+/// file, so that nobody can lay a link in its place and have records written elsewhere. A table that is a link
+/// is followed: `ziel` tells where it really lies, and its work file lies beside that place.
+///
+/// Files are read into a buffer: a mapped file that another program cuts short would kill the process.
 
 /// A text file being written: collects lines in a block and hands them on. `schließe` flushes to the disk
 /// and reports every failure; without it the file counts as not written.
 class Schreiber {
 public:
-    Schreiber(Dateizugriff& zugriff, const std::filesystem::path& pfad);
+    Schreiber(Dateizugriff& zugriff, const std::filesystem::path& pfad, Öffnung wie);
     Schreiber(const Schreiber&) = delete;
     Schreiber& operator=(const Schreiber&) = delete;
     ~Schreiber();
@@ -93,12 +44,19 @@ public:
     /// Everything to the disk, closed. Throws Laufzeitfehler.
     void schließe();
 
+    /// What was written, once it is closed.
+    std::uint64_t länge() const { return m_länge; }
+    std::uint64_t prüfsumme() const { return m_prüfsumme.wert(); }
+
 private:
     void leere();
+    void schreibe(std::string_view bytes);
 
     std::filesystem::path m_pfad;
     std::unique_ptr<OffeneDatei> m_datei;
     std::string m_block;
+    Prüfsumme m_prüfsumme;
+    std::uint64_t m_länge = 0;
 };
 
 class Dateien {
@@ -106,34 +64,52 @@ public:
     explicit Dateien(std::unique_ptr<Dateizugriff> zugriff);
     ~Dateien();
 
-    /// The content as a view. Throws Laufzeitfehler.
+    /// The content. Throws Laufzeitfehler.
     std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad);
-    /// Whether the file can be opened for reading.
-    bool istLesbar(const std::filesystem::path& pfad);
-    bool istOrdner(const std::filesystem::path& pfad);
-    bool istDatei(const std::filesystem::path& pfad);
+    /// What lies there, links followed. Laufzeitfehler when that can't be told (no permission, I/O error, a link to
+    /// something that is not there): such a file must never be taken for missing.
+    Fund findet(const std::filesystem::path& pfad);
+    bool fehlt(const std::filesystem::path& pfad) { return findet(pfad) == Fund::Nichts; }
+    bool istOrdner(const std::filesystem::path& pfad) { return findet(pfad) == Fund::Ordner; }
+    bool istDatei(const std::filesystem::path& pfad) { return findet(pfad) == Fund::Datei; }
+    /// Where the file really lies: the end of the chain of links, the path itself without one.
+    std::filesystem::path ziel(const std::filesystem::path& pfad);
+    /// When the file was last written, local time as "JJJJ-MM-TT hh.mm.ss".
+    std::string zeitVon(const std::filesystem::path& pfad);
 
-    /// Writes `arbeitsdatei` with what `inhalt` writes, then puts it in the place of `ziel` as told above.
+    /// Writes `arbeitsdatei` anew with what `inhalt` writes, then puts it in the place of `ziel` as told above.
     void ersetze(const std::filesystem::path& ziel, const std::filesystem::path& arbeitsdatei,
                  const std::function<void(Schreiber&)>& inhalt);
     /// Replaces `ziel` by a copy of `quelle` through `ziel` + ".neu" beside it.
     void kopiereÜber(const std::filesystem::path& quelle, const std::filesystem::path& ziel);
-    /// Appends the line; a last line without a line end gets one before. On failure the file is cut back.
-    void hängeZeileAn(const std::filesystem::path& pfad, std::string_view zeile);
-    /// Creates the file empty (or empties it).
+    /// Creates the file empty; Laufzeitfehler when something lies there already, a link included.
     void legeLeerAn(const std::filesystem::path& pfad);
-    /// A new file for writing, emptied; for output that replaces nothing precious (export, stages).
+    /// A file for writing, emptied; for output that replaces nothing precious (export, stages).
     std::unique_ptr<Schreiber> schreibeNeu(const std::filesystem::path& pfad);
+    /// A file that must not be there yet; what an earlier run has left under its name is removed before, a link
+    /// itself and not what it points to.
+    std::unique_ptr<Schreiber> schreibeArbeitsdatei(const std::filesystem::path& pfad);
+    /// A second name for the file's content, or a copy of it where the system has no second names. On the disk.
+    void verdopple(const std::filesystem::path& von, const std::filesystem::path& nach);
 
     void lösche(const std::filesystem::path& pfad);
+    /// Removes the file or link if it is there.
+    void entferne(const std::filesystem::path& pfad);
+    /// Renames without a flush of the folder: `sichereOrdner` follows once for all.
     void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach);
+    void sichereOrdner(const std::filesystem::path& ordner);
+    /// Makes the folder; it is on the disk then.
     void legeOrdnerAn(const std::filesystem::path& pfad);
-    void entferneOrdner(const std::filesystem::path& pfad);
+    /// Removes the folder with the files in it; it holds no folders.
+    void entferneOrdner(const std::filesystem::path& ordner);
     std::vector<std::filesystem::path> dateienIn(const std::filesystem::path& ordner);
+    std::vector<std::filesystem::path> ordnerIn(const std::filesystem::path& ordner);
+    /// Takes the rights of others away from a file or folder that belongs to the user; what can't be changed stays.
+    void verwehreAnderen(const std::filesystem::path& pfad);
 
 private:
     std::unique_ptr<Dateizugriff> m_zugriff;
 };
 
-/// The path as code-page text, for messages.
+/// The path as code-page text, for messages; what its name holds beyond the code page is replaced.
 std::string pfadtext(const std::filesystem::path& pfad);

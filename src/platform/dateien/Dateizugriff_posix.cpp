@@ -1,13 +1,14 @@
-#include "platform/dateien/Dateien.h"
+#include "platform/dateien/Dateizugriff.h"
 
+#include "platform/dateien/Pfadkunde.h"
 #include "platform/dateien/Systemgrund.h"
+#include "platform/text/Text.h"
 
 #include <cerrno>
 #include <system_error>
 #include <utility>
 
 #include <fcntl.h>
-#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -57,40 +58,43 @@ std::uint64_t längeVon(const Griff& griff)
         errno = EISDIR;
         scheitere();
     }
+    if (!S_ISREG(angaben.st_mode)) {
+        throw Dateifehler(std::string("unter diesem Namen liegt keine gewöhnliche Datei"_t));
+    }
     return static_cast<std::uint64_t>(angaben.st_size);
 }
 
-class AbgebildeteDatei : public Dateiinhalt {
-public:
-    explicit AbgebildeteDatei(const fs::path& pfad)
-    {
-        const Griff griff(::open(pfad.c_str(), O_RDONLY | O_CLOEXEC));
-        m_länge = static_cast<std::size_t>(längeVon(griff));
-        if (m_länge > 0) {
-            m_ort = ::mmap(nullptr, m_länge, PROT_READ, MAP_PRIVATE, griff.nummer(), 0);
-            prüfe(m_ort != MAP_FAILED);
+/// The whole content; a file that grows or shrinks meanwhile is read as far as it goes.
+std::string liesGanz(const fs::path& pfad)
+{
+    // without waiting: an open pipe would otherwise stop the program until somebody writes into it
+    const Griff griff(::open(pfad.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    std::string text(static_cast<std::size_t>(längeVon(griff)) + 1, '\0'); // one more, to see the end
+    std::size_t gelesen = 0;
+    for (;;) {
+        if (gelesen == text.size()) {
+            text.resize(2 * text.size());
         }
-    }
-    AbgebildeteDatei(const AbgebildeteDatei&) = delete;
-    AbgebildeteDatei& operator=(const AbgebildeteDatei&) = delete;
-    ~AbgebildeteDatei() override
-    {
-        if (m_länge > 0) {
-            ::munmap(m_ort, m_länge);
+        const auto menge = ::read(griff.nummer(), text.data() + gelesen, text.size() - gelesen);
+        if (menge < 0 && errno == EINTR) {
+            continue;
         }
+        prüfe(menge >= 0);
+        if (menge == 0) {
+            break;
+        }
+        gelesen += static_cast<std::size_t>(menge);
     }
-
-    std::string_view text() const override { return {static_cast<const char*>(m_ort), m_länge}; }
-
-private:
-    void* m_ort = nullptr;
-    std::size_t m_länge = 0;
-};
+    text.resize(gelesen);
+    return text;
+}
 
 class PosixDatei : public OffeneDatei {
 public:
     PosixDatei(const fs::path& pfad, Öffnung wie)
-        : m_griff(::open(pfad.c_str(), O_WRONLY | O_CLOEXEC | O_CREAT | (wie == Öffnung::Leeren ? O_TRUNC : O_APPEND),
+        : m_griff(::open(pfad.c_str(),
+                         O_WRONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | O_CREAT |
+                             (wie == Öffnung::Leeren ? O_TRUNC : O_EXCL | O_NOFOLLOW),
                          nurEigentümerDatei))
     {
         // a file from elsewhere may have been readable by others; where that can't be changed it is no failure
@@ -106,11 +110,6 @@ public:
         prüfe(geschrieben >= 0);
         return static_cast<std::size_t>(geschrieben);
     }
-    std::uint64_t länge() override { return längeVon(m_griff); }
-    void schneideAb(std::uint64_t länge) override
-    {
-        prüfe(::ftruncate(m_griff.nummer(), static_cast<off_t>(länge)) == 0);
-    }
     void sichereAufPlatte() override { prüfe(::fsync(m_griff.nummer()) == 0); }
     void schließe() override { m_griff.schließe(); }
 
@@ -122,7 +121,7 @@ class PosixZugriff : public Dateizugriff {
 public:
     std::unique_ptr<Dateiinhalt> lies(const fs::path& pfad) override
     {
-        return std::make_unique<AbgebildeteDatei>(pfad);
+        return std::make_unique<Dateiinhalt>(liesGanz(pfad));
     }
     std::unique_ptr<OffeneDatei> öffne(const fs::path& pfad, Öffnung wie) override
     {
@@ -133,6 +132,10 @@ public:
         prüfe(::rename(von.c_str(), nach.c_str()) == 0);
     }
     void lösche(const fs::path& pfad) override { prüfe(::unlink(pfad.c_str()) == 0); }
+    void verknüpfe(const fs::path& von, const fs::path& nach) override
+    {
+        prüfe(::link(von.c_str(), nach.c_str()) == 0);
+    }
     void legeOrdnerAn(const fs::path& pfad) override { prüfe(::mkdir(pfad.c_str(), nurEigentümerOrdner) == 0); }
     void entferneOrdner(const fs::path& pfad) override { prüfe(::rmdir(pfad.c_str()) == 0); }
     void sichereOrdnerAufPlatte(const fs::path& pfad) override
@@ -140,6 +143,28 @@ public:
         Griff griff(::open(pfad.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
         prüfe(::fsync(griff.nummer()) == 0);
         griff.schließe();
+    }
+    void verwehreAnderen(const fs::path& pfad) override
+    {
+        struct stat angaben = {};
+        prüfe(::stat(pfad.c_str(), &angaben) == 0);
+        constexpr mode_t andere = S_IRWXG | S_IRWXO;
+        if ((angaben.st_mode & andere) != 0 && angaben.st_uid == ::geteuid()) {
+            prüfe(::chmod(pfad.c_str(), angaben.st_mode & static_cast<mode_t>(~andere) & mode_t{07777}) == 0);
+        }
+    }
+    Fund findet(const fs::path& pfad) override { return fundAn(pfad); }
+    bool istVergeben(const fs::path& pfad) override { return istNameVergeben(pfad); }
+    fs::path ziel(const fs::path& pfad) override { return endeDerVerweise(pfad); }
+    std::string zeitVon(const fs::path& pfad) override
+    {
+        struct stat angaben = {};
+        prüfe(::stat(pfad.c_str(), &angaben) == 0);
+        return alsZeittext(angaben.st_mtime);
+    }
+    std::vector<fs::path> namenIn(const fs::path& ordner, bool sindOrdner) override
+    {
+        return listeNamen(ordner, sindOrdner);
     }
 };
 

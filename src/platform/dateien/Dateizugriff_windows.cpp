@@ -1,8 +1,10 @@
-#include "platform/dateien/Dateien.h"
+#include "platform/dateien/Dateizugriff.h"
 
+#include "platform/dateien/Pfadkunde.h"
 #include "platform/dateien/Systemgrund.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 #ifndef NOMINMAX
@@ -57,49 +59,35 @@ private:
     HANDLE m_griff;
 };
 
-/// A buffer: a mapped file could not be replaced on this system while it is read.
-class GeleseneDatei : public Dateiinhalt {
-public:
-    explicit GeleseneDatei(const fs::path& pfad)
-    {
-        Griff griff(pfad, GENERIC_READ, OPEN_EXISTING);
-        m_text.resize(static_cast<std::size_t>(griff.länge()));
-        for (std::size_t ort = 0; ort < m_text.size();) {
-            DWORD gelesen = 0;
-            const auto menge = static_cast<DWORD>(std::min<std::size_t>(m_text.size() - ort, std::size_t{1} << 24U));
-            prüfe(::ReadFile(griff.griff(), m_text.data() + ort, menge, &gelesen, nullptr) != 0 && gelesen > 0);
-            ort += gelesen;
+std::string liesGanz(const fs::path& pfad)
+{
+    Griff griff(pfad, GENERIC_READ, OPEN_EXISTING);
+    std::string text(static_cast<std::size_t>(griff.länge()), '\0');
+    std::size_t ort = 0;
+    while (ort < text.size()) {
+        DWORD gelesen = 0;
+        const auto menge = static_cast<DWORD>(std::min<std::size_t>(text.size() - ort, std::size_t{1} << 24U));
+        prüfe(::ReadFile(griff.griff(), text.data() + ort, menge, &gelesen, nullptr) != 0);
+        if (gelesen == 0) {
+            break;
         }
+        ort += gelesen;
     }
-    std::string_view text() const override { return m_text; }
-
-private:
-    std::string m_text;
-};
+    text.resize(ort);
+    return text;
+}
 
 class WindowsDatei : public OffeneDatei {
 public:
     WindowsDatei(const fs::path& pfad, Öffnung wie)
-        : m_griff(pfad, GENERIC_WRITE, wie == Öffnung::Leeren ? CREATE_ALWAYS : OPEN_ALWAYS)
-    {
-        if (wie == Öffnung::Anhängen) {
-            prüfe(::SetFilePointerEx(m_griff.griff(), {}, nullptr, FILE_END) != 0);
-        }
-    }
+        : m_griff(pfad, GENERIC_WRITE, wie == Öffnung::Leeren ? CREATE_ALWAYS : CREATE_NEW)
+    {}
     std::size_t schreibe(std::string_view bytes) override
     {
         DWORD geschrieben = 0;
         const auto menge = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), std::size_t{1} << 24U));
         prüfe(::WriteFile(m_griff.griff(), bytes.data(), menge, &geschrieben, nullptr) != 0);
         return geschrieben;
-    }
-    std::uint64_t länge() override { return m_griff.länge(); }
-    void schneideAb(std::uint64_t länge) override
-    {
-        LARGE_INTEGER ort = {};
-        ort.QuadPart = static_cast<LONGLONG>(länge);
-        prüfe(::SetFilePointerEx(m_griff.griff(), ort, nullptr, FILE_BEGIN) != 0 &&
-              ::SetEndOfFile(m_griff.griff()) != 0);
     }
     void sichereAufPlatte() override { prüfe(::FlushFileBuffers(m_griff.griff()) != 0); }
     void schließe() override { m_griff.schließe(); }
@@ -108,9 +96,21 @@ private:
     Griff m_griff;
 };
 
+/// Seconds since 1970 of a file time (tenths of a microsecond since 1601).
+std::int64_t sekundenVon(const FILETIME& zeit)
+{
+    constexpr std::uint64_t jeSekunde = 10'000'000;
+    constexpr std::int64_t bis1970 = 11'644'473'600;
+    const auto zehntel = (std::uint64_t{zeit.dwHighDateTime} << 32U) | zeit.dwLowDateTime;
+    return static_cast<std::int64_t>(zehntel / jeSekunde) - bis1970;
+}
+
 class WindowsZugriff : public Dateizugriff {
 public:
-    std::unique_ptr<Dateiinhalt> lies(const fs::path& pfad) override { return std::make_unique<GeleseneDatei>(pfad); }
+    std::unique_ptr<Dateiinhalt> lies(const fs::path& pfad) override
+    {
+        return std::make_unique<Dateiinhalt>(liesGanz(pfad));
+    }
     std::unique_ptr<OffeneDatei> öffne(const fs::path& pfad, Öffnung wie) override
     {
         return std::make_unique<WindowsDatei>(pfad, wie);
@@ -120,10 +120,29 @@ public:
         prüfe(::MoveFileExW(von.c_str(), nach.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0);
     }
     void lösche(const fs::path& pfad) override { prüfe(::DeleteFileW(pfad.c_str()) != 0); }
+    void verknüpfe(const fs::path& von, const fs::path& nach) override
+    {
+        prüfe(::CreateHardLinkW(nach.c_str(), von.c_str(), nullptr) != 0);
+    }
     void legeOrdnerAn(const fs::path& pfad) override { prüfe(::CreateDirectoryW(pfad.c_str(), nullptr) != 0); }
     void entferneOrdner(const fs::path& pfad) override { prüfe(::RemoveDirectoryW(pfad.c_str()) != 0); }
     /// MOVEFILE_WRITE_THROUGH has done it: folders cannot be flushed on this system.
     void sichereOrdnerAufPlatte(const fs::path&) override {}
+    /// Rights are inherited from the user's own folders on this system.
+    void verwehreAnderen(const fs::path&) override {}
+    Fund findet(const fs::path& pfad) override { return fundAn(pfad); }
+    bool istVergeben(const fs::path& pfad) override { return istNameVergeben(pfad); }
+    fs::path ziel(const fs::path& pfad) override { return endeDerVerweise(pfad); }
+    std::string zeitVon(const fs::path& pfad) override
+    {
+        WIN32_FILE_ATTRIBUTE_DATA angaben = {};
+        prüfe(::GetFileAttributesExW(pfad.c_str(), GetFileExInfoStandard, &angaben) != 0);
+        return alsZeittext(sekundenVon(angaben.ftLastWriteTime));
+    }
+    std::vector<fs::path> namenIn(const fs::path& ordner, bool sindOrdner) override
+    {
+        return listeNamen(ordner, sindOrdner);
+    }
 };
 
 } // namespace

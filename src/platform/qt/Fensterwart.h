@@ -6,6 +6,7 @@
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Eingabewaechter.h"
 #include "platform/qt/Fenster.h"
+#include "platform/qt/Handbuch.h"
 
 #include <QPointer>
 
@@ -48,6 +49,7 @@ private:
     void zeichneRahmen();
     QSize fensterrand() const;
     void platziereKind(const Platz& platz);
+    std::string nameInGebrauch() const;
     void entlade(const Bildschirm& bildschirm);
     void gleicheFokusAb();
     void beiFokuswechsel(QWidget* neu);
@@ -65,6 +67,7 @@ private:
     QPointer<QWidget> m_aktiveZeile;
     bool m_setztFokus = false; ///< the focus that changes is the program's own doing
     Eingabewächter m_wächter;
+    Handbuch m_handbuch;
     std::vector<Abonnement> m_abonnements;
     QMetaObject::Connection m_fokusverbindung;
 };

@@ -1,22 +1,19 @@
 #include "platform/qt/QtUmgebung.h"
 
 #include "platform/mappe/Tabellenprogramm.h"
+#include "platform/qt/Geduld.h"
 #include "platform/qt/Mass.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QCryptographicHash>
 #include <QDate>
-#include <QDir>
 #include <QFileDialog>
 #include <QGridLayout>
-#include <QLockFile>
 #include <QMessageBox>
 #include <QScreen>
 #include <QSpacerItem>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <array>
@@ -68,16 +65,32 @@ QMessageBox::StandardButton knopfFür(Antwort antwort)
     return QMessageBox::Ok;
 }
 
-QString sperrpfad(const std::filesystem::path& ordner)
-{
-    const auto name =
-        QCryptographicHash::hash(QByteArray::fromStdString(ordner.generic_string()), QCryptographicHash::Sha256);
-    auto platz = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (platz.isEmpty()) {
-        platz = QDir::tempPath();
+/// Long actions are long because of their files, and come by here again and again.
+class GeduldigerZugriff : public Zugriffsweiche {
+public:
+    using Zugriffsweiche::Zugriffsweiche;
+
+    std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad) override
+    {
+        geduld::prüfe();
+        return Zugriffsweiche::lies(pfad);
     }
-    return platz + QStringLiteral("/tolvek7-") + QString::fromLatin1(name.toHex().left(24)) + QStringLiteral(".lock");
-}
+    std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) override
+    {
+        geduld::prüfe();
+        return Zugriffsweiche::öffne(pfad, wie);
+    }
+    void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach) override
+    {
+        geduld::prüfe();
+        Zugriffsweiche::benenneUm(von, nach);
+    }
+    void sichereOrdnerAufPlatte(const std::filesystem::path& pfad) override
+    {
+        geduld::prüfe();
+        Zugriffsweiche::sichereOrdnerAufPlatte(pfad);
+    }
+};
 
 } // namespace
 
@@ -130,6 +143,9 @@ std::string alsQtFilter(const std::string& filter)
         const auto ende = std::min(filter.find('|', mitte + 1), filter.size());
         auto muster = filter.substr(mitte + 1, ende - mitte - 1);
         std::replace(muster.begin(), muster.end(), ';', ' ');
+        if (muster == "*.*") {
+            muster = "*"; // files without an extension as well
+        }
         auto name = filter.substr(von, mitte - von);
         name = name.substr(0, name.find('('));
         ergebnis += (ergebnis.empty() ? "" : ";;") + name + '(' + muster + ')';
@@ -139,7 +155,7 @@ std::string alsQtFilter(const std::string& filter)
 }
 
 QtUmgebung::QtUmgebung(Tabellenprogramm& tabellenprogramm)
-    : m_tabellenprogramm(tabellenprogramm), m_dateien(erzeugeDateizugriff())
+    : m_tabellenprogramm(tabellenprogramm), m_dateien(std::make_unique<GeduldigerZugriff>(erzeugeDateizugriff()))
 {}
 
 QtUmgebung::~QtUmgebung() = default;
@@ -155,15 +171,15 @@ std::filesystem::path QtUmgebung::programmordner()
     return {QCoreApplication::applicationDirPath().toStdU16String()};
 }
 
-bool QtUmgebung::istErsteInstanz()
+bool QtUmgebung::istErsteInstanz(const std::filesystem::path& datenordner)
 {
-    m_sperre = std::make_unique<QLockFile>(sperrpfad(programmordner()));
-    m_sperre->setStaleLockTime(0); // a lock is stale when its process is gone, never by its age
-    return m_sperre->tryLock() || m_sperre->error() != QLockFile::LockFailedError;
+    m_sperre = sperreDatenordner(m_dateien, datenordner);
+    return m_sperre != nullptr;
 }
 
 Antwort QtUmgebung::zeigeMeldung(const Meldung& meldung)
 {
+    const geduld::Pause pause;
     const auto fenster = baueMeldungsfenster(meldung);
     fenster->exec();
     return antwortVon(*fenster);
@@ -171,6 +187,7 @@ Antwort QtUmgebung::zeigeMeldung(const Meldung& meldung)
 
 std::optional<std::filesystem::path> QtUmgebung::wähleDatei(const Dateiwahl& wahl)
 {
+    const geduld::Pause pause;
     const auto ordner = QString::fromStdU16String(wahl.anfangsordner.u16string());
     const auto pfad =
         QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, ordner, alsQString(alsQtFilter(wahl.filter)));
@@ -185,9 +202,9 @@ bool QtUmgebung::findeTabellenprogramm()
     return m_tabellenprogramm.istDa();
 }
 
-void QtUmgebung::übergibMappe(Arbeitsmappe& mappe)
+bool QtUmgebung::übergibMappe(Arbeitsmappe& mappe, const std::function<void(double)>& fortschritt)
 {
-    m_tabellenprogramm.öffne(mappe, [this] { zeichne(); });
+    return m_tabellenprogramm.öffne(mappe, fortschritt);
 }
 
 Größe QtUmgebung::bildschirmgröße()
@@ -196,12 +213,32 @@ Größe QtUmgebung::bildschirmgröße()
     return {alsTwips(größe.width()), alsTwips(größe.height())};
 }
 
+/// No more often than an eye can follow: drawing costs more than the work that it tells of.
+bool QtUmgebung::istBildFällig()
+{
+    constexpr qint64 bildabstandMs = 50;
+    geduld::prüfe();
+    return !m_seitDemBild.isValid() || m_seitDemBild.elapsed() >= bildabstandMs;
+}
+
 void QtUmgebung::zeichne()
 {
+    geduld::prüfe();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    m_seitDemBild.start();
+}
+
+void QtUmgebung::zeichneGelegentlich()
+{
+    if (istBildFällig()) {
+        zeichne();
+    }
 }
 
 void QtUmgebung::lasseEreignisseZu()
 {
-    QCoreApplication::processEvents();
+    if (istBildFällig()) {
+        QCoreApplication::processEvents();
+        m_seitDemBild.start();
+    }
 }

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "platform/dateien/Dateien.h"
+#include "platform/dateien/Ordnersperre.h"
 #include "platform/umgebung/Umgebung.h"
 
+#include <QElapsedTimer>
+
+#include <functional>
 #include <memory>
 
-class QLockFile;
 class QMessageBox;
 class Tabellenprogramm;
 
@@ -17,24 +20,27 @@ public:
 
     Datum heute() override;
     std::filesystem::path programmordner() override;
-    /// Holds a lock of the system, named after the program folder, that ends with the process.
-    bool istErsteInstanz() override;
+    bool istErsteInstanz(const std::filesystem::path& datenordner) override;
     Dateien& dateien() override { return m_dateien; }
 
     Antwort zeigeMeldung(const Meldung& meldung) override;
     std::optional<std::filesystem::path> wähleDatei(const Dateiwahl& wahl) override;
 
     bool findeTabellenprogramm() override;
-    void übergibMappe(Arbeitsmappe& mappe) override;
+    bool übergibMappe(Arbeitsmappe& mappe, const std::function<void(double anteil)>& fortschritt) override;
 
     Größe bildschirmgröße() override;
     void zeichne() override;
+    void zeichneGelegentlich() override;
     void lasseEreignisseZu() override;
 
 private:
+    bool istBildFällig();
+
     Tabellenprogramm& m_tabellenprogramm;
     Dateien m_dateien;
-    std::unique_ptr<QLockFile> m_sperre;
+    std::unique_ptr<Ordnersperre> m_sperre;
+    QElapsedTimer m_seitDemBild;
 };
 
 /// The message box of a message, not shown yet.

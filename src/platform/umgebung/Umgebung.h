@@ -4,6 +4,7 @@
 #include "platform/umgebung/Meldung.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -36,8 +37,9 @@ public:
     virtual Datum heute() = 0;
     /// The folder that holds the program file.
     virtual std::filesystem::path programmordner() = 0;
-    /// False when a previous instance works in the same program folder.
-    virtual bool istErsteInstanz() = 0;
+    /// False when a previous instance works on the same data folder, by whatever path, user or link. Makes the folder
+    /// when it is missing, and holds it until the process ends. Laufzeitfehler when that can't be found out.
+    virtual bool istErsteInstanz(const std::filesystem::path& datenordner) = 0;
     virtual Dateien& dateien() = 0;
 
     /// Blocks until the box is answered.
@@ -47,13 +49,16 @@ public:
 
     /// True when a spreadsheet program can be started at all.
     virtual bool findeTabellenprogramm() = 0;
-    /// Hands the workbook over as a new, unsaved document.
-    virtual void übergibMappe(Arbeitsmappe& mappe) = 0;
+    /// Hands the workbook over as a new, unsaved document. `fortschritt` hears now and then which share of that is
+    /// done (0 to 1). False when the program that was found can't be started.
+    virtual bool übergibMappe(Arbeitsmappe& mappe, const std::function<void(double anteil)>& fortschritt) = 0;
 
     /// The screen of the desktop, in twips.
     virtual Größe bildschirmgröße() = 0;
     /// Draws what has changed (status line, progress bar) at once; takes no input.
     virtual void zeichne() = 0;
-    /// As `zeichne`, and lets the user's pending actions happen (the refusal of Exit during the export).
+    /// The same for the numbers of a long run, which come faster than anybody can read: not each is drawn.
+    virtual void zeichneGelegentlich() { zeichne(); }
+    /// As `zeichneGelegentlich`, and lets the user's pending actions happen (the refusal of Exit during the export).
     virtual void lasseEreignisseZu() = 0;
 };

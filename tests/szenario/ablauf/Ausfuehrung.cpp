@@ -3,6 +3,8 @@
 #include "ablauf/Anweisungen.h"
 #include "sprache/Unicode.h"
 
+#include <algorithm>
+#include <array>
 #include <exception>
 #include <stdexcept>
 
@@ -23,11 +25,30 @@ Handlertafel sammle()
     return alle;
 }
 
+/// Statements that write or remove files past the program.
+bool schreibtDateien(std::string_view wort)
+{
+    constexpr std::array worte{"datei", "rohdatei", "klient", "betreuung", "diagnose", "ordner", "kopiere", "entferne"};
+    return std::ranges::find(worte, wort) != worte.end();
+}
+
+void hörtSchiedsrichter(Lauf& lauf, const Anweisungsform& form)
+{
+    if (form.wort == "starte") {
+        lauf.schiedsrichter().vorStart();
+    } else if (schreibtDateien(form.wort)) {
+        lauf.schiedsrichter().vermerkeFremdesSchreiben();
+    } else if (form.gattung == Gattung::Handlung) {
+        lauf.schiedsrichter().vorHandlung();
+    }
+}
+
 void führeAus(Lauf& lauf, const Anweisung& anweisung)
 {
     if (anweisung.form->gattung == Gattung::Handlung) {
         lauf.prüfeAngesprochen();
     }
+    hörtSchiedsrichter(lauf, *anweisung.form);
     alleHandler().at(anweisung.form->wort)(lauf, anweisung);
     lauf.nachAnweisung();
 }
@@ -36,6 +57,7 @@ void schließeAb(Lauf& lauf)
 {
     lauf.prüfeAngesprochen();
     lauf.umgebung().prüfeVorrat();
+    lauf.schiedsrichter().prüfe();
 }
 
 } // namespace

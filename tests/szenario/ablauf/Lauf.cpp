@@ -18,7 +18,7 @@ std::filesystem::path alsPfad(std::u32string_view text)
 
 Lauf::Lauf(const Szenario& szenario, Oberfläche& oberfläche)
     : m_szenarioordner(std::filesystem::absolute(szenario.pfad).parent_path()), m_umgebung(m_ordner.pfad()),
-      m_oberfläche(oberfläche)
+      m_schiedsrichter(m_ordner.pfad()), m_oberfläche(oberfläche)
 {
     m_umgebung.zeichnung = [this] { m_oberfläche.zeichne(); };
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ablauf/Schiedsrichter.h"
 #include "oberflaeche/Oberflaeche.h"
 #include "sprache/Szenariodatei.h"
 #include "umgebung/Szenarioumgebung.h"
@@ -55,6 +56,7 @@ public:
 
     Oberfläche& oberfläche() const { return m_oberfläche; }
     Szenarioumgebung& umgebung() { return m_umgebung; }
+    Schiedsrichter& schiedsrichter() { return m_schiedsrichter; }
 
 private:
     Ziel findeAufBildschirm(std::string_view bildschirm, std::string_view element) const;
@@ -63,6 +65,7 @@ private:
     std::filesystem::path m_szenarioordner;
     Wegwerfordner m_ordner;
     Szenarioumgebung m_umgebung;
+    Schiedsrichter m_schiedsrichter;
     Oberfläche& m_oberfläche;
     std::unique_ptr<Programm> m_programm;
     bool m_absturzAngesprochen = false;

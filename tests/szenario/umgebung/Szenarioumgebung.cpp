@@ -33,7 +33,7 @@ Szenarioumgebung::Szenarioumgebung(std::filesystem::path programmordner)
       m_dateien(std::unique_ptr<Dateizugriff>(m_zugriff))
 {}
 
-bool Szenarioumgebung::istErsteInstanz()
+bool Szenarioumgebung::istErsteInstanz(const std::filesystem::path& /*datenordner*/)
 {
     return !std::exchange(m_zweiteInstanz, false);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "umgebung/Scheitern.h"
+#include "platform/dateien/Dateien.h"
 #include "umgebung/Sperrzugriff.h"
 
 #include "platform/mappe/Arbeitsmappe.h"
@@ -19,12 +20,17 @@ public:
 
     Datum heute() override { return m_heute; }
     std::filesystem::path programmordner() override { return m_programmordner; }
-    bool istErsteInstanz() override;
+    bool istErsteInstanz(const std::filesystem::path& datenordner) override;
     Dateien& dateien() override { return m_dateien; }
     Antwort zeigeMeldung(const Meldung& meldung) override;
     std::optional<std::filesystem::path> wähleDatei(const Dateiwahl& wahl) override;
     bool findeTabellenprogramm() override { return m_tabellenprogramm; }
-    void übergibMappe(Arbeitsmappe& mappe) override { m_mappe = std::move(mappe); }
+    bool übergibMappe(Arbeitsmappe& mappe, const std::function<void(double)>& fortschritt) override
+    {
+        fortschritt(1);
+        m_mappe = std::move(mappe);
+        return true;
+    }
     Größe bildschirmgröße() override;
     void zeichne() override;
     void lasseEreignisseZu() override { zeichne(); }

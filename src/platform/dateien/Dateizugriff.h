@@ -1,0 +1,121 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The single operations of the system on files; `Dateien` builds from them what the program needs, tests make
+/// each of them fail.
+
+/// The content of a file, held in memory as long as the object lives.
+class Dateiinhalt {
+public:
+    explicit Dateiinhalt(std::string text) : m_text(std::move(text)) {}
+    std::string_view text() const { return m_text; }
+
+private:
+    std::string m_text;
+};
+
+/// An open file as the system knows it.
+class OffeneDatei {
+public:
+    virtual ~OffeneDatei() = default;
+    /// Writes as much as it can; returns the number of bytes written or throws Dateifehler.
+    virtual std::size_t schreibe(std::string_view bytes) = 0;
+    virtual void sichereAufPlatte() = 0;
+    virtual void schließe() = 0;
+};
+
+/// What one operation of the system failed with; `Dateien` turns it into a Laufzeitfehler.
+class Dateifehler : public std::runtime_error {
+public:
+    /// `grund` is the system's reason in German, code page.
+    explicit Dateifehler(const std::string& grund) : std::runtime_error(grund) {}
+};
+
+enum class Öffnung {
+    Leeren, ///< an existing file is emptied, a link followed
+    Neu     ///< there must be nothing under the name, not even a link
+};
+
+/// What lies under a path.
+enum class Fund { Nichts, Datei, Ordner, Anderes };
+
+/// The operations of the system; every one throws Dateifehler.
+class Dateizugriff {
+public:
+    Dateizugriff() = default;
+    Dateizugriff(const Dateizugriff&) = delete;
+    Dateizugriff& operator=(const Dateizugriff&) = delete;
+    virtual ~Dateizugriff() = default;
+
+    /// Never waits: a pipe or a device in the place of a file is a failure.
+    virtual std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad) = 0;
+    virtual std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) = 0;
+    virtual void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach) = 0;
+    virtual void lösche(const std::filesystem::path& pfad) = 0;
+    /// A second name for the same content.
+    virtual void verknüpfe(const std::filesystem::path& von, const std::filesystem::path& nach) = 0;
+    virtual void legeOrdnerAn(const std::filesystem::path& pfad) = 0;
+    virtual void entferneOrdner(const std::filesystem::path& pfad) = 0;
+    virtual void sichereOrdnerAufPlatte(const std::filesystem::path& pfad) = 0;
+    virtual void verwehreAnderen(const std::filesystem::path& pfad) = 0;
+
+    /// Links followed; a link to nothing is a failure.
+    virtual Fund findet(const std::filesystem::path& pfad) = 0;
+    /// Whether anything, a link to nothing included, has the name.
+    virtual bool istVergeben(const std::filesystem::path& pfad) = 0;
+    virtual std::filesystem::path ziel(const std::filesystem::path& pfad) = 0;
+    /// Local time, "JJJJ-MM-TT hh.mm.ss".
+    virtual std::string zeitVon(const std::filesystem::path& pfad) = 0;
+    /// The names in the folder that are folders (or are none), sorted.
+    virtual std::vector<std::filesystem::path> namenIn(const std::filesystem::path& ordner, bool sindOrdner) = 0;
+};
+
+/// An access that hands everything on to another one; what is to go otherwise is overridden.
+class Zugriffsweiche : public Dateizugriff {
+public:
+    explicit Zugriffsweiche(std::unique_ptr<Dateizugriff> dahinter) : m_dahinter(std::move(dahinter)) {}
+
+    std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad) override { return m_dahinter->lies(pfad); }
+    std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) override
+    {
+        return m_dahinter->öffne(pfad, wie);
+    }
+    void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach) override
+    {
+        m_dahinter->benenneUm(von, nach);
+    }
+    void lösche(const std::filesystem::path& pfad) override { m_dahinter->lösche(pfad); }
+    void verknüpfe(const std::filesystem::path& von, const std::filesystem::path& nach) override
+    {
+        m_dahinter->verknüpfe(von, nach);
+    }
+    void legeOrdnerAn(const std::filesystem::path& pfad) override { m_dahinter->legeOrdnerAn(pfad); }
+    void entferneOrdner(const std::filesystem::path& pfad) override { m_dahinter->entferneOrdner(pfad); }
+    void sichereOrdnerAufPlatte(const std::filesystem::path& pfad) override
+    {
+        m_dahinter->sichereOrdnerAufPlatte(pfad);
+    }
+    void verwehreAnderen(const std::filesystem::path& pfad) override { m_dahinter->verwehreAnderen(pfad); }
+    Fund findet(const std::filesystem::path& pfad) override { return m_dahinter->findet(pfad); }
+    bool istVergeben(const std::filesystem::path& pfad) override { return m_dahinter->istVergeben(pfad); }
+    std::filesystem::path ziel(const std::filesystem::path& pfad) override { return m_dahinter->ziel(pfad); }
+    std::string zeitVon(const std::filesystem::path& pfad) override { return m_dahinter->zeitVon(pfad); }
+    std::vector<std::filesystem::path> namenIn(const std::filesystem::path& ordner, bool sindOrdner) override
+    {
+        return m_dahinter->namenIn(ordner, sindOrdner);
+    }
+
+private:
+    std::unique_ptr<Dateizugriff> m_dahinter;
+};
+
+/// The operations of this system (one source file per system).
+std::unique_ptr<Dateizugriff> erzeugeDateizugriff();

@@ -1,0 +1,57 @@
+#include "platform/dateien/Pruefsumme.h"
+
+#include <bit>
+
+namespace {
+
+constexpr std::size_t schritt = 8;
+
+/// One step: every bit of both numbers takes part in the product's upper half, which is turned down for the next.
+constexpr std::uint64_t mische(std::uint64_t summe, std::uint64_t wort)
+{
+    return std::rotl((summe ^ wort) * 0x9FB21C651E98DF25U, 29) + 0x2545F4914F6CDD1DU;
+}
+
+std::uint64_t wortAb(const char* ort)
+{
+    std::uint64_t wort = 0;
+    for (std::size_t i = 0; i < schritt; ++i) { // compilers make one load of it
+        wort |= std::uint64_t{static_cast<unsigned char>(ort[i])} << (8 * i);
+    }
+    return wort;
+}
+
+} // namespace
+
+void Prüfsumme::nimm(std::string_view bytes)
+{
+    m_länge += bytes.size();
+    while (!bytes.empty() && m_restlänge > 0) {
+        m_rest |= std::uint64_t{static_cast<unsigned char>(bytes.front())} << (8 * m_restlänge);
+        bytes.remove_prefix(1);
+        if (++m_restlänge == schritt) {
+            m_summe = mische(m_summe, m_rest);
+            m_rest = 0;
+            m_restlänge = 0;
+        }
+    }
+    for (; bytes.size() >= schritt; bytes.remove_prefix(schritt)) {
+        m_summe = mische(m_summe, wortAb(bytes.data()));
+    }
+    for (const char zeichen : bytes) {
+        m_rest |= std::uint64_t{static_cast<unsigned char>(zeichen)} << (8 * m_restlänge);
+        ++m_restlänge;
+    }
+}
+
+std::uint64_t Prüfsumme::wert() const
+{
+    return mische(mische(m_summe, m_rest), m_länge);
+}
+
+std::uint64_t Prüfsumme::von(std::string_view bytes)
+{
+    Prüfsumme summe;
+    summe.nimm(bytes);
+    return summe.wert();
+}

@@ -1,0 +1,212 @@
+#include "store/Sicherungen.h"
+
+#include "platform/text/Text.h"
+#include "platform/umgebung/Laufzeitfehler.h"
+#include "store/Vorgang.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t aufgehobeneSätze = 10;
+/// A set under this ending is not whole: being made, or on its way out.
+constexpr auto angefangen = ".neu";
+
+fs::path mitEndung(fs::path ordner)
+{
+    ordner += angefangen;
+    return ordner;
+}
+
+/// The content of the .bak files; empty for one that is not there.
+std::array<std::string, 3> inhaltDerBak(const Bestand& bestand)
+{
+    std::array<std::string, 3> inhalte;
+    for (std::size_t i = 0; i < dieSicherungen.size(); ++i) {
+        if (!bestand.dateien().fehlt(bestand.pfade().von(dieSicherungen[i]))) {
+            inhalte[i] = bestand.inhalt(dieSicherungen[i])->text();
+        }
+    }
+    return inhalte;
+}
+
+/// The time of the backup: that of its newest file.
+std::string zeitDerBak(const Bestand& bestand)
+{
+    std::string zeit;
+    for (const auto bak : dieSicherungen) {
+        const auto& pfad = bestand.pfade().von(bak);
+        if (!bestand.dateien().fehlt(pfad)) {
+            zeit = std::max(zeit, bestand.dateien().zeitVon(pfad));
+        }
+    }
+    return zeit;
+}
+
+bool liegtSchonDa(const Bestand& bestand, const fs::path& ordner, const std::array<std::string, 3>& inhalte)
+{
+    auto& dateien = bestand.dateien();
+    for (std::size_t i = 0; i < dieSicherungen.size(); ++i) {
+        const auto kopie = ordner / bestand.pfade().von(dieSicherungen[i]).filename();
+        if (!dateien.istDatei(kopie) || dateien.lies(kopie)->text() != inhalte[i]) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// A name for the set that no other set has.
+fs::path freierOrdner(const Bestand& bestand, const std::array<std::string, 3>& inhalte)
+{
+    const auto zeit = zeitDerBak(bestand);
+    auto ordner = bestand.pfade().sicherungen / zeit;
+    for (int nummer = 2; bestand.dateien().istOrdner(ordner) && !liegtSchonDa(bestand, ordner, inhalte); ++nummer) {
+        ordner = bestand.pfade().sicherungen / verbinde(zeit, " ("_t, std::to_string(nummer), ')');
+    }
+    return ordner;
+}
+
+/// Sets the .bak files aside when they hold records other than `neue`. The set comes under its name when it is whole.
+void stelleBakBeiseite(const Bestand& bestand, const std::array<std::string, 3>& neue)
+{
+    auto& dateien = bestand.dateien();
+    const auto inhalte = inhaltDerBak(bestand);
+    if (inhalte == neue || std::ranges::all_of(inhalte, &std::string::empty)) {
+        return;
+    }
+    const auto ordner = freierOrdner(bestand, inhalte);
+    if (dateien.istOrdner(ordner)) {
+        return; // a start that was broken off has done it
+    }
+    const auto entwurf = legeSicherungsordnerAn(dateien, bestand.pfade(), mitEndung(ordner).filename().string(), {});
+    for (const auto bak : dieSicherungen) {
+        const auto& pfad = bestand.pfade().von(bak);
+        if (dateien.istDatei(pfad)) {
+            dateien.verdopple(dateien.ziel(pfad), entwurf / pfad.filename());
+        }
+    }
+    dateien.sichereOrdner(entwurf);
+    dateien.benenneUm(entwurf, ordner);
+    dateien.sichereOrdner(bestand.pfade().sicherungen);
+}
+
+/// Names of the sets, the oldest first.
+std::vector<fs::path> sätzeIn(Dateien& dateien, const fs::path& sicherungen)
+{
+    constexpr std::size_t längeDerZeit = 19;
+    auto sätze = dateien.istOrdner(sicherungen) ? dateien.ordnerIn(sicherungen) : std::vector<fs::path>{};
+    std::erase_if(sätze, [längeDerZeit](const fs::path& name) {
+        const auto text = pfadtext(name);
+        const bool istZeit =
+            text.size() >= längeDerZeit &&
+            text.find_first_not_of("0123456789-. ") >= std::min(text.size(), längeDerZeit);
+        return !istZeit || text.ends_with(angefangen) || text.ends_with("unvollendet"_t);
+    });
+    return sätze;
+}
+
+/// Keeps the newest sets. What can't be removed today goes another day.
+void kürzeSicherungen(Dateien& dateien, const fs::path& sicherungen)
+{
+    try {
+        const auto sätze = sätzeIn(dateien, sicherungen);
+        for (std::size_t i = 0; i + aufgehobeneSätze < sätze.size(); ++i) {
+            const auto weg = mitEndung(sicherungen / sätze[i]);
+            dateien.benenneUm(sicherungen / sätze[i], weg);
+            dateien.entferneOrdner(weg);
+        }
+    } catch (const Laufzeitfehler&) {
+        // an old set too many does no harm
+    }
+}
+
+} // namespace
+
+fs::path legeSicherungsordnerAn(Dateien& dateien, const Bestandspfade& pfade, std::string_view zeit,
+                                std::string_view zusatz)
+{
+    const auto ordner = pfade.sicherungen / verbinde(zeit, zusatz);
+    if (!dateien.istOrdner(pfade.sicherungen)) {
+        dateien.legeOrdnerAn(pfade.sicherungen);
+    }
+    if (!dateien.istOrdner(ordner)) {
+        dateien.legeOrdnerAn(ordner);
+    }
+    return ordner;
+}
+
+void entferneAngefangeneSicherungen(Dateien& dateien, const Bestandspfade& pfade)
+{
+    if (!dateien.istOrdner(pfade.sicherungen)) {
+        return;
+    }
+    for (const auto& name : dateien.ordnerIn(pfade.sicherungen)) {
+        if (name.extension() == angefangen) {
+            dateien.entferneOrdner(pfade.sicherungen / name);
+        }
+    }
+}
+
+void sichereDateien(const Bestand& bestand)
+{
+    Vorgang vorgang(bestand);
+    std::array<std::string, 3> neue;
+    for (std::size_t i = 0; i < dieTabellen.size(); ++i) {
+        neue[i] = bestand.inhalt(dieTabellen[i])->text();
+        const auto& bak = bestand.pfade().von(dieSicherungen[i]);
+        // a folder without the file of an earlier backup has been tampered with; going on could overwrite what
+        // somebody has moved aside
+        if (!bestand.dateien().istDatei(bak)) {
+            throw Laufzeitfehler(verbinde("Die Sicherungsdatei \""_t, pfadtext(bak), "\" fehlt"_t));
+        }
+    }
+    stelleBakBeiseite(bestand, neue);
+    for (std::size_t i = 0; i < dieTabellen.size(); ++i) {
+        vorgang.setzeInhalt(dieSicherungen[i], std::move(neue[i]));
+    }
+    vorgang.bestätige();
+    kürzeSicherungen(bestand.dateien(), bestand.pfade().sicherungen);
+}
+
+void verwerfeSitzung(const Bestand& bestand)
+{
+    Vorgang vorgang(bestand);
+    for (std::size_t i = 0; i < dieTabellen.size(); ++i) {
+        vorgang.setzeInhalt(dieTabellen[i], std::string(bestand.inhalt(dieSicherungen[i])->text()));
+    }
+    vorgang.bestätige();
+}
+
+void legeTabellenAn(const Bestand& bestand)
+{
+    auto& dateien = bestand.dateien();
+    if (!dateien.istOrdner(bestand.pfade().daten)) {
+        dateien.legeOrdnerAn(bestand.pfade().daten);
+    }
+    stelleBakBeiseite(bestand, {});
+    Vorgang vorgang(bestand);
+    for (const auto tabelle : alleSechs) {
+        vorgang.setzeInhalt(tabelle, {});
+    }
+    vorgang.bestätige();
+}
+
+std::string ortDerSicherung(const Bestand& bestand)
+{
+    try {
+        const auto& pfade = bestand.pfade();
+        if (!bestand.dateien().istDatei(pfade.kernBak)) {
+            return {};
+        }
+        const auto sätze = sätzeIn(bestand.dateien(), pfade.sicherungen);
+        const auto ältere =
+            sätze.empty() ? std::string() : verbinde(", ältere in \""_t, pfadtext(pfade.sicherungen / sätze.back()), '"');
+        return verbinde("\""_t, pfadtext(pfade.daten), "\" (Dateien *.bak vom "_t, zeitDerBak(bestand), ')', ältere);
+    } catch (const Laufzeitfehler&) {
+        return {}; // the failure that is being told counts
+    }
+}
