@@ -9,6 +9,8 @@ pakete=(
     libgtest-dev libgmock-dev libbenchmark-dev libclang-rt-14-dev g++-mingw-w64-x86-64-win32 locales
     # opening workbooks, windows without a display, pictures
     libreoffice-calc xvfb xauth x11-utils xdotool openbox python3 fonts-noto-core fontconfig unzip
+    # the windows as a screen reader meets them
+    at-spi2-core dbus python3-gi
     # counting a process's calls to the system
     strace
 )

@@ -11,6 +11,7 @@
 #include "platform/qt/Tabelle.h"
 #include "platform/qt/Textbox.h"
 #include "platform/qt/Umschrift.h"
+#include "platform/qt/Vorlesen.h"
 
 #include <QBoxLayout>
 #include <QFrame>
@@ -168,7 +169,21 @@ bool Anordner::fügeZeile(const Anordnung& a, QBoxLayout& ziel)
     if (!gedehnt) {
         zeile->addStretch(1);
     }
+    benenneNachKnopf(a);
     return a.füllt;
+}
+
+/// A text without a label, beside the button that fills it, is called as the button is.
+void Anordner::benenneNachKnopf(const Anordnung& zeile) const
+{
+    if (zeile.teile.size() != 2 || zeile.teile.front().wort != Wort::Element ||
+        zeile.teile.back().wort != Wort::Element) {
+        return;
+    }
+    auto* text = dynamic_cast<Textzeile*>(m_ansicht.widgetVon(*zeile.teile.front().element));
+    if (text != nullptr && text->accessibleName().isEmpty()) {
+        benenne(*text, gesprochen(alsQString(zeile.teile.back().element->text())));
+    }
 }
 
 QWidget* Anordner::macheWidget(const Anordnung& a, bool& füllt)
@@ -305,6 +320,7 @@ QWidget* Anordner::macheKarte(const Anordnung& a, bool& füllt)
             } else {
                 zeile->addStretch(1);
                 zeile->addWidget(widget);
+                benenneFüller(*widget, a.text);
             }
         }
         zeile->addStretch(1);
@@ -313,6 +329,7 @@ QWidget* Anordner::macheKarte(const Anordnung& a, bool& füllt)
     for (const auto& teil : a.teile) {
         füllt = füge(teil, *layout) || füllt;
     }
+    benenneUnbenannte(*karte, alsQString(a.text));
     karte->setSizePolicy(QSizePolicy::Expanding, füllt ? QSizePolicy::Expanding : QSizePolicy::Maximum);
     return karte;
 }

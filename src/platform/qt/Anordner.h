@@ -47,6 +47,7 @@ private:
     bool fügeKarten(const Anordnung& a, QBoxLayout& ziel);
     bool fügeDecke(const Anordnung& a, QBoxLayout& ziel);
     bool fügeStapel(const Anordnung& a, QBoxLayout& ziel);
+    void benenneNachKnopf(const Anordnung& zeile) const;
     bool fügeWidget(QWidget& widget, QBoxLayout& ziel, bool füllt);
 
     void fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBoxLayout& ziel);

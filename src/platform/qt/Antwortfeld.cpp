@@ -5,9 +5,8 @@
 #include "platform/qt/Farbwert.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
+#include "platform/qt/Vorlesen.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -19,45 +18,11 @@ constexpr int ring = 3; ///< room around the field for the focus line, in hairli
 constexpr int rundung = 3;
 constexpr double deckungGesperrt = 0.45;
 
-/// A screen reader meets a button whose value is the answer.
-class Vorlesefeld : public QAccessibleWidget {
-public:
-    explicit Vorlesefeld(Antwortfeld& feld) : QAccessibleWidget(&feld, QAccessible::Button), m_feld(feld) {}
-
-    QString text(QAccessible::Text art) const override
-    {
-        return art == QAccessible::Value ? m_feld.text() : QAccessibleWidget::text(art);
-    }
-    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
-    void doAction(const QString& aktion) override
-    {
-        if (aktion == pressAction() && m_feld.isEnabled()) {
-            m_feld.klicke();
-        } else {
-            QAccessibleWidget::doAction(aktion);
-        }
-    }
-
-private:
-    Antwortfeld& m_feld;
-};
-
-QAccessibleInterface* erzeugeVorlesefeld(const QString& /*klasse*/, QObject* objekt)
-{
-    auto* feld = dynamic_cast<Antwortfeld*>(objekt);
-    return feld == nullptr ? nullptr : new Vorlesefeld(*feld);
-}
-
 } // namespace
 
 Antwortfeld::Antwortfeld(triCtlJaNein& element, Ansicht& ansicht, QWidget* eltern)
     : QWidget(eltern), m_element(element), m_ansicht(ansicht)
 {
-    static const bool angemeldet = [] {
-        QAccessible::installFactory(erzeugeVorlesefeld);
-        return true;
-    }();
-    Q_UNUSED(angemeldet)
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     ansicht.binde(element, *this, [this] { übernimm(); });
 }
@@ -68,10 +33,14 @@ void Antwortfeld::übernimm()
     m_hintergrund = alsQColor(m_element.hintergrund());
     m_randfarbe = alsQColor(m_element.randfarbe());
     update();
-    if (vorher != m_text && QAccessible::isActive()) {
-        QAccessibleValueChangeEvent gewechselt(this, m_text);
-        QAccessible::updateAccessibility(&gewechselt);
+    if (vorher != m_text) {
+        meldeWert(*this, gesprochenerText());
     }
+}
+
+QString Antwortfeld::gesprochenerText() const
+{
+    return m_text == QStringLiteral("k.A.") ? m_text + QStringLiteral(" (offen)") : m_text;
 }
 
 void Antwortfeld::klicke()

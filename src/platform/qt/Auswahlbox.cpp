@@ -6,6 +6,7 @@
 #include "platform/qt/Eingabefilter.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
+#include "platform/qt/Vorlesen.h"
 
 #include <QAbstractItemView>
 #include <QFocusEvent>
@@ -21,6 +22,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -109,8 +111,12 @@ void Auswahlbox::übernimm()
         liste->übernimm();
     }
     const auto text = m_element.text();
-    m_text = alsQString(text);
+    const bool istNeu = std::exchange(m_text, alsQString(text)) != alsQString(text);
+    const int vorher = currentIndex();
     setCurrentIndex(stelleIn(m_element.liste(), text));
+    if (istNeu && vorher == currentIndex()) {
+        meldeWert(*this, m_text); // the toolkit tells only of another entry of the list
+    }
     if (isEditable()) {
         übernimmTippbar();
     }
@@ -168,6 +174,7 @@ void Auswahlbox::showPopup()
 {
     const int breiteste = view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width() + em(1);
     view()->setMinimumWidth(std::min(std::max(breiteste, width()), screen()->availableSize().width()));
+    view()->setAccessibleName(accessibleName());
     QComboBox::showPopup();
 }
 

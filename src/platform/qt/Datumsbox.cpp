@@ -6,6 +6,7 @@
 #include "platform/qt/Feldhinweis.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
+#include "platform/qt/Vorlesen.h"
 
 #include <QCalendarWidget>
 #include <QFocusEvent>
@@ -43,6 +44,7 @@ QCalendarWidget* erzeugeKalender(const QDate& heute, QWidget* eltern)
     QTextCharFormat heutiger;
     heutiger.setFontWeight(QFont::Bold);
     kalender->setDateTextFormat(heute, heutiger);
+    sprichKalender(*kalender);
     return kalender;
 }
 

@@ -46,6 +46,7 @@ QPixmap maleZeichen(int seite, double schärfe)
 Fortschritt::Fortschritt(Fortschrittsbalken& element, Ansicht& ansicht, QWidget* eltern) : QProgressBar(eltern)
 {
     setTextVisible(false);
+    setAccessibleName(QStringLiteral("Fortschritt"));
     ansicht.binde(element, *this, [this, &element] {
         // an empty range would make the bar wander
         setRange(element.kleinstes(), std::max(element.kleinstes() + 1, element.größtes()));

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -343,6 +344,7 @@ void Fensterwart::gleicheFokusAb(Bildschirm& bildschirm)
             bisher->clearFocus();
         }
     } else if (bisher != widget) {
+        const QScopedValueRollback eigener(m_setztFokus, true);
         widget->setFocus(Qt::OtherFocusReason);
         rolleInSicht(*widget);
     }
@@ -358,6 +360,23 @@ void Fensterwart::beiFokuswechsel(QWidget* neu)
         zeile->setzeAktiv(true);
     }
     m_aktiveZeile = zeile;
+    if (neu != nullptr && !m_setztFokus && !m_ablauf.istInEreignis()) {
+        folgeFremdemFokus(*neu);
+    }
+}
+
+/// Somebody else has put the focus there, a screen reader for its person: the focus of the screen follows, or it
+/// would be back at its old place with the next key.
+void Fensterwart::folgeFremdemFokus(const QWidget& widget)
+{
+    auto* ansicht = ansichtVon(&widget);
+    auto* element = ansicht == nullptr ? nullptr : ansicht->elementVon(&widget);
+    auto* inGebrauch = m_folge.inGebrauch();
+    if (element == nullptr || &ansicht->bildschirm() != inGebrauch || !inGebrauch->istErreichbar(*element) ||
+        !element->nimmtFokus() || inGebrauch->fokus() == element) {
+        return;
+    }
+    ereignis([&] { inGebrauch->fokussiere(element); });
 }
 
 Ansicht* Fensterwart::ansichtVon(const QWidget* widget) const

@@ -32,6 +32,7 @@ public:
     ~Fensterwart() override;
 
     void ereignis(const std::function<void()>& aktion) override;
+    bool istInEreignis() const override { return m_ablauf.istInEreignis(); }
     Datum heute() override { return m_umgebung.heute(); }
 
     Rahmenfenster& rahmenfenster() { return m_fenster; }
@@ -54,6 +55,7 @@ private:
     void gleicheFokusAb();
     void gleicheFokusAb(Bildschirm& bildschirm);
     void beiFokuswechsel(QWidget* neu);
+    void folgeFremdemFokus(const QWidget& widget);
     Ansicht* ansichtVon(const QWidget* widget) const;
 
     Ablauf& m_ablauf;
@@ -65,6 +67,7 @@ private:
     const Bildschirm* m_seite = nullptr; ///< whose page the frame shows
     std::vector<QMenu*> m_menüs;
     QPointer<QWidget> m_aktiveZeile;
+    bool m_setztFokus = false; ///< the focus that changes is the program's own doing
     Eingabewächter m_wächter;
     Handbuch m_handbuch;
     std::vector<Abonnement> m_abonnements;

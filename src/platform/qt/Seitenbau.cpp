@@ -6,6 +6,7 @@
 #include "platform/qt/Etikett.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
+#include "platform/qt/Vorlesen.h"
 
 #include <QAction>
 #include <QFrame>
@@ -62,6 +63,14 @@ void fügeNamen(Ansicht& ansicht, Element& name, QWidget& band, QHBoxLayout& zie
     zeigeNurGefüllt(ansicht, name, {strich, &text});
 }
 
+/// Read out alone, the value says what it is.
+void sprichMitBeschriftung(Ansicht& ansicht, Element& element, const Etikett& vor, Etikett& wert)
+{
+    const auto benenne = [&vor, &wert] { wert.setAccessibleName(vor.text() + QChar(' ') + wert.text()); };
+    benenne();
+    ansicht.abonniere(element.geändert, benenne);
+}
+
 void fügeWerte(Ansicht& ansicht, const std::vector<Kopfband::Wert>& werte, QWidget& band, QHBoxLayout& ziel)
 {
     for (const auto& wert : werte) {
@@ -69,7 +78,7 @@ void fügeWerte(Ansicht& ansicht, const std::vector<Kopfband::Wert>& werte, QWid
         auto& vor = fügeBandtext(*new Etikett(alsQString(wert.beschriftung), &band), "auf-band-leise",
                                  Schriftrolle::Grund, ziel);
         auto& text = fügeBandtext(*zeichneElement(*wert.element, ansicht, &band), "auf-band", Schriftrolle::Wert, ziel);
-        text.setAccessibleName(vor.text());
+        sprichMitBeschriftung(ansicht, *wert.element, vor, text);
         zeigeNurGefüllt(ansicht, *wert.element, {&vor, &text});
     }
 }
@@ -148,15 +157,22 @@ Seite baueSeite(Ansicht& ansicht, QWidget* eltern)
     auto* stockwerke = new QVBoxLayout(wurzel);
     stockwerke->setContentsMargins(0, 0, 0, 0);
     stockwerke->setSpacing(0);
+    auto* band = baueBand(ansicht, wurzel); // before the body: the order in which they are read out
     auto* blatt = new Blatt(wurzel);
     auto* inhalt = new QWidget(blatt->viewport());
     Anordner(ansicht, *inhalt, !ansicht.bildschirm().istKindfenster)
         .baueSeite(ansicht.bildschirm().aufbau, *new QVBoxLayout(inhalt));
     blatt->setWidget(inhalt);
     inhalt->setAutoFillBackground(false);
-    stockwerke->addWidget(baueBand(ansicht, wurzel));
+    stockwerke->addWidget(band);
     stockwerke->addWidget(blatt, 1);
     stockwerke->addWidget(baueLeiste(ansicht, wurzel));
     baueMenü(ansicht, *wurzel);
+    if (auto* titel = ansicht.bildschirm().kopfband.titel; titel != nullptr) {
+        benenneUnbenannte(*wurzel, alsQString(titel->text()));
+        const auto nenneSeite = [wurzel, titel] { wurzel->setAccessibleName(alsQString(titel->text())); };
+        nenneSeite();
+        ansicht.abonniere(titel->geändert, nenneSeite);
+    }
     return {wurzel, blatt};
 }

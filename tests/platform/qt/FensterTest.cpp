@@ -51,8 +51,12 @@ TEST_F(Fensterprobe, FieldsAreNamedByTheirLabels)
     EXPECT_EQ(widget(bildschirm->comboArt).accessibleName(), QStringLiteral("Wie lange"));
     const auto* vorgelesen = QAccessible::queryAccessibleInterface(&widget(bildschirm->triJaNein(3)));
     ASSERT_NE(vorgelesen, nullptr);
-    EXPECT_EQ(vorgelesen->role(), QAccessible::Button);
-    EXPECT_EQ(vorgelesen->text(QAccessible::Value), QStringLiteral("k.A."));
+    EXPECT_EQ(vorgelesen->role(), QAccessible::ComboBox);
+    EXPECT_EQ(vorgelesen->text(QAccessible::Value), QStringLiteral("k.A. (offen)"));
+    const auto fragen = vorgelesen->relations(QAccessible::Label);
+    ASSERT_EQ(fragen.size(), 2);
+    EXPECT_EQ(fragen[0].first->text(QAccessible::Name), QStringLiteral("Zeile 3"));
+    EXPECT_EQ(fragen[1].first->text(QAccessible::Name), QStringLiteral("intern"));
 }
 
 TEST_F(Fensterprobe, FocusIsSeenAsALineRoundTheFieldAndATintOfItsRow)
