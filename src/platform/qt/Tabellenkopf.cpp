@@ -11,12 +11,8 @@
 
 namespace {
 
-Etikett* macheTitel(const std::string& text, QWidget* eltern)
+Etikett* formeTitel(Etikett* titel)
 {
-    if (text.empty()) {
-        return nullptr;
-    }
-    auto* titel = new Etikett(alsMehrzeiler(text), eltern);
     titel->brichAmBindestrich();
     titel->setFont(schrift(Schriftrolle::Spaltenkopf));
     titel->setProperty("rolle", "kopf");
@@ -24,6 +20,17 @@ Etikett* macheTitel(const std::string& text, QWidget* eltern)
     titel->setWordWrap(true);
     titel->setIndent(0);
     return titel;
+}
+
+Etikett* macheTitel(const std::string& text, QWidget* eltern)
+{
+    return text.empty() ? nullptr : formeTitel(new Etikett(alsMehrzeiler(text), eltern));
+}
+
+Etikett* macheTitel(const Tabellenspalte& spalte, Ansicht& ansicht, QWidget* eltern)
+{
+    return spalte.kopf == nullptr ? macheTitel(spalte.titel, eltern)
+                                  : formeTitel(dynamic_cast<Etikett*>(zeichneElement(*spalte.kopf, ansicht, eltern)));
 }
 
 } // namespace
@@ -35,7 +42,7 @@ Tabellenkopf::Tabellenkopf(const Anordnung& tabelle, Ansicht& ansicht, QWidget* 
     std::vector<int> breiten;
     for (const auto& spalte : tabelle.spalten) {
         breiten.push_back(em(spalte.breite));
-        m_titelzeile.push_back(macheTitel(spalte.titel, this));
+        m_titelzeile.push_back(macheTitel(spalte, ansicht, this));
     }
     baueFüller(tabelle, ansicht);
     baueGruppen(tabelle, breiten);
