@@ -25,6 +25,7 @@
 #include <algorithm>
 #include <cmath>
 #include <unordered_map>
+#include <vector>
 
 namespace {
 
@@ -111,7 +112,7 @@ QString werkzeugtipp(QWidget& widget, const QPoint& ort)
 {
     QHelpEvent ereignis(QEvent::ToolTip, ort, widget.mapToGlobal(ort));
     QApplication::sendEvent(&widget, &ereignis);
-    const QString text = QToolTip::text();
+    const QString text = QToolTip::isVisible() ? QToolTip::text() : QString();
     räumeWerkzeugtippWeg();
     return text;
 }
@@ -172,11 +173,14 @@ public:
         if (!schirm.contains(m_fenster.frameGeometry())) {
             melde(m_fenster, QStringLiteral("reicht über den Schirm"));
         }
+        // tool tips come and go below the window while it is looked at
+        std::vector<QWidget*> eigene;
         for (auto* widget : m_fenster.findChildren<QWidget*>()) {
             if (widget->window() == &m_fenster && widget->isVisible() && qtauge::istZuSehen(*widget)) {
-                prüfe(*widget);
+                eigene.push_back(widget);
             }
         }
+        std::for_each(eigene.begin(), eigene.end(), [this](QWidget* widget) { prüfe(*widget); });
         return m_befunde;
     }
 
@@ -210,7 +214,7 @@ private:
             melde(liste, QStringLiteral("zeigt keine %1 Zeilen").arg(zeilenMindestens));
         }
         if (liste.horizontalScrollBar()->maximum() > 0) {
-            melde(liste, QStringLiteral("eine Spalte ist außer Sicht"));
+            melde(liste, QStringLiteral("um %1 Punkte sind Spalten außer Sicht").arg(liste.horizontalScrollBar()->maximum()));
         }
         const auto gewählt = liste.selectionModel()->selectedRows();
         if (!gewählt.isEmpty() &&
@@ -242,7 +246,12 @@ private:
                 erlaubt.setBottom(zug.tinte.bottom());
             }
             if (!erlaubt.contains(zug.tinte)) {
-                melde(widget, QStringLiteral("\"%1\" ist abgeschnitten").arg(zug.text));
+                melde(widget, QStringLiteral("\"%1\" ist abgeschnitten, von %2 bis %3 statt %4 bis %5")
+                                  .arg(zug.text)
+                                  .arg(zug.tinte.left())
+                                  .arg(zug.tinte.right())
+                                  .arg(erlaubt.left())
+                                  .arg(erlaubt.right()));
             }
             prüfeKürzung(widget, zug);
             prüfeFarbe(widget, zug);

@@ -10,6 +10,7 @@
 #include <QItemSelectionModel>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QStyle>
 #include <QToolTip>
 
 #include <algorithm>
@@ -23,8 +24,13 @@ constexpr int zeilenGern = 16;
 constexpr double zeilenhöhe = 1.45;
 constexpr double kopfhöhe = 1.9;
 constexpr double spaltenrand = 1.35;
-constexpr double schmalerRand = 0.8;
 constexpr double kurzeSpalte = 7; ///< a number or a date is not cut
+
+/// Round the text of a cell, at least: the sheet's padding and the style's own margin.
+int schmalerRand(const QWidget& liste)
+{
+    return em(0.55) + 2 * (liste.style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 3;
+}
 
 int summe(const QList<int>& werte)
 {
@@ -166,7 +172,7 @@ void Listenansicht::messeSpalten()
             breite = std::max(breite, maß.horizontalAdvance(alsQString(m_element.zelle(zeile, spalte))));
         }
         m_spaltenbreiten.append(std::min(breite, em(16)) + em(spaltenrand));
-        m_mindestbreiten.append((breite <= em(kurzeSpalte) ? breite : kopf) + em(schmalerRand));
+        m_mindestbreiten.append((breite <= em(kurzeSpalte) ? breite : kopf) + schmalerRand(*this));
     }
     verteileSpalten();
     updateGeometry();
@@ -211,7 +217,7 @@ bool Listenansicht::viewportEvent(QEvent* ereignis)
         const auto& hilfe = *static_cast<QHelpEvent*>(ereignis);
         const auto ort = indexAt(hilfe.pos());
         const auto text = ort.data().toString();
-        const bool ganz = fontMetrics().horizontalAdvance(text) + em(schmalerRand) <= visualRect(ort).width();
+        const bool ganz = fontMetrics().horizontalAdvance(text) + schmalerRand(*this) <= visualRect(ort).width();
         QToolTip::showText(hilfe.globalPos(), ganz ? QString() : text, this);
         return true;
     }
