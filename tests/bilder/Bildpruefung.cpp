@@ -29,7 +29,7 @@
 
 namespace {
 
-constexpr double tintenspiel = 0.06; ///< em: smoothed edges of letters, and the hook of a j
+constexpr double tintenspiel = 0.08; ///< em: smoothed edges of letters, and the hook of a j
 constexpr double kontrastMindestens = 4.5;
 constexpr int zeilenMindestens = 6;
 

@@ -124,7 +124,7 @@ void Listenansicht::richteKopfEin()
     kopf.setMinimumSectionSize(em(spaltenrand));
     kopf.setHighlightSections(false);
     kopf.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    kopf.setStretchLastSection(true);
+    kopf.setStretchLastSection(false); // it would keep more than is left
     kopf.setSortIndicatorShown(false);
     connect(&kopf, &QHeaderView::sectionClicked, this, [this](int spalte) {
         m_ansicht.ereignis([this, spalte] { m_element.klickeKopf(static_cast<std::size_t>(spalte) + 1); });
@@ -189,8 +189,12 @@ void Listenansicht::verteileSpalten()
         breiten = verengt(breiten, QList<int>(breiten.size(), em(spaltenrand)), summe(breiten) - platz);
     }
     const int übrig = std::max(0, platz - nötig);
-    for (int spalte = 0; spalte + 1 < breiten.size(); ++spalte) {
-        header()->resizeSection(spalte, breiten[spalte] + übrig * breiten[spalte] / (nötig * 2 + 1));
+    int rest = platz;
+    for (int spalte = 0; spalte < breiten.size(); ++spalte) {
+        const int breite = breiten[spalte] + übrig * breiten[spalte] / (nötig * 2 + 1);
+        const bool istLetzte = spalte + 1 == breiten.size();
+        header()->resizeSection(spalte, istLetzte ? std::max(breite, rest) : breite);
+        rest -= breite;
     }
 }
 
