@@ -214,7 +214,8 @@ private:
             melde(liste, QStringLiteral("zeigt keine %1 Zeilen").arg(zeilenMindestens));
         }
         if (liste.horizontalScrollBar()->maximum() > 0) {
-            melde(liste, QStringLiteral("um %1 Punkte sind Spalten außer Sicht").arg(liste.horizontalScrollBar()->maximum()));
+            melde(liste,
+                  QStringLiteral("um %1 Punkte sind Spalten außer Sicht").arg(liste.horizontalScrollBar()->maximum()));
         }
         const auto gewählt = liste.selectionModel()->selectedRows();
         if (!gewählt.isEmpty() &&
@@ -273,7 +274,7 @@ private:
     void prüfeFarbe(const QWidget& widget, const Schriftzug& zug)
     {
         constexpr int umkreis = 3;
-        const QRect tinte = zug.tinte.toAlignedRect();
+        const QRect tinte = (zug.erlaubt.isEmpty() ? zug.tinte : zug.tinte & zug.erlaubt).toAlignedRect();
         if (!m_maß.misstFarben || !widget.visibleRegion().contains(tinte) ||
             widget.visibleRegion().intersected(tinte).boundingRect() != tinte) {
             return;

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -46,6 +47,21 @@ void ersetze(std::string& text, std::string_view was, const std::string& wodurch
 Rundgang::Rundgang(const std::string& pfad, int namenslänge) : m_pfad(pfad), m_text(lies(pfad))
 {
     ersetze(m_text, platzhalter, langerName(namenslänge));
+    findeHalte();
+}
+
+Rundgang::Rundgang(std::string text) : m_pfad("."), m_text(std::move(text))
+{
+    findeHalte();
+}
+
+Rundgang Rundgang::ausText(std::string text)
+{
+    return Rundgang(std::move(text));
+}
+
+void Rundgang::findeHalte()
+{
     std::istringstream zeilen(m_text);
     std::string zeile;
     for (std::size_t nummer = 1; std::getline(zeilen, zeile); ++nummer) {

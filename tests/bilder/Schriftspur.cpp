@@ -36,6 +36,9 @@ public:
         const auto vorne = stück.text().left(stück.text().indexOf(text));
         const QFontMetricsF maß(stück.font(), paintDevice());
         const QRectF tinte = maß.tightBoundingRect(text).translated(ort + QPointF(maß.horizontalAdvance(vorne), 0));
+        if (painter()->hasClipping() && !painter()->clipRegion().intersects(tinte.toAlignedRect())) {
+            return; // a selection paints its text twice, and shows one part of each
+        }
         const auto& welt = painter()->transform();
         züge.push_back({text, welt.mapRect(tinte),
                         painter()->hasClipping() ? welt.mapRect(painter()->clipBoundingRect()) : QRectF(),

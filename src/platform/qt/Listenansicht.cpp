@@ -121,7 +121,7 @@ void Listenansicht::richteKopfEin()
     kopf.setSectionsClickable(true);
     kopf.setSectionsMovable(false);
     kopf.setTextElideMode(Qt::ElideRight);
-    kopf.setMinimumSectionSize(em(spaltenrand));
+    kopf.setMinimumSectionSize(em(1));
     kopf.setHighlightSections(false);
     kopf.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     kopf.setStretchLastSection(false); // it would keep more than is left
@@ -186,7 +186,7 @@ void Listenansicht::verteileSpalten()
     if (nötig > platz) {
         // the last column, which takes the rest, has to stay in sight: names give way, numbers and dates do not
         breiten = verengt(breiten, m_mindestbreiten, nötig - platz);
-        breiten = verengt(breiten, QList<int>(breiten.size(), em(spaltenrand)), summe(breiten) - platz);
+        breiten = verengt(breiten, QList<int>(breiten.size(), header()->minimumSectionSize()), summe(breiten) - platz);
     }
     const int übrig = std::max(0, platz - nötig);
     int rest = platz;
