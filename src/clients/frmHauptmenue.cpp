@@ -80,7 +80,7 @@ void frmHauptmenü::ordneAn()
     constexpr double breiteDerBetreuungen = 42;
     // and at least so wide that heads, numbers and dates are whole
     constexpr double listeDerKlienten = 27;
-    constexpr double listeDerBetreuungen = 17;
+    constexpr double listeDerBetreuungen = 18;
     auto klienten = spalte({listenkarte("Klienten"_t, element(lvwKlienten, listeDerKlienten), cmdKlientenHinzufügen,
                                         cmdKlientenBearbeiten, cmdKlientenLöschen)});
     auto betreuungen =

@@ -17,13 +17,13 @@ namespace {
 
 constexpr int ring = 3; ///< room around the field for the focus line, in hairlines
 constexpr int rundung = 3;
-constexpr double deckungGesperrt = 0.45;
+constexpr float deckungGesperrt = 0.45F;
 constexpr double lesbar = 4.5; ///< least contrast of a text
 
 /// The colour on the ground of the page, through which a disabled field lets it shine.
 QColor blass(const QColor& farbe, const QColor& grund)
 {
-    const auto mische = [](float a, float b) { return a * float(deckungGesperrt) + b * float(1 - deckungGesperrt); };
+    const auto mische = [](float a, float b) { return a * deckungGesperrt + b * (1 - deckungGesperrt); };
     return QColor::fromRgbF(mische(farbe.redF(), grund.redF()), mische(farbe.greenF(), grund.greenF()),
                             mische(farbe.blueF(), grund.blueF()));
 }

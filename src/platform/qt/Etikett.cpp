@@ -87,8 +87,10 @@ QSize Etikett::minimumSizeHint() const
     if (m_umbruchbreite > 0) {
         return sizeHint();
     }
+    constexpr double absatzbreite = 30; // lines that somebody has broken by hand are no name
     const QSize ganze = QLabel::minimumSizeHint();
-    return {std::min(ganze.width(), em(m_mindestbreite)), ganze.height()};
+    const double höchstens = text().contains(QChar('\n')) ? absatzbreite : m_mindestbreite;
+    return {std::min(ganze.width(), em(höchstens)), ganze.height()};
 }
 
 /// Where the base class puts the text.
