@@ -41,7 +41,6 @@ Auswahlbox::Auswahlbox(Auswahlfeld& element, Ansicht& ansicht, QWidget* eltern)
 {
     setModel(new Auswahlliste(element, ansicht, this));
     setMaxVisibleItems(sichtbareEinträge);
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // lists of all nations are not measured
     setMinimumContentsLength(1);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     if (element.istTippbar()) {
@@ -60,7 +59,11 @@ Auswahlbox::Auswahlbox(Auswahlfeld& element, Ansicht& ansicht, QWidget* eltern)
 
 void Auswahlbox::macheTippbar()
 {
-    setEditable(true);
+    // The base class forgets what it has noted for a line that it sees for the first time inside a box only when
+    // the program ends.
+    auto* zeile = new QLineEdit;
+    zeile->ensurePolished();
+    setLineEdit(zeile);
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
     connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { gibEin(text); });
@@ -180,7 +183,7 @@ void Auswahlbox::showPopup()
 
 QSize Auswahlbox::sizeHint() const
 {
-    return {em(16.5), QComboBox::sizeHint().height()};
+    return {em(16.5), QComboBox::minimumSizeHint().height()}; // lists of all nations are not measured
 }
 
 QSize Auswahlbox::minimumSizeHint() const

@@ -22,6 +22,10 @@
 
 namespace {
 
+/// Of every page, so that the frame does not jump from one to the next: the longest table stands in it as a whole.
+constexpr double seitenbreite = 76;
+constexpr double seitenhöhe = 54;
+
 Antwortzeile* zeileUm(QWidget* widget)
 {
     for (; widget != nullptr; widget = widget->parentWidget()) {
@@ -152,6 +156,9 @@ Platz& Fensterwart::baue(Bildschirm& bildschirm)
         neu.kind->setWindowTitle(alsQString(bildschirm.titel()));
     } else {
         neu.fenster = baueSeite(ansicht, &m_fenster.seiten()).wurzel;
+        // the frame takes what a page wants as far as the screen has it, and grows with the font
+        bildschirm.breite = std::max(bildschirm.breite, alsTwips(em(seitenbreite)));
+        bildschirm.höhe = std::max(bildschirm.höhe, alsTwips(em(seitenhöhe)));
         m_fenster.seiten().addWidget(neu.fenster);
     }
     // the widgets may outlast the screen until the event at hand has ended, and their Ansicht with them

@@ -65,6 +65,24 @@ QMessageBox::StandardButton knopfFür(Antwort antwort)
     return QMessageBox::Ok;
 }
 
+/// A word longer than a line could not be broken, and would make the box wider than the screen.
+QString mitBruchstellen(const QString& text)
+{
+    constexpr int längstesWort = 40;
+    const QChar bruchstelle(0x200B);
+    QString ergebnis;
+    int länge = 0;
+    for (const auto zeichen : text) {
+        länge = zeichen.isSpace() ? 0 : länge + 1;
+        if (länge > längstesWort) {
+            ergebnis += bruchstelle;
+            länge = 1;
+        }
+        ergebnis += zeichen;
+    }
+    return ergebnis;
+}
+
 /// Long actions are long because of their files, and come by here again and again.
 class GeduldigerZugriff : public Zugriffsweiche {
 public:
@@ -97,9 +115,10 @@ public:
 std::unique_ptr<QMessageBox> baueMeldungsfenster(const Meldung& meldung)
 {
     auto fenster = std::make_unique<QMessageBox>(QApplication::activeWindow());
-    fenster->setWindowTitle(alsQString(meldung.titel));
+    // before the program has found its own title its name stands there
+    fenster->setWindowTitle(meldung.titel.empty() ? QCoreApplication::applicationName() : alsQString(meldung.titel));
     fenster->setTextFormat(Qt::PlainText);
-    fenster->setText(alsMehrzeiler(meldung.text));
+    fenster->setText(mitBruchstellen(alsMehrzeiler(meldung.text)));
     fenster->setTextInteractionFlags(Qt::TextSelectableByMouse);
     for (const auto& [symbol, bild] : symbole) {
         if (symbol == meldung.symbol) {

@@ -27,6 +27,8 @@ namespace {
 
 class OberflächeQt : public Oberfläche {
 public:
+    explicit OberflächeQt(const Schirm& schirm) : m_anwendung(schirm) {}
+
     std::string_view name() const override { return "qt"; }
     void beginne(Programm& programm) override;
     void beende() override;
@@ -108,9 +110,9 @@ Lage lageVon(const QWidget& fenster, const Lage& gewünscht)
 
 } // namespace
 
-std::unique_ptr<Oberfläche> erzeugeOberflächeQt()
+std::unique_ptr<Oberfläche> erzeugeOberflächeQt(const Schirm& schirm)
 {
-    return std::make_unique<OberflächeQt>();
+    return std::make_unique<OberflächeQt>(schirm);
 }
 
 void OberflächeQt::beginne(Programm& programm)
