@@ -1,5 +1,6 @@
 #include "clients/frmInfo.h"
 
+#include "platform/dateien/Dateien.h"
 #include "zustand/Zustand.h"
 
 frmInfo::frmInfo() : Bildschirm("frmInfo"_t)
@@ -19,7 +20,9 @@ frmInfo::frmInfo() : Bildschirm("frmInfo"_t)
     lblText.setzeText(verbinde(zustand().titel, "\r\n"_t,
                                "Dokumentation für Einrichtungen der Suchthilfe\r\n"
                                "nach dem Deutschen Kerndatensatz (KDS)\r\n"
-                               "Nachfolger von Tolvek, dessen Daten er übernehmen kann"_t));
+                               "Nachfolger von Tolvek, dessen Daten er übernehmen kann\r\n"
+                               "Die Daten liegen in "_t,
+                               pfadtext(zustand().pfade.programm)));
     cmdOK.beiKlick = [this] { zustand().folge.entlade(*this); };
 }
 

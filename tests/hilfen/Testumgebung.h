@@ -61,6 +61,8 @@ public:
     Datum datum{2007, 8, 2};
     bool ersteInstanz = true;
     bool tabellenprogramm = true;
+    bool muster = false;
+    std::optional<std::filesystem::path> installationsordner; ///< nothing: the program folder
     std::deque<Antwort> antworten;
     std::vector<Meldung> meldungen;
     std::deque<std::optional<std::filesystem::path>> dateiwahlen;
@@ -80,6 +82,8 @@ public:
 
     Datum heute() override { return datum; }
     std::filesystem::path programmordner() override { return m_ordner.pfad(); }
+    std::filesystem::path installation() override { return installationsordner.value_or(m_ordner.pfad()); }
+    bool istMuster() override { return muster; }
     bool istErsteInstanz() override { return ersteInstanz; }
     Dateien& dateien() override { return m_dateien; }
     Antwort zeigeMeldung(const Meldung& meldung) override

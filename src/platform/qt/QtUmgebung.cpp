@@ -138,8 +138,8 @@ std::string alsQtFilter(const std::string& filter)
     return ergebnis;
 }
 
-QtUmgebung::QtUmgebung(Tabellenprogramm& tabellenprogramm)
-    : m_tabellenprogramm(tabellenprogramm), m_dateien(erzeugeDateizugriff())
+QtUmgebung::QtUmgebung(Tabellenprogramm& tabellenprogramm, Laufort laufort)
+    : m_tabellenprogramm(tabellenprogramm), m_laufort(std::move(laufort)), m_dateien(erzeugeDateizugriff())
 {}
 
 QtUmgebung::~QtUmgebung() = default;
@@ -148,11 +148,6 @@ Datum QtUmgebung::heute()
 {
     const auto tag = QDate::currentDate();
     return {tag.year(), tag.month(), tag.day()};
-}
-
-std::filesystem::path QtUmgebung::programmordner()
-{
-    return {QCoreApplication::applicationDirPath().toStdU16String()};
 }
 
 bool QtUmgebung::istErsteInstanz()
@@ -171,7 +166,8 @@ Antwort QtUmgebung::zeigeMeldung(const Meldung& meldung)
 
 std::optional<std::filesystem::path> QtUmgebung::wähleDatei(const Dateiwahl& wahl)
 {
-    const auto ordner = QString::fromStdU16String(wahl.anfangsordner.u16string());
+    const auto utf8 = wahl.anfangsordner.u8string(); // a name that is no Unicode must not end the program
+    const auto ordner = QString::fromUtf8(reinterpret_cast<const char*>(utf8.data()), std::ssize(utf8));
     const auto pfad =
         QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, ordner, alsQString(alsQtFilter(wahl.filter)));
     if (pfad.isEmpty()) {

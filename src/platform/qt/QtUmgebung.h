@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/dateien/Dateien.h"
+#include "platform/umgebung/Laufort.h"
 #include "platform/umgebung/Umgebung.h"
 
 #include <memory>
@@ -12,11 +13,13 @@ class Tabellenprogramm;
 /// The outside world of a person at a desktop. QApplication must exist.
 class QtUmgebung : public Umgebung {
 public:
-    explicit QtUmgebung(Tabellenprogramm& tabellenprogramm);
+    QtUmgebung(Tabellenprogramm& tabellenprogramm, Laufort laufort);
     ~QtUmgebung() override;
 
     Datum heute() override;
-    std::filesystem::path programmordner() override;
+    std::filesystem::path programmordner() override { return m_laufort.programmordner; }
+    std::filesystem::path installation() override { return m_laufort.installation; }
+    bool istMuster() override { return m_laufort.istMuster; }
     /// Holds a lock of the system, named after the program folder, that ends with the process.
     bool istErsteInstanz() override;
     Dateien& dateien() override { return m_dateien; }
@@ -33,6 +36,7 @@ public:
 
 private:
     Tabellenprogramm& m_tabellenprogramm;
+    Laufort m_laufort;
     Dateien m_dateien;
     std::unique_ptr<QLockFile> m_sperre;
 };

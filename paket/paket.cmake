@@ -1,0 +1,38 @@
+# What an installation holds, and how CPack makes the Debian package of it. `packe.sh` writes the accompanying files
+# (icons, manual, handbook, change log) before it calls CPack.
+install(TARGETS tolvek7 RUNTIME DESTINATION bin)
+install(FILES anweisungen/eKernAnweisung.txt anweisungen/eDiagAnweisung.txt DESTINATION share/tolvek7)
+install(DIRECTORY ${PROJECT_BINARY_DIR}/paket/beilagen/usr/share/ DESTINATION share)
+
+# the packages are made of what is built, without building tests first
+set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
+set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
+                                                WORLD_READ WORLD_EXECUTE)
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME tolvek7)
+set(CPACK_PACKAGE_VENDOR "Tolvek7")
+set(CPACK_PACKAGE_CONTACT "The Tolvek7 maintainers <tolvek7@localhost.localdomain>")
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "documentation for counselling facilities of addiction help")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS ${CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS})
+
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION misc)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# the German texts of the toolkit's own buttons
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-translations-l10n")
+# the workbook, and screens without X
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libreoffice-calc, qt6-qpa-plugins")
+string(CONCAT CPACK_DEBIAN_PACKAGE_DESCRIPTION
+              "Tolvek7 keeps the clients of one counselling facility, their care episodes, and per\n"
+              " episode measures, social situation, diagnoses, consumption and outcome. It writes\n"
+              " the yearly German core data set (KDS) and a workbook for the facility's own\n"
+              " statistics.\n"
+              " .\n"
+              " One person, one desktop, no network: the records stay in three text tables in the\n"
+              " person's own folder, readable by their owner alone. The program speaks German.")
+include(CPack)
