@@ -11,7 +11,7 @@ tag=$(date -u -d "@$SOURCE_DATE_EPOCH" +%Y-%m-%d)
 rm -rf "$ziel"
 teilen=$ziel/usr/share
 unterlagen=$teilen/doc/tolvek7
-mkdir -p "$unterlagen" "$teilen/applications" "$teilen/metainfo" "$teilen/man/de/man1"
+mkdir -p "$unterlagen" "$teilen/applications" "$teilen/metainfo" "$teilen/man/de/man1" "$teilen/man/man1"
 
 # Fills in what is known only here.
 fuelle() {
@@ -30,6 +30,10 @@ done
 cp "$paket/tolvek7.desktop" "$teilen/applications/"
 fuelle "$paket/de.tolvek7.Tolvek7.metainfo.xml" > "$teilen/metainfo/de.tolvek7.Tolvek7.metainfo.xml"
 fuelle "$paket/tolvek7.1" | gzip -9n > "$teilen/man/de/man1/tolvek7.1.gz"
+ln -s ../de/man1/tolvek7.1.gz "$teilen/man/man1/tolvek7.1.gz" # better German than none
+# bytes of the code page are what the instruction files are made of
+mkdir -p "$teilen/lintian/overrides"
+echo "tolvek7: national-encoding [usr/share/tolvek7/*Anweisung.txt]" > "$teilen/lintian/overrides/tolvek7"
 cp "$paket/copyright" "$unterlagen/copyright"
 gzip -9n < "$quelle/CHANGELOG.md" > "$unterlagen/changelog.gz"
 {
@@ -37,7 +41,7 @@ gzip -9n < "$quelle/CHANGELOG.md" > "$unterlagen/changelog.gz"
     echo
     echo "  * See changelog.gz."
     echo
-    echo " -- The Tolvek7 maintainers <tolvek7@localhost.localdomain>  $(date -u -R -d "@$SOURCE_DATE_EPOCH")"
+    echo " -- The Tolvek7 maintainers <tolvek7@example.org>  $(date -u -R -d "@$SOURCE_DATE_EPOCH")"
 } | gzip -9n > "$unterlagen/changelog.Debian.gz"
 
 # The handbook as a page that every browser shows, beside its pictures.

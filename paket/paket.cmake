@@ -12,7 +12,7 @@ set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXE
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME tolvek7)
 set(CPACK_PACKAGE_VENDOR "Tolvek7")
-set(CPACK_PACKAGE_CONTACT "The Tolvek7 maintainers <tolvek7@localhost.localdomain>")
+set(CPACK_PACKAGE_CONTACT "The Tolvek7 maintainers <tolvek7@example.org>")
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "documentation for counselling facilities of addiction help")
 set(CPACK_STRIP_FILES ON)
@@ -27,12 +27,13 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-translations-l10n")
 # the workbook, and screens without X
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libreoffice-calc, qt6-qpa-plugins")
+# CPack indents the lines by itself
 string(CONCAT CPACK_DEBIAN_PACKAGE_DESCRIPTION
-              "Tolvek7 keeps the clients of one counselling facility, their care episodes, and per\n"
-              " episode measures, social situation, diagnoses, consumption and outcome. It writes\n"
-              " the yearly German core data set (KDS) and a workbook for the facility's own\n"
-              " statistics.\n"
-              " .\n"
-              " One person, one desktop, no network: the records stay in three text tables in the\n"
-              " person's own folder, readable by their owner alone. The program speaks German.")
+              "Tolvek7 keeps the clients of one counselling facility, their care episodes, and\n"
+              "per episode measures, social situation, diagnoses, consumption and outcome. It\n"
+              "writes the yearly German core data set (KDS) and a workbook for the facility's\n"
+              "own statistics.\n"
+              ".\n"
+              "One person, one desktop, no network: the records stay in three text tables in\n"
+              "the person's own folder, readable by their owner alone. It speaks German.")
 include(CPack)

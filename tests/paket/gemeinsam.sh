@@ -52,7 +52,7 @@ oeffne_anzeige() {
     DISPLAY=:$(cat "$werk/anzeige")
     export DISPLAY
     nutzer+=("DISPLAY=$DISPLAY")
-    openbox 2> "$werk/openbox.log" &
+    openbox > "$werk/openbox.log" 2>&1 &
     kinder+=($!)
 }
 
