@@ -15,7 +15,7 @@ if [ "$umfang" = alles ]; then
         # opening workbooks, windows without a display, pictures
         libreoffice-calc xvfb xauth x11-utils xdotool openbox fonts-noto-core fontconfig unzip
         # packages and their checks
-        librsvg2-bin cmark-gfm lintian desktop-file-utils appstream git
+        librsvg2-bin cmark-gfm dpkg-dev lintian desktop-file-utils appstream man-db file git
     )
 fi
 

@@ -1,6 +1,5 @@
 #include "platform/dateien/Wegwerfordner.h"
 
-#include "platform/dateien/Dateien.h"
 #include "platform/dateien/Systemgrund.h"
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
