@@ -46,7 +46,7 @@ paket: einrichten
 	paket/packe.sh bau/paket bau/pakete
 
 # Every test, then both packages of the commit, built twice and compared, and their checksums, in freigabe/.
-freigabe: test
+freigabe: test paket
 	paket/gib_frei.sh
 
 bench: bauen

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the packages of the commit that is checked out, twice, in two places and without a compiler cache, and puts
-# them with their checksums into freigabe/ when both builds gave the same bytes.
+# Builds the packages of the commit that is checked out once more, from the bare commit in another place and without a
+# compiler cache, and puts them with their checksums into freigabe/ when they are, byte for byte, those of `make paket`.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -13,16 +13,14 @@ export SOURCE_DATE_EPOCH CCACHE_DISABLE=1
 
 werkstatt=$(mktemp -d)
 trap 'rm -rf "$werkstatt"' EXIT
-for ort in eins der-zweite-ort; do
-    mkdir "$werkstatt/$ort"
-    git archive HEAD | tar -x -C "$werkstatt/$ort"
-    (cd "$werkstatt/$ort" && cmake --preset paket && paket/packe.sh bau/paket "$werkstatt/pakete-$ort")
-done
-diff -r "$werkstatt/pakete-eins" "$werkstatt/pakete-der-zweite-ort"
+mkdir "$werkstatt/quelle"
+git archive HEAD | tar -x -C "$werkstatt/quelle"
+(cd "$werkstatt/quelle" && cmake --preset paket && paket/packe.sh bau/paket "$werkstatt/pakete")
+diff -r bau/pakete "$werkstatt/pakete"
 
 rm -rf freigabe
 mkdir freigabe
-cp "$werkstatt"/pakete-eins/* freigabe/
+cp "$werkstatt"/pakete/* freigabe/
 (cd freigabe && sha256sum -- * > SHA256SUMS)
 echo "The packages lie in freigabe/:"
 cat freigabe/SHA256SUMS

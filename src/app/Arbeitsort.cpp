@@ -51,6 +51,9 @@ fs::path findeDatenordner(const Aufruf& aufruf, const Systemorte& orte, Dateien&
     if (aufruf.ordner) {
         return orte.arbeitsordner / *aufruf.ordner;
     }
+    if (orte.programm.empty()) { // a system without /proc
+        return ordnerDerPerson(orte);
+    }
     const bool hatDaten = dateien.istOrdner(orte.programm / "Daten");
     if (hatDaten || (orte.programmBeschreibbar && !gehörtZumSystem(orte.programm, dateien))) {
         return orte.programm;

@@ -59,6 +59,12 @@ TEST_F(ArbeitsortTest, EinGenannterOrdnerGehtVor)
     EXPECT_EQ(finde({Aufrufart::Prüfung, "da", {}}), orte.arbeitsordner / "da");
 }
 
+TEST_F(ArbeitsortTest, EinUnbekannterProgrammordnerWirdNichtDerArbeitsordner)
+{
+    orte.programm.clear();
+    EXPECT_EQ(finde(), orte.person / "Tolvek7");
+}
+
 TEST_F(ArbeitsortTest, OhnePersönlichenOrdnerWirdDasGesagt)
 {
     orte.programmBeschreibbar = false;
