@@ -6,17 +6,15 @@
 #include "platform/umgebung/Laufzeitfehler.h"
 
 #include <array>
-#include <random>
 #include <string_view>
-#include <system_error>
 
 #include <windows.h>
 
 #include <shellapi.h>
 #include <shlwapi.h>
 
-// The temporary folder of Windows belongs to the user alone, and a file that a program has open can't be
-// removed; so no lock and no guard are needed here: what is left goes at the next start.
+// A file that a program has open can't be removed on Windows; so no guard is needed here: what is left goes at
+// the next start.
 
 namespace fs = std::filesystem;
 
@@ -54,32 +52,13 @@ void starte(const fs::path& programm, const std::vector<std::string>& argumente,
 
 } // namespace
 
-Zwischenablage::Zwischenablage(const std::string& dateiname)
-    : m_ordner(fs::temp_directory_path() / (std::string(vorsilbe) + std::to_string(std::random_device()()))),
-      m_datei(m_ordner / dateiname)
-{
-    if (CreateDirectoryW(m_ordner.c_str(), nullptr) == 0) {
-        scheitere("Der Zwischenordner kann nicht angelegt werden"_t, m_ordner);
-    }
-}
-
-Zwischenablage::~Zwischenablage()
-{
-    if (m_meine) {
-        entferne();
-    }
-}
-
-void Zwischenablage::entferne()
-{
-    std::error_code egal;
-    fs::remove_all(m_ordner, egal);
-}
+Zwischenablage::Zwischenablage(const std::string& dateiname) : m_ordner(vorsilbe), m_datei(m_ordner.pfad() / dateiname)
+{}
 
 void Zwischenablage::übergib(const fs::path& programm, const std::vector<std::string>& argumente)
 {
     starte(programm, argumente, m_datei);
-    m_meine = false;
+    m_ordner.behalte();
 }
 
 void Zwischenablage::überlasse(const fs::path& /*programm*/, const std::vector<std::string>& /*argumente*/)
@@ -90,21 +69,12 @@ void Zwischenablage::überlasse(const fs::path& /*programm*/, const std::vector<
     if (reinterpret_cast<INT_PTR>(ergebnis) <= letzterFehler) {
         scheitere("Das Tabellenprogramm kann nicht gestartet werden"_t, m_datei);
     }
-    m_meine = false;
+    m_ordner.behalte();
 }
 
 void Zwischenablage::räumeAuf()
 {
-    std::error_code egal;
-    for (const auto& eintrag : fs::directory_iterator(fs::temp_directory_path(egal), egal)) {
-        if (!eintrag.path().filename().string().starts_with(vorsilbe)) {
-            continue;
-        }
-        for (const auto& datei : fs::directory_iterator(eintrag.path(), egal)) {
-            SetFileAttributesW(datei.path().c_str(), FILE_ATTRIBUTE_NORMAL);
-        }
-        fs::remove_all(eintrag.path(), egal);
-    }
+    Wegwerfordner::räumeAuf(vorsilbe);
 }
 
 std::optional<fs::path> findeProgramm(const std::string& name)

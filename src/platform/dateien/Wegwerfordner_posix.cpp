@@ -1,5 +1,6 @@
 #include "platform/dateien/Wegwerfordner.h"
 
+#include "platform/dateien/Dateien.h"
 #include "platform/dateien/Systemgrund.h"
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
@@ -37,26 +38,31 @@ int sperre(const fs::path& ordner)
 
 Wegwerfordner::Wegwerfordner(std::string_view vorsilbe)
 {
+    std::error_code fehler;
+    const fs::path ablage = fs::temp_directory_path(fehler);
     // between making and locking, the clearing of another start may take the folder away
     constexpr int versuche = 10;
-    for (int versuch = 0; versuch < versuche && m_schloss < 0; ++versuch) {
-        std::string muster = (fs::temp_directory_path() / vorsilbe).string() + "XXXXXX";
+    for (int versuch = 0; !fehler && versuch < versuche && m_schloss < 0; ++versuch) {
+        std::string muster = (ablage / vorsilbe).string() + "XXXXXX";
         if (mkdtemp(muster.data()) == nullptr) {
-            break;
+            fehler.assign(errno, std::generic_category());
+        } else {
+            m_pfad = muster;
+            m_schloss = sperre(m_pfad);
         }
-        m_pfad = muster;
-        m_schloss = sperre(m_pfad);
     }
     if (m_schloss < 0) {
-        throw Laufzeitfehler(verbinde("Der Zwischenordner kann nicht angelegt werden: "_t,
-                                      systemgrund(std::error_code(errno, std::generic_category()))));
+        throw Laufzeitfehler(verbinde("In \""_t, pfadtext(ablage), "\" kann kein Zwischenordner angelegt werden: "_t,
+                                      systemgrund(fehler)));
     }
 }
 
 Wegwerfordner::~Wegwerfordner()
 {
-    std::error_code egal;
-    fs::remove_all(m_pfad, egal);
+    if (m_meiner) {
+        std::error_code egal;
+        fs::remove_all(m_pfad, egal);
+    }
     close(static_cast<int>(m_schloss));
 }
 

@@ -23,6 +23,16 @@ HANDLE sperre(const fs::path& ordner)
                        FILE_FLAG_DELETE_ON_CLOSE, nullptr);
 }
 
+/// What is write-protected is not removed here unless it is told so before.
+void entferne(const fs::path& ordner)
+{
+    std::error_code egal;
+    for (const auto& eintrag : fs::recursive_directory_iterator(ordner, egal)) {
+        SetFileAttributesW(eintrag.path().c_str(), FILE_ATTRIBUTE_NORMAL);
+    }
+    fs::remove_all(ordner, egal);
+}
+
 } // namespace
 
 Wegwerfordner::Wegwerfordner(std::string_view vorsilbe)
@@ -39,8 +49,9 @@ Wegwerfordner::Wegwerfordner(std::string_view vorsilbe)
 Wegwerfordner::~Wegwerfordner()
 {
     CloseHandle(reinterpret_cast<HANDLE>(m_schloss));
-    std::error_code egal;
-    fs::remove_all(m_pfad, egal);
+    if (m_meiner) {
+        entferne(m_pfad);
+    }
 }
 
 void Wegwerfordner::räumeAuf(std::string_view vorsilbe)
@@ -52,7 +63,7 @@ void Wegwerfordner::räumeAuf(std::string_view vorsilbe)
         }
         if (HANDLE schloss = sperre(eintrag.path()); schloss != INVALID_HANDLE_VALUE) {
             CloseHandle(schloss);
-            fs::remove_all(eintrag.path(), egal);
+            entferne(eintrag.path());
         }
     }
 }

@@ -30,6 +30,19 @@ TEST(Wegwerfordner, GehörtDemBesitzerUndVerschwindetMitDemObjekt)
     EXPECT_FALSE(fs::exists(pfad));
 }
 
+TEST(Wegwerfordner, WasBehaltenWirdRäumtDerNächsteAuf)
+{
+    std::optional<Wegwerfordner> ordner(std::in_place, vorsilbe());
+    const auto pfad = ordner->pfad();
+    ordner->behalte();
+    Wegwerfordner::räumeAuf(vorsilbe());
+    EXPECT_TRUE(fs::exists(pfad)) << "held";
+    ordner.reset();
+    EXPECT_TRUE(fs::exists(pfad)) << "kept";
+    Wegwerfordner::räumeAuf(vorsilbe());
+    EXPECT_FALSE(fs::exists(pfad));
+}
+
 TEST(Wegwerfordner, AufräumenLäßtStehenWasEinerHält)
 {
     const Wegwerfordner gehalten(vorsilbe());
