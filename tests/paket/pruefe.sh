@@ -169,7 +169,7 @@ entfernen() {
     echo Lage > "$wurzel/home/anna/Tolvek7/Tolvek7.ini"
     local vorher
     vorher=$(cd "$wurzel/home" && find . -type f -exec sha256sum {} + -exec stat -c '%n %a %Y' {} +)
-    local verwalter=(dpkg "--root=$wurzel" --force-depends)
+    local verwalter=(dpkg "--root=$wurzel" "--log=$werk/dpkg.log" --force-depends)
     [ "$(id -u)" -eq 0 ] || verwalter=(unshare --map-root-user "${verwalter[@]}")
     erwarte "it can be installed" "${verwalter[@]}" --install "$deb"
     erwarte "the program is there" test -x "$wurzel/usr/bin/tolvek7"
