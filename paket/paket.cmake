@@ -25,8 +25,8 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # the German texts of the toolkit's own buttons
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-translations-l10n")
-# the workbook, and screens without X
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libreoffice-calc, qt6-qpa-plugins")
+# the workbook, screens without X, the handbook from the menu
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libreoffice-calc, qt6-qpa-plugins, xdg-utils")
 # CPack indents the lines by itself
 string(CONCAT CPACK_DEBIAN_PACKAGE_DESCRIPTION
               "Tolvek7 keeps the clients of one counselling facility, their care episodes, and\n"

@@ -48,7 +48,7 @@ als_nutzer() {
 oeffne_anzeige() {
     Xvfb -displayfd 5 -screen 0 1366x768x24 -nolisten tcp -ac 5> "$werk/anzeige" 2> "$werk/xvfb.log" &
     kinder+=($!)
-    erwarte "Xvfb starts" warte_auf 20 test -s "$werk/anzeige"
+    erwarte "Xvfb starts" warte_auf 60 test -s "$werk/anzeige"
     DISPLAY=:$(cat "$werk/anzeige")
     export DISPLAY
     nutzer+=("DISPLAY=$DISPLAY")
@@ -67,7 +67,7 @@ fenster_da() {
     xwininfo -root -tree | grep -qF "\"$1\""
 }
 erwarte_fenster() {
-    erwarte "the window \"$1\" appears; there are: $(xwininfo -root -tree)" warte_auf 30 fenster_da "$1"
+    erwarte "the window \"$1\" appears; there are: $(xwininfo -root -tree)" warte_auf 60 fenster_da "$1"
 }
 beende_hart() {
     kill -9 "$programm"

@@ -109,7 +109,7 @@ start_ordner() {
     starte "$ordner/Tolvek7/tolvek7" "$heim/vertippt"
     erwarte_fenster "Tolvek7"
     xdotool search --onlyvisible --name '^Tolvek7$' windowactivate --sync key Return
-    erwarte "the program ends" warte_auf 20 test ! -e "/proc/$programm/exe"
+    erwarte "the program ends" warte_auf 60 test ! -e "/proc/$programm/exe"
     erwarte "the folder is not made" test ! -e "$heim/vertippt"
     erwarte "the user's Tolvek7 is not made" test ! -e "$heim/Tolvek7"
 
@@ -142,7 +142,7 @@ start_muster() {
     erwarte "the next start removes it" test ! -e "$erster"
     erwarte "there is a new one" test -d "$(musterordner)"
     xdotool search --onlyvisible --name "^MUSTER" windowactivate --sync key alt+e
-    erwarte "Exit ends the program" warte_auf 20 test ! -e "/proc/$programm/exe"
+    erwarte "Exit ends the program" warte_auf 60 test ! -e "/proc/$programm/exe"
     erwarte "the folder goes at the end" test -z "$(musterordner)"
     erwarte "real records are not made" test ! -e "$heim/Tolvek7"
 }
