@@ -50,7 +50,7 @@ handbuch=$quelle/docs/handbuch
 mkdir -p "$unterlagen/handbuch"
 {
     cat "$paket/handbuch-anfang.html"
-    cmark-gfm --extension table --to html "$handbuch/handbuch.md"
+    cmark-gfm --extension table --to html "$handbuch/handbuch.md" | "$paket/kapitelmarken.pl"
     echo '</body></html>'
 } > "$unterlagen/handbuch/handbuch.html"
 if [ -d "$quelle/docs/handbuch/bilder" ]; then

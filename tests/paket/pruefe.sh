@@ -46,7 +46,11 @@ metadaten() {
     for bild in $(grep -oE 'src="[^"]+"' "$teilen/doc/tolvek7/handbuch/handbuch.html" | cut -d'"' -f2); do
         erwarte "the handbook's picture $bild is there" test -f "$teilen/doc/tolvek7/handbuch/$bild"
     done
-    erwarte "the handbook has chapters" grep -q '<h2>' "$teilen/doc/tolvek7/handbuch/handbuch.html"
+    for marke in $(grep -oE 'href="#[^"]+"' "$teilen/doc/tolvek7/handbuch/handbuch.html" | cut -d'#' -f2 | tr -d '"' | sort -u); do
+        erwarte "the handbook's link $marke leads to a heading" \
+            grep -qF "id=\"$(printf '%b' "${marke//%/\\x}")\"" "$teilen/doc/tolvek7/handbuch/handbuch.html"
+    done
+    erwarte "the handbook has chapters" grep -q '<h2 id=' "$teilen/doc/tolvek7/handbuch/handbuch.html"
 }
 
 abhaengigkeiten() {
