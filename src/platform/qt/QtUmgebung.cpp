@@ -173,8 +173,9 @@ std::string alsQtFilter(const std::string& filter)
     return ergebnis;
 }
 
-QtUmgebung::QtUmgebung(Tabellenprogramm& tabellenprogramm)
-    : m_tabellenprogramm(tabellenprogramm), m_dateien(std::make_unique<GeduldigerZugriff>(erzeugeDateizugriff()))
+QtUmgebung::QtUmgebung(Tabellenprogramm& tabellenprogramm, Laufort laufort)
+    : m_tabellenprogramm(tabellenprogramm), m_laufort(std::move(laufort)),
+      m_dateien(std::make_unique<GeduldigerZugriff>(erzeugeDateizugriff()))
 {}
 
 QtUmgebung::~QtUmgebung() = default;
@@ -183,11 +184,6 @@ Datum QtUmgebung::heute()
 {
     const auto tag = QDate::currentDate();
     return {tag.year(), tag.month(), tag.day()};
-}
-
-std::filesystem::path QtUmgebung::programmordner()
-{
-    return {QCoreApplication::applicationDirPath().toStdU16String()};
 }
 
 bool QtUmgebung::istErsteInstanz(const std::filesystem::path& datenordner)
@@ -207,7 +203,8 @@ Antwort QtUmgebung::zeigeMeldung(const Meldung& meldung)
 std::optional<std::filesystem::path> QtUmgebung::wähleDatei(const Dateiwahl& wahl)
 {
     const geduld::Pause pause;
-    const auto ordner = QString::fromStdU16String(wahl.anfangsordner.u16string());
+    const auto utf8 = wahl.anfangsordner.u8string(); // a name that is no Unicode must not end the program
+    const auto ordner = QString::fromUtf8(reinterpret_cast<const char*>(utf8.data()), std::ssize(utf8));
     const auto pfad =
         QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, ordner, alsQString(alsQtFilter(wahl.filter)));
     if (pfad.isEmpty()) {
