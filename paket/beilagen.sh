@@ -20,7 +20,6 @@ fuelle() {
 
 # Icons: one drawing, in the sizes that desktops ask for.
 zeichnung=$quelle/src/platform/qt/bilder/tolvek7.svg
-[ -f "$zeichnung" ] || zeichnung=$paket/tolvek7.svg
 install -D -m 0644 "$zeichnung" "$teilen/icons/hicolor/scalable/apps/tolvek7.svg"
 for groesse in 16 22 24 32 48 64 128 256 512; do
     mkdir -p "$teilen/icons/hicolor/${groesse}x$groesse/apps"
