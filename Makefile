@@ -1,6 +1,6 @@
 # The two commands for everyone are `make start` and `make test`; the others are their parts.
 
-.PHONY: start test demo bauen einrichten pruefung windows bench format
+.PHONY: start test demo bilder bauen einrichten pruefung windows bench format
 
 start: bauen
 	werkzeug/starten.sh
@@ -16,6 +16,10 @@ einrichten:
 # A made-up facility, and an episode's road played on it in the real windows; pictures in demo/.
 demo: bauen
 	werkzeug/vorfuehren.sh
+
+# The pictures of the handbook, taken anew from the demonstration.
+bilder: bauen
+	werkzeug/handbuchbilder.sh
 
 # Every test: GCC, then Clang with the sanitizers, then the logic for Windows.
 test: einrichten

@@ -27,7 +27,10 @@ public:
     }
     std::optional<std::filesystem::path> wähleDatei(const Dateiwahl& /*wahl*/) override { return std::nullopt; }
     bool findeTabellenprogramm() override { return true; }
-    void übergibMappe(Arbeitsmappe& /*mappe*/) override {}
+    bool übergibMappe(Arbeitsmappe& /*mappe*/, const std::function<void(double)>& /*fortschritt*/) override
+    {
+        return true;
+    }
     Größe bildschirmgröße() override { return {28800, 16200}; }
     void zeichne() override {}
     void lasseEreignisseZu() override {}

@@ -32,13 +32,14 @@ public:
     Mappenumgebung() : Messumgebung(zehntausendEpisoden) {}
 
     std::filesystem::path datei() { return programmordner() / "mappe.xlsx"; }
-    void übergibMappe(Arbeitsmappe& mappe) override
+    bool übergibMappe(Arbeitsmappe& mappe, const std::function<void(double)>& fortschritt) override
     {
         if (beiMappe) {
             beiMappe(mappe);
         } else {
-            schreibeXlsx(mappe, datei());
+            schreibeXlsx(mappe, datei(), fortschritt);
         }
+        return true;
     }
 
     std::function<void(Arbeitsmappe&)> beiMappe;

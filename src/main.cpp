@@ -3,6 +3,7 @@
 #include "platform/qt/QtOberflaeche.h"
 #include "platform/qt/QtUmgebung.h"
 #include "platform/qt/Stil.h"
+#include "platform/umgebung/Prozessschutz.h"
 #include "store/Pruefung.h"
 
 #include <QApplication>
@@ -29,6 +30,7 @@ std::optional<int> prüfeAufWunsch(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    verhindereSpeicherabbilder();
     if (const auto status = prüfeAufWunsch(argc, argv)) {
         return *status;
     }

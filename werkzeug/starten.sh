@@ -7,6 +7,9 @@ cd "$(dirname "$0")/.."
 mkdir -p -m 0700 Tolvek7
 install -m 0755 build/bin/tolvek7 Tolvek7/
 install -m 0644 anweisungen/*.txt Tolvek7/
+mkdir -p Tolvek7/Handbuch/bilder
+install -m 0644 docs/handbuch/handbuch.md Tolvek7/Handbuch/
+install -m 0644 docs/handbuch/bilder/*.png Tolvek7/Handbuch/bilder/
 for sprache in /usr/share/qt6/translations/qtbase_de.qm; do
     if [ -f "$sprache" ]; then
         install -m 0644 "$sprache" Tolvek7/

@@ -115,6 +115,7 @@ void prüfeDateien()
     const bool iniFehlt = dateien.fehlt(pfade.ini);
 
     prüfeSchreibbarkeit(dateien, pfade);
+    dateien.entferne(pfade.dummyIni); // of a run that was broken off
     if (alleFehlen) {
         legeTabellenAn(zustand().bestand);
     }

@@ -1,8 +1,8 @@
 #include "care/Zeitraumliste.h"
 
 #include "platform/text/Text.h"
-#include "store/Lesestand.h"
 #include "satz/moHelferlein.h"
+#include "store/Lesestand.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>
@@ -26,7 +26,7 @@ bool liegtIn(const Zeitraum& zeitraum, std::string_view tag)
 
 bool istEigener(const Nachbarn& nachbarn, const Zeitraum& zeitraum)
 {
-    return !nachbarn.eigenerBeginn.empty() && zeitraum.von == nachbarn.eigenerBeginn;
+    return zeitraum.von == nachbarn.eigenerBeginn;
 }
 
 /// Whether the period from `von` on would reach into the episode behind it.

@@ -3,6 +3,7 @@
 #include "platform/text/Datum.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,10 +32,10 @@ void sortiereNachBeginn(Zeitraumliste& liste);
 std::string findeFreienTag(const Zeitraumliste& liste, const Datum& heute);
 
 /// What the tests of begin and end look at: the other episodes, and the begin by which the episode's own row
-/// is known (empty for a new episode: no row is its own).
+/// is known (none for a new episode: no row is its own). A stored begin may be empty, too.
 struct Nachbarn {
     const Zeitraumliste& liste;
-    std::string_view eigenerBeginn;
+    std::optional<std::string_view> eigenerBeginn;
 };
 
 /// Whether an episode may begin on the day.

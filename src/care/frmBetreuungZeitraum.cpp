@@ -108,7 +108,7 @@ void frmBetreuungZeitraum::zeigeEnde()
 
 Nachbarn frmBetreuungZeitraum::nachbarn() const
 {
-    return {m_zeitraumListe, istNeu ? std::string_view() : m_altVon};
+    return {m_zeitraumListe, istNeu ? std::nullopt : std::optional<std::string_view>(m_altVon)};
 }
 
 void frmBetreuungZeitraum::beiOK()

@@ -1,6 +1,46 @@
 #include "clients/frmInfo.h"
 
+#include "platform/dateien/Dateien.h"
 #include "zustand/Zustand.h"
+
+#include <array>
+
+namespace {
+
+struct Tastenzeile {
+    std::string_view taste;
+    std::string_view wirkung;
+};
+
+/// The handbook has the whole table.
+constexpr std::array<Tastenzeile, 8> tasten{{
+    {"F1"_t, "öffnet das Handbuch bei diesem Bildschirm"_t},
+    {"Tab, Umschalt+Tab"_t, "nächstes Feld, voriges Feld"_t},
+    {"Leertaste"_t, "drückt die Schaltfläche, markiert die Option"_t},
+    {"Pfeil links, rechts"_t, "ändern ein Antwortfeld (k.A., ja, nein)"_t},
+    {"Pfeil auf, ab"_t, "wechseln die Zeile, wählen in Listen"_t},
+    {"Alt + Buchstabe"_t, "drückt die Schaltfläche mit diesem unterstrichenen Buchstaben"_t},
+    {"Eingabe"_t, "OK in den Fenstern Zeitraum und Problembereiche"_t},
+    {"Esc"_t, "Exit"_t},
+}};
+
+std::string tastenliste()
+{
+    std::string text;
+    for (const Tastenzeile& zeile : tasten) {
+        text += verbinde(text.empty() ? "" : "\r\n", zeile.taste, ": "_t, zeile.wirkung);
+    }
+    return text;
+}
+
+std::string ordnertext()
+{
+    const auto& daten = zustand().pfade.daten;
+    return verbinde("Ordner der Daten: "_t, pfadtext(daten), "\r\nStand beim Start dieser Sitzung: "_t,
+                    pfadtext(daten / "*.bak"), "\r\nFrühere Stände: "_t, pfadtext(daten / "Sicherungen"));
+}
+
+} // namespace
 
 frmInfo::frmInfo() : Bildschirm("frmInfo"_t)
 {
@@ -8,18 +48,25 @@ frmInfo::frmInfo() : Bildschirm("frmInfo"_t)
     benenne("lblHeader"_t, lblHeader);
     benenne("picInfo"_t, picInfo);
     benenne("lblText"_t, lblText);
+    benenne("lblOrdner"_t, lblOrdner);
+    benenne("lblTasten"_t, lblTasten);
     benenne("cmdOK"_t, cmdOK);
     kopfband.titel = &lblHeader;
-    aufbau = karte({}, zeile({element(picInfo, 6), füllend(element(lblText))}));
+    aufbau = spalte({karte({}, zeile({element(picInfo, 6), füllend(element(lblText))})),
+                     karte("Daten und Sicherungen"_t, element(lblOrdner)), karte("Tasten"_t, element(lblTasten))});
     leiste.rechts = {&cmdOK};
     istKindfenster = true;
+    breiteEm = 40;
     beiEscape = &cmdOK;
 
     setzeTitel(verbinde(zustand().titel, " - Info"_t));
     lblText.setzeText(verbinde(zustand().titel, "\r\n"_t,
                                "Dokumentation für Einrichtungen der Suchthilfe\r\n"
                                "nach dem Deutschen Kerndatensatz (KDS)\r\n"
-                               "Nachfolger von Tolvek, dessen Daten er übernehmen kann"_t));
+                               "Nachfolger von Tolvek, dessen Daten er übernehmen kann\r\n"
+                               "Freie Software unter der MIT-Lizenz"_t));
+    lblOrdner.setzeText(ordnertext());
+    lblTasten.setzeText(tastenliste());
     cmdOK.beiKlick = [this] { zustand().folge.entlade(*this); };
 }
 

@@ -35,10 +35,13 @@ constexpr std::array<double, 8> breiten{0, 16, 4.6, 4.6, 24, 4.6, 4.6, 4.6};
 /// The questions whose answer is a number from a list, or not given; they take typing.
 constexpr std::array zahlenfragen{TageBeginn, TageEnde, AlterStörung, AlterErstkonsum};
 
-enum class Gruppenart { Substanz, MissbrauchOderSpiel, Essstörung };
+enum class Gruppenart { Substanz, MissbrauchOderSpiel, Essstörung, Keine };
 
 Gruppenart artVon(int gruppe)
 {
+    if (gruppe < 1 || gruppe > höchsteGruppe) {
+        return Gruppenart::Keine;
+    }
     if (gruppe <= 20) {
         return Gruppenart::Substanz;
     }
@@ -51,6 +54,7 @@ bool wirdGefragt(Gruppenart art, int frage)
     case Gruppenart::Substanz:
         return true;
     case Gruppenart::MissbrauchOderSpiel:
+    case Gruppenart::Keine:
         return frage != Konsumart && frage != Riskant;
     case Gruppenart::Essstörung:
         return frage == ICDStelle4 || frage == AlterStörung;
@@ -74,6 +78,8 @@ std::vector<std::string> icdListe(Gruppenart art)
         return werte::texte(werte::kurz);
     case Gruppenart::Essstörung:
         return mitKeinerAngabe(werte::essstörung);
+    case Gruppenart::Keine:
+        break;
     }
     return {};
 }
@@ -150,7 +156,7 @@ void frmBetrDiagnoseErstellen::beiEntladen()
 void frmBetrDiagnoseErstellen::bereiteFragenVor()
 {
     const Gruppenart art = artVon(gruppeAktuell);
-    lblAntwort.setzeText(aryProblem.at(static_cast<std::size_t>(gruppeAktuell)));
+    lblAntwort.setzeText(gruppenname(gruppeAktuell));
     for (int i = 1; i <= comboAntwort.bis(); ++i) {
         lblFrage(i).zeige(wirdGefragt(art, i));
         comboAntwort(i).zeige(wirdGefragt(art, i));
@@ -165,7 +171,8 @@ void frmBetrDiagnoseErstellen::bereiteFragenVor()
     for (const int i : {AlterStörung, AlterErstkonsum}) {
         comboAntwort(i).fülle(werte::zahlen(keineAngabe, werte::alter), keineAngabe);
     }
-    comboAntwort(ICDStelle4).fülle(icdListe(art), keineAngabe);
+    const auto icd = icdListe(art);
+    comboAntwort(ICDStelle4).fülle(icd, icd.empty() ? std::string_view() : keineAngabe);
 }
 
 void frmBetrDiagnoseErstellen::fülleAntworten()
@@ -218,8 +225,8 @@ void frmBetrDiagnoseErstellen::prüfeHDWechsel()
 
 void frmBetrDiagnoseErstellen::frageHDWechsel()
 {
-    const std::string& alt = aryProblem.at(static_cast<std::size_t>(m_hdGruppeAlt));
-    const std::string& neu = aryProblem.at(static_cast<std::size_t>(gruppeAktuell));
+    const std::string_view alt = gruppenname(m_hdGruppeAlt);
+    const std::string_view neu = gruppenname(gruppeAktuell);
     if (!cbHD.istAn()) {
         zeigeMeldung(verbinde(alt, " wird wieder als Hauptdiagnose gesetzt"_t), Symbol::Info);
         return;

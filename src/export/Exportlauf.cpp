@@ -5,8 +5,8 @@
 #include "export/Kernzeile.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/Lesestand.h"
 #include "satz/moHelferlein.h"
+#include "store/Lesestand.h"
 #include "zustand/Zustand.h"
 
 namespace {
@@ -69,6 +69,21 @@ std::int32_t Exportlauf::führeAus()
         m_kern = dateien().schreibeNeu(m_ordner / "Kern.txt");
         m_diagnose = dateien().schreibeNeu(m_ordner / "Diagnose.txt");
     });
+    try {
+        exportiereAlle();
+    } catch (const Laufzeitfehler&) {
+        behalteGeschriebenes();
+        throw;
+    }
+    beimSchreiben([&] {
+        m_kern->schließe();
+        m_diagnose->schließe();
+    });
+    return m_exportierte;
+}
+
+void Exportlauf::exportiereAlle()
+{
     Zeilen klienten(m_klienten->text());
     while (const auto zeile = klienten.nächste()) {
         if (beiKlient) {
@@ -76,11 +91,18 @@ std::int32_t Exportlauf::führeAus()
         }
         exportiereKlient(*zeile, klienten.nummer());
     }
-    beimSchreiben([&] {
-        m_kern->schließe();
-        m_diagnose->schließe();
-    });
-    return m_exportierte;
+}
+
+/// What ends the program is told to the person, not whether these rows could be kept as well.
+void Exportlauf::behalteGeschriebenes()
+{
+    for (const auto& schreiber : {m_kern.get(), m_diagnose.get()}) {
+        try {
+            schreiber->schließe();
+        } catch (const Laufzeitfehler&) {
+            continue;
+        }
+    }
 }
 
 void Exportlauf::exportiereKlient(std::string_view zeile, std::size_t nummer)
@@ -133,10 +155,13 @@ void Exportlauf::schreibe(std::string_view betrDS, std::string_view diagDS)
 {
     m_betreuung.lies(betrDS);
     m_diagnosesatz.lies(diagDS);
-    m_zeile.clear();
-    hängeKernZeileAn(m_zeile, m_klient, m_betreuung, tsnr);
-    beimSchreiben([&] { m_kern->zeile(m_zeile); });
-    m_zeile.clear();
-    hängeDiagZeileAn(m_zeile, m_betreuung, m_diagnosesatz, tsnr);
-    beimSchreiben([&] { m_diagnose->zeile(m_zeile); });
+    m_kernzeile.clear();
+    hängeKernZeileAn(m_kernzeile, m_klient, m_betreuung, tsnr);
+    m_diagnosezeile.clear();
+    hängeDiagZeileAn(m_diagnosezeile, m_betreuung, m_diagnosesatz, tsnr);
+    // only when both are there: a failure between them would leave the files with different numbers of lines
+    beimSchreiben([&] {
+        m_kern->zeile(m_kernzeile);
+        m_diagnose->zeile(m_diagnosezeile);
+    });
 }

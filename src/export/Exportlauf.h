@@ -58,15 +58,18 @@ public:
     /// Told before each client is looked at.
     std::function<void(std::int32_t nummer)> beiKlient;
 
-    /// Runs and returns the number of episodes that were picked, those without a diagnosis record included.
+    /// Runs and returns the number of episodes that were picked, those without a diagnosis record included. After
+    /// a Laufzeitfehler the rows written so far lie in the files, equally many in both.
     std::int32_t führeAus();
 
 private:
+    void exportiereAlle();
     void exportiereKlient(std::string_view zeile, std::size_t nummer);
     /// Notes the episodes of the year and exports those of the first client on the way.
     void sucheBetreuungen(std::int32_t erster);
     void exportiere(std::int32_t kernID, std::string_view betrDS, std::size_t nummer);
     void schreibe(std::string_view betrDS, std::string_view diagDS);
+    void behalteGeschriebenes();
 
     struct Betreuung {
         std::string_view zeile;
@@ -88,5 +91,6 @@ private:
     Satzsicht m_klient;
     Satzsicht m_betreuung;
     Satzsicht m_diagnosesatz;
-    std::string m_zeile;
+    std::string m_kernzeile;
+    std::string m_diagnosezeile;
 };

@@ -5,7 +5,6 @@
 #include "platform/text/Zahl.h"
 #include "zustand/Zustand.h"
 
-#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
@@ -156,12 +155,6 @@ std::int32_t frmExport::führeAus(int jahr, const std::filesystem::path& ordner)
 
 void frmExport::zeigeFortschritt(std::int32_t nummer, std::int32_t anzahl)
 {
-    // drawing costs more than exporting a client, so that not each is drawn
-    constexpr std::int32_t höchstensGezeichnete = 100;
-    const auto schritt = std::max(1, anzahl / höchstensGezeichnete);
-    if (nummer % schritt != 0 && nummer != 1 && nummer != anzahl) {
-        return;
-    }
     lblMeldung.setzeText(verbinde("Klient "_t, alsText(nummer), " / "_t, alsText(anzahl)));
     ProgressBar1.setzeBereich(0, anzahl);
     ProgressBar1.setzeWert(nummer);

@@ -4,6 +4,7 @@
 #include "platform/text/Eingabe.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "store/Niederschrift.h"
 #include "zustand/Zustand.h"
 
 namespace {
@@ -102,6 +103,8 @@ void frmDatenÜbernahme::beiOK()
     cmdBeiDerArbeit.zeige();
     try {
         importiere(lauf);
+    } catch (const UnvollendeterVorgang&) {
+        throw; // the data are taken over; to say the contrary would have them typed in
     } catch (const Laufzeitfehler&) {
         Importlauf::entferneReste();
         zeigeFehlschlag();

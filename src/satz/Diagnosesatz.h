@@ -31,9 +31,11 @@ constexpr int weitereDiagnose(int nummer)
 }
 inline constexpr int bitfeldposition = weitereDiagnose(anzahlWeitereDiagnosen) + 1;
 
+/// The bit of the group; none for a number that can't be one.
 constexpr std::int64_t gruppenbit(int gruppe)
 {
-    return std::int64_t{1} << gruppe;
+    constexpr int höchstesBit = 62;
+    return gruppe < 0 || gruppe > höchstesBit ? 0 : std::int64_t{1} << gruppe;
 }
 
 /// DSDiag cut at the block of a group; the three parts joined are DSDiag again.

@@ -59,7 +59,8 @@ constexpr std::array<Problembereich, höchsteGruppe> katalog{{
 
 std::string_view gruppenname(int gruppe)
 {
-    return katalog.at(static_cast<std::size_t>(gruppe - 1)).problem;
+    const auto ort = static_cast<std::size_t>(gruppe - 1);
+    return gruppe < 1 || ort >= katalog.size() ? std::string_view() : katalog[ort].problem;
 }
 
 std::string gruppencode(int gruppe)

@@ -4,9 +4,12 @@
 
 #include <string_view>
 
+class Arbeitsmappe;
+
 /// Sends the whole data set to a spreadsheet program: a workbook with one sheet for each table and an
 /// evaluation sheet. It runs from start to end as soon as it is in view; only its status text and its bar are
-/// drawn meanwhile. It changes no data.
+/// drawn meanwhile. The bar shows how much of the time is over: its steps take very different times, so what is
+/// drawn follows the work within them. It changes no data.
 class frmZuExcel : public Bildschirm {
 public:
     Beschriftung lblHeader{"Datenmenge > Excel"_t};
@@ -24,7 +27,9 @@ private:
     void platziere();
     void schreibeTabellen();
     void zeigeFortschritt(std::string_view text, bool zurücksetzen = false);
-    void zeigeDatensatz(int nummer);
+    void zeigeDatensatz(int nummer, int anzahl);
+    bool übergib(Arbeitsmappe& mappe);
+    void brichAb();
     void beiFertig();
 
     Bildschirm& m_hauptmenü;

@@ -1,7 +1,6 @@
 #include "store/Niederschrift.h"
 
 #include "platform/text/Text.h"
-#include "platform/umgebung/Laufzeitfehler.h"
 #include "store/Sicherungen.h"
 #include "store/Vollzugsvermerk.h"
 
@@ -183,7 +182,7 @@ void schreibeNieder(Dateien& dateien, const Bestandspfade& pfade, const Bestands
     try {
         ersetzeDurchNeue(dateien, pfade, vermerke, vermerke);
     } catch (const Laufzeitfehler& fehler) {
-        throw Laufzeitfehler(
+        throw UnvollendeterVorgang(
             verbinde("Die Eingabe ist gespeichert und wird beim nächsten Start vollendet. "_t, fehler.text()));
     }
 }

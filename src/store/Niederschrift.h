@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/dateien/Dateien.h"
+#include "platform/umgebung/Laufzeitfehler.h"
 #include "store/Lesestand.h"
 
 #include <cstdint>
@@ -17,9 +18,14 @@ struct Schreibauftrag {
     std::function<void(Schreiber&)> inhalt;
 };
 
+/// The action is saved, but not in all tables yet: the next start completes it.
+class UnvollendeterVorgang : public Laufzeitfehler {
+public:
+    using Laufzeitfehler::Laufzeitfehler;
+};
+
 /// Puts all of it in the place of the files, or nothing. A failure before the commit record is on the disk is a
-/// Laufzeitfehler that leaves everything as it was; one after it says that the entry is saved and will be completed at
-/// the next start.
+/// Laufzeitfehler that leaves everything as it was; one after it is an UnvollendeterVorgang.
 void schreibeNieder(Dateien& dateien, const Bestandspfade& pfade, const Bestandsmeldung& meldung,
                     const std::vector<Schreibauftrag>& aufträge);
 

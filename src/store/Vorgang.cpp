@@ -124,9 +124,8 @@ void Vorgang::bestätige()
 {
     std::vector<Schreibauftrag> aufträge;
     for (const auto& [tabelle, änderung] : m_änderungen) {
-        aufträge.push_back({tabelle, änderung.alteLänge, [&fassung = änderung.fassung](Schreiber& schreiber) {
-                                fassung.schreibe(schreiber);
-                            }});
+        aufträge.push_back({tabelle, änderung.alteLänge,
+                            [&fassung = änderung.fassung](Schreiber& schreiber) { fassung.schreibe(schreiber); }});
     }
     schreibeNieder(m_bestand.dateien(), pfade(), m_bestand.meldung(), aufträge);
     m_änderungen.clear();

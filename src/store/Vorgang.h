@@ -17,24 +17,25 @@
 /// client with everything of it, the import's last stage, the session backup, the creation of the six files. It is
 /// there as a whole or not at all, whenever the plug is pulled.
 ///
-/// The action owns the new versions of the tables that it changes (`Fassung`), in memory; reading inside the action sees
-/// them. Boxes that an operation shows come while nothing is written yet. `bestätige` then does, in this order:
+/// The action owns the new versions of the tables that it changes (`Fassung`), in memory; reading inside the action
+/// sees them. Boxes that an operation shows come while nothing is written yet. `bestätige` then does, in this order:
 ///
 /// 1. Each table is written whole to `<table>.neu` beside it, a new file, flushed to the disk. Killed here, the tables
 ///    are the old ones, and the next start removes what lies beside them.
-/// 2. The commit record `Daten/Vorgang.txt` (names, old and new lengths, a checksum of each new file, a checksum of itself)
-///    is written under another name, flushed, renamed into place, and the folder is flushed. This is the moment of the
+/// 2. The commit record `Daten/Vorgang.txt` (names, old and new lengths, checksums of the new files and of itself) is
+///    written under another name, flushed, renamed into place, and the folder is flushed. This is the moment of the
 ///    OK: killed before it, the old state holds; killed after it, the new one.
 /// 3. The new files are renamed over the tables, the folder is flushed, the record is removed. Killed between, the
-///    next start finds the record and does the rest (`vollendeVorgang`), as often as it is killed itself: a table that is
-///    new already is recognised by its checksum. A record that comes back after a loss of power, because its
-///    removal had not reached the disk, finds all tables new and is removed again.
+///    next start finds the record and does the rest (`vollendeVorgang`), as often as it is killed itself: a table that
+///    is new already is recognised by its checksum. A record that comes back after a loss of power, because its removal
+///    had not reached the disk, finds all tables new and is removed again.
 ///
 /// An append is a rewrite too: so there is no half line, ever. A table that is a link is followed, its new file lies
 /// beside the place where it really is, so that the last step is a renaming on one file system.
 ///
-/// A failure before step 2 is done leaves the old state and a message; one after it says that the entry is saved and
-/// will be completed at the next start. An action that is dropped without `bestätige` has changed nothing.
+/// A failure before step 2 is done leaves the old state and a message; one after it (`UnvollendeterVorgang`) says that
+/// the entry is saved and will be completed at the next start. An action that is dropped without `bestätige` has
+/// changed nothing.
 class Vorgang : public Lesestand {
 public:
     explicit Vorgang(const Bestand& bestand) : Lesestand(bestand.pfade(), bestand.meldung()), m_bestand(bestand) {}

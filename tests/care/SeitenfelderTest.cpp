@@ -23,8 +23,8 @@ struct Probeseite {
             option.trittBei(gruppe);
         }
         felder.fügeWahl(wahl, werte::lang);
-        felder.fügeZahl(zahl, 1, 3);
-        felder.fügeZahl(zahlMitVorgabe, 0, 2, Seitenfelder::Leer::LässtVorgabe);
+        felder.fügeZahl(zahl, {1, 3});
+        felder.fügeZahl(zahlMitVorgabe, {0, 2}, Seitenfelder::Leer::LässtVorgabe);
         felder.fügeAntworten(antworten);
         felder.fügeOptionen(optionen);
         felder.fülleListen();

@@ -136,6 +136,7 @@ TEST(Beginn, DieEigeneZeileIstNurAmGleichenTextKenntlich)
 {
     const Zeitraumliste liste{{"05.03.2010", "10.03.2010"}};
     EXPECT_FALSE(prüfeVon({liste, "5.3.2010"}, "07.03.2010"));
+    EXPECT_TRUE(prüfeVon({{{"", "offen"}}, ""}, "07.03.2010")); // a begin that is stored empty is a begin, too
     EXPECT_FALSE(prüfeVon({liste, "06.03.2010"}, "07.03.2010"));
 }
 

@@ -1,5 +1,6 @@
 #include "diagnosis/frmBetrDiagnose.h"
 #include "app/moExtras.h"
+#include "diagnosis/frmBetrDiagnoseErstellen.h"
 #include "hilfen/Testumgebung.h"
 #include "satz/Diagnosesatz.h"
 #include "satz/moHelferlein.h"
@@ -130,6 +131,27 @@ TEST_F(FrmBetrDiagnose, AuswahlGibtIhreGruppeWeiter)
     tue([this] { lauf.stand.folge.inGebrauch()->beiEingabe->klicke(); });
     EXPECT_EQ(inGebrauch(), "frmBetrDiagnoseErstellen");
     EXPECT_EQ(seite.gruppeAktuell, 1);
+}
+
+/// A number that is no group shows the questions that every group but those of its own kind has, and no list.
+TEST_F(FrmBetrDiagnose, EineNummerDieKeineGruppeIstZeigtDieFragenOhneListe)
+{
+    for (const std::int16_t nummer : {std::int16_t{-1}, std::int16_t{0}, std::int16_t{30}, std::int16_t{32767}}) {
+        frmBetrDiagnoseErstellen dialog(seite);
+        dialog.gruppeAktuell = nummer;
+        tue([&] { lauf.stand.folge.zeige(dialog); });
+        EXPECT_EQ(dialog.lblAntwort.text(), "") << nummer;
+        for (int frage = 1; frage <= 7; ++frage) {
+            const bool gezeigt = frage != 1 && frage != 6;
+            EXPECT_EQ(dialog.lblFrage(frage).istSichtbar(), gezeigt) << nummer << ' ' << frage;
+            EXPECT_EQ(dialog.comboAntwort(frage).istSichtbar(), gezeigt) << nummer << ' ' << frage;
+        }
+        EXPECT_TRUE(dialog.comboAntwort(4).liste().empty()) << nummer;
+        EXPECT_EQ(dialog.comboAntwort(2).text(), "k.A.") << nummer;
+        lauf.umgebung.antworten = {Antwort::OK};
+        tue([&] { dialog.cmdExit.klicke(); });
+        EXPECT_EQ(inGebrauch(), "frmBetrDiagnose");
+    }
 }
 
 TEST_F(FrmBetrDiagnose, DieHauptseiteKommtZurück)

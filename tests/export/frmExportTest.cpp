@@ -79,6 +79,33 @@ TEST_F(frmExportTest, WährendDesLaufsWederAbbruchNochEinZweiterLauf)
     EXPECT_FALSE(bildschirm.ProgressBar1.istSichtbar());
 }
 
+TEST_F(frmExportTest, JederKlientStehtMitSeinerNummerDa)
+{
+    std::vector<std::string> klienten;
+    std::vector<std::string> betreuungen;
+    for (int id = 1; id <= 450; ++id) {
+        klienten.push_back(klientensatz(id));
+        betreuungen.push_back(betreuungssatz(id, 1));
+    }
+    Testlauf::schreibeZeilen(lauf.pfade().kernDat, klienten);
+    Testlauf::schreibeZeilen(lauf.pfade().betrDat, betreuungen);
+    int gleich = 0;
+    int boxen = 0;
+    lauf.umgebung.beiMeldung = [&](const Meldung& meldung) {
+        if (meldung.text.starts_with("Fehler im Export: zu ")) {
+            ++boxen;
+            const auto nummer = std::to_string(boxen + (boxen >= 2 ? 1 : 0)); // only client 2 has a diagnosis record
+            gleich += bildschirm.lblMeldung.text() == "Klient " + nummer + " / 450" &&
+                              std::to_string(bildschirm.ProgressBar1.wert()) == nummer
+                          ? 1
+                          : 0;
+        }
+    };
+    exportiere();
+    EXPECT_EQ(boxen, 449);
+    EXPECT_EQ(gleich, 449);
+}
+
 TEST_F(frmExportTest, NachDemLaufGehtExitWieder)
 {
     exportiere();

@@ -14,7 +14,10 @@ public:
     Antwort zeigeMeldung(const Meldung& /*meldung*/) override { return Antwort::OK; }
     std::optional<std::filesystem::path> wähleDatei(const Dateiwahl& /*wahl*/) override { return std::nullopt; }
     bool findeTabellenprogramm() override { return false; }
-    void übergibMappe(Arbeitsmappe& /*mappe*/) override {}
+    bool übergibMappe(Arbeitsmappe& /*mappe*/, const std::function<void(double)>& /*fortschritt*/) override
+    {
+        return false;
+    }
     Größe bildschirmgröße() override { return {20490, 11520}; }
     void zeichne() override {}
     void lasseEreignisseZu() override {}

@@ -55,12 +55,21 @@ private:
 /// of all boxes. A box with a choice but without a queued answer fails the test.
 class Testumgebung : public Umgebung {
 public:
-    explicit Testumgebung(std::unique_ptr<Dateizugriff> zugriff = erzeugeDateizugriff()) : m_dateien(std::move(zugriff))
-    {}
+    /// With a program folder of one's own, or a fresh one that goes with the object.
+    explicit Testumgebung(std::unique_ptr<Dateizugriff> zugriff = erzeugeDateizugriff(),
+                          std::filesystem::path programmordner = {})
+        : m_dateien(std::move(zugriff)), m_programmordner(std::move(programmordner))
+    {
+        if (m_programmordner.empty()) {
+            m_ordner.emplace();
+            m_programmordner = m_ordner->pfad();
+        }
+    }
 
     Datum datum{2007, 8, 2};
     bool ersteInstanz = true;
     bool tabellenprogramm = true;
+    bool tabellenprogrammStartet = true;
     std::deque<Antwort> antworten;
     std::vector<Meldung> meldungen;
     std::deque<std::optional<std::filesystem::path>> dateiwahlen;
@@ -79,7 +88,7 @@ public:
     }
 
     Datum heute() override { return datum; }
-    std::filesystem::path programmordner() override { return m_ordner.pfad(); }
+    std::filesystem::path programmordner() override { return m_programmordner; }
     bool istErsteInstanz(const std::filesystem::path& /*datenordner*/) override { return ersteInstanz; }
     Dateien& dateien() override { return m_dateien; }
     Antwort zeigeMeldung(const Meldung& meldung) override
@@ -95,11 +104,13 @@ public:
         return nächste(dateiwahlen, "file dialogue");
     }
     bool findeTabellenprogramm() override { return tabellenprogramm; }
-    void übergibMappe(Arbeitsmappe& mappe) override
+    bool übergibMappe(Arbeitsmappe& mappe, const std::function<void(double)>& fortschritt) override
     {
+        fortschritt(0.5);
         if (beiMappe) {
             beiMappe(mappe);
         }
+        return tabellenprogrammStartet;
     }
     Größe bildschirmgröße() override { return {28800, 16200}; }
     void zeichne() override {}
@@ -116,8 +127,9 @@ private:
         return erstes;
     }
 
-    Testordner m_ordner;
+    std::optional<Testordner> m_ordner;
     Dateien m_dateien;
+    std::filesystem::path m_programmordner;
 };
 
 /// A program run for a test: the state with its paths below the test's folder, without screens. `legeTabellenAn`

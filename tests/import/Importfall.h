@@ -44,7 +44,7 @@ protected:
         try {
             return importlauf.führeAus();
         } catch (...) {
-            importlauf.verwirf();
+            Importlauf::entferneReste();
             throw;
         }
     }

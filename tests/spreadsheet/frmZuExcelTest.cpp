@@ -2,6 +2,8 @@
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "spreadsheet/Mappenlauf.h"
 
+#include <algorithm>
+
 namespace {
 
 /// Keeps the places of windows in memory.
@@ -62,8 +64,13 @@ protected:
 TEST_F(FrmZuExcel, einLaufFülltDenBalkenUndZeigtFertig)
 {
     std::vector<std::pair<int, std::string>> schritte;
-    auto beobachtung = zuExcel.ProgressBar1.geändert.abonniere(
-        [&] { schritte.emplace_back(zuExcel.ProgressBar1.wert(), zuExcel.lblStatus.text()); });
+    auto beobachtung = zuExcel.ProgressBar1.geändert.abonniere([&] {
+        if (schritte.empty() || schritte.back().first != zuExcel.ProgressBar1.wert()) {
+            schritte.emplace_back(zuExcel.ProgressBar1.wert(), zuExcel.lblStatus.text());
+        }
+    });
+    zuExcel.ProgressBar1.setzeWert(-1); // so that the first step is a change as well
+    schritte.clear();
     öffne();
     EXPECT_EQ(zuExcel.ProgressBar1.wert(), 7);
     EXPECT_EQ(zuExcel.lblStatus.text(), "Fertig");
@@ -76,6 +83,54 @@ TEST_F(FrmZuExcel, einLaufFülltDenBalkenUndZeigtFertig)
                                                             {4, "suche Hauptdiagnose-Daten"}, {5, "suche Kern-Daten"},
                                                             {6, "suche Betreuungsdaten"},     {7, "Fertig"}};
     EXPECT_EQ(schritte, erwartet);
+}
+
+/// What is drawn follows the time that the work takes, not the number of its steps: it never goes back, moves
+/// during the longest step, and is full only at the end.
+TEST_F(FrmZuExcel, derBalkenSagtDieWahrheit)
+{
+    Testlauf::schreibeZeilen(lauf.pfade().diagDat, std::vector<std::string>(300, "1\xB7"
+                                                                                 "1"));
+    std::vector<double> anteile;
+    auto beobachtung =
+        zuExcel.ProgressBar1.geändert.abonniere([&] { anteile.push_back(zuExcel.ProgressBar1.anteil()); });
+    double beiÜbergabe = -1;
+    lauf.umgebung.beiMappe = [&](Arbeitsmappe&) { beiÜbergabe = zuExcel.ProgressBar1.anteil(); };
+    öffne();
+    EXPECT_TRUE(std::ranges::is_sorted(anteile));
+    EXPECT_GT(anteile.size(), 300U);
+    EXPECT_LT(beiÜbergabe, 0.9);
+    EXPECT_GT(beiÜbergabe, 0.4);
+    EXPECT_EQ(zuExcel.ProgressBar1.anteil(), 1.0);
+}
+
+TEST_F(FrmZuExcel, dieNummerDesSatzesStehtBeiJedemDa)
+{
+    Testlauf::schreibeZeilen(lauf.pfade().diagDat, std::vector<std::string>(450, "1\xB7"
+                                                                                 "1"));
+    int texte = 0;
+    std::string letzter;
+    auto beobachtung = zuExcel.lblStatus.geändert.abonniere([&] {
+        if (zuExcel.lblStatus.text().starts_with("schreibe DS #")) {
+            ++texte;
+            letzter = zuExcel.lblStatus.text();
+        }
+    });
+    öffne();
+    EXPECT_EQ(texte, 450);
+    EXPECT_EQ(letzter, "schreibe DS #450");
+}
+
+TEST_F(FrmZuExcel, einProgrammDasNichtStartetIstWieKeines)
+{
+    lauf.umgebung.tabellenprogrammStartet = false;
+    öffne();
+    ASSERT_EQ(lauf.umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(lauf.umgebung.meldungen[0].text,
+              "Tolvek7 v7.0.0 konnte Excel nicht finden.\r\nNichts wurde ver\xE4ndert");
+    EXPECT_EQ(lauf.umgebung.meldungen[0].symbol, Symbol::Stop);
+    EXPECT_TRUE(lauf.stand.folge.istSichtbar(hauptmenü));
+    EXPECT_FALSE(lauf.stand.folge.istGeladen(zuExcel));
 }
 
 TEST_F(FrmZuExcel, einZweitesAktivwerdenBeginntNichtVonVorn)

@@ -43,7 +43,7 @@ protected:
     void erwarteJahr(const std::string& vorher, const std::string& nachher)
     {
         schreibe({klient("1", "", "01.01." + vorher)}, {});
-        bereinigeDatum();
+        bereinigeDatum(lauf.stand.bestand);
         erwarteKlienten({klient("1", "", "01.01." + nachher)});
     }
 
@@ -68,7 +68,7 @@ TEST_F(ReparaturenTest, JahrhundertgrenzeIstNeun)
 TEST_F(ReparaturenTest, DatumOhnePunktMeldetFehler)
 {
     schreibe({klient("1", "", ""), klient("2", "", "70"), klient("3", "", "unbekannt")}, {});
-    bereinigeDatum();
+    bereinigeDatum(lauf.stand.bestand);
     erwarteKlienten({klient("1", "", "20"), klient("2", "", "1970"), klient("3", "", "unbekannt")});
     EXPECT_EQ(lauf.umgebung.meldungstexte(), (Sätze{"Fehler", "Fehler"}));
     EXPECT_EQ(lauf.umgebung.meldungen[0].symbol, Symbol::Keins);
@@ -78,7 +78,7 @@ TEST_F(ReparaturenTest, BeginnUndEndeDerBetreuungen)
 {
     schreibe({klient("1", "")}, {betreuung("1", "01.01.1998", "31.01.1998"), betreuung("1", "01.01.99", "31.01.99"),
                                  betreuung("1", "01.03.07", "offen"), betreuung("1", "01.01.2005", "31.01.06")});
-    bereinigeDatum();
+    bereinigeDatum(lauf.stand.bestand);
     erwarteBetreuungen({betreuung("1", "01.01.1998", "31.01.1998"), betreuung("1", "01.01.1999", "31.01.1999"),
                         betreuung("1", "01.03.2007", "offen"), betreuung("1", "01.01.2005", "31.01.2006")});
     erwarteKlienten({klient("1", "")});
@@ -89,7 +89,7 @@ TEST_F(ReparaturenTest, OhneBedarfWirdKeineTabelleAngefaßt)
     schreibe({klient("1", "", "15.03.1970")}, {betreuung("1", "01.01.2005", "offen")});
     const auto kern = std::filesystem::last_write_time(lauf.pfade().kernDat);
     const auto betr = std::filesystem::last_write_time(lauf.pfade().betrDat);
-    bereinigeDatum();
+    bereinigeDatum(lauf.stand.bestand);
     EXPECT_EQ(std::filesystem::last_write_time(lauf.pfade().kernDat), kern);
     EXPECT_EQ(std::filesystem::last_write_time(lauf.pfade().betrDat), betr);
 }
@@ -97,23 +97,24 @@ TEST_F(ReparaturenTest, OhneBedarfWirdKeineTabelleAngefaßt)
 TEST_F(ReparaturenTest, LeererBestandOderLeereErsteZeileWirdNichtRepariert)
 {
     schreibe({}, {betreuung("1", "01.01.05", "31.01.05")});
-    bereinigeDatum();
+    bereinigeDatum(lauf.stand.bestand);
     erwarteBetreuungen({betreuung("1", "01.01.05", "31.01.05")});
     schreibe({"", klient("1", "", "01.01.70")}, {});
-    bereinigeDatum();
+    bereinigeDatum(lauf.stand.bestand);
     erwarteKlienten({"", klient("1", "", "01.01.70")});
 }
 
-TEST_F(ReparaturenTest, FeldzahlenWerdenGemerkt)
+TEST_F(ReparaturenTest, FeldzahlenWerdenGemeldet)
 {
     schreibe({klient("1", "")}, {});
-    bereinigeDatum();
-    EXPECT_EQ(lauf.stand.gefundeneKernFelder, 11);
-    EXPECT_EQ(lauf.stand.gefundeneBetrFelder, 11) << "the client line stands in for the missing care line";
+    auto gefunden = bereinigeDatum(lauf.stand.bestand);
+    ASSERT_TRUE(gefunden);
+    EXPECT_EQ(gefunden->kern, 11);
+    EXPECT_EQ(gefunden->betr, 11) << "the client line stands in for the missing care line";
     schreibe({klient("1", "")}, {betreuung("1", "01.01.2005", "offen")});
-    bereinigeDatum();
-    EXPECT_EQ(lauf.stand.gefundeneBetrFelder, 5);
-    EXPECT_EQ(lauf.stand.anzahlBetrFelder, 192) << "what the program counts by stays";
+    gefunden = bereinigeDatum(lauf.stand.bestand);
+    ASSERT_TRUE(gefunden);
+    EXPECT_EQ(gefunden->betr, 5);
 }
 
 TEST_F(ReparaturenTest, ZeileOhneDasFeldNenntDateiUndZeileUndLäßtDieTabelle)
@@ -121,7 +122,7 @@ TEST_F(ReparaturenTest, ZeileOhneDasFeldNenntDateiUndZeileUndLäßtDieTabelle)
     const Sätze zeilen{klient("1", "", "01.01.70"), satz({"", "2", ""})};
     schreibe(zeilen, {});
     try {
-        bereinigeDatum();
+        bereinigeDatum(lauf.stand.bestand);
         FAIL() << "no failure";
     } catch (const Laufzeitfehler& fehler) {
         EXPECT_NE(fehler.text().find("kernDat.txt"), std::string::npos) << fehler.text();
@@ -134,9 +135,9 @@ TEST_F(ReparaturenTest, FehlendeTabelleIstEinLaufzeitfehler)
 {
     schreibe({klient("1", "")}, {});
     std::filesystem::remove(lauf.pfade().betrDat);
-    EXPECT_THROW(bereinigeDatum(), Laufzeitfehler);
+    EXPECT_THROW(bereinigeDatum(lauf.stand.bestand), Laufzeitfehler);
     std::filesystem::remove(lauf.pfade().kernDat);
-    EXPECT_THROW(bereinigeDatum(), Laufzeitfehler);
+    EXPECT_THROW(bereinigeDatum(lauf.stand.bestand), Laufzeitfehler);
 }
 
 TEST_F(ReparaturenTest, StatusAusDenBetreuungen)
@@ -144,14 +145,14 @@ TEST_F(ReparaturenTest, StatusAusDenBetreuungen)
     schreibe({klient("1", ""), klient("2", "x"), klient("3", ""), klient("4", "o")},
              {betreuung("1", "", "31.01.2005"), betreuung("2", "", "offen"), betreuung("3", "", "31.01.2005"),
               betreuung("1", "", "offen"), betreuung("2", "", "31.01.2005"), betreuung("99", "", "offen")});
-    bereinigeBetrOA();
+    bereinigeBetrOA(lauf.stand.bestand);
     erwarteKlienten({klient("1", "o"), klient("2", "o"), klient("3", "a"), klient("4", leerstatus)});
 }
 
 TEST_F(ReparaturenTest, StatusLeerenBestandsBleibtLeer)
 {
     schreibe({}, {});
-    bereinigeBetrOA();
+    bereinigeBetrOA(lauf.stand.bestand);
     erwarteKlienten({});
 }
 
@@ -162,7 +163,7 @@ TEST_F(ReparaturenTest, BeschädigteZeilenBleibenStehen)
         {klient("1", ""), klient("x", "a"), "", "kurz", satz({"", "1"}), zuLang, klient("99999", ""), klient("2", "")},
         {"", betreuung("y", "", "offen"), betreuung("99999999999", "", "offen"), std::string(40000, 'z'),
          betreuung("2", "", "offen"), betreuung("99999", "", "offen")});
-    bereinigeBetrOA();
+    bereinigeBetrOA(lauf.stand.bestand);
     erwarteKlienten({klient("1", leerstatus), klient("x", "a"), "", "kurz", satz({"", "1"}), zuLang,
                      klient("99999", "o"), klient("2", "o")});
     EXPECT_TRUE(lauf.umgebung.meldungen.empty());
@@ -172,10 +173,10 @@ TEST_F(ReparaturenTest, FehlendeDateiLäßtAllesStehen)
 {
     schreibe({klient("1", "o")}, {});
     std::filesystem::remove(lauf.pfade().betrDat);
-    bereinigeBetrOA();
+    bereinigeBetrOA(lauf.stand.bestand);
     erwarteKlienten({klient("1", "o")});
     std::filesystem::remove(lauf.pfade().kernDat);
-    bereinigeBetrOA();
+    bereinigeBetrOA(lauf.stand.bestand);
     EXPECT_FALSE(std::filesystem::exists(lauf.pfade().kernDat));
 }
 

@@ -1,8 +1,10 @@
-#include "store/Tabellen.h"
+#include "store/Vorgang.h"
+
 #include "hilfen/Testumgebung.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/Satzaufbau.h"
 #include "satz/moHelferlein.h"
+#include "store/Sicherungen.h"
 
 #include <random>
 
@@ -39,6 +41,55 @@ protected:
         EXPECT_EQ(lauf.umgebung.meldungen[0].symbol, symbol);
         EXPECT_EQ(lauf.umgebung.meldungen[0].knöpfe, Knöpfe::OK);
         EXPECT_EQ(lauf.umgebung.meldungen[0].titel, "Tolvek7 v7.0.0");
+    }
+
+    const Bestand& bestand() const { return lauf.stand.bestand; }
+
+    std::string getKernDS(int kernID) const { return bestand().getKernDS(kernID); }
+    std::string getBetrDS(int kernID, int betrID) const { return bestand().getBetrDS(kernID, betrID); }
+    std::string getDiagDS(int kernID, int betrID) const { return bestand().getDiagDS(kernID, betrID); }
+    std::int32_t höchsteKernID() const { return bestand().höchsteKernID(); }
+    std::int32_t höchsteBetrID(int kernID) const { return bestand().höchsteBetrID(kernID); }
+    std::string betrStatusVon(std::string_view kernID) const { return bestand().betrStatusVon(kernID); }
+
+    /// An action of one operation.
+    template <class F> void tue(F operation) const
+    {
+        Vorgang vorgang(bestand());
+        operation(vorgang);
+        vorgang.bestätige();
+    }
+    void anfügeKernDS(std::string_view satz) const
+    {
+        tue([&](Vorgang& vorgang) { vorgang.anfügeKernDS(satz); });
+    }
+    void anfügeDiagDS(std::string_view satz) const
+    {
+        tue([&](Vorgang& vorgang) { vorgang.anfügeDiagDS(satz); });
+    }
+    void ersetzeKernDS(int kernID, std::string_view satz) const
+    {
+        tue([&](Vorgang& vorgang) { vorgang.ersetzeKernDS(kernID, satz); });
+    }
+    void ersetzeBetrDS(int kernID, int betrID, std::string_view satz) const
+    {
+        tue([&](Vorgang& vorgang) { vorgang.ersetzeBetrDS(kernID, betrID, satz); });
+    }
+    void ersetzeDiagDS(int kernID, int betrID, std::string_view satz) const
+    {
+        tue([&](Vorgang& vorgang) { vorgang.ersetzeDiagDS(kernID, betrID, satz); });
+    }
+    void löscheKernDS(int kernID) const
+    {
+        tue([&](Vorgang& vorgang) { vorgang.löscheKernDS(kernID); });
+    }
+    void löscheBetrDS(int kernID, int betrID) const
+    {
+        tue([&](Vorgang& vorgang) { vorgang.löscheBetrDS(kernID, betrID); });
+    }
+    void löscheDiagDS(int kernID, int betrID) const
+    {
+        tue([&](Vorgang& vorgang) { vorgang.löscheDiagDS(kernID, betrID); });
     }
 
     Testlauf lauf;
@@ -95,7 +146,7 @@ TEST_F(TabellenTest, BeschädigterSchlüsselNenntDateiZeileFeldUndGrund)
 {
     klienten({klient("1"), klient("x"), klient("3")});
     EXPECT_EQ(getKernDS(1), klient("1"));
-    const auto text = fehlertext([] { getKernDS(3); });
+    const auto text = fehlertext([&] { getKernDS(3); });
     EXPECT_NE(text.find("kernDat.txt"), std::string::npos) << text;
     EXPECT_NE(text.find("Zeile 2"), std::string::npos) << text;
     EXPECT_NE(text.find("Feld 2"), std::string::npos) << text;
@@ -130,7 +181,7 @@ TEST_F(TabellenTest, ZuLangeZeileNenntDateiUndZeile)
 {
     klienten({klient("1"), klient("2", std::string(32768, 'x'))});
     EXPECT_EQ(getKernDS(1), klient("1"));
-    const auto text = fehlertext([] { getKernDS(2); });
+    const auto text = fehlertext([&] { getKernDS(2); });
     EXPECT_NE(text.find("kernDat.txt"), std::string::npos) << text;
     EXPECT_NE(text.find("Zeile 2"), std::string::npos) << text;
 }
@@ -260,7 +311,7 @@ TEST_F(TabellenTest, FehlendeTabelleIstEinLaufzeitfehler)
     EXPECT_THROW(getDiagDS(1, 1), Laufzeitfehler);
     EXPECT_THROW(anfügeDiagDS("1"), Laufzeitfehler);
     EXPECT_THROW(ersetzeDiagDS(1, 1, "1"), Laufzeitfehler);
-    EXPECT_THROW(sichereDateien(), Laufzeitfehler);
+    EXPECT_THROW(sichereDateien(bestand()), Laufzeitfehler);
     EXPECT_FALSE(std::filesystem::exists(lauf.pfade().diagDat));
     EXPECT_FALSE(std::filesystem::exists(lauf.pfade().dummyDatei)) << "the work file is not touched";
 }
@@ -268,7 +319,7 @@ TEST_F(TabellenTest, FehlendeTabelleIstEinLaufzeitfehler)
 TEST_F(TabellenTest, FehlendeTabelleNenntDieArbeitsdatei)
 {
     std::filesystem::rename(lauf.pfade().kernDat, lauf.pfade().dummyDatei);
-    const auto text = fehlertext([] { löscheKernDS(1); });
+    const auto text = fehlertext([&] { löscheKernDS(1); });
     EXPECT_NE(text.find("dummyFile.txt"), std::string::npos) << text;
     EXPECT_TRUE(std::filesystem::exists(lauf.pfade().dummyDatei)) << "what may be the only copy stays";
 }
@@ -277,9 +328,7 @@ TEST_F(TabellenTest, SicherungUndVerwerfen)
 {
     klienten({klient("1")});
     betreuungen({satz({"1", "1"})});
-    lauf.stand.aktKernID = 5;
-    sichereDateien();
-    EXPECT_EQ(lauf.stand.aktKernID, 0);
+    sichereDateien(bestand());
     EXPECT_EQ(inhalt(lauf.pfade().kernBak), klient("1") + "\r\n");
     EXPECT_EQ(inhalt(lauf.pfade().betrBak), satz({"1", "1"}) + "\r\n");
     EXPECT_EQ(inhalt(lauf.pfade().diagBak), "");
@@ -288,7 +337,7 @@ TEST_F(TabellenTest, SicherungUndVerwerfen)
     löscheBetrDS(1, 1);
     anfügeDiagDS("1");
     for (int mal = 0; mal < 2; ++mal) {
-        verwerfeSitzung();
+        verwerfeSitzung(bestand());
         EXPECT_EQ(kern(), klient("1") + "\r\n");
         EXPECT_EQ(betr(), satz({"1", "1"}) + "\r\n");
         EXPECT_EQ(inhalt(lauf.pfade().diagDat), "");
@@ -300,9 +349,9 @@ TEST_F(TabellenTest, SicherungOhneBakDateiEndet)
 {
     klienten({klient("1")});
     std::filesystem::remove(lauf.pfade().betrBak);
-    const auto text = fehlertext([] { sichereDateien(); });
+    const auto text = fehlertext([&] { sichereDateien(bestand()); });
     EXPECT_NE(text.find("betrDat.bak"), std::string::npos) << text;
-    EXPECT_EQ(inhalt(lauf.pfade().kernBak), klient("1") + "\r\n") << "one table after the other";
+    EXPECT_EQ(inhalt(lauf.pfade().kernBak), "") << "all three or none";
     EXPECT_FALSE(std::filesystem::exists(lauf.pfade().betrBak));
 }
 
@@ -310,7 +359,7 @@ TEST_F(TabellenTest, VerwerfenOhneBakDateiLäßtDieTabelle)
 {
     betreuungen({satz({"1", "1"})});
     std::filesystem::remove(lauf.pfade().betrBak);
-    EXPECT_THROW(verwerfeSitzung(), Laufzeitfehler);
+    EXPECT_THROW(verwerfeSitzung(bestand()), Laufzeitfehler);
     EXPECT_EQ(betr(), satz({"1", "1"}) + "\r\n");
 }
 
@@ -318,7 +367,7 @@ TEST_F(TabellenTest, FürJedeZeileGehtInDerOrdnungDerDatei)
 {
     klienten({klient("3"), klient("1")});
     Sätze gesehen;
-    fürJedeZeile(lauf.pfade().kernDat, [&](std::string_view zeile, std::size_t nummer) {
+    bestand().fürJedeZeile(Tabelle::Kern, [&](std::string_view zeile, std::size_t nummer) {
         gesehen.push_back(std::to_string(nummer) + "=" + std::string(getFeld(zeile, 2)));
     });
     EXPECT_EQ(gesehen, (Sätze{"1=3", "2=1"}));
@@ -352,6 +401,43 @@ TEST_F(TabellenTest, GeschriebenesKommtUnverändertZurück)
         ASSERT_EQ(getKernDS(id), soll[stelle]);
     }
     EXPECT_EQ(kern(), Testlauf::alsInhalt(soll));
+    EXPECT_TRUE(lauf.umgebung.meldungen.empty());
+}
+
+// Reading inside an action sees what it has changed so far; nothing of it is on the disk before it is confirmed.
+TEST_F(TabellenTest, VorgangLiestSeinenEigenenStand)
+{
+    klienten({klient("1"), klient("2")});
+    betreuungen({satz({"1", "1", "01.01.2005", "31.12.2005"})});
+    {
+        Vorgang vorgang(bestand());
+        vorgang.anfügeBetrDS(satz({"1", "2", "01.01.2006", "offen"}));
+        EXPECT_EQ(vorgang.betrStatusVon("1"), "o");
+        EXPECT_EQ(vorgang.höchsteBetrID(1), 2);
+        vorgang.ersetzeKernDS(1, klient("1", "Neu"));
+        EXPECT_EQ(vorgang.getKernDS(1), klient("1", "Neu"));
+        vorgang.löscheKernDS(2);
+        EXPECT_EQ(vorgang.höchsteKernID(), 1);
+        EXPECT_EQ(bestand().höchsteKernID(), 2);
+    }
+    EXPECT_EQ(kern(), Testlauf::alsInhalt({klient("1"), klient("2")})) << "dropped without confirmation";
+    EXPECT_EQ(betr(), Testlauf::alsInhalt({satz({"1", "1", "01.01.2005", "31.12.2005"})}));
+}
+
+TEST_F(TabellenTest, AnfügenBehältJedesZeichenDerTabelle)
+{
+    Testlauf::schreibe(lauf.pfade().kernDat, klient("1") + "\n" + klient("x") + "\r\n");
+    anfügeKernDS(klient("2"));
+    EXPECT_EQ(kern(), klient("1") + "\n" + klient("x") + "\r\n" + klient("2") + "\r\n");
+}
+
+TEST_F(TabellenTest, AllesVonEinerPersonGehtOhneEinWort)
+{
+    betreuungen({satz({"1", "1"}), satz({"2", "1"}), satz({"1", "7"})});
+    Testlauf::schreibeZeilen(lauf.pfade().diagDat, {satz({"1", "3"}), satz({"2", "1"})});
+    tue([](Vorgang& vorgang) { vorgang.löscheAllesVon(1); });
+    EXPECT_EQ(betr(), satz({"2", "1"}) + "\r\n");
+    EXPECT_EQ(inhalt(lauf.pfade().diagDat), satz({"2", "1"}) + "\r\n");
     EXPECT_TRUE(lauf.umgebung.meldungen.empty());
 }
 

@@ -63,6 +63,8 @@ public:
     bool istKindfenster = false;
     /// Preferred width of a child window in em.
     double breiteEm = 30;
+    /// A child window that the surface centres on the frame, by the real sizes of both.
+    bool istMittig = false;
 
     /// Width and height of the screen in twips, as it was designed (the frame is fitted to it).
     double breite = 20000;

@@ -1,5 +1,6 @@
 #include "platform/calc/Mappenschreiber.h"
 
+#include "platform/calc/Nebenlauf.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Eingabe.h"
 #include "platform/text/Text.h"
@@ -12,6 +13,8 @@
 #include <cstdio>
 #include <string>
 #include <string_view>
+#include <system_error>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -108,7 +111,26 @@ struct Formate {
     lxw_format* fettesDatum;
 };
 
-constexpr int zeilenJePause = 300;
+constexpr int zeilenJePause = 50;
+/// The part of the time that the rows take; the rest goes into the packing.
+constexpr double anteilDerZeilen = 0.5;
+/// The part of the size of its rows to which a workbook is packed, measured on the records of a facility.
+constexpr double packmaß = 0.1;
+constexpr int pauseMs = 30;
+
+int zeilenAnzahl(const Blatt& blatt)
+{
+    return std::max(blatt.zeilenanzahl(), blatt.letzteKommentarzeile());
+}
+
+int zeilenAnzahl(const Arbeitsmappe& mappe)
+{
+    int anzahl = 0;
+    for (std::size_t nummer = 1; nummer <= mappe.blattanzahl(); ++nummer) {
+        anzahl += zeilenAnzahl(mappe.blatt(nummer));
+    }
+    return anzahl;
+}
 
 class Mappenschreiber {
 public:
@@ -134,19 +156,20 @@ public:
         }
     }
 
-    void schreibe(const Blatt& blatt, const Zwischendurch& zwischendurch)
+    /// Told of each row.
+    std::function<void()> nachZeile;
+
+    void schreibe(const Blatt& blatt)
     {
         lxw_worksheet* ziel = workbook_add_worksheet(m_mappe, m_utf8.von(blatt.name()));
         if (ziel == nullptr) {
             scheitere(m_pfad, "Fehler bei einer Zwischendatei"_t);
         }
         Breitenmaß breiten;
-        const int zeilen = std::max(blatt.zeilenanzahl(), blatt.letzteKommentarzeile());
+        const int zeilen = zeilenAnzahl(blatt);
         for (int zeile = 1; zeile <= zeilen; ++zeile) {
             schreibeZeile(blatt, ziel, zeile, breiten);
-            if (zwischendurch && zeile % zeilenJePause == 0) {
-                zwischendurch();
-            }
+            nachZeile();
         }
         if (blatt.sindBreitenAngepasst()) {
             breiten.setze(ziel);
@@ -155,16 +178,34 @@ public:
         if (ziel->optimize_tmpfile != nullptr && std::fflush(ziel->optimize_tmpfile) != 0) {
             scheitere(m_pfad, grundVon(LXW_ERROR_CREATING_TMPFILE));
         }
+        if (ziel->optimize_tmpfile != nullptr) {
+            m_zeilenmenge += static_cast<double>(std::ftell(ziel->optimize_tmpfile));
+        }
     }
 
-    void schließe()
+    /// Packs; `zwischendurch` hears the share of the packing that is done.
+    void schließe(const Zwischendurch& zwischendurch)
     {
-        lxw_workbook* mappe = m_mappe;
-        m_mappe = nullptr; // closing frees it, also on failure
-        prüfe(workbook_close(mappe));
+        lxw_workbook* mappe = std::exchange(m_mappe, nullptr); // closing frees it, also on failure
+        lxw_error fehler = LXW_NO_ERROR;
+        {
+            Nebenlauf packen([&] { fehler = workbook_close(mappe); });
+            while (!packen.endetIn(pauseMs)) {
+                zwischendurch(gepackterAnteil());
+            }
+        }
+        prüfe(fehler);
     }
 
 private:
+    /// The library doesn't tell how far it is, but the growing file does.
+    double gepackterAnteil() const
+    {
+        std::error_code fehler;
+        const auto größe = std::filesystem::file_size(m_pfad, fehler);
+        return fehler ? 0.0 : std::min(1.0, static_cast<double>(größe) / std::max(1.0, m_zeilenmenge * packmaß));
+    }
+
     static lxw_row_t stelle(int zeile) { return static_cast<lxw_row_t>(zeile - 1); }
     static lxw_col_t spaltenstelle(int spalte) { return static_cast<lxw_col_t>(spalte - 1); }
 
@@ -213,6 +254,7 @@ private:
     std::string m_ordner;
     lxw_workbook* m_mappe = nullptr;
     Formate m_formate{};
+    double m_zeilenmenge = 0;
     Utf8Text m_utf8;
 };
 
@@ -220,9 +262,17 @@ private:
 
 void schreibeXlsx(const Arbeitsmappe& mappe, const std::filesystem::path& pfad, const Zwischendurch& zwischendurch)
 {
+    const Zwischendurch melde = zwischendurch ? zwischendurch : [](double) {};
+    const int zeilen = zeilenAnzahl(mappe);
+    int geschrieben = 0;
     Mappenschreiber schreiber(pfad);
+    schreiber.nachZeile = [&] {
+        if (++geschrieben % zeilenJePause == 0) {
+            melde(anteilDerZeilen * geschrieben / zeilen);
+        }
+    };
     for (std::size_t nummer = 1; nummer <= mappe.blattanzahl(); ++nummer) {
-        schreiber.schreibe(mappe.blatt(nummer), zwischendurch);
+        schreiber.schreibe(mappe.blatt(nummer));
     }
-    schreiber.schließe();
+    schreiber.schließe([&](double anteil) { melde(anteilDerZeilen + (1 - anteilDerZeilen) * anteil); });
 }

@@ -20,8 +20,8 @@ public:
     ~Rechenprogramm() override;
 
     bool istDa() override;
-    /// Throws Laufzeitfehler when the file can't be written or the program can't be started.
-    void öffne(Arbeitsmappe& mappe, const Zwischendurch& zwischendurch = {}) override;
+    /// False when the program can't be started. Throws Laufzeitfehler when the file can't be written.
+    bool öffne(Arbeitsmappe& mappe, const Zwischendurch& zwischendurch = {}) override;
 
 private:
     std::vector<std::string> m_zusätze;

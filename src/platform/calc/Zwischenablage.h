@@ -21,11 +21,11 @@ public:
     const std::filesystem::path& datei() const { return m_datei; }
 
     /// Starts the program, independent of this process, with the arguments and the file as the last one, and
-    /// leaves it to a guard process to remove folder and file as soon as the program has read the file. Throws
-    /// Laufzeitfehler when the program can't be started.
-    void übergib(const std::filesystem::path& programm, const std::vector<std::string>& argumente);
-    /// The same, but the file stays, write-protected, until the next start.
-    void überlasse(const std::filesystem::path& programm, const std::vector<std::string>& argumente);
+    /// leaves it to a guard process to remove folder and file as soon as the program has read the file. False when
+    /// the program can't be started; the file still is this object's then.
+    bool übergib(const std::filesystem::path& programm, const std::vector<std::string>& argumente);
+    /// The same without arguments, but the file stays, write-protected, until the next start.
+    bool überlasse(const std::filesystem::path& programm);
 
     /// Removes the folders of earlier runs that nobody needs any more.
     static void räumeAuf();
@@ -41,5 +41,5 @@ private:
 
 /// The program in the search path, or nothing.
 std::optional<std::filesystem::path> findeProgramm(const std::string& name);
-/// Whether the desktop has a program for .xlsx files.
-bool kenntProgrammFürXlsx();
+/// What opens a file with the program that the desktop has registered for .xlsx files; nothing where none is.
+std::optional<std::filesystem::path> findeProgrammFürXlsx();

@@ -116,8 +116,8 @@ void löseVonEinUndAusgabe()
 }
 
 /// Starts the program as a grandchild, which nobody has to wait for; with `wache` its parent becomes the guard.
-/// Returns 0 or the error of the start.
-int starte(const fs::path& programm, const std::vector<std::string>& argumente, const Wache* wache)
+/// False when it can't be started.
+bool starte(const fs::path& programm, const std::vector<std::string>& argumente, const Wache* wache)
 {
     std::vector<char*> zeiger{const_cast<char*>(programm.c_str())};
     for (const std::string& argument : argumente) {
@@ -126,7 +126,7 @@ int starte(const fs::path& programm, const std::vector<std::string>& argumente, 
     zeiger.push_back(nullptr);
     std::array<int, 2> rohr{};
     if (pipe2(rohr.data(), O_CLOEXEC) != 0) {
-        return errno;
+        return false;
     }
     const pid_t kind = fork();
     if (kind == 0) {
@@ -154,16 +154,7 @@ int starte(const fs::path& programm, const std::vector<std::string>& argumente, 
         (void)!read(rohr[0], &fehler, sizeof fehler);
     }
     close(rohr[0]);
-    return fehler;
-}
-
-void verlangeStart(const fs::path& programm, std::vector<std::string> argumente, const fs::path& datei,
-                   const Wache* wache)
-{
-    argumente.push_back(datei.string());
-    if (const int fehler = starte(programm, argumente, wache); fehler != 0) {
-        scheitere("Das Tabellenprogramm kann nicht gestartet werden"_t, programm, fehler);
-    }
+    return fehler == 0;
 }
 
 /// Opens and locks the folder; -1 when another one holds it or it is no folder of this user.
@@ -217,21 +208,23 @@ void Zwischenablage::entferne()
     fs::remove_all(m_ordner, egal);
 }
 
-void Zwischenablage::übergib(const fs::path& programm, const std::vector<std::string>& argumente)
+bool Zwischenablage::übergib(const fs::path& programm, const std::vector<std::string>& argumente)
 {
     const int melder = inotify_init1(IN_CLOEXEC);
     inotify_add_watch(melder, m_datei.c_str(), IN_OPEN | IN_CLOSE);
     const Wache wache{m_datei.c_str(), m_ordner.c_str(), m_schloss, melder};
-    verlangeStart(programm, argumente, m_datei, &wache);
+    std::vector<std::string> ganze = argumente;
+    ganze.push_back(m_datei.string());
+    m_meine = !starte(programm, ganze, &wache);
     close(melder);
-    m_meine = false;
+    return !m_meine;
 }
 
-void Zwischenablage::überlasse(const fs::path& programm, const std::vector<std::string>& argumente)
+bool Zwischenablage::überlasse(const fs::path& programm)
 {
     fs::permissions(m_datei, fs::perms::owner_read);
-    verlangeStart(programm, argumente, m_datei, nullptr);
-    m_meine = false;
+    m_meine = !starte(programm, {m_datei.string()}, nullptr);
+    return !m_meine;
 }
 
 void Zwischenablage::räumeAuf()
@@ -264,6 +257,9 @@ std::optional<fs::path> findeProgramm(const std::string& name)
     return std::nullopt;
 }
 
+namespace {
+
+/// Whether the desktop has a program for .xlsx files.
 bool kenntProgrammFürXlsx()
 {
     const auto frage = findeProgramm("xdg-mime");
@@ -285,4 +281,12 @@ bool kenntProgrammFürXlsx()
         waitpid(kind, nullptr, 0);
     }
     return antwortet;
+}
+
+} // namespace
+
+std::optional<fs::path> findeProgrammFürXlsx()
+{
+    const auto öffner = findeProgramm("xdg-open");
+    return öffner && kenntProgrammFürXlsx() ? öffner : std::nullopt;
 }

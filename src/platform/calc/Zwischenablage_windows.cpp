@@ -34,7 +34,7 @@ std::wstring inAnführung(const std::wstring& text)
     return L"\"" + text + L"\"";
 }
 
-void starte(const fs::path& programm, const std::vector<std::string>& argumente, const fs::path& datei)
+bool starte(const fs::path& programm, const std::vector<std::string>& argumente, const fs::path& datei)
 {
     std::wstring zeile = inAnführung(programm.wstring());
     for (const std::string& argument : argumente) {
@@ -46,10 +46,11 @@ void starte(const fs::path& programm, const std::vector<std::string>& argumente,
     PROCESS_INFORMATION prozess{};
     if (CreateProcessW(programm.c_str(), zeile.data(), nullptr, nullptr, FALSE, DETACHED_PROCESS, nullptr, nullptr,
                        &anfang, &prozess) == 0) {
-        scheitere("Das Tabellenprogramm kann nicht gestartet werden"_t, programm);
+        return false;
     }
     CloseHandle(prozess.hThread);
     CloseHandle(prozess.hProcess);
+    return true;
 }
 
 } // namespace
@@ -76,21 +77,22 @@ void Zwischenablage::entferne()
     fs::remove_all(m_ordner, egal);
 }
 
-void Zwischenablage::übergib(const fs::path& programm, const std::vector<std::string>& argumente)
+bool Zwischenablage::übergib(const fs::path& programm, const std::vector<std::string>& argumente)
 {
-    starte(programm, argumente, m_datei);
-    m_meine = false;
+    m_meine = !starte(programm, argumente, m_datei);
+    return !m_meine;
 }
 
-void Zwischenablage::überlasse(const fs::path& /*programm*/, const std::vector<std::string>& /*argumente*/)
+bool Zwischenablage::überlasse(const fs::path& /*programm*/)
 {
     SetFileAttributesW(m_datei.c_str(), FILE_ATTRIBUTE_READONLY);
     constexpr INT_PTR letzterFehler = 32;
     const auto ergebnis = ShellExecuteW(nullptr, L"open", m_datei.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
-    if (reinterpret_cast<INT_PTR>(ergebnis) <= letzterFehler) {
-        scheitere("Das Tabellenprogramm kann nicht gestartet werden"_t, m_datei);
+    m_meine = reinterpret_cast<INT_PTR>(ergebnis) <= letzterFehler;
+    if (m_meine) {
+        SetFileAttributesW(m_datei.c_str(), FILE_ATTRIBUTE_NORMAL); // so that it can be removed
     }
-    m_meine = false;
+    return !m_meine;
 }
 
 void Zwischenablage::räumeAuf()
@@ -118,9 +120,14 @@ std::optional<fs::path> findeProgramm(const std::string& name)
     return fs::path(pfad.data());
 }
 
-bool kenntProgrammFürXlsx()
+/// Any program counts that is registered; the system's question which one to take is none.
+std::optional<fs::path> findeProgrammFürXlsx()
 {
     std::array<wchar_t, MAX_PATH> programm{};
     DWORD länge = MAX_PATH;
-    return AssocQueryStringW(ASSOCF_NONE, ASSOCSTR_EXECUTABLE, L".xlsx", nullptr, programm.data(), &länge) == S_OK;
+    if (AssocQueryStringW(ASSOCF_INIT_IGNOREUNKNOWN, ASSOCSTR_EXECUTABLE, L".xlsx", L"open", programm.data(), &länge) !=
+        S_OK) {
+        return std::nullopt;
+    }
+    return fs::path(programm.data());
 }

@@ -132,10 +132,23 @@ void Fortschrittsbalken::setzeBereich(int kleinstes, int größtes)
     meldeÄnderung();
 }
 
-void Fortschrittsbalken::setzeWert(int wert)
+void Fortschrittsbalken::setzeWert(int wert, std::optional<double> anteil)
 {
     m_wert = wert;
+    m_anteil = anteil;
     meldeÄnderung();
+}
+
+void Fortschrittsbalken::setzeAnteil(double anteil)
+{
+    m_anteil = anteil;
+    meldeÄnderung();
+}
+
+double Fortschrittsbalken::anteil() const
+{
+    const int spanne = std::max(1, m_größtes - m_kleinstes);
+    return std::clamp(m_anteil.value_or(static_cast<double>(m_wert - m_kleinstes) / spanne), 0.0, 1.0);
 }
 
 std::string Fortschrittsbalken::text() const

@@ -7,6 +7,7 @@
 #include "platform/text/Text.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -229,7 +230,12 @@ public:
     int größtes() const { return m_größtes; }
     int wert() const { return m_wert; }
     void setzeBereich(int kleinstes, int größtes);
-    void setzeWert(int wert);
+    /// A new value; what is drawn follows it, or the share of the work that is done (0 to 1) where that is told,
+    /// because the steps that the value counts take very different times.
+    void setzeWert(int wert, std::optional<double> anteil = std::nullopt);
+    /// The share goes on within the step; the value stays.
+    void setzeAnteil(double anteil);
+    double anteil() const;
     std::string text() const override;
     bool nimmtFokus() const override { return false; }
     void besuche(Elementbesucher& besucher) override;
@@ -238,6 +244,7 @@ private:
     int m_kleinstes = 0;
     int m_größtes = 100;
     int m_wert = 0;
+    std::optional<double> m_anteil;
 };
 
 class Bildlaufleiste : public Element {

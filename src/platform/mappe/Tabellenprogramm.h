@@ -4,8 +4,9 @@
 
 class Arbeitsmappe;
 
-/// Called now and then during work that takes seconds, so that the window can be painted.
-using Zwischendurch = std::function<void()>;
+/// Called now and then during work that takes seconds, with the share of it that is done (0 to 1), so that the
+/// window can be painted and tell the truth.
+using Zwischendurch = std::function<void(double anteil)>;
 
 /// A spreadsheet program of the desktop, as far as this program needs one.
 class Tabellenprogramm {
@@ -13,6 +14,6 @@ public:
     virtual ~Tabellenprogramm() = default;
     /// Whether one can be started.
     virtual bool istDa() = 0;
-    /// Opens the workbook there as a new, unsaved document.
-    virtual void öffne(Arbeitsmappe& mappe, const Zwischendurch& zwischendurch) = 0;
+    /// Opens the workbook there as a new, unsaved document; false when the program can't be started.
+    virtual bool öffne(Arbeitsmappe& mappe, const Zwischendurch& zwischendurch) = 0;
 };

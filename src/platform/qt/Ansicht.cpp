@@ -1,5 +1,6 @@
 #include "platform/qt/Ansicht.h"
 
+#include "platform/qt/Geduld.h"
 #include "platform/qt/Umschrift.h"
 
 #include <QAction>
@@ -41,6 +42,7 @@ void Ansicht::binde(Element& element, QWidget& widget, std::function<void()> zei
     widget.setObjectName(alsQString(element.name()));
     widget.setFocusPolicy(element.nimmtFokus() ? Qt::TabFocus : Qt::NoFocus);
     const auto alles = [&element, &widget, zeichne = std::move(zeichne)] {
+        geduld::prüfe();
         zeichneGemeinsames(element, widget);
         if (zeichne) {
             zeichne();

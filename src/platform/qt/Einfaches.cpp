@@ -8,6 +8,8 @@
 #include <QPainterPath>
 #include <QPixmap>
 #include <QSignalBlocker>
+#include <QStyleOptionProgressBar>
+#include <QStylePainter>
 
 #include <algorithm>
 
@@ -48,7 +50,21 @@ Fortschritt::Fortschritt(Fortschrittsbalken& element, Ansicht& ansicht, QWidget*
         // an empty range would make the bar wander
         setRange(element.kleinstes(), std::max(element.kleinstes() + 1, element.größtes()));
         setValue(std::clamp(element.wert(), minimum(), maximum()));
+        m_anteil = element.anteil();
+        update();
     });
+}
+
+/// The value of the bar counts the steps; what is drawn is the share of the work.
+void Fortschritt::paintEvent(QPaintEvent* /*ereignis*/)
+{
+    constexpr int fein = 1000;
+    QStyleOptionProgressBar bild;
+    initStyleOption(&bild);
+    bild.minimum = 0;
+    bild.maximum = fein;
+    bild.progress = static_cast<int>(m_anteil * fein);
+    QStylePainter(this).drawControl(QStyle::CE_ProgressBar, bild);
 }
 
 Laufleiste::Laufleiste(Bildlaufleiste& element, Ansicht& ansicht, QWidget* eltern) : QScrollBar(Qt::Vertical, eltern)

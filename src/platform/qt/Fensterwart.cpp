@@ -1,5 +1,6 @@
 #include "platform/qt/Fensterwart.h"
 
+#include "platform/qt/Geduld.h"
 #include "platform/qt/Mass.h"
 #include "platform/qt/Seitenbau.h"
 #include "platform/qt/Stil.h"
@@ -43,7 +44,8 @@ void rolleInSicht(QWidget& widget)
 
 Fensterwart::Fensterwart(Ablauf& ablauf, Bildschirmfolge& folge, Rahmen& rahmen, Umgebung& umgebung)
     : m_ablauf(ablauf), m_folge(folge), m_rahmen(rahmen), m_umgebung(umgebung), m_fenster(rahmenereignisse()),
-      m_wächter([this](const QWidget* widget) { return ansichtVon(widget); })
+      m_wächter([this](const QWidget* widget) { return ansichtVon(widget); }),
+      m_handbuch([this] { return nameInGebrauch(); })
 {
     QApplication::setQuitOnLastWindowClosed(false); // the end of the run ends the program, no window does
     m_fenster.menuBar()->hide();
@@ -99,6 +101,7 @@ Fensterereignisse Fensterwart::kindereignisse(Bildschirm& bildschirm)
 
 void Fensterwart::ereignis(const std::function<void()>& aktion)
 {
+    const geduld::Handlung handlung;
     if (m_ablauf.ereignis(aktion)) {
         gleicheFokusAb();
     }
@@ -183,9 +186,20 @@ void Fensterwart::zeichneKind(const Platz& platz)
 
 void Fensterwart::platziereKind(const Platz& platz)
 {
-    const auto& bildschirm = platz.ansicht->bildschirm();
+    auto& bildschirm = platz.ansicht->bildschirm();
+    if (bildschirm.istMittig) {
+        const QSize rest = m_fenster.size() - platz.kind->size();
+        bildschirm.links = alsTwips(m_fenster.x() + rest.width() / 2);
+        bildschirm.oben = alsTwips(m_fenster.y() + rest.height() / 2);
+    }
     const QPoint ort(alsPixel(bildschirm.links), alsPixel(bildschirm.oben));
     platz.kind->platzwächter().platziere([&] { platz.kind->move(inDenSchirm(ort, platz.kind->size())); });
+}
+
+std::string Fensterwart::nameInGebrauch() const
+{
+    const auto* bildschirm = m_folge.inGebrauch();
+    return bildschirm == nullptr ? std::string() : bildschirm->name();
 }
 
 void Fensterwart::zeichneSeite(Bildschirm* bildschirm)

@@ -6,6 +6,7 @@
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Eingabewaechter.h"
 #include "platform/qt/Fenster.h"
+#include "platform/qt/Handbuch.h"
 
 #include <QPointer>
 
@@ -47,6 +48,7 @@ private:
     void zeichneRahmen();
     QSize fensterrand() const;
     void platziereKind(const Platz& platz);
+    std::string nameInGebrauch() const;
     void entlade(const Bildschirm& bildschirm);
     void gleicheFokusAb();
     void beiFokuswechsel(QWidget* neu);
@@ -62,6 +64,7 @@ private:
     std::vector<QMenu*> m_menüs;
     QPointer<QWidget> m_aktiveZeile;
     Eingabewächter m_wächter;
+    Handbuch m_handbuch;
     std::vector<Abonnement> m_abonnements;
     QMetaObject::Connection m_fokusverbindung;
 };

@@ -1,6 +1,7 @@
 #include "platform/qt/QtUmgebung.h"
 
 #include "platform/mappe/Tabellenprogramm.h"
+#include "platform/qt/Geduld.h"
 #include "platform/qt/Mass.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
@@ -64,6 +65,33 @@ QMessageBox::StandardButton knopfFür(Antwort antwort)
     return QMessageBox::Ok;
 }
 
+/// Long actions are long because of their files, and come by here again and again.
+class GeduldigerZugriff : public Zugriffsweiche {
+public:
+    using Zugriffsweiche::Zugriffsweiche;
+
+    std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad) override
+    {
+        geduld::prüfe();
+        return Zugriffsweiche::lies(pfad);
+    }
+    std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) override
+    {
+        geduld::prüfe();
+        return Zugriffsweiche::öffne(pfad, wie);
+    }
+    void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach) override
+    {
+        geduld::prüfe();
+        Zugriffsweiche::benenneUm(von, nach);
+    }
+    void sichereOrdnerAufPlatte(const std::filesystem::path& pfad) override
+    {
+        geduld::prüfe();
+        Zugriffsweiche::sichereOrdnerAufPlatte(pfad);
+    }
+};
+
 } // namespace
 
 std::unique_ptr<QMessageBox> baueMeldungsfenster(const Meldung& meldung)
@@ -115,6 +143,9 @@ std::string alsQtFilter(const std::string& filter)
         const auto ende = std::min(filter.find('|', mitte + 1), filter.size());
         auto muster = filter.substr(mitte + 1, ende - mitte - 1);
         std::replace(muster.begin(), muster.end(), ';', ' ');
+        if (muster == "*.*") {
+            muster = "*"; // files without an extension as well
+        }
         auto name = filter.substr(von, mitte - von);
         name = name.substr(0, name.find('('));
         ergebnis += (ergebnis.empty() ? "" : ";;") + name + '(' + muster + ')';
@@ -124,7 +155,7 @@ std::string alsQtFilter(const std::string& filter)
 }
 
 QtUmgebung::QtUmgebung(Tabellenprogramm& tabellenprogramm)
-    : m_tabellenprogramm(tabellenprogramm), m_dateien(erzeugeDateizugriff())
+    : m_tabellenprogramm(tabellenprogramm), m_dateien(std::make_unique<GeduldigerZugriff>(erzeugeDateizugriff()))
 {}
 
 QtUmgebung::~QtUmgebung() = default;
@@ -148,6 +179,7 @@ bool QtUmgebung::istErsteInstanz(const std::filesystem::path& datenordner)
 
 Antwort QtUmgebung::zeigeMeldung(const Meldung& meldung)
 {
+    const geduld::Pause pause;
     const auto fenster = baueMeldungsfenster(meldung);
     fenster->exec();
     return antwortVon(*fenster);
@@ -155,6 +187,7 @@ Antwort QtUmgebung::zeigeMeldung(const Meldung& meldung)
 
 std::optional<std::filesystem::path> QtUmgebung::wähleDatei(const Dateiwahl& wahl)
 {
+    const geduld::Pause pause;
     const auto ordner = QString::fromStdU16String(wahl.anfangsordner.u16string());
     const auto pfad =
         QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, ordner, alsQString(alsQtFilter(wahl.filter)));
@@ -169,9 +202,9 @@ bool QtUmgebung::findeTabellenprogramm()
     return m_tabellenprogramm.istDa();
 }
 
-void QtUmgebung::übergibMappe(Arbeitsmappe& mappe)
+bool QtUmgebung::übergibMappe(Arbeitsmappe& mappe, const std::function<void(double)>& fortschritt)
 {
-    m_tabellenprogramm.öffne(mappe, [this] { zeichne(); });
+    return m_tabellenprogramm.öffne(mappe, fortschritt);
 }
 
 Größe QtUmgebung::bildschirmgröße()
@@ -180,12 +213,32 @@ Größe QtUmgebung::bildschirmgröße()
     return {alsTwips(größe.width()), alsTwips(größe.height())};
 }
 
+/// No more often than an eye can follow: drawing costs more than the work that it tells of.
+bool QtUmgebung::istBildFällig()
+{
+    constexpr qint64 bildabstandMs = 50;
+    geduld::prüfe();
+    return !m_seitDemBild.isValid() || m_seitDemBild.elapsed() >= bildabstandMs;
+}
+
 void QtUmgebung::zeichne()
 {
+    geduld::prüfe();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    m_seitDemBild.start();
+}
+
+void QtUmgebung::zeichneGelegentlich()
+{
+    if (istBildFällig()) {
+        zeichne();
+    }
 }
 
 void QtUmgebung::lasseEreignisseZu()
 {
-    QCoreApplication::processEvents();
+    if (istBildFällig()) {
+        QCoreApplication::processEvents();
+        m_seitDemBild.start();
+    }
 }

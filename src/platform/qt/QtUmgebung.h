@@ -4,6 +4,9 @@
 #include "platform/dateien/Ordnersperre.h"
 #include "platform/umgebung/Umgebung.h"
 
+#include <QElapsedTimer>
+
+#include <functional>
 #include <memory>
 
 class QMessageBox;
@@ -24,16 +27,20 @@ public:
     std::optional<std::filesystem::path> wähleDatei(const Dateiwahl& wahl) override;
 
     bool findeTabellenprogramm() override;
-    void übergibMappe(Arbeitsmappe& mappe) override;
+    bool übergibMappe(Arbeitsmappe& mappe, const std::function<void(double anteil)>& fortschritt) override;
 
     Größe bildschirmgröße() override;
     void zeichne() override;
+    void zeichneGelegentlich() override;
     void lasseEreignisseZu() override;
 
 private:
+    bool istBildFällig();
+
     Tabellenprogramm& m_tabellenprogramm;
     Dateien m_dateien;
     std::unique_ptr<Ordnersperre> m_sperre;
+    QElapsedTimer m_seitDemBild;
 };
 
 /// The message box of a message, not shown yet.

@@ -4,6 +4,7 @@
 #include "platform/umgebung/Meldung.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -48,13 +49,16 @@ public:
 
     /// True when a spreadsheet program can be started at all.
     virtual bool findeTabellenprogramm() = 0;
-    /// Hands the workbook over as a new, unsaved document.
-    virtual void übergibMappe(Arbeitsmappe& mappe) = 0;
+    /// Hands the workbook over as a new, unsaved document. `fortschritt` hears now and then which share of that is
+    /// done (0 to 1). False when the program that was found can't be started.
+    virtual bool übergibMappe(Arbeitsmappe& mappe, const std::function<void(double anteil)>& fortschritt) = 0;
 
     /// The screen of the desktop, in twips.
     virtual Größe bildschirmgröße() = 0;
     /// Draws what has changed (status line, progress bar) at once; takes no input.
     virtual void zeichne() = 0;
-    /// As `zeichne`, and lets the user's pending actions happen (the refusal of Exit during the export).
+    /// The same for the numbers of a long run, which come faster than anybody can read: not each is drawn.
+    virtual void zeichneGelegentlich() { zeichne(); }
+    /// As `zeichneGelegentlich`, and lets the user's pending actions happen (the refusal of Exit during the export).
     virtual void lasseEreignisseZu() = 0;
 };

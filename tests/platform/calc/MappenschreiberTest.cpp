@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <clocale>
 #include <string>
 #include <vector>
@@ -222,8 +223,27 @@ TEST(Mappenschreiber, zwischendurchKommtDasFensterDran)
         mappe.blatt(1).setze(zeile, 1, "x");
     }
     int pausen = 0;
-    schreibeXlsx(mappe, versuch.ordner / "a.xlsx", [&] { ++pausen; });
+    schreibeXlsx(mappe, versuch.ordner / "a.xlsx", [&](double) { ++pausen; });
     EXPECT_GE(pausen, 3);
+}
+
+/// The share that is told goes on during the packing as well, never back, and is not far from the time.
+TEST(Mappenschreiber, derAnteilStimmtVonAnfangBisEnde)
+{
+    const Calcversuch versuch;
+    Arbeitsmappe mappe;
+    constexpr int zeilen = 4000;
+    for (int zeile = 1; zeile <= zeilen; ++zeile) {
+        for (int spalte = 1; spalte <= 100; ++spalte) {
+            mappe.blatt(1).setze(zeile, spalte, spalte % 3 == 0 ? "keine Angaben" : std::to_string(zeile % 40));
+        }
+    }
+    std::vector<double> anteile;
+    schreibeXlsx(mappe, versuch.ordner / "a.xlsx", [&](double anteil) { anteile.push_back(anteil); });
+    EXPECT_TRUE(std::ranges::is_sorted(anteile));
+    EXPECT_LE(anteile.back(), 1.0);
+    EXPECT_GT(anteile.back(), 0.7);
+    EXPECT_GT(std::ranges::count_if(anteile, [](double anteil) { return anteil > 0.55; }), 2);
 }
 
 TEST(Mappenschreiber, kommentarInEinerLeerenZeile)

@@ -235,6 +235,8 @@ TEST(Meldungsfenster, HasTheButtonsTheDefaultAndTheGermanTextsOfItsMessage)
 TEST(Dateiwahlfilter, BecomesTheToolkitsForm)
 {
     EXPECT_EQ(alsQtFilter("Textdateien (*.txt)|*.txt|Alle|*.*;*"), "Textdateien (*.txt);;Alle(*.* *)");
+    EXPECT_EQ(alsQtFilter("Text-Dateien (*.txt)|*.txt|alle Dateien (*.*)|*.*"),
+              "Text-Dateien (*.txt);;alle Dateien (*)");
     EXPECT_EQ(alsQtFilter(""), "");
 }
 

@@ -25,7 +25,12 @@ public:
     Antwort zeigeMeldung(const Meldung& meldung) override;
     std::optional<std::filesystem::path> wähleDatei(const Dateiwahl& wahl) override;
     bool findeTabellenprogramm() override { return m_tabellenprogramm; }
-    void übergibMappe(Arbeitsmappe& mappe) override { m_mappe = std::move(mappe); }
+    bool übergibMappe(Arbeitsmappe& mappe, const std::function<void(double)>& fortschritt) override
+    {
+        fortschritt(1);
+        m_mappe = std::move(mappe);
+        return true;
+    }
     Größe bildschirmgröße() override;
     void zeichne() override;
     void lasseEreignisseZu() override { zeichne(); }

@@ -1,0 +1,215 @@
+#include "platform/qt/Handbuch.h"
+
+#include "platform/qt/Handbuchstellen.h"
+#include "platform/qt/Stil.h"
+#include "platform/qt/Umschrift.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QScreen>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTextFrame>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace {
+
+constexpr double fensterbreite = 44;
+constexpr double fensterhöhe = 42;
+constexpr double bildbreite = 38;
+
+/// The text of the handbook with its pictures, which are fitted to the width of the window.
+class Blatt : public QTextBrowser {
+public:
+    Blatt(QString ordner, QWidget* eltern) : QTextBrowser(eltern), m_ordner(std::move(ordner))
+    {
+        setOpenLinks(false);
+        setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
+        setAccessibleName(QStringLiteral("Handbuch"));
+        document()->setDefaultFont(schrift(Schriftrolle::Grund));
+        document()->setDocumentMargin(em(1));
+        // angle brackets stand for themselves, in messages and captions
+        const auto form =
+            QTextDocument::MarkdownFeatures(QTextDocument::MarkdownDialectGitHub) | QTextDocument::MarkdownNoHTML;
+        document()->setMarkdown(lies(), form);
+        rahmeTabellen();
+        connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& ziel) { gehe(ziel.fragment()); });
+    }
+
+    void gehe(const QString& marke)
+    {
+        QTextBlock block = document()->begin();
+        while (block.isValid() && (block.blockFormat().headingLevel() == 0 || markeVon(block.text()) != marke)) {
+            block = block.next();
+        }
+        if (!block.isValid()) {
+            block = document()->begin();
+        }
+        setTextCursor(QTextCursor(block));
+        const QRectF ort = document()->documentLayout()->blockBoundingRect(block);
+        verticalScrollBar()->setValue(static_cast<int>(ort.top()) - em(0.5));
+    }
+
+protected:
+    QVariant loadResource(int art, const QUrl& name) override
+    {
+        if (art != QTextDocument::ImageResource) {
+            return QTextBrowser::loadResource(art, name);
+        }
+        QImage bild(m_ordner + QLatin1Char('/') + name.toString());
+        const double schärfe = devicePixelRatioF();
+        const int breite = static_cast<int>(em(bildbreite) * schärfe);
+        if (bild.width() > breite) {
+            bild = bild.scaledToWidth(breite, Qt::SmoothTransformation);
+        }
+        bild.setDevicePixelRatio(schärfe);
+        return bild;
+    }
+
+private:
+    QString lies() const
+    {
+        QFile datei(m_ordner + QStringLiteral("/handbuch.md"));
+        if (!datei.open(QIODevice::ReadOnly)) {
+            return QStringLiteral("# Handbuch\n\nDas Handbuch fehlt: %1")
+                .arg(QDir::toNativeSeparators(datei.fileName()));
+        }
+        return QString::fromUtf8(datei.readAll());
+    }
+
+    void rahmeTabellen()
+    {
+        for (auto* rahmen : document()->rootFrame()->childFrames()) {
+            auto form = rahmen->frameFormat().toTableFormat();
+            if (form.isValid()) {
+                form.setBorderCollapse(true);
+                form.setBorder(1);
+                form.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+                form.setBorderBrush(farben().rand);
+                form.setCellPadding(em(0.25));
+                rahmen->setFrameFormat(form);
+            }
+        }
+    }
+
+    QString m_ordner;
+};
+
+} // namespace
+
+/// A window without a parent, so that it may lie behind the frame as well.
+class Handbuch::Fenster : public QWidget {
+public:
+    explicit Fenster(const QString& ordner)
+    {
+        setWindowTitle(QStringLiteral("Tolvek7 - Handbuch"));
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        m_blatt = new Blatt(ordner, this);
+        layout->addWidget(m_blatt);
+        connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, [this] { close(); });
+        const QRect platz = QGuiApplication::primaryScreen()->availableGeometry();
+        resize(std::min(em(fensterbreite), platz.width()), std::min(em(fensterhöhe), platz.height() - em(3)));
+        move(platz.right() - width() - em(0.5), platz.top() + em(1)); // leaves the left edge of the frame in sight
+    }
+
+    void öffneBei(const QString& marke)
+    {
+        if (auto* vorher = QApplication::activeWindow(); vorher != this) {
+            m_vorher = vorher;
+        }
+        showNormal();
+        raise();
+        activateWindow();
+        m_blatt->setFocus();
+        m_blatt->gehe(marke);
+    }
+
+protected:
+    void closeEvent(QCloseEvent* ereignis) override
+    {
+        ereignis->accept();
+        if (isActiveWindow() && m_vorher != nullptr && m_vorher->isVisible()) {
+            m_vorher->activateWindow(); // the keyboard goes on where it was
+        }
+    }
+
+private:
+    Blatt* m_blatt;
+    QPointer<QWidget> m_vorher;
+};
+
+QString markeVon(const QString& überschrift)
+{
+    QString marke;
+    for (const QChar zeichen : überschrift.trimmed().toLower()) {
+        if (zeichen == QLatin1Char(' ')) {
+            marke += QLatin1Char('-');
+        } else if (zeichen.isLetterOrNumber() || zeichen == QLatin1Char('-') || zeichen == QLatin1Char('_')) {
+            marke += zeichen;
+        }
+    }
+    return marke;
+}
+
+QString handbuchordner()
+{
+    const QDir programm(QCoreApplication::applicationDirPath());
+    const std::array plätze{QStringLiteral("Handbuch"), QStringLiteral("../share/tolvek7/Handbuch"),
+                            QStringLiteral("../share/doc/tolvek7/Handbuch")};
+    for (const QString& platz : plätze) {
+        if (programm.exists(platz)) {
+            return QDir::cleanPath(programm.filePath(platz));
+        }
+    }
+    return programm.filePath(plätze.front());
+}
+
+Handbuch::Handbuch(std::function<std::string()> bildschirm, QString ordner)
+    : m_bildschirm(std::move(bildschirm)), m_ordner(std::move(ordner))
+{
+    qApp->installEventFilter(this);
+}
+
+Handbuch::~Handbuch() = default;
+
+void Handbuch::öffneBei(const QString& marke)
+{
+    if (m_fenster == nullptr) {
+        m_fenster = std::make_unique<Fenster>(m_ordner);
+    }
+    m_fenster->öffneBei(marke);
+}
+
+QWidget* Handbuch::fenster() const
+{
+    return m_fenster.get();
+}
+
+bool Handbuch::eventFilter(QObject* objekt, QEvent* ereignis)
+{
+    if (ereignis->type() != QEvent::KeyPress || !objekt->isWidgetType()) {
+        return false;
+    }
+    const auto& taste = *static_cast<QKeyEvent*>(ereignis);
+    const bool gesperrt = QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr;
+    if (taste.key() != Qt::Key_F1 || taste.modifiers() != Qt::NoModifier || gesperrt) {
+        return false;
+    }
+    const std::string name = m_bildschirm();
+    const auto ort = std::ranges::find(handbuchstellen, std::string_view(name), &Handbuchstelle::bildschirm);
+    öffneBei(ort == handbuchstellen.end() ? QString() : alsQString(ort->marke));
+    return true;
+}

@@ -1,0 +1,264 @@
+#include "hilfen/Schreibhandlungen.h"
+
+#include "store/Niederschrift.h"
+
+#include <algorithm>
+#include <iostream>
+#include <set>
+
+// Every action that writes tables is broken off at every operation, in every way, and so is the start that follows.
+// Whatever happens: the program starts again, the three tables together are those from before the action or from
+// after it, and nothing that holds personal data lies about.
+
+namespace {
+
+/// The tables that count, and the backups.
+struct Tabellen {
+    std::string kern, betr, diag;
+    auto operator<=>(const Tabellen&) const = default;
+};
+
+Pfade pfade()
+{
+    return bildePfade(plattenordner());
+}
+
+std::string inhalt(const Plattenstand& stand, const std::filesystem::path& pfad)
+{
+    const auto ort = stand.dateien.find(pfad);
+    return ort == stand.dateien.end() ? "(missing)" : ort->second;
+}
+
+Tabellen tabellenIn(const Plattenstand& stand)
+{
+    return {inhalt(stand, pfade().kernDat), inhalt(stand, pfade().betrDat), inhalt(stand, pfade().diagDat)};
+}
+
+std::set<std::string> reste(const Plattenstand& stand)
+{
+    std::set<std::string> reste;
+    for (const auto& [pfad, text] : stand.dateien) {
+        if (pfad.extension() == ".neu" || pfad == pfade().vorgang || pfad.parent_path().filename() == "importDummyVerz" ||
+            pfad.parent_path().extension() == ".neu") {
+            reste.insert(pfad.string());
+        }
+    }
+    return reste;
+}
+
+/// Every record that the disk held before must lie somewhere afterwards, if only in a backup.
+std::set<std::string> sicherungstexte(const Plattenstand& stand)
+{
+    std::set<std::string> texte;
+    for (const auto& [pfad, text] : stand.dateien) {
+        const auto daten = pfad.string().starts_with(pfade().daten.string());
+        if (daten && !text.empty() && pfad.extension() == ".bak") {
+            texte.insert(text);
+        }
+    }
+    return texte;
+}
+
+/// A start on what is left; the disk as it is when the main menu stands there.
+Plattenstand nachStart(const Plattenstand& stand, const std::string& ort)
+{
+    Platte platte(stand);
+    Plattenlauf lauf(platte);
+    EXPECT_TRUE(lauf.starte()) << ort << ": " << lauf.absturz();
+    for (const auto& meldung : lauf.umgebung.meldungen) {
+        EXPECT_EQ(meldung.text, "") << ort << ": a box at the start";
+    }
+    const auto danach = platte.stand();
+    EXPECT_EQ(reste(danach), std::set<std::string>{}) << ort;
+    return danach;
+}
+
+/// A run of the action with the disk as it was when the action began.
+class Versuch {
+public:
+    explicit Versuch(const Handlung& handlung) : m_handlung(handlung), platte(vorbereitete(handlung))
+    {
+        m_lauf = std::make_unique<Plattenlauf>(platte);
+        if (!handlung.istStart) {
+            m_lauf->starte();
+            handlung.bereiteVor(*m_lauf);
+        }
+    }
+
+    void handle()
+    {
+        if (m_handlung.istStart) {
+            m_lauf->starte();
+        } else {
+            m_handlung.handle(*m_lauf);
+        }
+    }
+    Plattenlauf& lauf() { return *m_lauf; }
+
+private:
+    static Platte vorbereitete(const Handlung& handlung)
+    {
+        Platte platte;
+        handlung.richteEin(platte, pfade());
+        return Platte(platte.stand());
+    }
+
+    const Handlung& m_handlung;
+    std::unique_ptr<Plattenlauf> m_lauf;
+
+public:
+    Platte platte;
+};
+
+struct Schnappschuß {
+    std::string ort;
+    Plattenstand stand;
+};
+
+/// What any end of the run between two operations, or within one, would leave: each state of the disk once.
+template <class F> std::vector<Schnappschuß> schnappschüsse(Platte& platte, F tue, int& punkte)
+{
+    std::vector<Schnappschuß> alle;
+    std::set<Plattenstand> gesehene;
+    int operationen = 0;
+    platte.beiOperation = [&](const std::string& name) {
+        ++operationen;
+        for (const auto ende : alleEnden) {
+            ++punkte;
+            auto stand = platte.stand(ende);
+            if (gesehene.insert(stand).second) {
+                alle.push_back({name + " (" + std::to_string(operationen) + ", way " +
+                                    std::to_string(static_cast<int>(ende)) + ")",
+                                std::move(stand)});
+            }
+        }
+    };
+    tue();
+    platte.beiOperation = nullptr;
+    return alle;
+}
+
+class AusfallTest : public testing::TestWithParam<Handlung> {
+protected:
+    AusfallTest()
+    {
+        Versuch versuch(GetParam());
+        // the repairs of the next start are part of both states
+        vorher = tabellenIn(nachStart(versuch.platte.stand(), "before"));
+        versuch.handle();
+        EXPECT_TRUE(versuch.lauf().läuft()) << versuch.lauf().absturz();
+        bestätigt = versuch.platte.stand(Ende::Stromlos);
+        nachher = tabellenIn(nachStart(versuch.platte.stand(), "after"));
+    }
+
+    void erwarteGanz(const Plattenstand& stand, const std::string& ort) const
+    {
+        const auto ist = tabellenIn(stand);
+        EXPECT_TRUE(ist == vorher || ist == nachher) << ort << ": between";
+    }
+
+    Tabellen vorher;
+    Tabellen nachher;
+    Plattenstand bestätigt;
+};
+
+TEST_P(AusfallTest, AbgebrochenUndWiederAngelaufen)
+{
+    Versuch versuch(GetParam());
+    const auto sicherungen = sicherungstexte(versuch.platte.stand());
+    int punkte = 0;
+    const auto stellen = schnappschüsse(versuch.platte, [&] { versuch.handle(); }, punkte);
+    int wiederanläufe = 0;
+    std::set<Plattenstand> erholte;
+    for (const auto& stelle : stellen) {
+        const auto danach = nachStart(stelle.stand, stelle.ort);
+        erwarteGanz(danach, stelle.ort);
+        EXPECT_TRUE(std::ranges::includes(sicherungstexte(danach), sicherungen)) << stelle.ort << ": a backup is lost";
+        // and the start that follows is broken off itself, at every operation
+        Platte platte(stelle.stand);
+        Plattenlauf lauf(platte);
+        for (const auto& zweite : schnappschüsse(platte, [&] { lauf.starte(); }, wiederanläufe)) {
+            if (erholte.insert(zweite.stand).second) {
+                erwarteGanz(nachStart(zweite.stand, stelle.ort + ", then " + zweite.ort), stelle.ort + ", then " + zweite.ort);
+            }
+        }
+    }
+    EXPECT_GT(punkte, 30);
+    std::cout << GetParam().name << ": " << punkte << " points, " << wiederanläufe << " in the start that follows, "
+              << stellen.size() + erholte.size() << " different disks\n";
+}
+
+/// What was confirmed and said to be done survives the loss of power at once.
+TEST_P(AusfallTest, BestätigtesÜberlebtDenStromausfall)
+{
+    EXPECT_EQ(tabellenIn(nachStart(bestätigt, "confirmed")), nachher);
+}
+
+/// Refused once, and from there on for ever.
+TEST_P(AusfallTest, JedeVerweigerteOperation)
+{
+    for (const bool fürImmer : {false, true}) {
+        int stelle = 1;
+        for (bool eingetreten = true; eingetreten; ++stelle) {
+            Versuch versuch(GetParam());
+            int gezählt = 0;
+            versuch.platte.verweigert = [&](const std::string&) -> std::optional<std::string> {
+                ++gezählt;
+                const bool trifft = gezählt == stelle || (fürImmer && gezählt > stelle);
+                return trifft ? std::optional<std::string>("kein Platz mehr") : std::nullopt;
+            };
+            versuch.handle();
+            eingetreten = gezählt >= stelle;
+            versuch.platte.verweigert = nullptr;
+            const auto ort = "operation " + std::to_string(stelle) + (fürImmer ? " for ever" : " once");
+            const auto ist = tabellenIn(nachStart(versuch.platte.stand(), ort));
+            EXPECT_TRUE(ist == vorher || ist == nachher) << ort << ": between";
+            if (versuch.lauf().istUnvollendet()) {
+                EXPECT_EQ(ist, nachher) << ort << ": it was said to be saved";
+            }
+        }
+        EXPECT_GT(stelle, 4);
+    }
+}
+
+TEST_P(AusfallTest, KurzGeschriebenesWirdFertigGeschrieben)
+{
+    Versuch versuch(GetParam());
+    versuch.platte.schreibtKurz = true;
+    versuch.handle();
+    EXPECT_TRUE(versuch.lauf().läuft()) << versuch.lauf().absturz();
+    EXPECT_EQ(tabellenIn(nachStart(versuch.platte.stand(), "short")), nachher);
+}
+
+INSTANTIATE_TEST_SUITE_P(Handlungen, AusfallTest, testing::ValuesIn(handlungen()),
+                         [](const auto& angabe) { return angabe.param.name; });
+
+/// Somebody puts other tables in place between the death and the next start: they count, and what was saved is kept.
+TEST(Wiederanlauf, FremdeTabellenWerdenNichtÜberschrieben)
+{
+    const auto& handlung = handlungen().at(3);
+    Versuch versuch(handlung);
+    int punkte = 0;
+    std::optional<Plattenstand> mitVermerk;
+    for (const auto& stelle : schnappschüsse(versuch.platte, [&] { versuch.handle(); }, punkte)) {
+        const auto& dateien = stelle.stand.dateien;
+        if (dateien.contains(pfade().vorgang) && dateien.contains(pfade().daten / "betrDat.txt.neu") && !mitVermerk) {
+            mitVermerk = stelle.stand;
+        }
+    }
+    ASSERT_TRUE(mitVermerk);
+    const auto fremd = Testlauf::alsInhalt({satz({"1", "1", "01.01.2003", "31.12.2003"})});
+    mitVermerk->dateien[pfade().betrDat] = fremd;
+    Platte platte(*mitVermerk);
+    Plattenlauf lauf(platte);
+    ASSERT_TRUE(lauf.starte()) << lauf.absturz();
+    ASSERT_EQ(lauf.umgebung.meldungen.size(), 1U);
+    EXPECT_EQ(lauf.umgebung.meldungen[0].symbol, Symbol::Stop);
+    const auto stand = platte.stand();
+    EXPECT_EQ(inhalt(stand, pfade().betrDat), fremd);
+    EXPECT_EQ(reste(stand), std::set<std::string>{});
+    const auto aufgehoben = pfade().sicherungen / "2007-08-01 17.00.00 unvollendet" / "betrDat.txt";
+    EXPECT_NE(inhalt(stand, aufgehoben), "(missing)");
+}
+
+} // namespace

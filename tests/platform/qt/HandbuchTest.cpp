@@ -1,0 +1,202 @@
+#include "platform/qt/Handbuch.h"
+
+#include "platform/qt/Handbuchstellen.h"
+#include "platform/qt/Probe.h"
+#include "platform/qt/Umschrift.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTextDocument>
+
+#include <set>
+
+namespace {
+
+const QString quellen = QStringLiteral(TOLVEK_QUELLEN);
+const QString ordner = quellen + QStringLiteral("/docs/handbuch");
+
+QString inhaltVon(const QString& pfad)
+{
+    QFile datei(pfad);
+    EXPECT_TRUE(datei.open(QIODevice::ReadOnly)) << pfad.toStdString();
+    return QString::fromUtf8(datei.readAll());
+}
+
+QString handbuch()
+{
+    return inhaltVon(ordner + QStringLiteral("/handbuch.md"));
+}
+
+/// Every match of the first group.
+QStringList treffer(const QString& text, const char* muster)
+{
+    QStringList ergebnis;
+    auto suche = QRegularExpression(QString::fromUtf8(muster)).globalMatch(text);
+    while (suche.hasNext()) {
+        ergebnis.append(suche.next().captured(1));
+    }
+    return ergebnis;
+}
+
+/// The marks of all headings, as the window finds them.
+QStringList marken()
+{
+    stelleAnwendungBereit();
+    Handbuch buch([] { return std::string(); }, ordner);
+    buch.öffneBei({});
+    const auto& dokument = *buch.fenster()->findChild<QTextBrowser*>()->document();
+    QStringList ergebnis;
+    for (auto block = dokument.begin(); block.isValid(); block = block.next()) {
+        if (block.blockFormat().headingLevel() > 0) {
+            ergebnis.append(markeVon(block.text()));
+        }
+    }
+    return ergebnis;
+}
+
+/// The sources of the logic and of the windows.
+QStringList quelltexte()
+{
+    QStringList texte;
+    for (const char* teil :
+         {"app", "clients", "care", "diagnosis", "export", "import", "spreadsheet", "store", "zustand"}) {
+        const QDir src(quellen + QStringLiteral("/src/") + QString::fromLatin1(teil));
+        for (const auto& name : src.entryList({QStringLiteral("*.cpp")}, QDir::Files)) {
+            texte.append(inhaltVon(src.filePath(name)));
+        }
+    }
+    return texte;
+}
+
+TEST(Handbuchtext, NoHeadingIsThereTwice)
+{
+    const auto alle = marken();
+    EXPECT_EQ(std::set<QString>(alle.begin(), alle.end()).size(), static_cast<std::size_t>(alle.size()));
+}
+
+TEST(Handbuchtext, EveryScreenHasItsPlace)
+{
+    std::set<QString> genannte;
+    const auto alle = marken();
+    for (const auto& stelle : handbuchstellen) {
+        genannte.insert(alsQString(stelle.bildschirm));
+        EXPECT_TRUE(alle.contains(alsQString(stelle.marke))) << stelle.marke;
+    }
+    std::set<QString> schirme;
+    for (const auto& text : quelltexte()) {
+        for (const auto& name : treffer(text, "(?:Bildschirm|Betreuungsseite)\\(\"(frm[^\"]+)\"")) {
+            schirme.insert(name);
+        }
+    }
+    EXPECT_EQ(genannte, schirme);
+}
+
+TEST(Handbuchtext, EveryLinkAndEveryPictureExists)
+{
+    const auto text = handbuch();
+    const auto alle = marken();
+    for (const auto& ziel : treffer(text, "\\]\\(#([^)]+)\\)")) {
+        EXPECT_TRUE(alle.contains(ziel)) << ziel.toStdString();
+    }
+    std::set<QString> gezeigte;
+    for (const auto& bild : treffer(text, "!\\[[^]]*\\]\\(([^)]+)\\)")) {
+        EXPECT_FALSE(QImage(ordner + QLatin1Char('/') + bild).isNull()) << bild.toStdString();
+        gezeigte.insert(bild);
+    }
+    qint64 größe = 0;
+    for (const auto& datei : QDir(ordner + QStringLiteral("/bilder")).entryInfoList(QDir::Files)) {
+        EXPECT_TRUE(gezeigte.contains(QStringLiteral("bilder/") + datei.fileName())) << datei.fileName().toStdString();
+        größe += datei.size();
+    }
+    EXPECT_LT(größe, 3'000'000);
+    EXPECT_GE(gezeigte.size(), 16U);
+}
+
+/// Each box that the program shows is explained: the longest piece of its text stands in the handbook.
+TEST(Handbuchtext, EveryMessageIsExplained)
+{
+    const auto text = handbuch().simplified().remove(QLatin1Char('\\'));
+    int geprüfte = 0;
+    for (const auto& quelle : quelltexte()) {
+        for (const auto& aufruf : treffer(quelle, "(?:zeigeMeldung|frage =|meldeNichtsVerändert)\\s*\\(?([^;]*);")) {
+            QString längstes;
+            for (auto stück : treffer(aufruf, "\"((?:[^\"\\\\]|\\\\.)*)\"")) {
+                stück.replace(QStringLiteral("\\\""), QStringLiteral("\""));
+                for (const auto& teil : stück.split(QRegularExpression(QStringLiteral("\\\\[rn]")))) {
+                    längstes = teil.trimmed().size() > längstes.size() ? teil.simplified() : längstes;
+                }
+            }
+            if (längstes.size() >= 6) {
+                EXPECT_TRUE(text.contains(längstes)) << längstes.toStdString();
+                ++geprüfte;
+            }
+        }
+    }
+    EXPECT_GE(geprüfte, 40);
+}
+
+class Handbuchfenster : public Fensterprobe {
+protected:
+    static QWidget* fenster()
+    {
+        for (auto* eines : QApplication::topLevelWidgets()) {
+            if (eines->isVisible() && eines->windowTitle().endsWith(QStringLiteral("Handbuch"))) {
+                return eines;
+            }
+        }
+        return nullptr;
+    }
+
+    static QString überschriftOben(Handbuch& buch)
+    {
+        return buch.fenster()->findChild<QTextBrowser*>()->textCursor().block().text();
+    }
+};
+
+TEST_F(Handbuchfenster, F1OpensItAndTheScreenTakesInputAllTheSame)
+{
+    öffne();
+    drücke(tastatur(), Qt::Key_F1);
+    lasseGeschehen();
+    auto* buch = fenster();
+    ASSERT_NE(buch, nullptr);
+    EXPECT_TRUE(bildschirm->tbName.istFrei());
+    EXPECT_TRUE(oberfläche->rahmenfenster()->isEnabled());
+    EXPECT_TRUE(widget(bildschirm->tbName).isEnabled());
+    tippe(widget(bildschirm->tbName), QStringLiteral("ab"));
+    EXPECT_EQ(bildschirm->tbName.text(), "ab");
+    buch->close();
+    lasseGeschehen();
+    EXPECT_EQ(fenster(), nullptr);
+}
+
+TEST_F(Handbuchfenster, ItOpensAtTheScreenInUse)
+{
+    öffne();
+    std::string name(handbuchstellen[6].bildschirm);
+    Handbuch buch([&] { return name; }, ordner);
+    drücke(*oberfläche->rahmenfenster(), Qt::Key_F1);
+    ASSERT_NE(buch.fenster(), nullptr);
+    EXPECT_EQ(markeVon(überschriftOben(buch)), alsQString(handbuchstellen[6].marke));
+    auto* blatt = buch.fenster()->findChild<QTextBrowser*>();
+    EXPECT_GT(blatt->verticalScrollBar()->value(), 0);
+    name = handbuchstellen[0].bildschirm;
+    drücke(*oberfläche->rahmenfenster(), Qt::Key_F1);
+    EXPECT_EQ(markeVon(überschriftOben(buch)), alsQString(handbuchstellen[0].marke));
+}
+
+TEST_F(Handbuchfenster, AMissingHandbookIsTold)
+{
+    öffne();
+    Handbuch buch([] { return std::string(); }, QStringLiteral("/gibt/es/nicht"));
+    buch.öffneBei({});
+    EXPECT_TRUE(buch.fenster()->findChild<QTextBrowser*>()->toPlainText().contains(QStringLiteral("fehlt")));
+}
+
+} // namespace
