@@ -3,7 +3,6 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/Diagnosesatz.h"
-#include "satz/Satzaufbau.h"
 #include "satz/WeitereDiagnosen.h"
 #include "satz/moNationen.h"
 
@@ -53,6 +52,12 @@ bool istIcdStelle(const Satzfeld& feld, std::string_view wert)
     return werte::textZu(feld.werte, wert) != nullptr;
 }
 
+/// Older records leave the infections empty, which the export takes as no answer.
+bool istInfektion(const Satzfeld& feld)
+{
+    return feld.werte.data() == werte::test.data() || feld.werte.data() == werte::hepatitisC.data();
+}
+
 bool istBlockwert(int gruppe, int platz, const Satzfeld& feld, std::string_view wert)
 {
     if (istLeerwert(gruppe, platz, wert) || wert == keineAngabe) {
@@ -94,7 +99,7 @@ bool istBetreuungswert(int feld, std::string_view wert)
     };
     switch (satzfeld.art) {
     case Feldart::option:
-        return istIn(satzfeld.werte, wert);
+        return istIn(satzfeld.werte, wert) || (wert.empty() && istInfektion(satzfeld));
     case Feldart::zuvor:
         return istZahl(werte::maßnahmen);
     case Feldart::kinder:
@@ -123,6 +128,16 @@ bool istDiagnosewert(int feld, std::string_view wert)
     }
     const int ort = feld - diagnosefeld(1, 1);
     return istBlockwert(ort / felderJeGruppe + 1, ort % felderJeGruppe + 1, von(diagnosefelder(), feld), wert);
+}
+
+Feldart betreuungsfeldart(int feld)
+{
+    return hat(betreuungsfelder(), feld) ? von(betreuungsfelder(), feld).art : Feldart::klient;
+}
+
+Feldart diagnosefeldart(int feld)
+{
+    return hat(diagnosefelder(), feld) ? von(diagnosefelder(), feld).art : Feldart::klient;
 }
 
 std::string_view klientenfeldname(int feld)

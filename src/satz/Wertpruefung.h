@@ -1,5 +1,7 @@
 #pragma once
 
+#include "satz/Satzaufbau.h"
+
 #include <string_view>
 
 /// Whether a value is one that the program writes into the field: from its list, its range of numbers, its default,
@@ -8,6 +10,10 @@
 bool istKlientenwert(int feld, std::string_view wert);
 bool istBetreuungswert(int feld, std::string_view wert);
 bool istDiagnosewert(int feld, std::string_view wert);
+
+/// The kind of the field; `klient` in the client record and beyond the layouts.
+Feldart betreuungsfeldart(int feld);
+Feldart diagnosefeldart(int feld);
 
 /// What a field is called in a report: its name, in the blocks of the diagnosis record group and question.
 std::string_view klientenfeldname(int feld);

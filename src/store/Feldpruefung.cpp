@@ -7,6 +7,8 @@
 #include "satz/Wertpruefung.h"
 
 #include <algorithm>
+#include <array>
+#include <span>
 
 namespace {
 
@@ -60,6 +62,43 @@ std::string_view folgeFürDatum(Tabelle tabelle, bool wirdErgänzt)
                : "Export und Bearbeiten des Zeitraums enden mit einer Meldung oder einem Laufzeitfehler"_t;
 }
 
+struct Wertfolge {
+    Feldart art;
+    std::string_view folge;
+};
+
+constexpr auto wirdGemeldet = "wird unverändert angezeigt; der Export meldet ihn und hat dort keinen richtigen Wert"_t;
+constexpr std::array betreuungsfolgen{
+    Wertfolge{Feldart::option, wirdGemeldet},
+    Wertfolge{Feldart::nation, "wird unverändert angezeigt; der Export läßt die Spalte leer"_t},
+    Wertfolge{Feldart::hdOhne, "gilt als Falsch"_t},
+    Wertfolge{Feldart::ivKonsum, "gilt als Falsch"_t},
+};
+constexpr std::array diagnosefolgen{
+    Wertfolge{Feldart::option, "der Export meldet ihn oder gibt einen anderen Wert aus"_t},
+    Wertfolge{Feldart::icd0000, "gilt im Export nicht als Hauptdiagnose"_t},
+    Wertfolge{Feldart::leer, "wird nicht exportiert; der Problembereich gilt als belegt"_t},
+};
+
+std::string_view finde(std::span<const Wertfolge> folgen, Feldart art)
+{
+    const auto ort = std::ranges::find(folgen, art, &Wertfolge::art);
+    return ort == folgen.end() ? std::string_view() : ort->folge;
+}
+
+/// What becomes of a value that no list has; empty: it goes its way unchanged.
+std::string_view folgeFürWert(Tabelle tabelle, int feld)
+{
+    switch (tabelle) {
+    case Tabelle::Betr:
+        return finde(betreuungsfolgen, betreuungsfeldart(feld));
+    case Tabelle::Diag:
+        return finde(diagnosefolgen, diagnosefeldart(feld));
+    default:
+        return feld == 1 ? "wird nicht gelesen, ein OK leert das Feld"_t : wirdGemeldet;
+    }
+}
+
 /// The start completes years of less than three digits, whatever stands before them, in lines that go on behind them.
 bool wirdErgänzt(const Satzzeile& satz, int feld)
 {
@@ -74,7 +113,8 @@ void prüfeWerte(const Satzzeile& satz, Befundliste& befunde)
 {
     for (int feld = 1; feld <= static_cast<int>(satz.felder.size()); ++feld) {
         if (!istWert(satz.tabelle, feld, satz.feld(feld))) {
-            befunde.melde(Befundart::WertUnbekannt, satz.ort(feld), alsZitat(satz.feld(feld)));
+            befunde.melde(Befundart::WertUnbekannt, satz.ort(feld), alsZitat(satz.feld(feld)),
+                          folgeFürWert(satz.tabelle, feld));
         }
     }
 }

@@ -8,7 +8,11 @@
 #include "satz/Diagnosesatz.h"
 #include "satz/Satzaufbau.h"
 #include "satz/moHelferlein.h"
+#include "store/Bestand.h"
+#include "store/Niederschrift.h"
 #include "store/Vollzugsvermerk.h"
+#include "store/moBereinigeBetrOA.h"
+#include "store/moBereinigeDatum.h"
 
 #include <gtest/gtest.h>
 
@@ -356,6 +360,9 @@ TEST_F(PruefungTest, WerteDerDiagnose)
         diagnosen({mitDiagnose("1", {{feld, wert}})});
         erwarte(gut ? std::vector<Erwartet>{} : std::vector<Erwartet>{{WertUnbekannt, Tabelle::Diag, 1, feld}});
     }
+    legeTabellen();
+    betreuungen({ersetzeFeld(betreuung, betreuungsfeld("HepatB"_t), "")});
+    erwarte({}); // older records leave the infections empty
     constexpr int ersteWeitere = 235;
     diagnosen({mitDiagnose("1", {{ersteWeitere, "32.1"_t}, {ersteWeitere + 1, "F32"_t}})});
     erwarte({{WertUnbekannt, Tabelle::Diag, 1, ersteWeitere + 1}});
@@ -437,6 +444,70 @@ TEST_F(PruefungTest, Reste)
     EXPECT_EQ(gefunden, erwartet);
 }
 
+/// What a finding says of the next start is what the next start does.
+class BeimStartTest : public PruefungTest {
+protected:
+    void starte()
+    {
+        const Bestandsmeldung keine = [](std::string_view /*text*/, Symbol /*symbol*/) {};
+        Dateien dateien(std::make_unique<Plattenzugriff>(platte));
+        vollendeVorgang(dateien, pfade, keine);
+        const Bestand bestand(dateien, pfade, keine);
+        bereinigeDatum(bestand);
+        bereinigeBetrOA(bestand);
+    }
+    /// Whether the checker announces the failure that the start ends with.
+    bool kündigtLaufzeitfehlerAn()
+    {
+        return std::ranges::any_of(prüfe().befunde, [](const Befund& befund) {
+            return befund.folge == "endet beim Start mit einem Laufzeitfehler"_t;
+        });
+    }
+};
+
+TEST_F(BeimStartTest, WasDerStartBerichtigtIstDanachKeinBefund)
+{
+    legeTabellen();
+    klienten({mitFeldern(klient, {{3, "x"}, {10, "1.2.70"}}), mitFeldern(klient, {{2, "2"}})});
+    betreuungen({mitBetreuung("1", "01.01.05", "31.12.2005")});
+    lege("diagDat.txt.neu", "halb");
+    lege("Vorgang.txt", "halb");
+    platte.lege(pfade.sicherungen / "2007-08-02 10.00.00.neu" / "kernDat.bak", "x");
+    erwarte({{VermerkUnvollständig, {}},
+             {Befundart::Arbeitsdatei, {}},
+             {SicherungAngefangen, {}},
+             {StatusUnbekannt, Tabelle::Kern, 1, 3},
+             {DatumZweistellig, Tabelle::Kern, 1, 10},
+             {StatusVeraltet, Tabelle::Kern, 2, 3},
+             {DatumZweistellig, Tabelle::Betr, 1, 3}});
+    starte();
+    erwarte({});
+}
+
+TEST_F(BeimStartTest, EinGanzerVermerkWirdVollendet)
+{
+    legeTabellen();
+    const auto neu = Testlauf::alsInhalt({mitBetreuung("1", "01.01.2005", "31.12.2006")});
+    lege("betrDat.txt.neu", neu);
+    lege("Vorgang.txt",
+         alsVermerktext({{Tabelle::Betr, betreuung.size() + 2, neu.size(), Prüfsumme::von(neu)}}, pfade));
+    erwarte({{VermerkGanz, {}}, {Befundart::Arbeitsdatei, {}}});
+    starte();
+    erwarte({});
+    EXPECT_EQ(platte.stand().dateien.at(pfade.betrDat), neu);
+}
+
+TEST_F(BeimStartTest, AngekündigteLaufzeitfehlerTretenEin)
+{
+    legeTabellen();
+    betreuungen({betreuung, felder(betreuung, 1, 2)});
+    EXPECT_TRUE(kündigtLaufzeitfehlerAn());
+    EXPECT_THROW(starte(), Laufzeitfehler);
+    betreuungen({betreuung, felder(betreuung, 1, 100)});
+    EXPECT_FALSE(kündigtLaufzeitfehlerAn());
+    EXPECT_NO_THROW(starte());
+}
+
 TEST_F(PruefungTest, ÄndertNichts)
 {
     legeTabellen();
@@ -480,7 +551,7 @@ TEST_F(BerichtTest, MitBefunden)
     EXPECT_EQ(aus.str(), "Daten/kernDat.txt.neu: Arbeitsdatei einer abgebrochenen Eingabe; wird beim nächsten Start "
                          "entfernt\n"
                          "betrDat.txt, Zeile 1, Feld 149 (Schulden): diesen Wert hat keine Liste: \"viele\"; wird "
-                         "unverändert angezeigt; der Export meldet ihn oder gibt ihn unverändert aus\n"
+                         "unverändert angezeigt; der Export meldet ihn und hat dort keinen richtigen Wert\n"
                          "2 Befunde in 2 Dateien: 1 Klient, 1 Betreuung.\n");
 }
 
