@@ -206,6 +206,16 @@ TEST_F(PruefungTest, AbgeschnitteneZeileHältDenStartNichtAuf)
     EXPECT_EQ(bericht.befunde[0].folge, "was fehlt, gilt als leer"_t);
 }
 
+TEST_F(PruefungTest, HalbeLetzteZeileWirdBeimStartHerausgenommen)
+{
+    legeTabellen();
+    lege("diagDat.txt", Testlauf::alsInhalt({diagnose}) + "1");
+    const auto befunde = prüfe().befunde;
+    const auto ende = std::ranges::find(befunde, ZeilenendeFehlt, &Befund::art);
+    ASSERT_NE(ende, befunde.end());
+    EXPECT_NE(ende->folge.find("herausgenommen"_t), std::string::npos) << ende->folge;
+}
+
 TEST_F(PruefungTest, Schlüssel)
 {
     legeTabellen();
