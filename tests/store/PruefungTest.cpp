@@ -200,14 +200,24 @@ TEST_F(PruefungTest, Felderzahl)
     erwarte({{FelderZuViele, Tabelle::Kern, 1}, {FelderZuViele, Tabelle::Betr, 1}, {FelderZuWenige, Tabelle::Diag, 1}});
 }
 
-TEST_F(PruefungTest, AbgeschnitteneZeileHältDenStartAuf)
+TEST_F(PruefungTest, AbgeschnitteneZeileHältDenStartNichtAuf)
 {
     legeTabellen();
     klienten({klient, felder(klient, 1, 1) + "2"});
     const auto bericht = prüfe();
     ASSERT_EQ(bericht.befunde.size(), 1U);
     EXPECT_EQ(bericht.befunde[0].art, FelderZuWenige);
-    EXPECT_EQ(bericht.befunde[0].folge, "endet beim Start mit einem Laufzeitfehler"_t);
+    EXPECT_EQ(bericht.befunde[0].folge, "was fehlt, gilt als leer"_t);
+}
+
+TEST_F(PruefungTest, HalbeLetzteZeileWirdBeimStartHerausgenommen)
+{
+    legeTabellen();
+    lege("diagDat.txt", Testlauf::alsInhalt({diagnose}) + "1");
+    const auto befunde = prüfe().befunde;
+    const auto ende = std::ranges::find(befunde, ZeilenendeFehlt, &Befund::art);
+    ASSERT_NE(ende, befunde.end());
+    EXPECT_NE(ende->folge.find("herausgenommen"_t), std::string::npos) << ende->folge;
 }
 
 TEST_F(PruefungTest, Schlüssel)
