@@ -12,7 +12,7 @@
 
 namespace {
 
-Etikett* formeTitel(Etikett* titel)
+Etikett* formeTitel(Etikett* titel, const std::string& text)
 {
     titel->brichAmBindestrich();
     titel->setFont(schrift(Schriftrolle::Spaltenkopf));
@@ -26,13 +26,14 @@ Etikett* formeTitel(Etikett* titel)
 
 Etikett* macheTitel(const std::string& text, QWidget* eltern)
 {
-    return text.empty() ? nullptr : formeTitel(new Etikett(alsMehrzeiler(text), eltern));
+    return text.empty() ? nullptr : formeTitel(new Etikett(alsMehrzeiler(text), eltern), text);
 }
 
 Etikett* macheTitel(const Tabellenspalte& spalte, Ansicht& ansicht, QWidget* eltern)
 {
     return spalte.kopf == nullptr ? macheTitel(spalte.titel, eltern)
-                                  : formeTitel(dynamic_cast<Etikett*>(zeichneElement(*spalte.kopf, ansicht, eltern)));
+                                  : formeTitel(dynamic_cast<Etikett*>(zeichneElement(*spalte.kopf, ansicht, eltern)),
+                                               spalte.kopf->text());
 }
 
 } // namespace
