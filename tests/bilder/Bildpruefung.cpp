@@ -33,6 +33,16 @@ constexpr double tintenspiel = 0.08; ///< em: smoothed edges of letters, and the
 constexpr double kontrastMindestens = 4.5;
 constexpr int zeilenMindestens = 6;
 
+/// The main menu does not scroll: both lists and their commands are in view on every screen.
+bool stehtAufHauptmenü(const QWidget& widget)
+{
+    const auto* w = widget.parentWidget();
+    while (w != nullptr && w->objectName() != QStringLiteral("frmHauptmenü")) {
+        w = w->parentWidget();
+    }
+    return w != nullptr;
+}
+
 QString nameVon(const QWidget& widget)
 {
     const QWidget* w = &widget;
@@ -195,7 +205,8 @@ private:
         prüfeSchrift(widget);
         const auto rolle = widget.parentWidget()->property("rolle").toString();
         const bool imRahmen = rolle == QStringLiteral("band") || rolle == QStringLiteral("leiste");
-        if (imRahmen && widget.visibleRegion().boundingRect() != widget.rect()) {
+        const bool istBefehl = dynamic_cast<QAbstractButton*>(&widget) != nullptr && stehtAufHauptmenü(widget);
+        if ((imRahmen || istBefehl) && widget.visibleRegion().boundingRect() != widget.rect()) {
             melde(widget, QStringLiteral("steht nicht ganz im Fenster"));
         }
         if (auto* liste = dynamic_cast<QTreeView*>(&widget)) {

@@ -1,5 +1,6 @@
-// speicher [GÄNGE]: opens and closes page A of an episode so many times in the real widgets, after a while of warming
-// up, and measures how much more memory is in use afterwards. Exit status 1 from one megabyte on.
+// speicher [GÄNGE [KNOPF]]: opens a page of an episode (page A, or the one behind the button) and closes it so many
+// times in the real widgets, after a while of warming up, and measures how much more memory is in use afterwards. Exit
+// status 1 from one megabyte on.
 
 #include "Rundgang.h"
 #include "oberflaeche/OberflaecheQt.h"
@@ -14,17 +15,17 @@ namespace {
 constexpr int gängeZumWarmwerden = 50;
 constexpr double höchstensByte = 1024.0 * 1024.0;
 
-/// The way to the care main page, and from there to page A and back.
-std::string weg(int gänge)
+/// The way to the care main page, and from there to the page and back.
+std::string weg(int gänge, const std::string& knopf)
 {
-    const auto gehe = [](int wieOft) {
+    const auto gehe = [&knopf](int wieOft) {
         std::string text;
         for (int i = 0; i < wieOft; ++i) {
-            text += "klicke cmdBetrA\nklicke cmdOK\n";
+            text += "klicke " + knopf + "\nklicke cmdOK\n";
         }
         return text;
     };
-    return "klient 1 Nachname=Adler\nbetreuung 1 1 01.02.2006 offen\ndiagnose 1 1\nstarte\nklicke "
+    return "klient 1 Nachname=Adler\nbetreuung 1 1 01.02.2006 01.02.2007\ndiagnose 1 1\nstarte\nklicke "
            "cmdBetreuungBearbeiten\n" +
            gehe(gängeZumWarmwerden) + "# bild vorher\n" + gehe(gänge) +
            "# bild nachher\nerwarte bildschirm frmBetreuungA\n";
@@ -41,10 +42,11 @@ double belegt()
 int main(int anzahl, char** werte)
 {
     const int gänge = anzahl > 1 ? std::stoi(werte[1]) : 1000;
+    const std::string knopf = anzahl > 2 ? werte[2] : "cmdBetrA";
     const auto oberfläche = erzeugeOberflächeQt();
     double vorher = 0;
     double nachher = 0;
-    const auto fehlschlag = Rundgang::ausText(weg(gänge)).gehe(*oberfläche, [&](const std::string& name) {
+    const auto fehlschlag = Rundgang::ausText(weg(gänge, knopf)).gehe(*oberfläche, [&](const std::string& name) {
         (name == "vorher" ? vorher : nachher) = belegt();
     });
     if (!fehlschlag.empty()) {
