@@ -18,6 +18,8 @@ public:
 
     /// The ordinary end.
     void beende();
+    /// Whether an action is being run at this moment.
+    bool istInEreignis() const { return m_tiefe > 0; }
     bool läuft() const { return m_läuft; }
     int status() const { return m_status; }
     /// The message of the fatal failure, empty without one.

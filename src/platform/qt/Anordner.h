@@ -41,12 +41,14 @@ private:
     bool fügeElement(const Anordnung& a, QBoxLayout& ziel);
     bool fügeText(const Anordnung& a, QBoxLayout& ziel);
     bool fügeSpalte(const Anordnung& a, QBoxLayout& ziel);
+    bool fügeBefehle(const Anordnung& a, QBoxLayout& ziel);
     bool fügeZeile(const Anordnung& a, QBoxLayout& ziel);
     bool fügeFormular(const Anordnung& a, QBoxLayout& ziel);
     bool fügeKarte(const Anordnung& a, QBoxLayout& ziel);
     bool fügeKarten(const Anordnung& a, QBoxLayout& ziel);
     bool fügeDecke(const Anordnung& a, QBoxLayout& ziel);
     bool fügeStapel(const Anordnung& a, QBoxLayout& ziel);
+    void benenneNachKnopf(const Anordnung& zeile) const;
     bool fügeWidget(QWidget& widget, QBoxLayout& ziel, bool füllt);
 
     void fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBoxLayout& ziel);

@@ -5,6 +5,7 @@
 #include "platform/qt/Knoepfe.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
+#include "platform/qt/Vorlesen.h"
 
 #include <QBoxLayout>
 
@@ -52,14 +53,25 @@ public:
     }
 };
 
-void benenneFelder(const Ansicht& ansicht, const std::vector<Element*>& elemente, const QWidget& beschriftung)
+/// The fields of a row; a button is none, its name is its caption.
+std::vector<QWidget*> felderIn(const Ansicht& ansicht, const std::vector<Element*>& elemente)
 {
-    const auto name = dynamic_cast<const Etikett&>(beschriftung).text();
+    std::vector<QWidget*> felder;
     for (const auto* element : elemente) {
         auto* widget = ansicht.widgetVon(*element);
-        if (dynamic_cast<Knopf*>(widget) == nullptr) { // a button's name is its caption
-            widget->setAccessibleName(name);
+        if (dynamic_cast<Knopf*>(widget) == nullptr) {
+            felder.push_back(widget);
         }
+    }
+    return felder;
+}
+
+/// Fields that share a question are told apart by their number.
+void benenneFelder(const std::vector<QWidget*>& felder, const QWidget& beschriftung)
+{
+    const auto name = gesprochen(dynamic_cast<const Etikett&>(beschriftung).text());
+    for (std::size_t i = 0; i < felder.size(); ++i) {
+        benenne(*felder[i], felder.size() == 1 ? name : name + QStringLiteral(" %1").arg(i + 1));
     }
 }
 
@@ -116,7 +128,11 @@ void Anordner::verbindeFeld(const Anordnung& feld, QWidget& beschriftung, QWidge
     for (const auto& teil : feld.teile) {
         sammle(teil, elemente);
     }
-    benenneFelder(m_ansicht, elemente, beschriftung);
+    const auto felder = felderIn(m_ansicht, elemente);
+    benenneFelder(felder, beschriftung);
+    for (auto* eines : felder) {
+        beschrifte(*eines, dynamic_cast<Etikett&>(beschriftung));
+    }
     auto regel = zeile.sizePolicy();
     regel.setRetainSizeWhenHidden(std::any_of(feld.teile.begin(), feld.teile.end(), behältPlatz));
     zeile.setSizePolicy(regel);
@@ -134,8 +150,6 @@ void Anordner::verbindeFeld(const Anordnung& feld, QWidget& beschriftung, QWidge
     }
     if (feld.element != nullptr) {
         m_ansicht.abonniere(feld.element->geändert, zeige);
-        m_ansicht.abonniere(feld.element->geändert, [&ansicht = m_ansicht, elemente, &beschriftung] {
-            benenneFelder(ansicht, elemente, beschriftung);
-        });
+        m_ansicht.abonniere(feld.element->geändert, [felder, &beschriftung] { benenneFelder(felder, beschriftung); });
     }
 }

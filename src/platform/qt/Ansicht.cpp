@@ -2,6 +2,7 @@
 
 #include "platform/qt/Geduld.h"
 #include "platform/qt/Umschrift.h"
+#include "platform/qt/Vorlesen.h"
 
 #include <QAction>
 #include <QWidget>
@@ -22,6 +23,12 @@ void zeichneGemeinsames(const Element& element, QWidget& widget)
 }
 
 } // namespace
+
+void Ansicht::setzeWurzel(QWidget& wurzel)
+{
+    m_wurzel = &wurzel;
+    meldeWurzel(wurzel, *this);
+}
 
 void Ansicht::ereignis(const std::function<void()>& aktion)
 {

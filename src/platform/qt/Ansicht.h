@@ -18,6 +18,8 @@ public:
     virtual ~Bühne() = default;
     /// Enters the logic with a person's action.
     virtual void ereignis(const std::function<void()>& aktion) = 0;
+    /// Whether the logic is at work at this moment.
+    virtual bool istInEreignis() const = 0;
     virtual Datum heute() = 0;
 };
 
@@ -33,6 +35,7 @@ public:
     Bildschirm& bildschirm() const { return m_bildschirm; }
     bool lebt() const { return m_lebt; }
     Datum heute() const { return m_bühne.heute(); }
+    bool istInEreignis() const { return m_bühne.istInEreignis(); }
     /// Runs the rule in the course of the program; nothing happens once the screen is gone.
     void ereignis(const std::function<void()>& aktion);
 
@@ -49,7 +52,7 @@ public:
     Element* elementVon(const QWidget* widget) const;
 
     QWidget* wurzel() const { return m_wurzel; }
-    void setzeWurzel(QWidget& wurzel) { m_wurzel = &wurzel; }
+    void setzeWurzel(QWidget& wurzel);
     void löse();
 
 private:

@@ -5,9 +5,8 @@
 #include "platform/qt/Farbwert.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
+#include "platform/qt/Vorlesen.h"
 
-#include <QAccessible>
-#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -17,35 +16,15 @@ namespace {
 
 constexpr int ring = 3; ///< room around the field for the focus line, in hairlines
 constexpr int rundung = 3;
-constexpr double deckungGesperrt = 0.45;
+constexpr float deckungGesperrt = 0.45F;
+constexpr double lesbar = 4.5; ///< least contrast of a text
 
-/// A screen reader meets a button whose value is the answer.
-class Vorlesefeld : public QAccessibleWidget {
-public:
-    explicit Vorlesefeld(Antwortfeld& feld) : QAccessibleWidget(&feld, QAccessible::Button), m_feld(feld) {}
-
-    QString text(QAccessible::Text art) const override
-    {
-        return art == QAccessible::Value ? m_feld.text() : QAccessibleWidget::text(art);
-    }
-    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
-    void doAction(const QString& aktion) override
-    {
-        if (aktion == pressAction() && m_feld.isEnabled()) {
-            m_feld.klicke();
-        } else {
-            QAccessibleWidget::doAction(aktion);
-        }
-    }
-
-private:
-    Antwortfeld& m_feld;
-};
-
-QAccessibleInterface* erzeugeVorlesefeld(const QString& /*klasse*/, QObject* objekt)
+/// The colour on the ground of the page, through which a disabled field lets it shine.
+QColor blass(const QColor& farbe, const QColor& grund)
 {
-    auto* feld = dynamic_cast<Antwortfeld*>(objekt);
-    return feld == nullptr ? nullptr : new Vorlesefeld(*feld);
+    const auto mische = [](float a, float b) { return a * deckungGesperrt + b * (1 - deckungGesperrt); };
+    return QColor::fromRgbF(mische(farbe.redF(), grund.redF()), mische(farbe.greenF(), grund.greenF()),
+                            mische(farbe.blueF(), grund.blueF()));
 }
 
 } // namespace
@@ -53,11 +32,6 @@ QAccessibleInterface* erzeugeVorlesefeld(const QString& /*klasse*/, QObject* obj
 Antwortfeld::Antwortfeld(triCtlJaNein& element, Ansicht& ansicht, QWidget* eltern)
     : QWidget(eltern), m_element(element), m_ansicht(ansicht)
 {
-    static const bool angemeldet = [] {
-        QAccessible::installFactory(erzeugeVorlesefeld);
-        return true;
-    }();
-    Q_UNUSED(angemeldet)
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     ansicht.binde(element, *this, [this] { übernimm(); });
 }
@@ -68,10 +42,14 @@ void Antwortfeld::übernimm()
     m_hintergrund = alsQColor(m_element.hintergrund());
     m_randfarbe = alsQColor(m_element.randfarbe());
     update();
-    if (vorher != m_text && QAccessible::isActive()) {
-        QAccessibleValueChangeEvent gewechselt(this, m_text);
-        QAccessible::updateAccessibility(&gewechselt);
+    if (vorher != m_text) {
+        meldeWert(*this, gesprochenerText());
     }
+}
+
+QString Antwortfeld::gesprochenerText() const
+{
+    return m_text == QStringLiteral("k.A.") ? m_text + QStringLiteral(" (offen)") : m_text;
 }
 
 void Antwortfeld::klicke()
@@ -98,7 +76,11 @@ void Antwortfeld::paintEvent(QPaintEvent* /*ereignis*/)
     maler.setBrush(m_hintergrund);
     maler.drawRoundedRect(feld.adjusted(0.5, 0.5, -0.5, -0.5), rundung, rundung);
     maler.setOpacity(1.0);
-    maler.setPen(isEnabled() ? QColor(Qt::black) : farben().schrift);
+    const auto gesperrteSchrift = [this] {
+        const auto grund = blass(m_hintergrund, farben().flaeche);
+        return kontrast(farben().schrift, grund) >= lesbar ? farben().schrift : QColor(Qt::black);
+    };
+    maler.setPen(isEnabled() ? QColor(Qt::black) : gesperrteSchrift());
     QFont schriftart = font();
     schriftart.setBold(m_hintergrund == Qt::white);
     maler.setFont(schriftart);

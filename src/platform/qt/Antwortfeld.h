@@ -13,10 +13,10 @@ public:
 
     /// What it shows.
     QString text() const { return m_text; }
+    /// The same for the ear: "k.A." is said to be open.
+    QString gesprochenerText() const;
     /// The ground it is painted on while it takes input.
     QColor hintergrund() const { return m_hintergrund; }
-    /// The same as a click of the mouse, for those who press it by another device.
-    void klicke();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -29,6 +29,7 @@ protected:
 
 private:
     void übernimm();
+    void klicke();
 
     triCtlJaNein& m_element;
     Ansicht& m_ansicht;

@@ -12,6 +12,7 @@
 #include "platform/qt/Knoepfe.h"
 #include "platform/qt/Listenansicht.h"
 #include "platform/qt/Textbox.h"
+#include "platform/qt/Vorlesen.h"
 
 namespace {
 
@@ -54,6 +55,7 @@ private:
     {
         auto* neu = new W(feld, m_ansicht, m_eltern);
         m_ergebnis = neu;
+        nimmFremdeEingabe(*neu, feld, m_ansicht);
     }
 
     Ansicht& m_ansicht;

@@ -32,6 +32,7 @@ public:
     ~Fensterwart() override;
 
     void ereignis(const std::function<void()>& aktion) override;
+    bool istInEreignis() const override { return m_ablauf.istInEreignis(); }
     Datum heute() override { return m_umgebung.heute(); }
 
     Rahmenfenster& rahmenfenster() { return m_fenster; }
@@ -50,8 +51,11 @@ private:
     void platziereKind(const Platz& platz);
     std::string nameInGebrauch() const;
     void entlade(const Bildschirm& bildschirm);
+    void gibTastaturWeiter();
     void gleicheFokusAb();
+    void gleicheFokusAb(Bildschirm& bildschirm);
     void beiFokuswechsel(QWidget* neu);
+    void folgeFremdemFokus(const QWidget& widget);
     Ansicht* ansichtVon(const QWidget* widget) const;
 
     Ablauf& m_ablauf;
@@ -63,6 +67,7 @@ private:
     const Bildschirm* m_seite = nullptr; ///< whose page the frame shows
     std::vector<QMenu*> m_menüs;
     QPointer<QWidget> m_aktiveZeile;
+    bool m_setztFokus = false; ///< the focus that changes is the program's own doing
     Eingabewächter m_wächter;
     Handbuch m_handbuch;
     std::vector<Abonnement> m_abonnements;

@@ -225,12 +225,37 @@ Listung::Listung(const Anordnung& listung, Ansicht& ansicht, QWidget* eltern)
       m_blatt(new Listungsblatt(listung, ansicht, m_leiste, m_rolle->viewport()))
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    sprichZeilen(listung, ansicht);
     m_rolle->setFocusPolicy(Qt::NoFocus);
     m_rolle->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_rolle->setWidgetResizable(true);
     m_rolle->setWidget(m_blatt);
     m_rolle->viewport()->setAutoFillBackground(false);
     m_blatt->setAutoFillBackground(false);
+}
+
+/// The scroll bar has the keyboard of the listing, so it is what says which row is marked.
+void Listung::sprichZeilen(const Anordnung& listung, Ansicht& ansicht)
+{
+    const auto name = alsQString(listung.text).section(QChar('\n'), 1);
+    std::vector<const Beschriftung*> zeilen;
+    for (const auto& zeile : listung.teile) {
+        zeilen.push_back(dynamic_cast<const Beschriftung*>(zeile.teile.front().element));
+    }
+    const auto sprich = [leiste = m_leiste, name, zeilen] {
+        const auto markiert = std::find_if(zeilen.begin(), zeilen.end(), [](const Beschriftung* zeile) {
+            return zeile->zeilenart() == Beschriftung::Zeilenart::Markiert;
+        });
+        const auto neu =
+            markiert == zeilen.end() ? name : name + QStringLiteral(", markiert: ") + alsQString((*markiert)->text());
+        if (leiste->accessibleName() != neu) {
+            leiste->setAccessibleName(neu);
+        }
+    };
+    sprich();
+    for (const auto& zeile : listung.teile) {
+        ansicht.abonniere(zeile.teile.front().element->geändert, sprich);
+    }
 }
 
 void Listung::ordne()

@@ -80,6 +80,8 @@ protected:
     void ordne() override;
 
 private:
+    void sprichZeilen(const Anordnung& listung, Ansicht& ansicht);
+
     QWidget* m_leiste;
     QScrollArea* m_rolle;
     Listungsblatt* m_blatt;

@@ -1,12 +1,15 @@
 #include "platform/qt/QtOberflaeche.h"
 
 #include "platform/qt/Fensterwart.h"
+#include "platform/qt/Vorlesen.h"
 
 #include <QCoreApplication>
 
 QtOberfläche::QtOberfläche(Ablauf& ablauf, Bildschirmfolge& folge, Rahmen& rahmen, Umgebung& umgebung)
     : m_wart(std::make_unique<Fensterwart>(ablauf, folge, rahmen, umgebung))
-{}
+{
+    richteVorlesenEin();
+}
 
 QtOberfläche::~QtOberfläche() = default;
 

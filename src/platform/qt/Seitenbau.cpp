@@ -6,6 +6,7 @@
 #include "platform/qt/Etikett.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
+#include "platform/qt/Vorlesen.h"
 
 #include <QAction>
 #include <QFrame>
@@ -29,6 +30,9 @@ public:
     QSize sizeHint() const override { return widget()->sizeHint(); }
     QSize minimumSizeHint() const override { return {em(20), em(6)}; }
 };
+
+constexpr double periodenbreite = 12; ///< the period is whole, whatever the name
+constexpr int vielMehr = 1000;        ///< stretch of what takes all that is left
 
 Etikett& fügeBandtext(QWidget& widget, const char* rolle, Schriftrolle schriftrolle, QHBoxLayout& ziel)
 {
@@ -59,7 +63,20 @@ void fügeNamen(Ansicht& ansicht, Element& name, QWidget& band, QHBoxLayout& zie
     ziel.addWidget(strich);
     ziel.addSpacing(em(0.1));
     auto& text = fügeBandtext(*zeichneElement(name, ansicht, &band), "auf-band", Schriftrolle::Bandname, ziel);
+    // a name takes what title and period leave, and is cut before they are
+    constexpr double mindestens = 4;
+    text.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    text.setMinimumWidth(em(mindestens));
+    ziel.setStretchFactor(&text, vielMehr);
     zeigeNurGefüllt(ansicht, name, {strich, &text});
+}
+
+/// Read out alone, the value says what it is.
+void sprichMitBeschriftung(Ansicht& ansicht, Element& element, const Etikett& vor, Etikett& wert)
+{
+    const auto benenne = [&vor, &wert] { wert.setAccessibleName(vor.text() + QChar(' ') + wert.text()); };
+    benenne();
+    ansicht.abonniere(element.geändert, benenne);
 }
 
 void fügeWerte(Ansicht& ansicht, const std::vector<Kopfband::Wert>& werte, QWidget& band, QHBoxLayout& ziel)
@@ -69,7 +86,9 @@ void fügeWerte(Ansicht& ansicht, const std::vector<Kopfband::Wert>& werte, QWid
         auto& vor = fügeBandtext(*new Etikett(alsQString(wert.beschriftung), &band), "auf-band-leise",
                                  Schriftrolle::Grund, ziel);
         auto& text = fügeBandtext(*zeichneElement(*wert.element, ansicht, &band), "auf-band", Schriftrolle::Wert, ziel);
-        text.setAccessibleName(vor.text());
+        sprichMitBeschriftung(ansicht, *wert.element, vor, text);
+        vor.setzeMindestbreite(periodenbreite);
+        text.setzeMindestbreite(periodenbreite);
         zeigeNurGefüllt(ansicht, *wert.element, {&vor, &text});
     }
 }
@@ -148,15 +167,22 @@ Seite baueSeite(Ansicht& ansicht, QWidget* eltern)
     auto* stockwerke = new QVBoxLayout(wurzel);
     stockwerke->setContentsMargins(0, 0, 0, 0);
     stockwerke->setSpacing(0);
+    auto* band = baueBand(ansicht, wurzel); // before the body: the order in which they are read out
     auto* blatt = new Blatt(wurzel);
     auto* inhalt = new QWidget(blatt->viewport());
     Anordner(ansicht, *inhalt, !ansicht.bildschirm().istKindfenster)
         .baueSeite(ansicht.bildschirm().aufbau, *new QVBoxLayout(inhalt));
     blatt->setWidget(inhalt);
     inhalt->setAutoFillBackground(false);
-    stockwerke->addWidget(baueBand(ansicht, wurzel));
+    stockwerke->addWidget(band);
     stockwerke->addWidget(blatt, 1);
     stockwerke->addWidget(baueLeiste(ansicht, wurzel));
     baueMenü(ansicht, *wurzel);
+    if (auto* titel = ansicht.bildschirm().kopfband.titel; titel != nullptr) {
+        benenneUnbenannte(*wurzel, alsQString(titel->text()));
+        const auto nenneSeite = [wurzel, titel] { wurzel->setAccessibleName(alsQString(titel->text())); };
+        nenneSeite();
+        ansicht.abonniere(titel->geändert, nenneSeite);
+    }
     return {wurzel, blatt};
 }

@@ -8,6 +8,7 @@
 #include "platform/qt/Knoepfe.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
+#include "platform/qt/Vorlesen.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -37,15 +38,23 @@ std::vector<int> spaltenbreiten(const Anordnung& tabelle)
     return breiten;
 }
 
-QString zugänglicherName(const Tabellenspalte& spalte, const Anordnung& zeile)
+/// What stands over the column.
+QStringList köpfeDer(const Tabellenspalte& spalte)
 {
-    QStringList teile{alsQString(zeile.element->text())};
-    for (const auto& kopf : {spalte.gruppe, spalte.titel}) {
-        if (!kopf.empty()) {
-            teile.append(alsQString(kopf));
-        }
+    QStringList teile{alsQString(spalte.gruppe), alsQString(spalte.titel)};
+    teile.removeAll(QString());
+    return teile;
+}
+
+/// A choice says its question by its labels, of which some readers follow the first one only.
+void benenneZelle(QWidget& zelle, const Tabellenspalte& spalte, const Anordnung& zeile)
+{
+    const auto trennung = QStringLiteral(", ");
+    const auto köpfe = köpfeDer(spalte);
+    benenne(zelle, gesprochen((QStringList(alsQString(zeile.element->text())) + köpfe).join(trennung)));
+    if (dynamic_cast<Optionsknopf*>(&zelle) == nullptr) {
+        unterscheide(zelle, köpfe.join(trennung));
     }
-    return teile.join(QStringLiteral(", "));
 }
 
 QWidget* baueZelle(Element& element, int breite, Ansicht& ansicht, QWidget* eltern)
@@ -107,6 +116,19 @@ void Antwortzeile::setzeAktiv(bool aktiv)
     }
 }
 
+void Antwortzeile::beschrifteZellen(const Tabellenkopf& kopf)
+{
+    for (std::size_t i = 0; i < m_zellen.size(); ++i) {
+        if (m_zellen[i] == nullptr) {
+            continue;
+        }
+        beschrifte(*m_zellen[i], *m_beschriftung);
+        for (auto* etikett : kopf.etiketten(i)) {
+            beschrifte(*m_zellen[i], *etikett);
+        }
+    }
+}
+
 void Antwortzeile::paintEvent(QPaintEvent* /*ereignis*/)
 {
     QPainter maler(this);
@@ -140,16 +162,24 @@ Tabellenblatt::Tabellenblatt(const Anordnung& tabelle, Ansicht& ansicht, QWidget
 void Tabellenblatt::fügeZeile(const Anordnung& zeile, const std::vector<Tabellenspalte>& köpfe, Ansicht& ansicht)
 {
     auto* neue = new Antwortzeile(this);
+    auto& beschriftung = dynamic_cast<Etikett&>(*zeichneElement(*zeile.element, ansicht, neue)); // read out first
     std::vector<QWidget*> zellen;
     for (std::size_t i = 0; i < zeile.teile.size(); ++i) {
         auto* element = zeile.teile[i].element;
         zellen.push_back(element == nullptr ? nullptr : baueZelle(*element, m_spalten[i], ansicht, neue));
         if (zellen.back() != nullptr) {
-            zellen.back()->setAccessibleName(zugänglicherName(köpfe[i], zeile));
+            benenneZelle(*zellen.back(), köpfe[i], zeile);
         }
     }
-    neue->setze(dynamic_cast<Etikett&>(*zeichneElement(*zeile.element, ansicht, neue)), std::move(zellen));
+    neue->setze(beschriftung, std::move(zellen));
     m_zeilen.push_back(neue);
+}
+
+void Tabellenblatt::beschrifteZellen(const Tabellenkopf& kopf)
+{
+    for (auto* zeile : m_zeilen) {
+        zeile->beschrifteZellen(kopf);
+    }
 }
 
 int Tabellenblatt::zeilenhöhe() const
@@ -194,6 +224,7 @@ Tabelle::Tabelle(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern)
     : QScrollArea(eltern), m_spalten(spaltenbreiten(tabelle)), m_kopf(new Tabellenkopf(tabelle, ansicht, this)),
       m_blatt(new Tabellenblatt(tabelle, ansicht, viewport()))
 {
+    m_blatt->beschrifteZellen(*m_kopf);
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);

@@ -9,6 +9,7 @@
 
 class Ansicht;
 class Etikett;
+class Tabellenkopf;
 
 /// A row of a table: label at the left, cells in columns of fixed width at the right, a line below. The mouse
 /// tints it, and more strongly the keyboard focus in one of its cells.
@@ -23,6 +24,7 @@ public:
     int ordne(int breite, const std::vector<int>& spalten, int mindesthöhe);
     int bevorzugteBeschriftungsbreite() const;
     void setzeAktiv(bool aktiv);
+    void beschrifteZellen(const Tabellenkopf& kopf);
 
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
@@ -41,6 +43,8 @@ public:
     Tabellenkopf(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern);
 
     int höhe() const { return m_höhe; }
+    /// What stands over the column, from top to bottom.
+    std::vector<Etikett*> etiketten(std::size_t spalte) const;
     /// Places everything; the height does not depend on the width.
     void ordne(int breite, const std::vector<int>& spalten);
 
@@ -74,6 +78,8 @@ class Tabellenblatt : public Handfläche {
 public:
     Tabellenblatt(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern);
 
+    /// Row and column say together what a cell asks.
+    void beschrifteZellen(const Tabellenkopf& kopf);
     int höheBei(int breite) const;
     /// Height of the first rows, as many as must always be in sight.
     int mindesthöhe() const;

@@ -3,6 +3,7 @@
 #include "platform/qt/Stil.h"
 #include "platform/qt/Tabelle.h"
 #include "platform/qt/Umschrift.h"
+#include "platform/qt/Vorlesen.h"
 
 #include <QPainter>
 
@@ -11,19 +12,27 @@
 
 namespace {
 
-Etikett* macheTitel(const std::string& text, QWidget* eltern)
+Etikett* formeTitel(Etikett* titel)
 {
-    if (text.empty()) {
-        return nullptr;
-    }
-    auto* titel = new Etikett(alsMehrzeiler(text), eltern);
     titel->brichAmBindestrich();
     titel->setFont(schrift(Schriftrolle::Spaltenkopf));
     titel->setProperty("rolle", "kopf");
     titel->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
     titel->setWordWrap(true);
     titel->setIndent(0);
+    titel->setAccessibleName(gesprochen(alsQString(text)));
     return titel;
+}
+
+Etikett* macheTitel(const std::string& text, QWidget* eltern)
+{
+    return text.empty() ? nullptr : formeTitel(new Etikett(alsMehrzeiler(text), eltern));
+}
+
+Etikett* macheTitel(const Tabellenspalte& spalte, Ansicht& ansicht, QWidget* eltern)
+{
+    return spalte.kopf == nullptr ? macheTitel(spalte.titel, eltern)
+                                  : formeTitel(dynamic_cast<Etikett*>(zeichneElement(*spalte.kopf, ansicht, eltern)));
 }
 
 } // namespace
@@ -35,7 +44,7 @@ Tabellenkopf::Tabellenkopf(const Anordnung& tabelle, Ansicht& ansicht, QWidget* 
     std::vector<int> breiten;
     for (const auto& spalte : tabelle.spalten) {
         breiten.push_back(em(spalte.breite));
-        m_titelzeile.push_back(macheTitel(spalte.titel, this));
+        m_titelzeile.push_back(macheTitel(spalte, ansicht, this));
     }
     baueFüller(tabelle, ansicht);
     baueGruppen(tabelle, breiten);
@@ -48,7 +57,7 @@ void Tabellenkopf::baueFüller(const Anordnung& tabelle, Ansicht& ansicht)
         m_füller.push_back(spalte.füller == nullptr ? nullptr : zeichneElement(*spalte.füller, ansicht, this));
         if (m_füller.back() != nullptr) {
             const auto name = verbinde(tabelle.text, ' ', spalte.gruppe, ' ', spalte.titel);
-            m_füller.back()->setAccessibleName(alsQString(name).simplified());
+            benenneFüller(*m_füller.back(), name);
         }
     }
 }
@@ -71,6 +80,20 @@ void Tabellenkopf::baueGruppen(const Anordnung& tabelle, const std::vector<int>&
                                            spalten.begin() + static_cast<std::ptrdiff_t>(gruppe.bis) + 1, 0);
         m_gruppenhöhe = std::max(m_gruppenhöhe, gruppe.titel->heightForWidth(breite) + em(0.3));
     }
+}
+
+std::vector<Etikett*> Tabellenkopf::etiketten(std::size_t spalte) const
+{
+    std::vector<Etikett*> alle;
+    for (const auto& gruppe : m_gruppen) {
+        if (gruppe.von <= spalte && spalte <= gruppe.bis) {
+            alle.push_back(gruppe.titel);
+        }
+    }
+    if (m_titelzeile[spalte] != nullptr) {
+        alle.push_back(m_titelzeile[spalte]);
+    }
+    return alle;
 }
 
 void Tabellenkopf::messe(const std::vector<int>& spalten)

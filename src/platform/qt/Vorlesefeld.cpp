@@ -1,0 +1,184 @@
+#include "platform/qt/Vorlesefeld.h"
+
+#include "platform/bildschirm/Bildschirm.h"
+#include "platform/qt/Ansicht.h"
+#include "platform/qt/Antwortfeld.h"
+#include "platform/qt/Auswahlbox.h"
+#include "platform/qt/Vorlesen.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QLineEdit>
+#include <QTimer>
+
+Vorlesefeld::Vorlesefeld(QWidget& widget, Ansicht& ansicht, QAccessible::Role rolle)
+    : QAccessibleWidget(&widget, rolle), m_ansicht(ansicht)
+{}
+
+QList<QPair<QAccessibleInterface*, QAccessible::Relation>> Vorlesefeld::relations(QAccessible::Relation welche) const
+{
+    auto alle = QAccessibleWidget::relations(welche);
+    if (welche.testFlag(QAccessible::Label)) {
+        for (const auto& etikett : widget()->property(schlüsselEtiketten).value<Etikettenliste>()) {
+            if (auto* zugang = QAccessible::queryAccessibleInterface(etikett.data())) {
+                alle.append({zugang, QAccessible::Label});
+            }
+        }
+    }
+    return alle;
+}
+
+QStringList Vorlesefeld::actionNames() const
+{
+    QStringList namen;
+    if (widget()->isEnabled()) {
+        namen << pressAction();
+        if (widget()->focusPolicy() != Qt::NoFocus) {
+            namen << setFocusAction();
+        }
+    }
+    return namen;
+}
+
+bool Vorlesefeld::istErreichbar() const
+{
+    const auto* davor = QApplication::activeModalWidget();
+    return widget()->isEnabled() && widget()->isVisible() && (davor == nullptr || davor->isAncestorOf(widget()));
+}
+
+bool Vorlesefeld::fokussiere(Ansicht& ansicht, const QWidget& widget)
+{
+    auto* element = ansicht.elementVon(&widget);
+    if (element == nullptr) {
+        return false;
+    }
+    bool gelungen = true;
+    ansicht.ereignis([&] { gelungen = !element->nimmtFokus() || ansicht.bildschirm().fokussiere(element); });
+    return gelungen && ansicht.lebt();
+}
+
+void Vorlesefeld::doAction(const QString& aktion)
+{
+    if (!istErreichbar()) {
+        return;
+    }
+    if (aktion == setFocusAction()) {
+        fokussiere(m_ansicht, *widget());
+    } else if (aktion == pressAction()) {
+        // what the press does may show a box and wait in it; the reader is not to wait for that
+        QTimer::singleShot(0, widget(), [&ansicht = m_ansicht, &gedrückt = *widget()] {
+            auto* element = ansicht.elementVon(&gedrückt);
+            if (element != nullptr && fokussiere(ansicht, gedrückt) && ansicht.bildschirm().istErreichbar(*element)) {
+                ansicht.ereignis([&] { element->klicke(); });
+            }
+        });
+    }
+}
+
+Vorleseknopf::Vorleseknopf(QAbstractButton& knopf, Ansicht& ansicht, QAccessible::Role rolle)
+    : Vorlesefeld(knopf, ansicht, rolle), m_knopf(knopf)
+{}
+
+QString Vorleseknopf::text(QAccessible::Text art) const
+{
+    if (art == QAccessible::Name && m_knopf.accessibleName().isEmpty()) {
+        const auto name = gesprochen(m_knopf.text());
+        return name.isEmpty() ? QStringLiteral("entfällt") : name; // an empty cover: what it covers is not asked
+    }
+    return Vorlesefeld::text(art);
+}
+
+QAccessible::State Vorleseknopf::state() const
+{
+    auto zustand = Vorlesefeld::state();
+    zustand.checkable = m_knopf.isCheckable();
+    zustand.checked = m_knopf.isChecked();
+    zustand.pressed = m_knopf.isDown();
+    return zustand;
+}
+
+QString Vorlesewahl::text(QAccessible::Text art) const
+{
+#ifdef Q_OS_UNIX
+    const bool istWert = art == QAccessible::Value || art == QAccessible::Name;
+#else
+    const bool istWert = art == QAccessible::Value;
+#endif
+    return istWert ? wert() : Vorlesefeld::text(art);
+}
+
+Vorleseantwort::Vorleseantwort(Antwortfeld& feld, Ansicht& ansicht) : Vorlesewahl(feld, ansicht), m_feld(feld)
+{}
+
+QString Vorleseantwort::wert() const
+{
+    return m_feld.gesprochenerText();
+}
+
+Vorleseauswahl::Vorleseauswahl(Auswahlbox& box, Ansicht& ansicht) : Vorlesewahl(box, ansicht), m_box(box)
+{}
+
+QString Vorleseauswahl::wert() const
+{
+    const auto text = m_box.gezeigterText();
+    return text.isEmpty() ? QStringLiteral("leer") : text;
+}
+
+QAccessible::State Vorleseauswahl::state() const
+{
+    auto zustand = Vorlesewahl::state();
+    zustand.hasPopup = true;
+    zustand.expandable = true;
+    zustand.editable = m_box.isEditable();
+    return zustand;
+}
+
+/// The list only while it is open: asking for it would build it, which takes its time with all nations.
+QWidgetList Vorleseauswahl::kinder() const
+{
+    QWidgetList alle;
+    if (m_box.isEditable()) {
+        alle << m_box.lineEdit();
+    }
+    if (auto* liste = m_box.findChild<QAbstractItemView*>(); liste != nullptr && liste->isVisible()) {
+        alle << liste;
+    }
+    return alle;
+}
+
+int Vorleseauswahl::childCount() const
+{
+    return static_cast<int>(kinder().size());
+}
+
+QAccessibleInterface* Vorleseauswahl::child(int stelle) const
+{
+    return QAccessible::queryAccessibleInterface(kinder().value(stelle));
+}
+
+int Vorleseauswahl::indexOfChild(const QAccessibleInterface* kind) const
+{
+    return kind == nullptr ? -1 : static_cast<int>(kinder().indexOf(static_cast<QWidget*>(kind->object())));
+}
+
+QStringList Vorleseauswahl::actionNames() const
+{
+    auto namen = Vorlesewahl::actionNames();
+    if (m_box.isEnabled()) {
+        namen.prepend(showMenuAction());
+    }
+    return namen;
+}
+
+void Vorleseauswahl::doAction(const QString& aktion)
+{
+    if (aktion != showMenuAction() && aktion != pressAction()) {
+        Vorlesewahl::doAction(aktion);
+    } else if (istErreichbar()) {
+        QTimer::singleShot(0, &m_box, [&wege = ansicht(), &box = m_box] {
+            if (fokussiere(wege, box)) {
+                box.showPopup();
+            }
+        });
+    }
+}
