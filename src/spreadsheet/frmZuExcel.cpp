@@ -15,9 +15,9 @@ namespace {
 
 constexpr int schritte = 7;
 /// The share of the time that is over when a step begins, and at the end: measured on 5,000 clients.
-constexpr std::array<double, schritte + 1> zeitanteil{0, 0.01, 0.04, 0.08, 0.10, 0.13, 0.15, 1};
+constexpr std::array<double, schritte + 1> zeitanteil{0, 0.002, 0.01, 0.016, 0.016, 0.02, 0.025, 1};
 /// The last step but one joins the episodes; from here on the workbook is written and handed over.
-constexpr double zeitanteilÜbergabe = 0.2;
+constexpr double zeitanteilÜbergabe = 0.03;
 
 } // namespace
 

@@ -113,9 +113,9 @@ struct Formate {
 
 constexpr int zeilenJePause = 50;
 /// The part of the time that the rows take; the rest goes into the packing.
-constexpr double anteilDerZeilen = 0.5;
+constexpr double anteilDerZeilen = 0.4;
 /// The part of the size of its rows to which a workbook is packed, measured on the records of a facility.
-constexpr double packmaß = 0.1;
+constexpr double packmaß = 0.09;
 constexpr int pauseMs = 30;
 
 int zeilenAnzahl(const Blatt& blatt)
