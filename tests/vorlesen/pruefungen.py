@@ -1,8 +1,10 @@
 """What must hold on every screen, each rule a function that gives its findings as pairs of element and fault."""
 
+import re
+
 from gi.repository import GLib
 
-from baum import WERT, ZUGANG, Knoten
+from baum import BAUSTEIN, WERT, ZUGANG, Knoten
 
 EINGABEN = {"push button", "check box", "radio button", "combo box", "text", "spin box", "tree", "list", "table",
             "scroll bar", "slider"}
@@ -248,6 +250,26 @@ def prüfeOffeneListen(wurzel, leser, bühne):
         bühne.tasten("Escape")
         leser.warte_bis(lambda: not ist_offen(), 2)
     return befunde
+
+
+def prüfeKalender(wurzel, leser, bühne):
+    """The calendar of a date opens and says each day that the keys come to."""
+    felder = [k for k in fokussierbare(wurzel) if re.fullmatch(r"\d\d\.\d\d\.\d{4}", k.text or "")]
+    if not felder:
+        return []
+    x, y, breite, höhe = leser.frage(felder[0].pfad, BAUSTEIN, "GetExtents", GLib.Variant("(u)", (0,)))[0]
+    bühne.klicke(x + breite - 10, y + höhe // 2)
+    leser.lasse_geschehen(0.3)
+    leser.ereignisse.clear()
+
+    def sagt_den_tag():
+        ziele = [e.pfad for e in leser.ereignisse if (e.name, e.art, e.zahl) == ("StateChanged", "focused", 1)]
+        return any(re.search(r"\d{1,2}\. \w+ \d{4}", leser.name(Knoten(pfad, None))) for pfad in ziele)
+    bühne.tasten("Right")
+    gesagt = leser.warte_bis(sagt_den_tag, 3)
+    bühne.tasten("Escape")
+    leser.lasse_geschehen(0.3)
+    return [] if gesagt else [(felder[0], "der Kalender sagt den Tag nicht")]
 
 
 def prüfeÄnderungen(wurzel, leser, bühne):

@@ -3,7 +3,6 @@
 #include "platform/elemente/Elemente.h"
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Stil.h"
-#include "platform/qt/Vorlesen.h"
 
 #include <QCalendarWidget>
 #include <QFocusEvent>
@@ -72,7 +71,6 @@ void Datumsbox::richteKalenderEin()
     heute.setFontWeight(QFont::Bold);
     kalender->setDateTextFormat(alsQDate(m_ansicht.heute()), heute);
     setCalendarWidget(kalender);
-    sprichKalender(*kalender);
 }
 
 void Datumsbox::übernimm()
