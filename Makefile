@@ -1,8 +1,12 @@
 # The two commands for everyone are `make start` and `make test`; the others are their parts.
 
-.PHONY: start test demo bilder bauen einrichten pruefung windows bench format
+.PHONY: start test demo bilder bauen einrichten pruefung windows bench ausfall format paket freigabe
 
-start: bauen
+# The program and nothing else; its folder is Tolvek7/.
+start:
+	werkzeug/einrichten.sh start
+	cmake --preset start
+	cmake --build --preset start
 	werkzeug/starten.sh
 
 # Everything optimised, without running anything; the programs lie in build/bin/.
@@ -14,7 +18,9 @@ einrichten:
 	werkzeug/einrichten.sh
 
 # A made-up facility, and an episode's road played on it in the real windows; pictures in demo/.
-demo: bauen
+demo: einrichten
+	cmake --preset freigabe
+	cmake --build --preset freigabe --target musterdaten vorfuehrung
 	werkzeug/vorfuehren.sh
 
 # The pictures of the handbook, taken anew from the demonstration.
@@ -37,6 +43,21 @@ pruefung: einrichten
 windows: einrichten
 	cmake --preset windows
 	cmake --build --preset windows
+
+# Every point at which the real process can be killed or refused something; `make test` takes a sample.
+ausfall: einrichten
+	cmake --preset entwicklung
+	cmake --build --preset entwicklung --target ausfall
+	TOLVEK_AUSFALL_SCHRITT=1 bau/entwicklung/bin/ausfall --gtest_brief=1
+
+# The Debian package and the portable archive, in bau/pakete/.
+paket: einrichten
+	cmake --preset paket
+	paket/packe.sh bau/paket bau/pakete
+
+# Every test, then both packages of the commit, built twice and compared, and their checksums, in freigabe/.
+freigabe: test paket
+	paket/gib_frei.sh
 
 bench: bauen
 	werkzeug/messen.sh

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "daten/Musterdaten.h"
+#include "app/muster/Musterdaten.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/umgebung/Umgebung.h"
 

@@ -1,17 +1,27 @@
 #!/usr/bin/env bash
 # Installs what building, testing and the demonstration need, from Debian's packages. Does nothing when all is there.
+# Usage: einrichten.sh [start]; with "start" only what building and using the program needs.
 set -euo pipefail
 
-pakete=(
-    # building
-    g++ clang cmake ninja-build make ccache pkg-config qt6-base-dev qt6-translations-l10n libxlsxwriter-dev
-    # tests and benchmarks
-    libgtest-dev libgmock-dev libbenchmark-dev libclang-rt-14-dev g++-mingw-w64-x86-64-win32 locales
-    # opening workbooks, windows without a display, pictures
-    libreoffice-calc xvfb xauth x11-utils xdotool openbox fonts-noto-core fontconfig unzip
-    # the windows as a screen reader meets them
-    at-spi2-core dbus python3-gi
-)
+umfang=${1:-alles}
+
+pakete=(g++ cmake ninja-build make pkg-config qt6-base-dev qt6-translations-l10n libxlsxwriter-dev)
+if [ "$umfang" = alles ]; then
+    pakete+=(
+        # building more than once
+        ccache clang
+        # tests and benchmarks
+        libgtest-dev libgmock-dev libbenchmark-dev libclang-rt-14-dev g++-mingw-w64-x86-64-win32 locales
+        # opening workbooks, windows without a display, pictures
+        libreoffice-calc xvfb xauth x11-utils xdotool openbox python3 fonts-noto-core fontconfig unzip
+        # the windows as a screen reader meets them
+        at-spi2-core dbus python3-gi
+        # counting a process's calls to the system
+        strace
+        # packages and their checks
+        librsvg2-bin cmark-gfm dpkg-dev lintian desktop-file-utils appstream man-db file git
+    )
+fi
 
 fehlend=()
 for paket in "${pakete[@]}"; do
@@ -29,6 +39,7 @@ if [ "${#fehlend[@]}" -gt 0 ]; then
 fi
 
 # the locales that the tests run under
+[ "$umfang" = alles ] || exit 0
 for gebiet in de_DE tr_TR; do
     if ! locale -a | grep -qi "^${gebiet}.utf-\?8$"; then
         "${als_root[@]}" localedef -i "$gebiet" -f UTF-8 "$gebiet.UTF-8"

@@ -1,21 +1,10 @@
 #!/usr/bin/env bash
-# Installs the program into its own folder and starts it there; the folder holds the records, so nothing in it is
-# ever wiped. Without a display it plays the demonstration instead.
+# Brings the program folder up to date and starts the program in it. Without a display it plays the demonstration
+# instead.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-mkdir -p -m 0700 Tolvek7
-install -m 0755 build/bin/tolvek7 Tolvek7/
-install -m 0644 anweisungen/*.txt Tolvek7/
-mkdir -p Tolvek7/Handbuch/bilder
-install -m 0644 docs/handbuch/handbuch.md Tolvek7/Handbuch/
-install -m 0644 docs/handbuch/bilder/*.png Tolvek7/Handbuch/bilder/
-for sprache in /usr/share/qt6/translations/qtbase_de.qm; do
-    if [ -f "$sprache" ]; then
-        install -m 0644 "$sprache" Tolvek7/
-    fi
-done
-
+werkzeug/einspielen.sh bau/start/bin/tolvek7 Tolvek7
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     exec Tolvek7/tolvek7
 fi

@@ -8,6 +8,7 @@
 #include "satz/moData.h"
 #include "satz/moNationen.h"
 #include "spreadsheet/moVariablen.h"
+#include "store/Bruchstuecke.h"
 #include "store/Niederschrift.h"
 #include "store/Sicherungen.h"
 #include "store/moBereinigeBetrOA.h"
@@ -38,6 +39,7 @@ void Programm::Main()
     vollendeVorgang(m_zustand.umgebung.dateien(), m_zustand.pfade, m_zustand.bestandsmeldung);
     Importlauf::entferneReste();
     prüfeDateien();
+    stelleBruchstückeBeiseite(m_zustand.bestand);
     if (const auto gefunden = bereinigeDatum(m_zustand.bestand)) {
         m_zustand.gefundeneKernFelder = gefunden->kern;
         m_zustand.gefundeneBetrFelder = gefunden->betr;
@@ -60,7 +62,8 @@ bool Programm::istErsteInstanz()
 
 void Programm::initialisiere()
 {
-    m_zustand.titel = verbinde("Tolvek7 v"_t, std::string_view(TOLVEK_VERSION));
+    m_zustand.titel = verbinde(m_zustand.umgebung.istMuster() ? "MUSTER – "_t : ""_t, "Tolvek7 v"_t,
+                               std::string_view(TOLVEK_VERSION));
     m_zustand.ablauf.setzeTitel(m_zustand.titel);
     m_zustand.pfade = bildePfade(m_zustand.umgebung.programmordner());
     baueProblemKatalog();

@@ -61,8 +61,10 @@ void frmBetrC::benenneElemente()
 {
     benenne("lblLebUnt"_t, lblLebUnt);
     benenne("triJaNeinLebuntv"_t, triJaNeinLebuntv);
+    benenne("Frame1"_t, Frame1);
     benenne("optLebunterV"_t, optLebunterV);
     benenne("triJaNeinLebuntn"_t, triJaNeinLebuntn);
+    benenne("Frame2"_t, Frame2);
     benenne("optLebunterN"_t, optLebunterN);
     benenne("comboSchule"_t, comboSchule);
     benenne("comboAusbild"_t, comboAusbild);
@@ -110,11 +112,10 @@ Anordnung frmBetrC::lebensunterhalt()
     constexpr auto vor = "in der Woche VOR BetreuungsBEGINN"_t;
     constexpr auto nach = "in der Woche NACH BetreuungsENDE"_t;
     constexpr auto einer = "Lebens- unterhalt"_t;
-    constexpr auto haupt = "Haupt- lebens- unterhalt"_t;
     const std::vector<Tabellenspalte> köpfe{{std::string(einer), std::string(vor), &cmdSchnellFüller(0), 4.6},
-                                            {std::string(haupt), std::string(vor), nullptr, 4.6},
+                                            {Frame1.text(), std::string(vor), nullptr, 4.6, &Frame1},
                                             {std::string(einer), std::string(nach), &cmdSchnellFüller(1), 4.6},
-                                            {std::string(haupt), std::string(nach), nullptr, 4.6}};
+                                            {Frame2.text(), std::string(nach), nullptr, 4.6, &Frame2}};
     std::vector<Anordnung> zeilen;
     for (int i = lblLebUnt.von(); i <= lblLebUnt.bis(); ++i) {
         zeilen.push_back(tabellenzeile(

@@ -11,6 +11,8 @@ class frmBetrC : public Betreuungsseite {
 public:
     Elementreihe<Beschriftung> lblLebUnt{1, 12};
     Elementreihe<triCtlJaNein> triJaNeinLebuntv{1, 12};
+    /// The heads over the two groups of options.
+    Beschriftung Frame1{"Haupt- lebens- unterhalt"_t}, Frame2{"Haupt- lebens- unterhalt"_t};
     Elementreihe<Optionsfeld> optLebunterV{1, 12};
     Elementreihe<triCtlJaNein> triJaNeinLebuntn{1, 12};
     Elementreihe<Optionsfeld> optLebunterN{1, 12};

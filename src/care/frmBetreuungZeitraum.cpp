@@ -2,14 +2,17 @@
 
 #include "platform/text/Text.h"
 #include "satz/moHelferlein.h"
+#include "zustand/Fehlerort.h"
 #include "zustand/Zustand.h"
 
 frmBetreuungZeitraum::frmBetreuungZeitraum() : Bildschirm("frmBetreuungZeitraum"_t)
 {
     istKindfenster = true;
     breiteEm = 29;
-    DTPickerVon.setzeDatum(zustand().umgebung.heute());
-    DTPickerBis.setzeDatum(zustand().umgebung.heute());
+    for (auto* feld : {&DTPickerVon, &DTPickerBis}) {
+        feld->heute = [] { return zustand().umgebung.heute(); };
+        feld->setzeDatum(zustand().umgebung.heute());
+    }
     benenneElemente();
     ordneAn();
     beiEingabe = &cmdOK;
@@ -55,8 +58,10 @@ void frmBetreuungZeitraum::beiAktivierung()
 {
     zustand().wechsel->holeFensterlage(*this);
     setzeTitel(zustand().titel);
-    m_zeitraumListe = leseZeitraumListe(kernID);
-    setzeStufeEins();
+    mitDatumsort(kernID, [this] {
+        m_zeitraumListe = leseZeitraumListe(kernID);
+        setzeStufeEins();
+    });
 }
 
 void frmBetreuungZeitraum::beiEntladen()
@@ -97,13 +102,17 @@ void frmBetreuungZeitraum::zeigeEnde()
     cmdOffenEintragen.zeige(amEnde && !offen);
     DTPickerBis.gibFrei(!offen);
     DTPickerBis.streicheDurch(offen);
-    if (!amEnde) {
-        setzeFokus(&DTPickerVon);
-    } else if (offen) {
-        setzeFokus(&cmdIsOffen);
+    if (amEnde) {
+        setzeFokusAufsEnde();
     } else {
-        setzeFokus(&DTPickerBis);
+        setzeFokus(&DTPickerVon);
     }
+}
+
+/// An open end is taken with Return, as most of them are; a dated one is typed.
+void frmBetreuungZeitraum::setzeFokusAufsEnde()
+{
+    setzeFokus(cmdIsOffen.istSichtbar() ? static_cast<Element*>(&cmdOK) : &DTPickerBis);
 }
 
 Nachbarn frmBetreuungZeitraum::nachbarn() const
@@ -113,11 +122,13 @@ Nachbarn frmBetreuungZeitraum::nachbarn() const
 
 void frmBetreuungZeitraum::beiOK()
 {
-    if (m_stufe == Stufe::Beginn) {
-        übernimmVon();
-    } else {
-        übernimmBis();
-    }
+    mitDatumsort(kernID, [this] {
+        if (m_stufe == Stufe::Beginn) {
+            übernimmVon();
+        } else {
+            übernimmBis();
+        }
+    });
 }
 
 void frmBetreuungZeitraum::übernimmVon()
@@ -128,6 +139,7 @@ void frmBetreuungZeitraum::übernimmVon()
                      "Möglicherweise liegt es innerhalb eines schon angelegten Betreuungszeitraums.\n"
                      "Bitte geben Sie ein neues Datum an."_t,
                      Symbol::Warnung);
+        setzeFokus(&DTPickerVon);
         return;
     }
     strVon = kandidat;
@@ -146,6 +158,7 @@ void frmBetreuungZeitraum::übernimmBis()
                      "Möglicherweise überlappt dieser Zeitraum einen schon angelegten.\n"
                      "Bitte korrigieren Sie die Angaben."_t,
                      Symbol::Warnung);
+        setzeFokusAufsEnde();
         return;
     }
     strBis = kandidat;

@@ -43,6 +43,7 @@ private:
     void setzeStufeEins();
     void zeigeStufe();
     void zeigeEnde();
+    void setzeFokusAufsEnde();
     void beiOK();
     void übernimmVon();
     void übernimmBis();

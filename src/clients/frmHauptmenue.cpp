@@ -12,11 +12,11 @@ namespace {
 using namespace anordnung;
 
 /// A list with the buttons of its commands below it, the deleting one apart.
-Anordnung listenkarte(std::string_view titel, Liste& liste, Schaltfläche& hinzufügen, Schaltfläche& bearbeiten,
+Anordnung listenkarte(std::string_view titel, Anordnung liste, Schaltfläche& hinzufügen, Schaltfläche& bearbeiten,
                       Schaltfläche& löschen)
 {
-    return füllend(karte(titel, spalte({füllend(element(liste)), zeile({element(hinzufügen), element(bearbeiten),
-                                                                        dehnung(), element(löschen)})})));
+    return füllend(karte(titel, spalte({füllend(std::move(liste)), zeile({element(hinzufügen), element(bearbeiten),
+                                                                          dehnung(), element(löschen)})})));
 }
 
 /// The id in a cell of a row; 0 without a row.
@@ -78,14 +78,18 @@ void frmHauptmenü::ordneAn()
     // lists fill the page: wider than a card of fields, also on a wide screen
     constexpr double breiteDerKlienten = 66;
     constexpr double breiteDerBetreuungen = 42;
-    auto klienten = spalte(
-        {listenkarte("Klienten"_t, lvwKlienten, cmdKlientenHinzufügen, cmdKlientenBearbeiten, cmdKlientenLöschen)});
-    auto betreuungen = spalte({listenkarte("Betreuungen des ausgewählten Klienten"_t, lvwBetreuungen,
-                                           cmdBetreuungHinzufügen, cmdBetreuungBearbeiten, cmdBetreuungLöschen)});
+    // and at least so wide that heads, numbers and dates are whole
+    constexpr double listeDerKlienten = 27;
+    constexpr double listeDerBetreuungen = 18;
+    auto klienten = spalte({listenkarte("Klienten"_t, element(lvwKlienten, listeDerKlienten), cmdKlientenHinzufügen,
+                                        cmdKlientenBearbeiten, cmdKlientenLöschen)});
+    auto betreuungen =
+        spalte({listenkarte("Betreuungen des ausgewählten Klienten"_t, element(lvwBetreuungen, listeDerBetreuungen),
+                            cmdBetreuungHinzufügen, cmdBetreuungBearbeiten, cmdBetreuungLöschen)});
     aufbau =
         karten({breit(std::move(klienten), breiteDerKlienten), breit(std::move(betreuungen), breiteDerBetreuungen)});
+    // no Escape: leaving the program by one stray key would cost the rollback
     leiste = {.links = {&cmdRollback, &cmdDatenübernahme}, .rechts = {&cmdExit}};
-    beiEscape = &cmdExit;
 }
 
 void frmHauptmenü::verbindeRegeln()

@@ -13,15 +13,16 @@ struct Tastenzeile {
 };
 
 /// The handbook has the whole table.
-constexpr std::array<Tastenzeile, 8> tasten{{
+constexpr std::array<Tastenzeile, 9> tasten{{
     {"F1"_t, "öffnet das Handbuch bei diesem Bildschirm"_t},
     {"Tab, Umschalt+Tab"_t, "nächstes Feld, voriges Feld"_t},
     {"Leertaste"_t, "drückt die Schaltfläche, markiert die Option"_t},
     {"Pfeil links, rechts"_t, "ändern ein Antwortfeld (k.A., ja, nein)"_t},
     {"Pfeil auf, ab"_t, "wechseln die Zeile, wählen in Listen"_t},
     {"Alt + Buchstabe"_t, "drückt die Schaltfläche mit diesem unterstrichenen Buchstaben"_t},
-    {"Eingabe"_t, "OK in den Fenstern Zeitraum und Problembereiche"_t},
-    {"Esc"_t, "Exit"_t},
+    {"F4, Alt+Pfeil ab"_t, "öffnet eine Auswahl, beim Datum den Kalender"_t},
+    {"Eingabe"_t, "drückt die Schaltfläche, sonst OK in den Fenstern Zeitraum und Problembereiche"_t},
+    {"Esc"_t, "Exit; ein getipptes Datum nimmt es erst zurück"_t},
 }};
 
 std::string tastenliste()
@@ -33,11 +34,25 @@ std::string tastenliste()
     return text;
 }
 
+/// Breaks the path behind its separators, so that a long one does not decide the width of the window.
+std::string umbrochen(std::string_view pfad)
+{
+    constexpr std::size_t zeilenlänge = 60;
+    std::string ergebnis;
+    while (pfad.size() > zeilenlänge) {
+        const auto trennung = pfad.find_last_of("/\\", zeilenlänge - 1);
+        const auto länge = trennung == std::string_view::npos || trennung == 0 ? zeilenlänge : trennung + 1;
+        ergebnis.append(pfad.substr(0, länge)).append("\r\n");
+        pfad.remove_prefix(länge);
+    }
+    return ergebnis.append(pfad);
+}
+
 std::string ordnertext()
 {
     const auto& daten = zustand().pfade.daten;
-    return verbinde("Ordner der Daten: "_t, pfadtext(daten), "\r\nStand beim Start dieser Sitzung: "_t,
-                    pfadtext(daten / "*.bak"), "\r\nFrühere Stände: "_t, pfadtext(daten / "Sicherungen"));
+    return verbinde("Ordner der Daten: "_t, umbrochen(pfadtext(daten)), "\r\nStand beim Start dieser Sitzung: "_t,
+                    umbrochen(pfadtext(daten / "*.bak")), "\r\nFrühere Stände: "_t, umbrochen(pfadtext(daten / "Sicherungen")));
 }
 
 } // namespace

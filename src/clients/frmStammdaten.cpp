@@ -1,9 +1,9 @@
 #include "clients/frmStammdaten.h"
 
 #include "platform/text/Zahl.h"
-#include "store/Vorgang.h"
 #include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
+#include "store/Vorgang.h"
 #include "zustand/Zustand.h"
 
 #include <array>
@@ -57,6 +57,7 @@ frmStammdaten::frmStammdaten(Bildschirm& hauptmenü) : Bildschirm("frmStammdaten
     benenne("cmdOK"_t, cmdOK);
     benenne("cmdExit"_t, cmdExit);
     ordneAn();
+    DTPickerGeburtsdatum.heute = [] { return zustand().umgebung.heute(); };
     DTPickerGeburtsdatum.setzeDatum(zustand().umgebung.heute());
     cmdGebUnbekanntEintragen.verberge();
 
@@ -164,6 +165,7 @@ void frmStammdaten::beiOK()
     const auto satz = erstelleKernDS();
     if (liegtNeuInDerZukunft(satz) && zeigeMeldung("Geburtsdatum liegt in der Zukunft. Fortfahren ?"_t, Symbol::Frage,
                                                    Knöpfe::OKAbbrechen) != Antwort::OK) {
+        setzeFokus(&DTPickerGeburtsdatum);
         return;
     }
     Vorgang vorgang(zustand().bestand);

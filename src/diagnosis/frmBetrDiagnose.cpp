@@ -1,9 +1,11 @@
 #include "diagnosis/frmBetrDiagnose.h"
 
+#include "platform/text/Zahl.h"
 #include "satz/Diagnosesatz.h"
 #include "satz/WeitereDiagnosen.h"
 #include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
+#include "zustand/Fehlerort.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>
@@ -73,11 +75,32 @@ void frmBetrDiagnose::beiAktivierung()
         m_alteDSBetrDiag = DSBetrDiag();
     }
     zustand().wechsel->setzeFensterPosition(*this);
-    if (!m_istEingerichtet) {
+    const bool istErsteAktivierung = !m_istEingerichtet;
+    if (istErsteAktivierung) {
         richteEin();
         m_istEingerichtet = true;
     }
+    prüfeBitfeld();
     setFrmData();
+    if (istErsteAktivierung) {
+        setzeFokus(&ersteFrage()); // not the scroll bar of the listing above it
+    }
+}
+
+Element& frmBetrDiagnose::ersteFrage()
+{
+    auto& grund = optHDohne(optHDohne.von());
+    return istErreichbar(grund) ? grund : optIVKonsum(optIVKonsum.von());
+}
+
+/// A bit field that is no number would come up somewhere in the middle of the page; here its record can be named.
+void frmBetrDiagnose::prüfeBitfeld()
+{
+    constexpr int felderDesSchlüssels = 2;
+    const auto& satz = zustand().arbeitskopie.aktDiagDS;
+    const Satzschlüssel schlüssel{static_cast<std::int32_t>(führendeZahl(getFeld(satz, 1))),
+                                  static_cast<std::int32_t>(führendeZahl(getFeld(satz, 2)))};
+    mitSatzort(Tabelle::Diag, schlüssel, bitfeldposition + felderDesSchlüssels, [] { leseBitfeld(DSDiag()); });
 }
 
 void frmBetrDiagnose::beiEntladen()

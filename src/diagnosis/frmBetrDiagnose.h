@@ -45,6 +45,7 @@ public:
     Schaltfläche cmdDiagnoseBearbeiten{"Problembereich bearbeiten"_t};
     Schaltfläche cmdDiagnoseLöschen{"Problembereich löschen"_t, Schaltfläche::Rolle::Gefahr};
 
+    Beschriftung frameHDohne{"Grund, warum keine Hauptdiagnose gestellt wurde"_t};
     Elementreihe<Optionsfeld> optHDohne{0, 5};
     /// Lies over the options while there is a main diagnosis; has no action.
     Schaltfläche cmdIsHDGestellt{"eine Hauptdiagnose wurde gestellt"_t, Schaltfläche::Rolle::Decke};
@@ -53,6 +54,7 @@ public:
     Beschriftung lblWeitereICD{"Weitere ICD-10-Diagnosen"_t};
     Beschriftung lblICDPoly{"Politoxikomanie"_t};
     Auswahlfeld comboICDPoly, comboHIVInfekt, comboHepatB, comboHepatC;
+    Beschriftung frameivKonsum{"I.v. Konsum"_t};
     Elementreihe<Optionsfeld> optIVKonsum{0, 3};
 
     Schaltfläche cmdMemo{"&Memo"_t};
@@ -93,6 +95,8 @@ private:
     void bestimmeZeilenregeln(int zeile);
 
     void richteEin();
+    void prüfeBitfeld();
+    Element& ersteFrage();
     void setzeRollbereich();
 
     // the elements and the two working strings

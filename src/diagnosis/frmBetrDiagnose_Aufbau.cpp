@@ -110,8 +110,10 @@ void frmBetrDiagnose::benenneElemente()
     benenne("cmdNeueDiagnose"_t, cmdNeueDiagnose);
     benenne("cmdDiagnoseBearbeiten"_t, cmdDiagnoseBearbeiten);
     benenne("cmdDiagnoseLöschen"_t, cmdDiagnoseLöschen);
+    benenne("frameHDohne"_t, frameHDohne);
     benenne("optHDohne"_t, optHDohne);
     benenne("cmdIsHDGestellt"_t, cmdIsHDGestellt);
+    benenne("frameivKonsum"_t, frameivKonsum);
     benenne("optIVKonsum"_t, optIVKonsum);
     benenne("lblWeitereICD"_t, lblWeitereICD);
     benenne("tbandereDiagnose"_t, tbandereDiagnose);
@@ -156,9 +158,9 @@ Anordnung frmBetrDiagnose::listungskarte()
 
 Anordnung frmBetrDiagnose::antwortkarten()
 {
-    Anordnung links = anordnung::spalte({anordnung::karte("Grund, warum keine Hauptdiagnose gestellt wurde"_t,
-                                                          anordnung::decke(untereinander(optHDohne), cmdIsHDGestellt)),
-                                         anordnung::karte("I.v. Konsum"_t, untereinander(optIVKonsum))});
+    Anordnung links =
+        anordnung::spalte({anordnung::karte(frameHDohne, anordnung::decke(untereinander(optHDohne), cmdIsHDGestellt)),
+                           anordnung::karte(frameivKonsum, untereinander(optIVKonsum))});
     Anordnung diagnosen = anordnung::formular(
         {viererreihe(tbandereDiagnose, 1, "F"_t, "Psychiatrische Diagnosen"_t),
          viererreihe(tbandereDiagnose, 5, "G"_t, "Neurologische Diagnosen"_t),

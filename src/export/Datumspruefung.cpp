@@ -8,13 +8,13 @@
 
 namespace {
 
-int jahrVon(std::string_view datum, std::string_view bezeichnung)
+int jahrVon(std::string_view datum, int feld, std::string_view bezeichnung)
 {
     constexpr std::size_t stellen = 4;
     const auto jahr = leseGanzzahl16(datum.substr(datum.size() - std::min(datum.size(), stellen)));
     if (!jahr) {
         throw Laufzeitfehler(
-            verbinde("Das Datum \""_t, datum, "\" der Betreuung "_t, bezeichnung, " hat keine Jahreszahl."_t));
+            verbinde("Feld "_t, std::to_string(feld), ": Das Datum \""_t, datum, "\" der Betreuung "_t, bezeichnung, " hat keine Jahreszahl."_t));
     }
     return *jahr;
 }
@@ -23,8 +23,8 @@ int jahrVon(std::string_view datum, std::string_view bezeichnung)
 
 bool berührtJahr(std::string_view beginn, std::string_view ende, int jahr, std::string_view bezeichnung)
 {
-    if (jahr < jahrVon(beginn, bezeichnung)) {
+    if (jahr < jahrVon(beginn, 3, bezeichnung)) {
         return false;
     }
-    return klein(ende) == "offen"_t || jahr <= jahrVon(ende, bezeichnung);
+    return klein(ende) == "offen"_t || jahr <= jahrVon(ende, 4, bezeichnung);
 }

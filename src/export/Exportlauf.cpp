@@ -125,14 +125,23 @@ void Exportlauf::sucheBetreuungen(std::int32_t erster)
     Zeilen zeilen(m_betreuungen->text());
     while (const auto zeile = zeilen.nächste()) {
         const auto kernID = leseSchlüssel(*zeile, 1, bits, pfad, zeilen.nummer());
-        const auto bezeichnung = verbinde(getFeld(*zeile, 1), '-', getFeld(*zeile, 2));
-        if (!berührtJahr(getFeld(*zeile, 3), getFeld(*zeile, 4), m_jahr, bezeichnung)) {
+        if (!berührtJahrDesExports(*zeile, zeilen.nummer())) {
             continue;
         }
         m_imJahr[kernID].push_back({*zeile, zeilen.nummer()});
         if (kernID == erster) {
             exportiere(kernID, *zeile, zeilen.nummer());
         }
+    }
+}
+
+bool Exportlauf::berührtJahrDesExports(std::string_view betrDS, std::size_t nummer) const
+{
+    try {
+        const auto bezeichnung = verbinde(getFeld(betrDS, 1), '-', getFeld(betrDS, 2));
+        return berührtJahr(getFeld(betrDS, 3), getFeld(betrDS, 4), m_jahr, bezeichnung);
+    } catch (const Laufzeitfehler& fehler) {
+        throw Laufzeitfehler(verbinde(ortsangabe(zustand().pfade.betrDat, nummer), ", "_t, fehler.text()));
     }
 }
 

@@ -67,6 +67,7 @@ private:
     void exportiereKlient(std::string_view zeile, std::size_t nummer);
     /// Notes the episodes of the year and exports those of the first client on the way.
     void sucheBetreuungen(std::int32_t erster);
+    bool berührtJahrDesExports(std::string_view betrDS, std::size_t nummer) const;
     void exportiere(std::int32_t kernID, std::string_view betrDS, std::size_t nummer);
     void schreibe(std::string_view betrDS, std::string_view diagDS);
     void behalteGeschriebenes();

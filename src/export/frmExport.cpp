@@ -91,6 +91,7 @@ void frmExport::beiOK()
     const auto jahr = leseJahr(comboJahr.text());
     if (!jahr) {
         zeigeMeldung("Bitte ein gültiges Exportjahr eingeben"_t);
+        setzeFokus(&comboJahr);
         return;
     }
     const auto frage = verbinde("Es wird der Export der Daten für das Jahr "_t, alsText(*jahr), " durchgeführt."_t);

@@ -4,6 +4,7 @@
 #include "import/Altnummer.h"
 #include "import/Eingabedatei.h"
 #include "import/Instruktionsdatei.h"
+#include "platform/dateien/Dateien.h"
 #include "platform/text/Datum.h"
 #include "platform/text/Zahl.h"
 #include "satz/moHelferlein.h"
@@ -170,6 +171,15 @@ void baueDiagnosezeile(AltKDSZeile& zeile, const Betreuungssatz& satz, const std
     }
 }
 
+/// The facility's own file goes before the one that the installation brings.
+std::filesystem::path anweisungsdatei(const std::filesystem::path& name)
+{
+    auto& umgebung = zustand().umgebung;
+    const auto eigene = zustand().pfade.programm / name;
+    const auto mitgebrachte = umgebung.installation() / name;
+    return !umgebung.dateien().istDatei(eigene) && umgebung.dateien().istDatei(mitgebrachte) ? mitgebrachte : eigene;
+}
+
 /// One pass over the care lines: each becomes the row that `baue` makes of it.
 void fürJedenSatz(const Eingabedatei& betreuungen, const std::filesystem::path& ziel, Zeitraumfelder zeitraum,
                   const std::function<void(AltKDSZeile&, const Betreuungssatz&)>& baue)
@@ -202,17 +212,16 @@ bool istNichtNach(std::string_view a, std::string_view b)
 void moimp2TolvekExportTOaltKDS(const std::filesystem::path& kernExp, const std::filesystem::path& betreuungenExp,
                                 const std::filesystem::path& aKDSKern, const std::filesystem::path& aKDSDiagnose)
 {
-    const auto& programm = zustand().pfade.programm;
     const Klientenverzeichnis klienten(kernExp);
     const Eingabedatei betreuungen(betreuungenExp);
 
-    const auto kern = leseInstruktionen(programm / "eKernAnweisung.txt", kernspalten);
+    const auto kern = leseInstruktionen(anweisungsdatei("eKernAnweisung.txt"), kernspalten);
     const Zeitraumfelder zeitraum{kern[3].quelle, kern[4].quelle};
     fürJedenSatz(betreuungen, aKDSKern, zeitraum, [&](AltKDSZeile& zeile, const Betreuungssatz& satz) {
         baueKernzeile(zeile, klienten.werte(leseAltnummer(satz.feld(1), betreuungenExp)), satz, kern);
     });
 
-    const auto diagnose = leseInstruktionen(programm / "eDiagAnweisung.txt", diagnosespalten);
+    const auto diagnose = leseInstruktionen(anweisungsdatei("eDiagAnweisung.txt"), diagnosespalten);
     fürJedenSatz(betreuungen, aKDSDiagnose, zeitraum,
                  [&](AltKDSZeile& zeile, const Betreuungssatz& satz) { baueDiagnosezeile(zeile, satz, diagnose); });
 }

@@ -16,7 +16,7 @@ extern std::array<std::string, höchsteGruppe + 1> aryProblem;
 extern std::array<std::string, höchsteGruppe + 1> aryProblemKurz;
 extern std::array<std::string, höchsteGruppe + 1> aryProblemZusatz;
 
-/// The full name of the group, also before the tables are filled.
+/// The full name of the group, also before the tables are filled; empty for a number that is no group.
 std::string_view gruppenname(int gruppe);
 
 /// The number that forms a group's variable names in the column headers ("100" in icd1001).

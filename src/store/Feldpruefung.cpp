@@ -60,10 +60,12 @@ std::string_view folgeFürDatum(Tabelle tabelle, bool wirdErgänzt)
                : "Export und Bearbeiten des Zeitraums enden mit einer Meldung oder einem Laufzeitfehler"_t;
 }
 
-/// The start completes years of less than three digits, whatever stands before them.
-bool wirdErgänzt(std::string_view datum)
+/// The start completes years of less than three digits, whatever stands before them, in lines that go on behind them.
+bool wirdErgänzt(const Satzzeile& satz, int feld)
 {
-    return datum.size() - std::min(datum.size(), datum.rfind('.') + 1) < 3;
+    const auto datum = satz.feld(feld);
+    return satz.felder.size() > static_cast<std::size_t>(feld) &&
+           datum.size() - std::min(datum.size(), datum.rfind('.') + 1) < 3;
 }
 
 } // namespace
@@ -106,8 +108,8 @@ std::optional<Datum> prüfeDatum(const Satzzeile& satz, int feld, std::string_vi
     const auto datum = leseDatum(text);
     if (!datum) {
         befunde.melde(Befundart::DatumUngültig, satz.ort(feld), alsZitat(text),
-                      folgeFürDatum(satz.tabelle, wirdErgänzt(text)));
-    } else if (wirdErgänzt(text)) {
+                      folgeFürDatum(satz.tabelle, wirdErgänzt(satz, feld)));
+    } else if (wirdErgänzt(satz, feld)) {
         befunde.melde(Befundart::DatumZweistellig, satz.ort(feld), alsZitat(text));
     }
     return datum;

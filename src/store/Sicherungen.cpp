@@ -101,10 +101,10 @@ std::vector<fs::path> sätzeIn(Dateien& dateien, const fs::path& sicherungen)
     auto sätze = dateien.istOrdner(sicherungen) ? dateien.ordnerIn(sicherungen) : std::vector<fs::path>{};
     std::erase_if(sätze, [längeDerZeit](const fs::path& name) {
         const auto text = pfadtext(name);
-        const bool istZeit =
-            text.size() >= längeDerZeit &&
-            text.find_first_not_of("0123456789-. ") >= std::min(text.size(), längeDerZeit);
-        return !istZeit || text.ends_with(angefangen) || text.ends_with("unvollendet"_t);
+        const bool istZeit = text.size() >= längeDerZeit &&
+                             text.find_first_not_of("0123456789-. ") >= std::min(text.size(), längeDerZeit);
+        return !istZeit || text.ends_with(angefangen) || text.ends_with("unvollendet"_t) ||
+               text.ends_with("halbe Zeile"_t);
     });
     return sätze;
 }
@@ -203,8 +203,9 @@ std::string ortDerSicherung(const Bestand& bestand)
             return {};
         }
         const auto sätze = sätzeIn(bestand.dateien(), pfade.sicherungen);
-        const auto ältere =
-            sätze.empty() ? std::string() : verbinde(", ältere in \""_t, pfadtext(pfade.sicherungen / sätze.back()), '"');
+        const auto ältere = sätze.empty()
+                                ? std::string()
+                                : verbinde(", ältere in \""_t, pfadtext(pfade.sicherungen / sätze.back()), '"');
         return verbinde("\""_t, pfadtext(pfade.daten), "\" (Dateien *.bak vom "_t, zeitDerBak(bestand), ')', ältere);
     } catch (const Laufzeitfehler&) {
         return {}; // the failure that is being told counts

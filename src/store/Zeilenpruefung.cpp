@@ -4,6 +4,7 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/Satzaufbau.h"
+#include "store/Bruchstuecke.h"
 
 #include <algorithm>
 #include <array>
@@ -16,8 +17,6 @@ constexpr std::size_t höchsteZeilenlänge = std::numeric_limits<std::int16_t>::
 /// The layout of a table's lines.
 struct Zeilenform {
     std::size_t felder;
-    /// The start reads fields up to this one and stops at a line that lacks it.
-    std::size_t nötigeFelder;
     int memofeld;
 };
 
@@ -25,11 +24,11 @@ Zeilenform formVon(Tabelle tabelle)
 {
     switch (tabelle) {
     case Tabelle::Betr:
-        return {betreuungsfelder().size(), 4, 192};
+        return {betreuungsfelder().size(), 192};
     case Tabelle::Diag:
-        return {diagnosefelder().size(), 0, 0};
+        return {diagnosefelder().size(), 0};
     default:
-        return {klientenfelder().size(), 10, 11};
+        return {klientenfelder().size(), 11};
     }
 }
 
@@ -39,9 +38,7 @@ void prüfeFelderzahl(const Satzzeile& satz, Befundliste& befunde)
     const auto gefunden = satz.felder.size();
     const auto genauer = [&] { return verbinde(std::to_string(gefunden), " statt "_t, std::to_string(form.felder)); };
     if (gefunden < form.felder) {
-        befunde.melde(Befundart::FelderZuWenige, satz.ort(), genauer(),
-                      gefunden < form.nötigeFelder ? "endet beim Start mit einem Laufzeitfehler"_t
-                                                   : std::string_view());
+        befunde.melde(Befundart::FelderZuWenige, satz.ort(), genauer());
     }
     // a delimiter behind the last field belongs to some kinds of records and is never read
     const bool endetMitTrenner = gefunden == form.felder + 1 && satz.felder.back().empty();
@@ -126,7 +123,10 @@ void prüfeZeilenenden(Tabelle tabelle, std::string_view inhalt, Befundliste& be
         befunde.melde(Befundart::ZeilenendenFremd, ort(wechsel), arten);
     }
     if (erste[Keines] > 0) {
-        befunde.melde(Befundart::ZeilenendeFehlt, ort(erste[Keines]));
+        befunde.melde(Befundart::ZeilenendeFehlt, ort(erste[Keines]), {},
+                      bruchstückIn(inhalt).empty()
+                          ? std::string_view()
+                          : "die Zeile ist nur halb da, sie wird beim nächsten Start herausgenommen und aufgehoben"_t);
     }
 }
 

@@ -34,9 +34,17 @@ bool brauchtReparatur(std::string_view datum)
     return datum.size() - jahresanfang(datum) < 3;
 }
 
+/// A line that ends before or within the field was written by halves: what looks like two digits of a year may be the
+/// first two of four.
+bool istGanz(std::string_view zeile, const Datumsfeldstelle& stelle)
+{
+    return anzahlFelder(zeile) > stelle.feld;
+}
+
 bool brauchtReparatur(std::string_view zeile, std::span<const Datumsfeldstelle> stellen)
 {
-    return std::ranges::any_of(stellen, [&](const auto& s) { return brauchtReparatur(getFeld(zeile, s.feld)); });
+    return std::ranges::any_of(
+        stellen, [&](const auto& s) { return istGanz(zeile, s) && brauchtReparatur(getFeld(zeile, s.feld)); });
 }
 
 bool brauchtReparatur(const Bestand& bestand, Tabelle tabelle, std::span<const Datumsfeldstelle> stellen)
@@ -63,7 +71,9 @@ std::string mitRepariertemFeld(const std::string& zeile, const Datumsfeldstelle&
 {
     const auto datum = getFeld(zeile, stelle.feld);
     const bool istAusnahme = !stelle.ausnahme.empty() && datum == stelle.ausnahme;
-    return istAusnahme || !brauchtReparatur(datum) ? zeile : ersetzeFeld(zeile, stelle.feld, repariert(datum, meldung));
+    return istAusnahme || !istGanz(zeile, stelle) || !brauchtReparatur(datum)
+               ? zeile
+               : ersetzeFeld(zeile, stelle.feld, repariert(datum, meldung));
 }
 
 std::string mitReparierterZeile(std::string_view zeile, std::span<const Datumsfeldstelle> stellen,

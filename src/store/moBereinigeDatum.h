@@ -13,7 +13,8 @@ struct GefundeneFelder {
 
 /// Repair at start: widens the years of stored dates to four digits (`Geburtsdatum` of the clients, begin and end
 /// of the care episodes). Does nothing while there is no client, and rewrites a table only if one of its dates
-/// needs it, both in one action. Answers the field counts that it finds, nothing while there is no client. A date without a point shows the box "Fehler".
-/// A table that can't be read, or a line that lacks the field, is a Laufzeitfehler; the old table is then still
-/// there.
+/// needs it, both in one action. Answers the field counts that it finds, nothing while there is no client. A date
+/// without a point shows the box "Fehler". A line that ends before the date or within it stays as it is: a program that
+/// never starts again over one damaged line helps nobody. A table that can't be read is a Laufzeitfehler; the old table
+/// is then still there.
 std::optional<GefundeneFelder> bereinigeDatum(const Bestand& bestand);

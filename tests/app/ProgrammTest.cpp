@@ -53,6 +53,15 @@ TEST_F(Start, FülltDenZustandDesLaufs)
     }
 }
 
+TEST_F(Start, MusterStehtVornImTitel)
+{
+    umgebung.muster = true;
+    Programm programm(umgebung);
+    programm.starte();
+    EXPECT_EQ(programm.zustand().titel, "MUSTER – Tolvek7 v7.0.0"_t);
+    EXPECT_EQ(programm.zustand().rahmen.titel(), programm.zustand().titel);
+}
+
 TEST_F(Start, ZweiteInstanzMeldetSichOhneTitelUndRührtNichtsAn)
 {
     umgebung.ersteInstanz = false;

@@ -116,6 +116,11 @@ int Prozess::signal() const
     return WIFSIGNALED(m_ausgang) ? WTERMSIG(m_ausgang) : 0;
 }
 
+bool Prozess::hatSpeicherabbild() const
+{
+    return WIFSIGNALED(m_ausgang) && WCOREDUMP(m_ausgang);
+}
+
 std::string Prozess::ausgabe() const
 {
     std::ifstream strom(m_ausgabe, std::ios::binary);

@@ -28,6 +28,7 @@ public:
     /// After `warte`: the exit status, or -1 for a process that a signal has ended.
     int status() const;
     int signal() const;
+    bool hatSpeicherabbild() const;
     std::string ausgabe() const;
     /// Whether a line of the output begins with the word.
     bool sagt(const std::string& wort) const;

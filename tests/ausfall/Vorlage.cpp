@@ -5,6 +5,7 @@
 #include "satz/Satzaufbau.h"
 #include "satz/moHelferlein.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
@@ -74,8 +75,8 @@ Dreitafel bestand(std::string_view jahrhundert)
                     betreuung(2, 1, neuer("01.03", "05"), neuer("30.06", "05")),
                     betreuung(2, 2, neuer("01.08", "05"), neuer("30.11", "05")),
                     betreuung(2, 3, neuer("01.02", "06"), "offen"_t)}),
-            zeilen({diagnose(1, 1, "Injektion"_t), diagnose(2, 1, "Rauchen"_t), diagnose(2, 2, "oral"_t),
-                    diagnose(2, 3, "nasal"_t)})};
+            zeilen({diagnose(1, 1, "Injektion"_t), diagnose(2, 1, "Andere Arten"_t), diagnose(2, 2, "Essen/Trinken"_t),
+                    diagnose(2, 3, "Schnupfen/Sniefen"_t)})};
 }
 
 constexpr std::array namenDerTabellen{"kernDat", "betrDat", "diagDat"};
@@ -174,7 +175,7 @@ void legeAltdatenAn(const fs::path& ordner)
     for (const auto& datei : fs::directory_iterator(fs::path(TOLVEK_QUELLEN) / "anweisungen")) {
         fs::copy_file(datei.path(), ordner / datei.path().filename());
     }
-    const auto alt = erzeugeAltdaten(4, 2, 7);
+    const auto alt = erzeugeAltdaten(6, 1, 7);
     schreibeDatei(ordner / "alt" / "kernDat.txt", zeilen(alt.klienten));
     schreibeDatei(ordner / "alt" / "betreuungenDat.txt", zeilen(alt.betreuungen));
 }
@@ -182,6 +183,23 @@ void legeAltdatenAn(const fs::path& ordner)
 void legeNichtsAn(const fs::path& ordner)
 {
     fs::create_directories(ordner);
+}
+
+bool hebtAuf(const fs::path& ordner, const Dreitafel& tabellen)
+{
+    if (tabellen == Dreitafel{}) {
+        return true;
+    }
+    const auto sätze = ordner / "Daten" / "Sicherungen";
+    if (!fs::is_directory(sätze)) {
+        return false;
+    }
+    const fs::directory_iterator alle(sätze);
+    return std::any_of(begin(alle), end(alle), [&](const fs::directory_entry& satz) {
+        return liesDatei(satz.path() / "kernDat.bak") == tabellen[0] &&
+               liesDatei(satz.path() / "betrDat.bak") == tabellen[1] &&
+               liesDatei(satz.path() / "diagDat.bak") == tabellen[2];
+    });
 }
 
 std::string resteIn(const fs::path& ordner)

@@ -39,5 +39,8 @@ void legeAltdatenAn(const std::filesystem::path& ordner);
 /// The folder is there and empty.
 void legeNichtsAn(const std::filesystem::path& ordner);
 
+/// Whether `Daten/Sicherungen` holds a set of exactly these three; true for three empty ones, which nobody has to keep.
+bool hebtAuf(const std::filesystem::path& ordner, const Dreitafel& tabellen);
+
 /// What must not lie in the folder once the program has started: work files, a commit record, the import's folder.
 std::string resteIn(const std::filesystem::path& ordner);

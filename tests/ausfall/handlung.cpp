@@ -61,17 +61,19 @@ public:
     {
         return m_rechenprogramm.istDa();
     }
-    void übergibMappe(Arbeitsmappe& mappe) override
+    bool übergibMappe(Arbeitsmappe& mappe, const std::function<void(double)>& fortschritt) override
     {
-        m_rechenprogramm.öffne(mappe, []{});
+        return m_rechenprogramm.öffne(mappe, fortschritt);
     }
 #else
     bool findeTabellenprogramm() override
     {
         return false;
     }
-    void übergibMappe(Arbeitsmappe& /*mappe*/) override
-    {}
+    bool übergibMappe(Arbeitsmappe& /*mappe*/, const std::function<void(double)>& /*fortschritt*/) override
+    {
+        return false;
+    }
 #endif
     Größe bildschirmgröße() override
     {

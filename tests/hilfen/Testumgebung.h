@@ -70,6 +70,8 @@ public:
     bool ersteInstanz = true;
     bool tabellenprogramm = true;
     bool tabellenprogrammStartet = true;
+    bool muster = false;
+    std::optional<std::filesystem::path> installationsordner; ///< nothing: the program folder
     std::deque<Antwort> antworten;
     std::vector<Meldung> meldungen;
     std::deque<std::optional<std::filesystem::path>> dateiwahlen;
@@ -89,6 +91,8 @@ public:
 
     Datum heute() override { return datum; }
     std::filesystem::path programmordner() override { return m_programmordner; }
+    std::filesystem::path installation() override { return installationsordner.value_or(m_programmordner); }
+    bool istMuster() override { return muster; }
     bool istErsteInstanz(const std::filesystem::path& /*datenordner*/) override { return ersteInstanz; }
     Dateien& dateien() override { return m_dateien; }
     Antwort zeigeMeldung(const Meldung& meldung) override

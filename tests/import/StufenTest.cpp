@@ -275,6 +275,20 @@ TEST_F(Stufe2Test, FehlendeAnweisungsdateiScheitert)
     EXPECT_THROW(kern({}), Laufzeitfehler);
 }
 
+TEST_F(Stufe2Test, OhneEigeneAnweisungsdateiGiltDieMitgebrachte)
+{
+    const auto mitgebracht = datei("mitgebracht");
+    std::filesystem::create_directory(mitgebracht);
+    for (const auto* name : {"eKernAnweisung.txt", "eDiagAnweisung.txt"}) {
+        std::filesystem::rename(datei(name), mitgebracht / name);
+    }
+    EXPECT_THROW(kern({}), Laufzeitfehler) << "there is none";
+    lauf.umgebung.installationsordner = mitgebracht;
+    EXPECT_NO_THROW(kern({}));
+    Testlauf::schreibe(datei("eKernAnweisung.txt"), "");
+    EXPECT_THROW(kern({}), Laufzeitfehler) << "the facility's own file, useless as it is, goes before";
+}
+
 TEST(istNichtNachTest, Datumsvergleich)
 {
     EXPECT_TRUE(istNichtNach("1.7.1970", "01.07.1970"));

@@ -150,8 +150,45 @@ void Irrgang::handle()
     }
     const Urheber urheber = urheberVon(*element->bildschirm());
     m_element = element->name();
+    const bool istTotgeweiht = m_zufall.trifft(10);
+    if (istTotgeweiht) {
+        constexpr int höchsteFrist = 25;
+        m_lauf.umgebung().stirbNach(m_zufall.zahl(1, höchsteFrist));
+    }
     sage(*handlung);
+    if (m_lauf.umgebung().istTot()) {
+        stirb();
+        return;
+    }
+    m_lauf.umgebung().lebe();
     prüfeNach(urheber);
+}
+
+/// The process was killed while it wrote: the next start finds tables that belong together, with nothing beside
+/// them, whether the action counts or not.
+void Irrgang::stirb()
+{
+    ++m_gestorben;
+    m_mitschrift.schreibe("# der Prozeß ist beim Schreiben getötet worden");
+    m_lauf.umgebung().meldungen.clear();
+    if (m_lauf.läuft()) { // it took the refusal for a full disk and went on; a dead process doesn't
+        zustand().ablauf.beende();
+    } else if (!m_lauf.absturz().empty()) {
+        sage("erwarte absturz");
+    }
+    m_lauf.umgebung().lebe();
+    Verstöße verstöße;
+    sage("starte");
+    vermerkeMeldungen();
+    prüfeAbsturz(verstöße);
+    const auto ordner = m_lauf.imProgramm(U"Daten");
+    m_stand = liesTabellen(ordner, ".txt", verstöße);
+    m_sicherung = liesTabellen(ordner, ".bak", verstöße);
+    prüfeAufbau(m_stand, verstöße);
+    prüfeMitPrüfer(verstöße);
+    prüfeOrdner(verstöße);
+    prüfeBildschirme(verstöße);
+    wirf(verstöße);
 }
 
 /// Ends and deletions would come up all too often among the few buttons of the main menu.

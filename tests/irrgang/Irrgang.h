@@ -27,6 +27,8 @@ public:
     int gegangen() const { return m_gegangen; }
     /// How often the tables have changed; a walk that never stores anything tests little.
     int gespeichert() const { return m_gespeichert; }
+    /// How often the process died while it wrote.
+    int gestorben() const { return m_gestorben; }
     const Mitschrift& mitschrift() const { return m_mitschrift; }
     /// Adds the tables as they now are as expectations.
     void schließeMitschriftAb();
@@ -37,6 +39,7 @@ private:
     void schritt();
     void starteNeu();
     void handle();
+    void stirb();
     void handleAmRahmen();
     Element* wähleElement();
     Element* irgendeins(const std::vector<Element*>& elemente);
@@ -66,4 +69,5 @@ private:
     bool m_hatImportiert = false;
     int m_gegangen = 0;
     int m_gespeichert = 0;
+    int m_gestorben = 0;
 };

@@ -88,6 +88,13 @@ Anordnung karte(std::string_view titel, Anordnung inhalt, std::vector<Element*> 
     return a;
 }
 
+Anordnung karte(Beschriftung& titel, Anordnung inhalt)
+{
+    auto a = wort(Anordnung::Wort::Karte, {std::move(inhalt)});
+    a.element = &titel;
+    return a;
+}
+
 Anordnung karten(std::vector<Anordnung> spalten)
 {
     return wort(Anordnung::Wort::Karten, std::move(spalten));

@@ -14,6 +14,7 @@ struct Tabellenspalte {
     std::string gruppe;
     Schaltfläche* füller = nullptr;
     double breite = 3.7;
+    Beschriftung* kopf = nullptr; ///< the element that is the title, where it has a name of its own
 };
 
 /// Where the elements of a screen stand, said in a handful of words; the surface turns them into layouts.
@@ -42,7 +43,7 @@ struct Anordnung {
 
     Wort wort = Wort::Spalte;
     std::string text;           ///< label, title or fixed text
-    Element* element = nullptr; ///< Element; label of a Feld or Tabellenzeile
+    Element* element = nullptr; ///< Element; label of a Feld or Tabellenzeile; title of a Karte
     std::vector<Anordnung> teile;
     double breite = 0;                   ///< em: width of an element or label column, of a card at most
     bool füllt = false;                  ///< takes the height (or width) that is left
@@ -66,6 +67,8 @@ Anordnung feld(std::string_view beschriftung, std::vector<Anordnung> teile);
 Anordnung feld(Beschriftung& beschriftung, std::vector<Anordnung> teile);
 Anordnung trennlinie();
 Anordnung karte(std::string_view titel, Anordnung inhalt, std::vector<Element*> köpfe = {});
+/// The same with a title that is an element.
+Anordnung karte(Beschriftung& titel, Anordnung inhalt);
 Anordnung karten(std::vector<Anordnung> spalten);
 /// `titel` heads the column of the row labels.
 Anordnung tabelle(std::string_view titel, std::vector<Tabellenspalte> spalten, std::vector<Anordnung> zeilen);

@@ -58,13 +58,14 @@ std::vector<Element*> Bildschirm::tabFolge() const
 {
     std::vector<Element*> folge;
     sammleTabFolge(aufbau, folge);
+    // the button in the band belongs to the page, so it comes before the bar that ends the page
+    nimmAuf(kopfband.knopf, folge);
     for (auto* element : leiste.links) {
         nimmAuf(element, folge);
     }
     for (auto* element : leiste.rechts) {
         nimmAuf(element, folge);
     }
-    nimmAuf(kopfband.knopf, folge);
     return folge;
 }
 
@@ -94,6 +95,10 @@ bool Bildschirm::fokussiere(Element* element)
     if (element == m_fokus) {
         return true;
     }
+    if (m_fokus != nullptr && !m_fokus->schließeAb()) {
+        fokusGeändert.melde();
+        return false;
+    }
     // The rule may show a message, in which the surface reports focus changes of its own.
     if (m_fokus != nullptr && m_fokus->beiVerlassen && !m_prüftVerlassen) {
         m_prüftVerlassen = true;
@@ -111,6 +116,9 @@ bool Bildschirm::fokussiere(Element* element)
 void Bildschirm::setzeFokus(Element* element)
 {
     if (element == m_fokus) {
+        if (element != nullptr) {
+            element->fokusErneuert();
+        }
         return;
     }
     auto* vorher = m_fokus;
@@ -134,8 +142,34 @@ void Bildschirm::fokussiereErstes()
     }
 }
 
+Schaltfläche* Bildschirm::findeKürzel(char zeichen) const
+{
+    for (auto* element : tabFolge()) {
+        auto* knopf = dynamic_cast<Schaltfläche*>(element);
+        const auto ort = knopf == nullptr ? std::string::npos : knopf->text().find('&');
+        if (ort != std::string::npos && ort + 1 < knopf->text().size() &&
+            klein(knopf->text()[ort + 1]) == klein(zeichen) && istErreichbar(*knopf)) {
+            return knopf;
+        }
+    }
+    return nullptr;
+}
+
+bool Bildschirm::drückeKürzel(Schaltfläche& knopf)
+{
+    if (fokussiere(&knopf)) {
+        knopf.klicke();
+    }
+    return true;
+}
+
 bool Bildschirm::taste(const Taste& taste)
 {
+    if (taste.istKombination()) {
+        const bool istKürzel = taste.alt && !taste.strg && taste.art == Taste::Art::Zeichen;
+        auto* knopf = istKürzel ? findeKürzel(taste.zeichen) : nullptr;
+        return knopf != nullptr && drückeKürzel(*knopf);
+    }
     const auto drücke = [](Schaltfläche* knopf) {
         if (knopf == nullptr || !knopf->istSichtbar() || !knopf->istFrei()) {
             return false;
@@ -145,7 +179,7 @@ bool Bildschirm::taste(const Taste& taste)
     };
     switch (taste.art) {
     case Taste::Art::Eingabe:
-        return drücke(beiEingabe);
+        return (m_fokus != nullptr && !m_fokus->schließeAb()) || drücke(beiEingabe);
     case Taste::Art::Esc:
         return drücke(beiEscape);
     case Taste::Art::Tab:

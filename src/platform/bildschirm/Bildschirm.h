@@ -96,8 +96,10 @@ public:
     /// The first element that can take the focus.
     void fokussiereErstes();
 
-    /// A key that the focused element had no use for: Return, Escape, Tab.
+    /// A key that the focused element had no use for: Return, Escape, Tab, Alt with the letter of a button.
     bool taste(const Taste& taste);
+    /// The mnemonic of a button: acts only if the field that has the focus lets go.
+    bool drückeKürzel(Schaltfläche& knopf);
 
     /// The screen has been shown or enabled again by the program.
     virtual void beiAktivierung() {}
@@ -125,6 +127,7 @@ private:
     bool istUnterDecke(const Anordnung& a, const Element& element, bool verdeckt) const;
 
     bool geheWeiter(bool vor);
+    Schaltfläche* findeKürzel(char zeichen) const;
 
     std::string m_name;
     std::string m_titel;

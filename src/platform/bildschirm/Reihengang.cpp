@@ -37,9 +37,16 @@ bool gehtMit(const Element& element, const Taste& taste)
 
 } // namespace
 
+bool gibTaste(Element& element, const Taste& taste)
+{
+    const bool kenntKombinationen =
+        dynamic_cast<const Textfeld*>(&element) != nullptr || dynamic_cast<const Datumsfeld*>(&element) != nullptr;
+    return (kenntKombinationen || !taste.istKombination()) && element.taste(taste);
+}
+
 bool geheInReihe(Element& element, const Taste& taste)
 {
-    if (!gehtMit(element, taste)) {
+    if (taste.istKombination() || !gehtMit(element, taste)) {
         return false;
     }
     auto& bildschirm = *element.bildschirm();

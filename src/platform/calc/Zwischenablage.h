@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/dateien/Wegwerfordner.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -15,8 +17,8 @@ public:
     explicit Zwischenablage(const std::string& dateiname);
     Zwischenablage(const Zwischenablage&) = delete;
     Zwischenablage& operator=(const Zwischenablage&) = delete;
-    /// Removes folder and file, unless `übergib` or `behalte` was called.
-    ~Zwischenablage();
+    /// Removes folder and file, unless `übergib` or `überlasse` was called.
+    ~Zwischenablage() = default;
 
     const std::filesystem::path& datei() const { return m_datei; }
 
@@ -31,12 +33,8 @@ public:
     static void räumeAuf();
 
 private:
-    void entferne();
-
-    std::filesystem::path m_ordner;
+    Wegwerfordner m_ordner;
     std::filesystem::path m_datei;
-    int m_schloss = -1;
-    bool m_meine = true; ///< this object removes the folder
 };
 
 /// The program in the search path, or nothing.

@@ -14,7 +14,6 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/file.h>
 #include <sys/inotify.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -157,88 +156,45 @@ bool starte(const fs::path& programm, const std::vector<std::string>& argumente,
     return fehler == 0;
 }
 
-/// Opens and locks the folder; -1 when another one holds it or it is no folder of this user.
-int sperre(const fs::path& ordner)
-{
-    const int griff = open(ordner.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-    struct stat angaben {};
-    if (griff >= 0 && fstat(griff, &angaben) == 0 && angaben.st_uid == geteuid() &&
-        flock(griff, LOCK_EX | LOCK_NB) == 0) {
-        return griff;
-    }
-    if (griff >= 0) {
-        close(griff);
-    }
-    return -1;
-}
-
 } // namespace
 
-Zwischenablage::Zwischenablage(const std::string& dateiname)
+Zwischenablage::Zwischenablage(const std::string& dateiname) : m_ordner(vorsilbe), m_datei(m_ordner.pfad() / dateiname)
 {
-    std::string muster = (fs::temp_directory_path() / vorsilbe).string() + "XXXXXX";
-    if (mkdtemp(muster.data()) == nullptr) {
-        scheitere("Der Zwischenordner kann nicht angelegt werden"_t, muster, errno);
-    }
-    m_ordner = muster;
-    m_datei = m_ordner / dateiname;
-    m_schloss = sperre(m_ordner);
     const int griff = open(m_datei.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (griff < 0 || m_schloss < 0) {
-        const int fehler = errno;
-        entferne();
-        scheitere("Die Zwischendatei kann nicht angelegt werden"_t, m_datei, fehler);
+    if (griff < 0) {
+        scheitere("Die Zwischendatei kann nicht angelegt werden"_t, m_datei, errno);
     }
     close(griff);
-}
-
-Zwischenablage::~Zwischenablage()
-{
-    if (m_meine) {
-        entferne();
-    }
-    if (m_schloss >= 0) {
-        close(m_schloss);
-    }
-}
-
-void Zwischenablage::entferne()
-{
-    std::error_code egal;
-    fs::remove_all(m_ordner, egal);
 }
 
 bool Zwischenablage::übergib(const fs::path& programm, const std::vector<std::string>& argumente)
 {
     const int melder = inotify_init1(IN_CLOEXEC);
     inotify_add_watch(melder, m_datei.c_str(), IN_OPEN | IN_CLOSE);
-    const Wache wache{m_datei.c_str(), m_ordner.c_str(), m_schloss, melder};
+    const Wache wache{m_datei.c_str(), m_ordner.pfad().c_str(), static_cast<int>(m_ordner.schloss()), melder};
     std::vector<std::string> ganze = argumente;
     ganze.push_back(m_datei.string());
-    m_meine = !starte(programm, ganze, &wache);
+    const bool gestartet = starte(programm, ganze, &wache);
     close(melder);
-    return !m_meine;
+    if (gestartet) {
+        m_ordner.behalte();
+    }
+    return gestartet;
 }
 
 bool Zwischenablage::überlasse(const fs::path& programm)
 {
     fs::permissions(m_datei, fs::perms::owner_read);
-    m_meine = !starte(programm, {m_datei.string()}, nullptr);
-    return !m_meine;
+    const bool gestartet = starte(programm, {m_datei.string()}, nullptr);
+    if (gestartet) {
+        m_ordner.behalte();
+    }
+    return gestartet;
 }
 
 void Zwischenablage::räumeAuf()
 {
-    std::error_code egal;
-    for (const auto& eintrag : fs::directory_iterator(fs::temp_directory_path(egal), egal)) {
-        if (!eintrag.path().filename().string().starts_with(vorsilbe)) {
-            continue;
-        }
-        if (const int schloss = sperre(eintrag.path()); schloss >= 0) {
-            fs::remove_all(eintrag.path(), egal);
-            close(schloss);
-        }
-    }
+    Wegwerfordner::räumeAuf(vorsilbe);
 }
 
 std::optional<fs::path> findeProgramm(const std::string& name)

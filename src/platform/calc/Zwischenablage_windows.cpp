@@ -6,17 +6,15 @@
 #include "platform/umgebung/Laufzeitfehler.h"
 
 #include <array>
-#include <random>
 #include <string_view>
-#include <system_error>
 
 #include <windows.h>
 
 #include <shellapi.h>
 #include <shlwapi.h>
 
-// The temporary folder of Windows belongs to the user alone, and a file that a program has open can't be
-// removed; so no lock and no guard are needed here: what is left goes at the next start.
+// A file that a program has open can't be removed on Windows; so no guard is needed here: what is left goes at
+// the next start.
 
 namespace fs = std::filesystem;
 
@@ -55,32 +53,16 @@ bool starte(const fs::path& programm, const std::vector<std::string>& argumente,
 
 } // namespace
 
-Zwischenablage::Zwischenablage(const std::string& dateiname)
-    : m_ordner(fs::temp_directory_path() / (std::string(vorsilbe) + std::to_string(std::random_device()()))),
-      m_datei(m_ordner / dateiname)
-{
-    if (CreateDirectoryW(m_ordner.c_str(), nullptr) == 0) {
-        scheitere("Der Zwischenordner kann nicht angelegt werden"_t, m_ordner);
-    }
-}
-
-Zwischenablage::~Zwischenablage()
-{
-    if (m_meine) {
-        entferne();
-    }
-}
-
-void Zwischenablage::entferne()
-{
-    std::error_code egal;
-    fs::remove_all(m_ordner, egal);
-}
+Zwischenablage::Zwischenablage(const std::string& dateiname) : m_ordner(vorsilbe), m_datei(m_ordner.pfad() / dateiname)
+{}
 
 bool Zwischenablage::übergib(const fs::path& programm, const std::vector<std::string>& argumente)
 {
-    m_meine = !starte(programm, argumente, m_datei);
-    return !m_meine;
+    const bool gestartet = starte(programm, argumente, m_datei);
+    if (gestartet) {
+        m_ordner.behalte();
+    }
+    return gestartet;
 }
 
 bool Zwischenablage::überlasse(const fs::path& /*programm*/)
@@ -88,25 +70,18 @@ bool Zwischenablage::überlasse(const fs::path& /*programm*/)
     SetFileAttributesW(m_datei.c_str(), FILE_ATTRIBUTE_READONLY);
     constexpr INT_PTR letzterFehler = 32;
     const auto ergebnis = ShellExecuteW(nullptr, L"open", m_datei.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
-    m_meine = reinterpret_cast<INT_PTR>(ergebnis) <= letzterFehler;
-    if (m_meine) {
+    const bool gestartet = reinterpret_cast<INT_PTR>(ergebnis) > letzterFehler;
+    if (gestartet) {
+        m_ordner.behalte();
+    } else {
         SetFileAttributesW(m_datei.c_str(), FILE_ATTRIBUTE_NORMAL); // so that it can be removed
     }
-    return !m_meine;
+    return gestartet;
 }
 
 void Zwischenablage::räumeAuf()
 {
-    std::error_code egal;
-    for (const auto& eintrag : fs::directory_iterator(fs::temp_directory_path(egal), egal)) {
-        if (!eintrag.path().filename().string().starts_with(vorsilbe)) {
-            continue;
-        }
-        for (const auto& datei : fs::directory_iterator(eintrag.path(), egal)) {
-            SetFileAttributesW(datei.path().c_str(), FILE_ATTRIBUTE_NORMAL);
-        }
-        fs::remove_all(eintrag.path(), egal);
-    }
+    Wegwerfordner::räumeAuf(vorsilbe);
 }
 
 std::optional<fs::path> findeProgramm(const std::string& name)

@@ -10,9 +10,12 @@ constexpr int rücktaste = 8;
 
 void Auswahlfeld::setzeText(std::string_view text)
 {
+    const bool ganz = istTippbar() && hatFokus();
+    const bool anders = m_text != text || m_schreibmarke != 0 || m_ganzGewählt != ganz;
+    m_text = text;
     m_schreibmarke = 0;
-    if (m_text != text) {
-        m_text = text;
+    m_ganzGewählt = ganz;
+    if (anders) {
         meldeÄnderung();
     }
 }
@@ -32,6 +35,7 @@ void Auswahlfeld::fülle(std::vector<std::string> liste, std::string_view vorgab
 void Auswahlfeld::setzeSchreibmarke(std::size_t ort)
 {
     m_schreibmarke = std::min(ort, m_text.size());
+    m_ganzGewählt = false;
     meldeÄnderung();
 }
 
@@ -96,6 +100,14 @@ bool Auswahlfeld::tasteNurWahl(const Taste& taste)
     return true;
 }
 
+/// Without a type-ahead what is selected makes way for what is typed; with one the text left of the cursor counts.
+void Auswahlfeld::weicheAuswahl()
+{
+    if (m_ganzGewählt && !beiTastendruck) {
+        gibEin({}, 0);
+    }
+}
+
 void Auswahlfeld::setzeEin(int code)
 {
     auto neu = m_text;
@@ -119,21 +131,33 @@ bool Auswahlfeld::tasteTippbar(const Taste& taste)
         if (beiTastendruck) {
             beiTastendruck(code);
         }
+        weicheAuswahl();
         setzeEin(code);
         return true;
     }
     case Taste::Art::Entf:
-        if (!beiTastendruck && m_schreibmarke < m_text.size()) { // with a type-ahead Delete is swallowed
-            auto neu = m_text;
-            neu.erase(m_schreibmarke, 1);
-            gibEin(neu, m_schreibmarke);
+        if (const bool hatAuswahl = m_ganzGewählt; !beiTastendruck) { // with a type-ahead Delete is swallowed
+            weicheAuswahl();
+            if (!hatAuswahl && m_schreibmarke < m_text.size()) {
+                auto neu = m_text;
+                neu.erase(m_schreibmarke, 1);
+                gibEin(neu, m_schreibmarke);
+            }
         }
         return true;
+    default:
+        return bewegeCursor(taste);
+    }
+}
+
+bool Auswahlfeld::bewegeCursor(const Taste& taste)
+{
+    switch (taste.art) {
     case Taste::Art::Links:
         setzeSchreibmarke(m_schreibmarke == 0 ? 0 : m_schreibmarke - 1);
         return true;
     case Taste::Art::Rechts:
-        setzeSchreibmarke(m_schreibmarke + 1);
+        setzeSchreibmarke(m_ganzGewählt ? m_text.size() : m_schreibmarke + 1);
         return true;
     case Taste::Art::Pos1:
         setzeSchreibmarke(0);
@@ -148,7 +172,14 @@ bool Auswahlfeld::tasteTippbar(const Taste& taste)
 
 void Auswahlfeld::fokusGewechselt(bool gekommen)
 {
-    if (gekommen && istTippbar()) {
-        setzeSchreibmarke(m_text.size());
+    if (istTippbar()) {
+        m_schreibmarke = 0;
+        m_ganzGewählt = gekommen;
+        meldeÄnderung();
     }
+}
+
+void Auswahlfeld::fokusErneuert()
+{
+    fokusGewechselt(true);
 }

@@ -61,6 +61,9 @@ public:
     virtual void doppelklicke() { rufe(beiDoppelklick); }
     /// A key. False when the element has no use for it (the screen then has: Return, Escape, Tab).
     virtual bool taste(const Taste& taste);
+    /// Ends an input that is under way; asked before the focus leaves and on Return. False when it cannot be taken:
+    /// the focus stays.
+    virtual bool schließeAb() { return true; }
 
     // rules
     std::function<void()> beiKlick;
@@ -72,6 +75,8 @@ public:
     Melder<> geändert;
     /// Told when the focus comes or goes (true: it came).
     virtual void fokusGewechselt(bool /*gekommen*/) {}
+    /// The program puts the focus where it is already, as after a message about the field.
+    virtual void fokusErneuert() {}
 
 protected:
     void meldeÄnderung() { geändert.melde(); }

@@ -27,7 +27,9 @@ void Schaltfläche::setzeText(std::string_view text)
 
 bool Schaltfläche::taste(const Taste& taste)
 {
-    if (taste.art != Taste::Art::Zeichen || taste.zeichen != ' ') {
+    const bool drückt =
+        taste.art == Taste::Art::Eingabe || (taste.art == Taste::Art::Zeichen && taste.zeichen == ' ');
+    if (!drückt) {
         return false;
     }
     klicke();
@@ -101,28 +103,6 @@ bool Ankreuzfeld::taste(const Taste& taste)
     }
     klicke();
     return true;
-}
-
-void Datumsfeld::setzeDatum(const Datum& datum)
-{
-    if (m_datum != datum) {
-        m_datum = datum;
-        meldeÄnderung();
-    }
-}
-
-void Datumsfeld::streicheDurch(bool ja)
-{
-    if (m_durchgestrichen != ja) {
-        m_durchgestrichen = ja;
-        meldeÄnderung();
-    }
-}
-
-void Datumsfeld::wähle(const Datum& datum)
-{
-    setzeDatum(datum);
-    rufe(beiWahl);
 }
 
 void Fortschrittsbalken::setzeBereich(int kleinstes, int größtes)

@@ -2,8 +2,8 @@
 
 // The kinds of elements; see Element.h for what they share.
 
+#include "platform/elemente/Datumsfeld.h"
 #include "platform/elemente/Element.h"
-#include "platform/text/Datum.h"
 #include "platform/text/Text.h"
 
 #include <cstddef>
@@ -70,8 +70,14 @@ public:
     /// Cursor as a number of characters to its left.
     std::size_t schreibmarke() const { return m_schreibmarke; }
 
-    /// The user's text replaces the old one (typed or pasted); the text is code page already (nimmEingabe).
+    /// The other end of what the keys have selected; the cursor's place without a selection.
+    std::size_t anker() const { return m_anker; }
+
+    /// The user's text replaces the old one (typed or pasted); the text is code page already (nimmÄnderung).
     void gibEin(std::string_view text, std::size_t schreibmarke);
+    /// Typed or pasted characters take the place of what is selected, as far as they can be stored and have room.
+    void fügeEin(std::u32string_view zeichen);
+    void wähleAlles();
     bool taste(const Taste& taste) override;
     void besuche(Elementbesucher& besucher) override;
     void fokusGewechselt(bool gekommen) override;
@@ -79,12 +85,17 @@ public:
     std::function<void()> beiÄnderung;
 
 private:
-    bool füge(std::string_view zeichen);
+    void ersetze(std::size_t von, std::size_t bis);
+    void lösche(bool rückwärts);
+    bool bewege(std::size_t ziel, const Taste& taste);
+    bool bewegeCursor(const Taste& taste);
+    bool tasteMitStrg(const Taste& taste);
 
     std::string m_text;
     Zeilenzahl m_zeilen;
     std::size_t m_höchstlänge;
     std::size_t m_schreibmarke = 0;
+    std::size_t m_anker = 0;
 };
 
 /// A combo box: a list and a text. Choose-only, unless `Tippbar`; it shows any text the program gives it,
@@ -92,7 +103,8 @@ private:
 ///
 /// Keys: up and down pick the entry before or after. In a choose-only box Home and End pick the first and
 /// the last, a letter the next entry that begins with it. In a typeable box left, right, Home and End move
-/// the cursor, and backspace and characters go to `beiTastendruck` (the type-ahead), which decides.
+/// the cursor, and backspace and characters go to `beiTastendruck` (the type-ahead), which decides. When the focus
+/// comes, the whole text of a typeable box is selected with the cursor before it, so that the first key begins anew.
 class Auswahlfeld : public Element {
 public:
     enum class Art { NurWahl, Tippbar };
@@ -112,7 +124,9 @@ public:
     void setzeArt(Art art) { m_art = art; }
 
     std::size_t schreibmarke() const { return m_schreibmarke; }
+    /// Puts the cursor there; nothing is selected any more.
     void setzeSchreibmarke(std::size_t ort);
+    bool istGanzGewählt() const { return m_ganzGewählt; }
 
     /// The user picks the entry (from 0).
     void wähle(std::size_t eintrag);
@@ -121,6 +135,7 @@ public:
     bool taste(const Taste& taste) override;
     void besuche(Elementbesucher& besucher) override;
     void fokusGewechselt(bool gekommen) override;
+    void fokusErneuert() override;
 
     /// After the user has picked an entry (also with the keys).
     std::function<void()> beiWahl;
@@ -134,13 +149,16 @@ public:
 private:
     bool tasteNurWahl(const Taste& taste);
     bool tasteTippbar(const Taste& taste);
+    bool bewegeCursor(const Taste& taste);
     void wähleNachbar(bool vor);
+    void weicheAuswahl();
     void setzeEin(int code);
 
     Art m_art;
     std::string m_text;
     std::vector<std::string> m_liste;
     std::size_t m_schreibmarke = 0;
+    bool m_ganzGewählt = false;
 };
 
 /// Option buttons of which at most one is marked; the group unmarks the others.
@@ -201,27 +219,6 @@ public:
 private:
     std::string m_text;
     bool m_an = false;
-};
-
-/// A date input: always a valid day of the calendar.
-class Datumsfeld : public Element {
-public:
-    Datum datum() const { return m_datum; }
-    std::string text() const override { return alsDatumstext(m_datum); }
-    void setzeDatum(const Datum& datum);
-    /// Struck out while an open end stands beside it.
-    bool istDurchgestrichen() const { return m_durchgestrichen; }
-    void streicheDurch(bool ja);
-
-    /// The user picks or types the date.
-    void wähle(const Datum& datum);
-    void besuche(Elementbesucher& besucher) override;
-
-    std::function<void()> beiWahl;
-
-private:
-    Datum m_datum{2000, 1, 1};
-    bool m_durchgestrichen = false;
 };
 
 class Fortschrittsbalken : public Element {
@@ -321,6 +318,8 @@ public:
     void klickeZeile(std::size_t nummer);
     /// The double click proper; the single click before it comes from klickeZeile.
     void doppelklickeZeile(std::size_t nummer);
+    /// Nothing without a selected row.
+    void doppelklicke() override;
     void klickeKopf(std::size_t spalte);
     bool taste(const Taste& taste) override;
     void besuche(Elementbesucher& besucher) override;

@@ -26,11 +26,11 @@ std::string sortierschlüssel(std::string_view text)
     return schlüssel;
 }
 
-/// Tab, Return and Escape never belong to the list.
+/// Tab, Return, Escape and help never belong to the list.
 bool gehörtDemBildschirm(const Taste& taste)
 {
-    return taste.art == Taste::Art::Tab || taste.art == Taste::Art::RückTab || taste.art == Taste::Art::Eingabe ||
-           taste.art == Taste::Art::Esc;
+    return taste.art == Taste::Art::F1 || taste.art == Taste::Art::Tab || taste.art == Taste::Art::RückTab ||
+           taste.art == Taste::Art::Eingabe || taste.art == Taste::Art::Esc;
 }
 
 } // namespace
@@ -101,6 +101,13 @@ void Liste::doppelklickeZeile(std::size_t nummer)
 {
     wähle(nummer);
     doppelklicke();
+}
+
+void Liste::doppelklicke()
+{
+    if (m_auswahl > 0) {
+        Element::doppelklicke();
+    }
 }
 
 void Liste::klickeKopf(std::size_t spalte)

@@ -1,6 +1,9 @@
 #pragma once
 
 /// A key as an element gets it: a special key, or a character of the code page.
+///
+/// Few combinations with Ctrl and Alt mean something (copying, words and the like in texts, Alt and a letter to the
+/// buttons); all others never reach an element (gibTaste in Reihengang.h), so most need not look at the flags.
 struct Taste {
     enum class Art {
         Zeichen,
@@ -17,8 +20,17 @@ struct Taste {
         Eingabe,
         Esc,
         BildAuf,
-        BildAb
+        BildAb,
+        F1,
+        F4
     };
     Art art = Art::Zeichen;
     char zeichen = 0; ///< set for Art::Zeichen only
+    bool umschalt = false;
+    bool strg = false;
+    bool alt = false; ///< Meta is both, which means nothing anywhere
+
+    bool istKombination() const { return strg || alt; }
+    /// F4 or Alt+Down: opens the list of a combo box, the calendar of a date.
+    bool klapptAuf() const { return !strg && !umschalt && ((art == Art::F4 && !alt) || (art == Art::Ab && alt)); }
 };

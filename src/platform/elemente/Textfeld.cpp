@@ -1,5 +1,7 @@
 #include "platform/elemente/Elemente.h"
 
+#include "platform/text/Eingabe.h"
+
 #include <algorithm>
 
 namespace {
@@ -53,6 +55,7 @@ void Textfeld::setzeText(std::string_view text)
     if (m_text != text) {
         m_text = text;
         m_schreibmarke = 0;
+        m_anker = 0;
         meldeÄnderung();
     }
 }
@@ -62,61 +65,114 @@ void Textfeld::gibEin(std::string_view text, std::size_t schreibmarke)
     const bool anders = m_text != text;
     m_text = text;
     m_schreibmarke = schreibmarke;
+    m_anker = schreibmarke;
     meldeÄnderung();
     if (anders) {
         rufe(beiÄnderung);
     }
 }
 
-bool Textfeld::füge(std::string_view zeichen)
+void Textfeld::wähleAlles()
 {
-    if (m_höchstlänge > 0 && m_text.size() + zeichen.size() > m_höchstlänge) {
-        return true;
+    m_anker = 0;
+    m_schreibmarke = m_text.size();
+}
+
+void Textfeld::fügeEin(std::u32string_view zeichen)
+{
+    const auto von = std::min(m_schreibmarke, m_anker);
+    const auto bis = std::max(m_schreibmarke, m_anker);
+    auto jetzt = alsFeldtext(std::string_view(m_text).substr(0, von), istMehrzeilig());
+    jetzt += zeichen;
+    const auto marke = jetzt.size();
+    jetzt += alsFeldtext(std::string_view(m_text).substr(bis), istMehrzeilig());
+    const auto änderung = nimmÄnderung(m_text, jetzt, marke, istMehrzeilig(), m_höchstlänge);
+    gibEin(änderung.ergebnis.text, änderung.schreibmarke);
+    m_anker = änderung.anker;
+}
+
+void Textfeld::ersetze(std::size_t von, std::size_t bis)
+{
+    gibEin(m_text.substr(0, von) + m_text.substr(bis), von);
+}
+
+void Textfeld::lösche(bool rückwärts)
+{
+    auto von = std::min(m_schreibmarke, m_anker);
+    auto bis = std::max(m_schreibmarke, m_anker);
+    if (von == bis) {
+        von -= rückwärts ? schrittZurück(m_text, von) : 0;
+        bis += rückwärts ? 0 : schrittVor(m_text, bis);
     }
-    auto neu = m_text;
-    neu.insert(m_schreibmarke, zeichen);
-    gibEin(neu, m_schreibmarke + zeichen.size());
+    ersetze(von, bis);
+}
+
+bool Textfeld::bewege(std::size_t ziel, const Taste& taste)
+{
+    m_schreibmarke = ziel;
+    m_anker = taste.umschalt ? m_anker : ziel;
     return true;
+}
+
+bool Textfeld::bewegeCursor(const Taste& taste)
+{
+    const bool gewählt = m_schreibmarke != m_anker && !taste.umschalt;
+    switch (taste.art) {
+    case Taste::Art::Links:
+        return bewege(gewählt ? std::min(m_schreibmarke, m_anker)
+                              : m_schreibmarke - schrittZurück(m_text, m_schreibmarke),
+                      taste);
+    case Taste::Art::Rechts:
+        return bewege(gewählt ? std::max(m_schreibmarke, m_anker) : m_schreibmarke + schrittVor(m_text, m_schreibmarke),
+                      taste);
+    case Taste::Art::Auf:
+    case Taste::Art::Ab:
+        return istMehrzeilig() && bewege(nachbarzeile(m_text, m_schreibmarke, taste.art == Taste::Art::Ab), taste);
+    case Taste::Art::Pos1:
+        return bewege(istMehrzeilig() ? zeilenanfang(m_text, m_schreibmarke) : 0, taste);
+    case Taste::Art::Ende:
+        return bewege(istMehrzeilig() ? zeilenende(m_text, m_schreibmarke) : m_text.size(), taste);
+    default:
+        return false;
+    }
+}
+
+/// The combinations that texts have everywhere: all of it, its start, its end.
+bool Textfeld::tasteMitStrg(const Taste& taste)
+{
+    if (taste.alt) {
+        return false;
+    }
+    if (taste.art == Taste::Art::Pos1 || taste.art == Taste::Art::Ende) {
+        return bewege(taste.art == Taste::Art::Pos1 ? 0 : m_text.size(), taste);
+    }
+    const bool alles = taste.art == Taste::Art::Zeichen && klein(taste.zeichen) == 'a';
+    if (alles) {
+        wähleAlles();
+    }
+    return alles;
 }
 
 bool Textfeld::taste(const Taste& taste)
 {
-    const auto ohne = [this](std::size_t ort, std::size_t länge) {
-        return m_text.substr(0, ort) + m_text.substr(ort + länge);
-    };
+    if (taste.istKombination()) {
+        return tasteMitStrg(taste);
+    }
     switch (taste.art) {
     case Taste::Art::Zeichen:
-        return füge(std::string_view(&taste.zeichen, 1));
+        fügeEin(alsFeldtext(std::string_view(&taste.zeichen, 1), false));
+        return true;
     case Taste::Art::Eingabe:
-        return istMehrzeilig() && füge("\r\n");
-    case Taste::Art::Rück: {
-        const auto länge = schrittZurück(m_text, m_schreibmarke);
-        gibEin(ohne(m_schreibmarke - länge, länge), m_schreibmarke - länge);
-        return true;
-    }
-    case Taste::Art::Entf:
-        gibEin(ohne(m_schreibmarke, schrittVor(m_text, m_schreibmarke)), m_schreibmarke);
-        return true;
-    case Taste::Art::Links:
-        m_schreibmarke -= schrittZurück(m_text, m_schreibmarke);
-        return true;
-    case Taste::Art::Rechts:
-        m_schreibmarke += schrittVor(m_text, m_schreibmarke);
-        return true;
-    case Taste::Art::Auf:
-    case Taste::Art::Ab:
         if (istMehrzeilig()) {
-            m_schreibmarke = nachbarzeile(m_text, m_schreibmarke, taste.art == Taste::Art::Ab);
+            fügeEin(U"\n");
         }
         return istMehrzeilig();
-    case Taste::Art::Pos1:
-        m_schreibmarke = istMehrzeilig() ? zeilenanfang(m_text, m_schreibmarke) : 0;
-        return true;
-    case Taste::Art::Ende:
-        m_schreibmarke = istMehrzeilig() ? zeilenende(m_text, m_schreibmarke) : m_text.size();
+    case Taste::Art::Rück:
+    case Taste::Art::Entf:
+        lösche(taste.art == Taste::Art::Rück);
         return true;
     default:
-        return false;
+        return bewegeCursor(taste);
     }
 }
 
@@ -124,5 +180,6 @@ void Textfeld::fokusGewechselt(bool gekommen)
 {
     if (gekommen) {
         m_schreibmarke = m_text.size();
+        m_anker = m_schreibmarke;
     }
 }

@@ -6,6 +6,7 @@
 #include "platform/qt/Etikett.h"
 #include "platform/qt/Flaechen.h"
 #include "platform/qt/Knoepfe.h"
+#include "platform/qt/Listenansicht.h"
 #include "platform/qt/Listung.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Tabelle.h"
@@ -37,6 +38,19 @@ template <class L> L* ohneRand(L* layout, double abstand)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(em(abstand));
     return layout;
+}
+
+bool istBefehl(const Anordnung& a)
+{
+    return a.wort == Wort::Element && dynamic_cast<Schaltfläche*>(a.element) != nullptr && !a.füllt && a.breite <= 0;
+}
+
+/// Several commands in a row, perhaps with a gap.
+bool sindBefehle(const Anordnung& a)
+{
+    return std::count_if(a.teile.begin(), a.teile.end(), istBefehl) > 1 &&
+           std::all_of(a.teile.begin(), a.teile.end(),
+                       [](const Anordnung& teil) { return istBefehl(teil) || teil.wort == Wort::Dehnung; });
 }
 
 bool sindOptionen(const Anordnung& a)
@@ -108,7 +122,9 @@ QWidget* Anordner::macheElement(const Anordnung& a)
         widget->setSizePolicy(regel);
     }
     auto* box = dynamic_cast<Auswahlbox*>(widget);
-    if (a.breite > 0) {
+    if (auto* liste = dynamic_cast<Listenansicht*>(widget)) {
+        liste->setzeMindestbreite(em(a.breite));
+    } else if (a.breite > 0) {
         widget->setFixedWidth(em(a.breite));
     } else if (box != nullptr && box->isEditable()) {
         widget->setFixedWidth(em(4.6));
@@ -158,8 +174,29 @@ bool Anordner::fügeSpalte(const Anordnung& a, QBoxLayout& ziel)
     return füllt;
 }
 
+bool Anordner::fügeBefehle(const Anordnung& a, QBoxLayout& ziel)
+{
+    auto* reihe = new Umbruchreihe(m_eltern);
+    const Unter unter(*this, *reihe);
+    std::vector<QWidget*> teile;
+    auto lücke = a.teile.size();
+    for (const auto& teil : a.teile) {
+        if (teil.wort == Wort::Dehnung) {
+            lücke = teile.size();
+        } else {
+            teile.push_back(macheElement(teil));
+        }
+    }
+    lücke = std::min(lücke, teile.size());
+    reihe->setze(std::move(teile), lücke);
+    return fügeWidget(*reihe, ziel, false);
+}
+
 bool Anordner::fügeZeile(const Anordnung& a, QBoxLayout& ziel)
 {
+    if (a.wort == Wort::Zeile && sindBefehle(a) && !istWaagrecht(ziel)) {
+        return fügeBefehle(a, ziel);
+    }
     auto* zeile = ohneRand(new QHBoxLayout, kastenabstand);
     ziel.addLayout(zeile);
     bool gedehnt = false;
@@ -302,14 +339,15 @@ QWidget* Anordner::macheKarte(const Anordnung& a, bool& füllt)
     auto* karte = new QGroupBox(m_eltern);
     const Unter unter(*this, *karte);
     karte->setProperty("rolle", "karte");
-    karte->setAccessibleName(alsQString(a.text));
+    karte->setAccessibleName(alsQString(a.element == nullptr ? a.text : a.element->text()));
     auto* layout = ohneRand(new QVBoxLayout(karte), 0.35);
     const bool geräumig = !m_istSeite || a.breite > 0;
     const int seite = em(geräumig ? 1.2 : 0.55);
     layout->setContentsMargins(seite, em(geräumig ? 0.7 : 0.25), seite, em(geräumig ? 0.9 : 0.45));
-    if (!a.text.empty() || !a.köpfe.empty()) {
+    if (!a.text.empty() || a.element != nullptr || !a.köpfe.empty()) {
         auto* zeile = ohneRand(new QHBoxLayout, 0.6);
-        auto* titel = new Etikett(alsQString(a.text), karte);
+        auto* titel = a.element == nullptr ? new Etikett(alsQString(a.text), karte)
+                                           : dynamic_cast<Etikett*>(zeichneElement(*a.element, m_ansicht, karte));
         titel->setFont(schrift(Schriftrolle::Kartentitel));
         zeile->addWidget(titel);
         for (auto* kopf : a.köpfe) {

@@ -41,6 +41,7 @@ private:
     bool fügeElement(const Anordnung& a, QBoxLayout& ziel);
     bool fügeText(const Anordnung& a, QBoxLayout& ziel);
     bool fügeSpalte(const Anordnung& a, QBoxLayout& ziel);
+    bool fügeBefehle(const Anordnung& a, QBoxLayout& ziel);
     bool fügeZeile(const Anordnung& a, QBoxLayout& ziel);
     bool fügeFormular(const Anordnung& a, QBoxLayout& ziel);
     bool fügeKarte(const Anordnung& a, QBoxLayout& ziel);

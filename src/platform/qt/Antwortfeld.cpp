@@ -16,7 +16,16 @@ namespace {
 
 constexpr int ring = 3; ///< room around the field for the focus line, in hairlines
 constexpr int rundung = 3;
-constexpr double deckungGesperrt = 0.45;
+constexpr float deckungGesperrt = 0.45F;
+constexpr double lesbar = 4.5; ///< least contrast of a text
+
+/// The colour on the ground of the page, through which a disabled field lets it shine.
+QColor blass(const QColor& farbe, const QColor& grund)
+{
+    const auto mische = [](float a, float b) { return a * deckungGesperrt + b * (1 - deckungGesperrt); };
+    return QColor::fromRgbF(mische(farbe.redF(), grund.redF()), mische(farbe.greenF(), grund.greenF()),
+                            mische(farbe.blueF(), grund.blueF()));
+}
 
 } // namespace
 
@@ -67,7 +76,11 @@ void Antwortfeld::paintEvent(QPaintEvent* /*ereignis*/)
     maler.setBrush(m_hintergrund);
     maler.drawRoundedRect(feld.adjusted(0.5, 0.5, -0.5, -0.5), rundung, rundung);
     maler.setOpacity(1.0);
-    maler.setPen(isEnabled() ? QColor(Qt::black) : farben().schrift);
+    const auto gesperrteSchrift = [this] {
+        const auto grund = blass(m_hintergrund, farben().flaeche);
+        return kontrast(farben().schrift, grund) >= lesbar ? farben().schrift : QColor(Qt::black);
+    };
+    maler.setPen(isEnabled() ? QColor(Qt::black) : gesperrteSchrift());
     QFont schriftart = font();
     schriftart.setBold(m_hintergrund == Qt::white);
     maler.setFont(schriftart);

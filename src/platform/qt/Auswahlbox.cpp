@@ -11,6 +11,7 @@
 #include <QAbstractItemView>
 #include <QFocusEvent>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QScreen>
 #include <QScrollBar>
@@ -40,7 +41,6 @@ Auswahlbox::Auswahlbox(Auswahlfeld& element, Ansicht& ansicht, QWidget* eltern)
 {
     setModel(new Auswahlliste(element, ansicht, this));
     setMaxVisibleItems(sichtbareEinträge);
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // lists of all nations are not measured
     setMinimumContentsLength(1);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     if (element.istTippbar()) {
@@ -59,12 +59,16 @@ Auswahlbox::Auswahlbox(Auswahlfeld& element, Ansicht& ansicht, QWidget* eltern)
 
 void Auswahlbox::macheTippbar()
 {
-    setEditable(true);
+    // The base class forgets what it has noted for a line that it sees for the first time inside a box only when
+    // the program ends.
+    auto* zeile = new QLineEdit;
+    zeile->ensurePolished();
+    setLineEdit(zeile);
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);
     connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { gibEin(text); });
     connect(lineEdit(), &QLineEdit::cursorPositionChanged, this, [this](int /*vorher*/, int jetzt) {
-        if (!m_wirdGefüllt && m_ansicht.lebt() && lineEdit()->text() == m_text) {
+        if (!m_wirdGefüllt && m_ansicht.lebt() && lineEdit()->text() == m_text && !lineEdit()->hasSelectedText()) {
             m_element.setzeSchreibmarke(static_cast<std::size_t>(jetzt));
         }
     });
@@ -72,9 +76,12 @@ void Auswahlbox::macheTippbar()
 
 void Auswahlbox::gibEin(const QString& text)
 {
-    const auto eingabe = filtere(text, lineEdit()->cursorPosition(), false, 0);
-    meldeFilter(*this, eingabe);
-    m_ansicht.ereignis([&] { m_element.gibEin(eingabe.text, eingabe.schreibmarke); });
+    if (!m_ansicht.lebt()) {
+        return;
+    }
+    const auto eingabe = filtere(m_element.text(), text, lineEdit()->cursorPosition(), false, 0);
+    meldeFilter(*this, eingabe.ergebnis, 0);
+    m_ansicht.ereignis([&] { m_element.gibEin(eingabe.ergebnis.text, eingabe.schreibmarke); });
 }
 
 QString Auswahlbox::gezeigterText() const
@@ -85,7 +92,7 @@ QString Auswahlbox::gezeigterText() const
 void Auswahlbox::gleicheSchreibmarkeAb(bool auswahlWeicht)
 {
     auto& zeile = *lineEdit();
-    if (!zeile.hasSelectedText()) {
+    if (!zeile.hasSelectedText() || m_element.istGanzGewählt()) {
         return;
     }
     const auto anfang = static_cast<std::size_t>(zeile.selectionStart());
@@ -122,35 +129,47 @@ void Auswahlbox::übernimm()
 
 void Auswahlbox::übernimmTippbar()
 {
-    auto& zeile = *lineEdit();
-    if (zeile.text() != m_text) {
-        zeile.setText(m_text);
+    if (lineEdit()->text() != m_text) {
+        lineEdit()->setText(m_text);
     }
-    const auto marke = static_cast<int>(m_element.schreibmarke());
-    if (!zeile.hasSelectedText() && zeile.cursorPosition() != marke) {
-        zeile.setCursorPosition(marke);
-    }
+    übernimmStelle();
     if (property("falsch").toBool() != m_element.istFalsch()) {
-        m_warFalsch = !m_element.istFalsch();
         setProperty("falsch", m_element.istFalsch());
         style()->unpolish(this);
         style()->polish(this);
-        if (m_warFalsch && hasFocus()) {
-            zeile.selectAll();
-        }
     }
+}
+
+/// The whole text is selected with the cursor before it, or nothing is.
+void Auswahlbox::übernimmStelle()
+{
+    auto& zeile = *lineEdit();
+    if (m_element.istGanzGewählt()) {
+        const auto länge = static_cast<int>(zeile.text().size());
+        zeile.setSelection(länge, -länge);
+        return;
+    }
+    zeile.deselect();
+    zeile.setCursorPosition(static_cast<int>(m_element.schreibmarke()));
 }
 
 void Auswahlbox::focusInEvent(QFocusEvent* ereignis)
 {
     QComboBox::focusInEvent(ereignis);
-    if (isEditable() && m_ansicht.lebt()) {
-        if (m_warFalsch) {
-            lineEdit()->selectAll(); // a wrong value is to be typed anew
-        } else if (ereignis->reason() != Qt::PopupFocusReason) {
-            lineEdit()->setCursorPosition(static_cast<int>(m_element.schreibmarke()));
-        }
-        m_warFalsch = false;
+    if (isEditable() && m_ansicht.lebt() && ereignis->reason() != Qt::PopupFocusReason) {
+        m_wirdGefüllt = true;
+        übernimmStelle();
+        m_wirdGefüllt = false;
+    }
+}
+
+/// Page keys scroll the page; the toolkit would pick another entry.
+void Auswahlbox::keyPressEvent(QKeyEvent* ereignis)
+{
+    if (ereignis->key() == Qt::Key_PageUp || ereignis->key() == Qt::Key_PageDown) {
+        ereignis->ignore();
+    } else {
+        QComboBox::keyPressEvent(ereignis);
     }
 }
 
@@ -164,7 +183,7 @@ void Auswahlbox::showPopup()
 
 QSize Auswahlbox::sizeHint() const
 {
-    return {em(16.5), QComboBox::sizeHint().height()};
+    return {em(16.5), QComboBox::minimumSizeHint().height()}; // lists of all nations are not measured
 }
 
 QSize Auswahlbox::minimumSizeHint() const
@@ -181,13 +200,10 @@ void Auswahlbox::initStyleOption(QStyleOptionComboBox* option) const
     }
 }
 
+/// The page scrolls, whether the box has the focus or not: an answer that the wheel changes is changed unseen.
 void Auswahlbox::wheelEvent(QWheelEvent* ereignis)
 {
-    if (hasFocus() && !isEditable()) {
-        QComboBox::wheelEvent(ereignis);
-    } else {
-        ereignis->ignore(); // the page scrolls
-    }
+    ereignis->ignore();
 }
 
 bool Auswahlbox::event(QEvent* ereignis)

@@ -6,8 +6,7 @@ class Ansicht;
 class Auswahlfeld;
 class QLineEdit;
 
-/// The combo box: reads list and text from its element, hands every key to it, and keeps its value when the
-/// wheel turns over it without the focus.
+/// The combo box: reads list and text from its element, hands every key to it, and never follows the wheel.
 class Auswahlbox : public QComboBox {
 public:
     Auswahlbox(Auswahlfeld& element, Ansicht& ansicht, QWidget* eltern);
@@ -26,17 +25,18 @@ protected:
     void initStyleOption(QStyleOptionComboBox* option) const override;
     void wheelEvent(QWheelEvent* ereignis) override;
     void focusInEvent(QFocusEvent* ereignis) override;
+    void keyPressEvent(QKeyEvent* ereignis) override;
     bool event(QEvent* ereignis) override;
 
 private:
     void macheTippbar();
     void übernimm();
     void übernimmTippbar();
+    void übernimmStelle();
     void gibEin(const QString& text);
 
     Auswahlfeld& m_element;
     Ansicht& m_ansicht;
     QString m_text;
     bool m_wirdGefüllt = false;
-    bool m_warFalsch = false;
 };

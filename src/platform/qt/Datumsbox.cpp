@@ -1,17 +1,23 @@
 #include "platform/qt/Datumsbox.h"
 
-#include "platform/elemente/Elemente.h"
+#include "platform/elemente/Datumsfeld.h"
 #include "platform/qt/Ansicht.h"
+#include "platform/qt/Eingabewaechter.h"
+#include "platform/qt/Feldhinweis.h"
 #include "platform/qt/Stil.h"
+#include "platform/qt/Umschrift.h"
+#include "platform/qt/Vorlesen.h"
 
 #include <QCalendarWidget>
 #include <QFocusEvent>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QRegularExpression>
-#include <QSignalBlocker>
+#include <QScreen>
 #include <QTextCharFormat>
-#include <QWheelEvent>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -20,135 +26,197 @@ QDate alsQDate(const Datum& datum)
     return {datum.jahr, datum.monat, datum.tag};
 }
 
-/// "02082007" as "02.08.2007".
-QString mitPunkten(const QString& text)
+Datum alsDatum(const QDate& datum)
 {
-    constexpr int ziffern = 8;
-    const bool ohnePunkte = text.size() == ziffern && !text.contains(QChar('.'));
-    return ohnePunkte ? text.left(2) + QChar('.') + text.mid(2, 2) + QChar('.') + text.mid(4) : text;
+    return {datum.year(), datum.month(), datum.day()};
 }
 
-QDate lies(const QString& text)
+QCalendarWidget* erzeugeKalender(const QDate& heute, QWidget* eltern)
 {
-    const auto datum = leseDatum(mitPunkten(text).toStdString());
-    return datum ? alsQDate(*datum) : QDate();
-}
-
-bool hatVolleJahreszahl(const QString& text)
-{
-    return mitPunkten(text).section(QChar('.'), 2).size() == 4;
-}
-
-} // namespace
-
-Datumsbox::Datumsbox(Datumsfeld& element, Ansicht& ansicht, QWidget* eltern)
-    : QDateEdit(eltern), m_element(element), m_ansicht(ansicht)
-{
-    setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
-    setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
-    setCalendarPopup(true);
-    setKeyboardTracking(false);
-    // the cursor is to stay where it was put, not to select sections
-    disconnect(lineEdit(), SIGNAL(cursorPositionChanged(int, int)), this, nullptr);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    richteKalenderEin();
-    connect(this, &QDateEdit::dateChanged, this, [this](QDate datum) {
-        m_ansicht.ereignis([&] { m_element.wähle({datum.year(), datum.month(), datum.day()}); });
-    });
-    ansicht.binde(element, *this, [this] { übernimm(); });
-}
-
-void Datumsbox::richteKalenderEin()
-{
-    auto* kalender = new QCalendarWidget(this);
+    auto* kalender = new QCalendarWidget(eltern);
     kalender->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    kalender->setFirstDayOfWeek(locale().firstDayOfWeek());
+    kalender->setFirstDayOfWeek(eltern->locale().firstDayOfWeek());
+    kalender->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
     QTextCharFormat wochenende;
     wochenende.setForeground(farben().fehler);
     kalender->setWeekdayTextFormat(Qt::Saturday, wochenende);
     kalender->setWeekdayTextFormat(Qt::Sunday, wochenende);
-    QTextCharFormat heute;
-    heute.setFontWeight(QFont::Bold);
-    kalender->setDateTextFormat(alsQDate(m_ansicht.heute()), heute);
-    setCalendarWidget(kalender);
+    QTextCharFormat heutiger;
+    heutiger.setFontWeight(QFont::Bold);
+    kalender->setDateTextFormat(heute, heutiger);
+    sprichKalender(*kalender);
+    return kalender;
+}
+
+} // namespace
+
+Kalenderfenster::Kalenderfenster(Datumsbox& box)
+    : QFrame(&box, Qt::Popup), m_box(box), m_kalender(erzeugeKalender(alsQDate(box.m_ansicht.heute()), this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setFrameStyle(QFrame::StyledPanel);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_kalender);
+    for (auto* teil : m_kalender->findChildren<QWidget*>()) {
+        teil->installEventFilter(this);
+    }
+    setFocusProxy(m_kalender);
+    connect(m_kalender, &QCalendarWidget::clicked, this, [this](QDate tag) {
+        m_box.m_ansicht.ereignis([&] {
+            m_box.m_element.schließeKalender();
+            m_box.m_element.wähle(alsDatum(tag));
+        });
+    });
+}
+
+void Kalenderfenster::stelle(const QDate& tag)
+{
+    m_kalender->setSelectedDate(tag);
+}
+
+bool Kalenderfenster::eventFilter(QObject* objekt, QEvent* ereignis)
+{
+    if (ereignis->type() != QEvent::KeyPress || objekt->inherits("QSpinBox")) {
+        return QFrame::eventFilter(objekt, ereignis); // the year is typed into a box of its own
+    }
+    if (const auto taste = alsTaste(*static_cast<QKeyEvent*>(ereignis))) {
+        m_box.m_ansicht.ereignis([&] { m_box.m_element.taste(*taste); });
+    }
+    return true;
+}
+
+/// A press beside it closes it too.
+void Kalenderfenster::hideEvent(QHideEvent* ereignis)
+{
+    QFrame::hideEvent(ereignis);
+    m_box.m_ansicht.ereignis([&] { m_box.m_element.schließeKalender(); });
+}
+
+Datumsbox::Datumsbox(Datumsfeld& element, Ansicht& ansicht, QWidget* eltern)
+    : QLineEdit(eltern), m_element(element), m_ansicht(ansicht), m_knopf(new QToolButton(this))
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_knopf->setProperty("rolle", "kalender");
+    m_knopf->setFocusPolicy(Qt::NoFocus);
+    m_knopf->setCursor(Qt::ArrowCursor);
+    m_knopf->setAccessibleName(QStringLiteral("Kalender öffnen"));
+    connect(m_knopf, &QToolButton::clicked, this,
+            [this] { m_ansicht.ereignis([this] { m_element.öffneKalender(); }); });
+    connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
+        m_ansicht.ereignis([&] {
+            const auto links = alsText(text.left(cursorPosition()));
+            m_element.gibEin(alsText(text), links.size());
+        });
+    });
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this] { meldeStelle(); });
+    connect(this, &QLineEdit::selectionChanged, this, [this] { meldeStelle(); });
+    ansicht.binde(element, *this, [this] { übernimm(); });
+    ansicht.abonniere(element.beanstandet, [this] { zeigeFeldhinweis(*this, alsQString(m_element.beanstandung())); });
 }
 
 void Datumsbox::übernimm()
 {
-    const QSignalBlocker still(this);
-    setDate(alsQDate(m_element.datum()));
-    if (QFont schriftart = lineEdit()->font(); schriftart.strikeOut() != m_element.istDurchgestrichen()) {
+    m_wirdGefüllt = true;
+    if (const auto text = alsQString(m_element.anzeige()); this->text() != text) {
+        setText(text);
+    }
+    if (QFont schriftart = font(); schriftart.strikeOut() != m_element.istDurchgestrichen()) {
         schriftart.setStrikeOut(m_element.istDurchgestrichen());
-        lineEdit()->setFont(schriftart);
+        setFont(schriftart);
     }
-    if (!m_element.istFrei()) {
-        lineEdit()->deselect(); // nothing there waits for the keyboard
+    m_wirdGefüllt = false;
+    übernimmStelle();
+    übernimmKalender();
+}
+
+void Datumsbox::übernimmStelle()
+{
+    const auto marke = static_cast<int>(m_element.schreibmarke());
+    const auto anker = static_cast<int>(m_element.anker());
+    m_wirdGefüllt = true;
+    if (marke == anker) {
+        deselect();
+        setCursorPosition(marke);
+    } else {
+        setSelection(anker, marke - anker);
     }
+    m_wirdGefüllt = false;
+}
+
+/// The toolkit's own moves of cursor and selection.
+void Datumsbox::meldeStelle()
+{
+    if (m_wirdGefüllt || !m_ansicht.lebt() || text() != alsQString(m_element.anzeige())) {
+        return;
+    }
+    const int marke = cursorPosition();
+    const int anker = !hasSelectedText() ? marke : selectionStart() == marke ? selectionEnd() : selectionStart();
+    m_element.setzeStelle(static_cast<std::size_t>(marke), static_cast<std::size_t>(anker));
+}
+
+void Datumsbox::übernimmKalender()
+{
+    const auto tag = m_element.kalendertag();
+    if (!tag) {
+        if (auto* fenster = std::exchange(m_kalender, nullptr)) {
+            fenster->close();
+        }
+        return;
+    }
+    const bool neu = m_kalender == nullptr;
+    if (neu) {
+        m_kalender = new Kalenderfenster(*this);
+    }
+    m_kalender->stelle(alsQDate(*tag));
+    if (neu) {
+        m_kalender->adjustSize();
+        const QRect platz = screen()->availableGeometry();
+        const QPoint unten = mapToGlobal(QPoint(0, height()));
+        const bool passtUnten = unten.y() + m_kalender->height() <= platz.bottom();
+        const int y = passtUnten ? unten.y() : mapToGlobal(QPoint(0, -m_kalender->height())).y();
+        const int rechts = std::max(platz.left(), platz.right() + 1 - m_kalender->width());
+        m_kalender->move(std::min(unten.x(), rechts), std::max(platz.top(), y));
+        m_kalender->show();
+        m_kalender->setFocus();
+    }
+}
+
+QCalendarWidget* Datumsbox::kalender() const
+{
+    return m_kalender == nullptr ? nullptr : m_kalender->findChild<QCalendarWidget*>();
+}
+
+QWidget& Datumsbox::kalenderknopf() const
+{
+    return *m_knopf;
 }
 
 QSize Datumsbox::sizeHint() const
 {
-    return {em(10), QDateEdit::sizeHint().height()};
+    return {em(10), QLineEdit::sizeHint().height()};
 }
 
-void Datumsbox::wheelEvent(QWheelEvent* ereignis)
+void Datumsbox::resizeEvent(QResizeEvent* ereignis)
 {
-    if (hasFocus()) {
-        QDateEdit::wheelEvent(ereignis);
-    } else {
-        ereignis->ignore(); // the page scrolls
-    }
-}
-
-void Datumsbox::keyPressEvent(QKeyEvent* ereignis)
-{
-    const bool blättert = ereignis->key() == Qt::Key_Up || ereignis->key() == Qt::Key_Down ||
-                          ereignis->key() == Qt::Key_PageUp || ereignis->key() == Qt::Key_PageDown;
-    if (blättert) {
-        QDateEdit::keyPressEvent(ereignis);
-    } else {
-        QAbstractSpinBox::keyPressEvent(ereignis);
-    }
-}
-
-void Datumsbox::stepBy(int schritte)
-{
-    interpretText();
-    const auto links = lineEdit()->text().left(lineEdit()->cursorPosition());
-    const auto punkte = lineEdit()->hasSelectedText() ? 0 : links.count(QChar('.'));
-    setCurrentSection(punkte == 0 ? DaySection : punkte == 1 ? MonthSection : YearSection);
-    QDateEdit::stepBy(schritte);
-}
-
-QValidator::State Datumsbox::validate(QString& text, int& /*marke*/) const
-{
-    static const QRegularExpression anfang(
-        QStringLiteral("^(\\d{0,8}|\\d{0,2}\\.\\d{0,2}|\\d{0,2}\\.\\d{0,2}\\.\\d{0,4})$"));
-    if (!anfang.match(text).hasMatch()) {
-        return QValidator::Invalid;
-    }
-    const auto datum = lies(text);
-    const bool gilt = hatVolleJahreszahl(text) && datum.isValid() && datum >= minimumDate();
-    return gilt ? QValidator::Acceptable : QValidator::Intermediate;
-}
-
-/// A year of two digits is completed when the field is left.
-void Datumsbox::fixup(QString& text) const
-{
-    if (const auto datum = lies(text); datum.isValid()) {
-        text = datum.toString(displayFormat());
-    }
-}
-
-QDateTime Datumsbox::dateTimeFromText(const QString& text) const
-{
-    return lies(text).startOfDay();
+    QLineEdit::resizeEvent(ereignis);
+    const int breite = em(1.1);
+    const int rand = 2;
+    m_knopf->setGeometry(width() - breite - rand, rand, breite, height() - 2 * rand);
+    setTextMargins(0, 0, breite, 0);
 }
 
 void Datumsbox::focusInEvent(QFocusEvent* ereignis)
 {
-    QAbstractSpinBox::focusInEvent(ereignis);
-    if (ereignis->reason() == Qt::OtherFocusReason) {
-        selectAll(); // what is typed replaces the date
+    QLineEdit::focusInEvent(ereignis);
+    if (m_ansicht.lebt() && ereignis->reason() != Qt::PopupFocusReason) {
+        übernimmStelle();
     }
+}
+
+/// A press sets the cursor, also at the place before a selected text, where it stands already.
+void Datumsbox::mousePressEvent(QMouseEvent* ereignis)
+{
+    QLineEdit::mousePressEvent(ereignis);
+    meldeStelle();
 }

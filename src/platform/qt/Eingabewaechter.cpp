@@ -5,8 +5,10 @@
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Auswahlbox.h"
 #include "platform/qt/Datumsbox.h"
+#include "platform/qt/Eingabefilter.h"
 #include "platform/qt/Textbox.h"
 #include "platform/text/Eingabe.h"
+#include "platform/text/Text.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -19,7 +21,7 @@
 
 namespace {
 
-constexpr std::array<std::pair<int, Taste::Art>, 16> sondertasten{{
+constexpr std::array<std::pair<int, Taste::Art>, 17> sondertasten{{
     {Qt::Key_Backspace, Taste::Art::Rück},
     {Qt::Key_Delete, Taste::Art::Entf},
     {Qt::Key_Left, Taste::Art::Links},
@@ -35,50 +37,95 @@ constexpr std::array<std::pair<int, Taste::Art>, 16> sondertasten{{
     {Qt::Key_Escape, Taste::Art::Esc},
     {Qt::Key_PageUp, Taste::Art::BildAuf},
     {Qt::Key_PageDown, Taste::Art::BildAb},
-    {Qt::Key_Space, Taste::Art::Zeichen},
+    {Qt::Key_F1, Taste::Art::F1},
+    {Qt::Key_F4, Taste::Art::F4},
 }};
 
-std::optional<Taste> alsTaste(const QKeyEvent& ereignis)
+std::optional<char> getipptesZeichen(const QKeyEvent& ereignis, bool kombination)
 {
-    const auto zusatz = ereignis.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    const bool istAltGr = zusatz == (Qt::ControlModifier | Qt::AltModifier) && !ereignis.text().isEmpty();
-    if (zusatz != 0 && !istAltGr) {
-        return std::nullopt;
-    }
-    const auto ort = std::find_if(sondertasten.begin(), sondertasten.end(),
-                                  [&](const auto& paar) { return paar.first == ereignis.key(); });
-    if (ort != sondertasten.end() && ort->second != Taste::Art::Zeichen) {
-        return Taste{ort->second, 0};
+    if (kombination) { // its text is a control character; the key tells the letter
+        const int taste = ereignis.key();
+        const bool istBuchstabe = taste >= 0x20 && taste < 0x7F;
+        return istBuchstabe ? std::optional(klein(static_cast<char>(taste))) : std::nullopt;
     }
     const auto zeichen = ereignis.text().toUcs4();
-    if (zeichen.size() != 1 || zeichen.front() < 0x20) {
-        return std::nullopt;
-    }
-    const auto byte = nächstesZeichen(static_cast<char32_t>(zeichen.front()));
-    return byte ? std::optional(Taste{Taste::Art::Zeichen, *byte}) : std::nullopt;
+    return zeichen.size() == 1 && zeichen.front() >= 0x20 ? nächstesZeichen(static_cast<char32_t>(zeichen.front()))
+                                                          : std::nullopt;
 }
 
 /// Tab, Return and Escape are the screen's even in a text.
 bool gehörtDemBildschirm(const Taste& taste)
 {
     return taste.art == Taste::Art::Tab || taste.art == Taste::Art::RückTab || taste.art == Taste::Art::Eingabe ||
-           taste.art == Taste::Art::Esc;
+           taste.art == Taste::Art::Esc || taste.art == Taste::Art::F1 || taste.art == Taste::Art::F4;
+}
+
+/// Keys that the element has rules for where the toolkit edits the text of a date.
+bool gehörtDemDatum(const Taste& taste)
+{
+    return gehörtDemBildschirm(taste) || taste.art == Taste::Art::Auf || taste.art == Taste::Art::Ab ||
+           taste.art == Taste::Art::BildAuf || taste.art == Taste::Art::BildAb;
+}
+
+/// Ctrl with something is a matter of texts (copying, words, the start of the text), Alt with something is not.
+bool istTextkombination(const QWidget& widget, const Taste& taste)
+{
+    if (taste.alt) {
+        return false;
+    }
+    if (const auto* box = dynamic_cast<const Auswahlbox*>(&widget)) {
+        constexpr std::string_view kopieren = "acvx"; // others would change the text past the type-ahead
+        return box->isEditable() && taste.art == Taste::Art::Zeichen &&
+               kopieren.find(taste.zeichen) != std::string_view::npos;
+    }
+    return !gehörtDemBildschirm(taste) &&
+           (dynamic_cast<const QLineEdit*>(&widget) != nullptr || dynamic_cast<const Textblock*>(&widget) != nullptr);
 }
 
 /// What the toolkit does by itself: editing texts and dates, opening a list.
 bool istSacheDesWidgets(const QWidget& widget, const Taste& taste)
 {
+    if (dynamic_cast<const Datumsbox*>(&widget) != nullptr && !taste.istKombination()) {
+        return !gehörtDemDatum(taste);
+    }
+    const auto* box = dynamic_cast<const Auswahlbox*>(&widget);
+    if (box != nullptr && taste.klapptAuf()) {
+        return true;
+    }
+    if (taste.istKombination()) {
+        return istTextkombination(widget, taste);
+    }
     if (dynamic_cast<const Textblock*>(&widget) != nullptr) {
         return !gehörtDemBildschirm(taste) || taste.art == Taste::Art::Eingabe;
     }
-    if (dynamic_cast<const Textzeile*>(&widget) != nullptr || dynamic_cast<const Datumsbox*>(&widget) != nullptr) {
+    if (dynamic_cast<const Textzeile*>(&widget) != nullptr) {
         return !gehörtDemBildschirm(taste);
     }
-    const auto* box = dynamic_cast<const Auswahlbox*>(&widget);
     return box != nullptr && !box->isEditable() && taste.art == Taste::Art::Zeichen && taste.zeichen == ' ';
 }
 
 } // namespace
+
+std::optional<Taste> alsTaste(const QKeyEvent& ereignis)
+{
+    const auto zusatz = ereignis.modifiers();
+    const bool meta = zusatz.testFlag(Qt::MetaModifier); // as both, which means nothing anywhere
+    const bool strg = meta || zusatz.testFlag(Qt::ControlModifier);
+    const bool alt = meta || zusatz.testFlag(Qt::AltModifier);
+    const auto zeichen = ereignis.text().toUcs4();
+    const bool istAltGr = !meta && strg && alt && zeichen.size() == 1 && zeichen.front() > 0x20;
+    Taste taste{Taste::Art::Zeichen, 0, zusatz.testFlag(Qt::ShiftModifier), strg && !istAltGr, alt && !istAltGr};
+    const auto ort = std::find_if(sondertasten.begin(), sondertasten.end(),
+                                  [&](const auto& paar) { return paar.first == ereignis.key(); });
+    if (ort != sondertasten.end()) {
+        taste.art = ort->second;
+        return taste;
+    }
+    const auto byte = getipptesZeichen(ereignis, taste.istKombination());
+    taste.zeichen = byte.value_or('\0');
+    const bool istZeichen = byte || (!zeichen.isEmpty() && zeichen.front() >= 0x20);
+    return istZeichen ? std::optional(taste) : std::nullopt;
+}
 
 Eingabewächter::Eingabewächter(std::function<Ansicht*(const QWidget*)> ansichtVon) : m_ansichtVon(std::move(ansichtVon))
 {
@@ -132,7 +179,19 @@ bool Eingabewächter::gibElement(Ansicht& ansicht, Element& element, const Taste
     if (!bildschirm.istErreichbar(element)) {
         return false;
     }
-    return element.taste(taste) || (ansicht.lebt() && geheInReihe(element, taste));
+    return gibTaste(element, taste) || (ansicht.lebt() && geheInReihe(element, taste));
+}
+
+bool Eingabewächter::gibLogik(Ansicht& ansicht, Element* element, const Taste& taste)
+{
+    bool benutzt = false;
+    ansicht.ereignis([&] {
+        benutzt = element != nullptr && gibElement(ansicht, *element, taste);
+        if (!benutzt && ansicht.lebt()) {
+            benutzt = ansicht.bildschirm().taste(taste);
+        }
+    });
+    return benutzt;
 }
 
 bool Eingabewächter::beiTaste(QWidget& widget, const QKeyEvent& ereignis)
@@ -147,24 +206,21 @@ bool Eingabewächter::beiTaste(QWidget& widget, const QKeyEvent& ereignis)
     if (feld != nullptr && istSacheDesWidgets(*feld, *taste)) {
         return false;
     }
-    if (ereignis.isAutoRepeat() && taste->art == Taste::Art::Zeichen &&
+    const bool drückt = taste->art == Taste::Art::Zeichen || taste->art == Taste::Art::Eingabe;
+    if (ereignis.isAutoRepeat() && drückt &&
         dynamic_cast<QAbstractButton*>(feld) != nullptr) {
         return true; // a key that is held down presses once
+    }
+    if (taste->art == Taste::Art::Zeichen && taste->zeichen == 0) {
+        meldeFilter(widget, {.text = {}, .verweigert = true}, 0); // nothing that could be stored
+        return true;
     }
     if (auto* box = dynamic_cast<Auswahlbox*>(feld); box != nullptr && box->isEditable()) {
         box->gleicheSchreibmarkeAb(taste->art == Taste::Art::Zeichen || taste->art == Taste::Art::Rück ||
                                    taste->art == Taste::Art::Entf);
     }
-    if (auto* datum = dynamic_cast<Datumsbox*>(feld)) {
-        datum->interpretText(); // what was typed counts before the screen acts on it
-    }
-    bool benutzt = false;
-    ansicht->ereignis([&] {
-        benutzt = element != nullptr && gibElement(*ansicht, *element, *taste);
-        if (!benutzt && ansicht->lebt()) {
-            benutzt = ansicht->bildschirm().taste(*taste);
-        }
-    });
+    const bool benutzt = gibLogik(*ansicht, element, *taste);
     const bool blättert = taste->art == Taste::Art::BildAuf || taste->art == Taste::Art::BildAb;
-    return benutzt || !blättert; // a page scrolls with the keys that nobody has used
+    // a page scrolls with the keys that nobody has used, and help may be had everywhere
+    return benutzt || taste->istKombination() || !(blättert || taste->art == Taste::Art::F1);
 }

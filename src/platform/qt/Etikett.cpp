@@ -2,11 +2,17 @@
 
 #include "platform/elemente/Elemente.h"
 #include "platform/qt/Ansicht.h"
+#include "platform/qt/Kuerzung.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
 
+#include <algorithm>
 #include <utility>
 
 Etikett::Etikett(const QString& text, QWidget* eltern) : QLabel(text, eltern)
@@ -25,8 +31,12 @@ Etikett::Etikett(Beschriftung& element, Ansicht& ansicht, QWidget* eltern) : Eti
     });
 }
 
-void Etikett::zeigeText(const QString& neu)
+void Etikett::zeigeText(const QString& ganzer)
 {
+    auto neu = ganzer;
+    if (m_brichtAmBindestrich) {
+        neu.replace(QStringLiteral("- "), QStringLiteral("-\n"));
+    }
     if (text() != neu) {
         setText(neu);
         updateGeometry();
@@ -63,7 +73,8 @@ void Etikett::setzeUmbruchbreite(int breite)
 
 void Etikett::brichAmBindestrich()
 {
-    setText(text().replace(QStringLiteral("- "), QStringLiteral("-\n")));
+    m_brichtAmBindestrich = true;
+    zeigeText(text());
 }
 
 QSize Etikett::sizeHint() const
@@ -73,7 +84,58 @@ QSize Etikett::sizeHint() const
 
 QSize Etikett::minimumSizeHint() const
 {
-    return m_umbruchbreite > 0 ? sizeHint() : QLabel::minimumSizeHint();
+    if (m_umbruchbreite > 0) {
+        return sizeHint();
+    }
+    constexpr double absatzbreite = 30; // lines that somebody has broken by hand are no name
+    const QSize ganze = QLabel::minimumSizeHint();
+    const double höchstens = text().contains(QChar('\n')) ? absatzbreite : m_mindestbreite;
+    return {std::min(ganze.width(), em(höchstens)), ganze.height()};
+}
+
+/// Where the base class puts the text.
+QRect Etikett::textplatz() const
+{
+    QRect platz = contentsRect();
+    const int einzug = std::max(0, indent());
+    if (alignment().testFlag(Qt::AlignLeft)) {
+        platz.setLeft(platz.left() + einzug);
+    } else if (alignment().testFlag(Qt::AlignRight)) {
+        platz.setRight(platz.right() - einzug);
+    }
+    if (alignment().testFlag(Qt::AlignBottom)) {
+        platz.setBottom(platz.bottom() - einzug);
+    }
+    return platz;
+}
+
+QString Etikett::gezeigterText() const
+{
+    return kürze(text(), textplatz().size(), font(), wordWrap());
+}
+
+void Etikett::paintEvent(QPaintEvent* ereignis)
+{
+    const auto kurz = gezeigterText();
+    if (kurz == text()) {
+        QLabel::paintEvent(ereignis);
+        return;
+    }
+    QPainter maler(this);
+    style()->drawItemText(&maler, textplatz(), static_cast<int>(alignment()), palette(), isEnabled(), kurz,
+                          foregroundRole());
+}
+
+bool Etikett::event(QEvent* ereignis)
+{
+    if (ereignis->type() == QEvent::ToolTip && gezeigterText() != text()) {
+        auto ganzer = text();
+        ganzer.replace(QStringLiteral("-\n"), QStringLiteral("- "));
+        QToolTip::showText(static_cast<QHelpEvent*>(ereignis)->globalPos(),
+                           toolTip().isEmpty() ? ganzer : ganzer + QChar('\n') + toolTip(), this);
+        return true;
+    }
+    return QLabel::event(ereignis);
 }
 
 void Etikett::mousePressEvent(QMouseEvent* ereignis)

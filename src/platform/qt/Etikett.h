@@ -5,7 +5,8 @@
 class Ansicht;
 class Beschriftung;
 
-/// A label; also a fixed text that is no element.
+/// A label; also a fixed text that is no element. Where its text has no room it ends with "…", and the tool tip tells
+/// the whole: no text decides how wide a window is.
 class Etikett : public QLabel {
 public:
     Etikett(const QString& text, QWidget* eltern);
@@ -15,6 +16,10 @@ public:
     void setzeUmbruchbreite(int breite);
     /// "hyphen, blank" is where a column head breaks.
     void brichAmBindestrich();
+    /// A text up to this width (em) is never cut: what a person must always see.
+    void setzeMindestbreite(double breite) { m_mindestbreite = breite; }
+    /// The text as it is painted.
+    QString gezeigterText() const;
     /// A row of the diagnosis listing paints the row's kind behind the text.
     void seiListenzelle() { m_istListenzelle = true; }
 
@@ -23,6 +28,8 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent* ereignis) override;
+    void paintEvent(QPaintEvent* ereignis) override;
     void mouseReleaseEvent(QMouseEvent* ereignis) override;
     void mousePressEvent(QMouseEvent* ereignis) override;
     void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
@@ -30,10 +37,13 @@ protected:
 private:
     void zeigeText(const QString& text);
     void zeichneZeilenart();
+    QRect textplatz() const;
 
     Beschriftung* m_element = nullptr;
     Ansicht* m_ansicht = nullptr;
     int m_umbruchbreite = 0;
+    bool m_brichtAmBindestrich = false;
+    double m_mindestbreite = 4;
     bool m_istListenzelle = false;
     bool m_gedrückt = false;
 };

@@ -79,6 +79,15 @@ void Rahmenfenster::changeEvent(QEvent* ereignis)
     }
 }
 
+bool Rahmenfenster::event(QEvent* ereignis)
+{
+    const bool ergebnis = QMainWindow::event(ereignis);
+    if (ereignis->type() == QEvent::WindowActivate && m_ereignisse.aktiviert) {
+        m_ereignisse.aktiviert();
+    }
+    return ergebnis;
+}
+
 void Rahmenfenster::closeEvent(QCloseEvent* ereignis)
 {
     ereignis->ignore();

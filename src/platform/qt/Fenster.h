@@ -14,6 +14,7 @@ struct Fensterereignisse {
     std::function<void(QSize)> größeGeändert;
     std::function<void(bool)> maximiert;
     std::function<void()> schließwunsch;
+    std::function<void()> aktiviert = {};
 };
 
 /// Tells a person's placing of a window from the program's own and from what the window manager makes of it.
@@ -50,6 +51,7 @@ protected:
     void resizeEvent(QResizeEvent* ereignis) override;
     void changeEvent(QEvent* ereignis) override;
     void closeEvent(QCloseEvent* ereignis) override;
+    bool event(QEvent* ereignis) override;
 
 private:
     Fensterereignisse m_ereignisse;

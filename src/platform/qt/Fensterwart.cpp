@@ -22,6 +22,10 @@
 
 namespace {
 
+/// Of every page, so that the frame does not jump from one to the next: the longest table stands in it as a whole.
+constexpr double seitenbreite = 76;
+constexpr double seitenhöhe = 54;
+
 Antwortzeile* zeileUm(QWidget* widget)
 {
     for (; widget != nullptr; widget = widget->parentWidget()) {
@@ -80,7 +84,23 @@ Fensterereignisse Fensterwart::rahmenereignisse()
                     ereignis([&] { m_rahmen.benutzerÄndertGröße(alsTwips(größe.width()), alsTwips(größe.height())); });
                 },
             .maximiert = [this](bool maximiert) { ereignis([&] { m_rahmen.benutzerMaximiert(maximiert); }); },
-            .schließwunsch = [this] { ereignis([&] { m_rahmen.benutzerSchließt(); }); }};
+            .schließwunsch = [this] { ereignis([&] { m_rahmen.benutzerSchließt(); }); },
+            .aktiviert = [this] { gibTastaturWeiter(); }};
+}
+
+/// A page that takes no input has no use for the keyboard: a click on it, or on the frame in the task bar, leads to
+/// the window that stands over it.
+void Fensterwart::gibTastaturWeiter()
+{
+    const auto* oben = platzVon(m_folge.inGebrauch());
+    if (m_seite == nullptr || m_folge.istFrei(*m_seite) || oben == nullptr || oben->kind == nullptr) {
+        return;
+    }
+    // the window manager is still busy with the frame
+    QTimer::singleShot(0, oben->kind, [kind = oben->kind] {
+        kind->raise();
+        kind->activateWindow();
+    });
 }
 
 Fensterereignisse Fensterwart::kindereignisse(Bildschirm& bildschirm)
@@ -136,6 +156,9 @@ Platz& Fensterwart::baue(Bildschirm& bildschirm)
         neu.kind->setWindowTitle(alsQString(bildschirm.titel()));
     } else {
         neu.fenster = baueSeite(ansicht, &m_fenster.seiten()).wurzel;
+        // the frame takes what a page wants as far as the screen has it, and grows with the font
+        bildschirm.breite = std::max(bildschirm.breite, alsTwips(em(seitenbreite)));
+        bildschirm.höhe = std::max(bildschirm.höhe, alsTwips(em(seitenhöhe)));
         m_fenster.seiten().addWidget(neu.fenster);
     }
     // the widgets may outlast the screen until the event at hand has ended, and their Ansicht with them
@@ -296,20 +319,28 @@ void Fensterwart::entlade(const Bildschirm& bildschirm)
 /// reached, the next one in reading order gets it, so that the keyboard is never lost.
 void Fensterwart::gleicheFokusAb()
 {
-    auto* bildschirm = m_folge.inGebrauch();
-    const auto* platz = platzVon(bildschirm);
-    if (platz == nullptr) {
-        return;
+    for (auto* bildschirm : m_folge.geladene()) { // more than one takes input where a window leaves the page free
+        if (m_folge.istSichtbar(*bildschirm) && m_folge.istFrei(*bildschirm)) {
+            gleicheFokusAb(*bildschirm);
+        }
     }
-    auto* element = bildschirm->fokus();
-    if (element != nullptr && !bildschirm->istErreichbar(*element)) {
-        auto folge = bildschirm->tabFolge();
+}
+
+void Fensterwart::gleicheFokusAb(Bildschirm& bildschirm)
+{
+    const auto* platz = platzVon(&bildschirm);
+    if (platz == nullptr || (platz->kind == nullptr && &bildschirm != m_seite)) {
+        return; // the frame has one focus, that of the page it shows
+    }
+    auto* element = bildschirm.fokus();
+    if (element != nullptr && !bildschirm.istErreichbar(*element)) {
+        auto folge = bildschirm.tabFolge();
         auto ort = std::find(folge.begin(), folge.end(), element);
         std::rotate(folge.begin(), ort, folge.end());
         const auto ziel =
-            std::find_if(folge.begin(), folge.end(), [&](const Element* e) { return bildschirm->istErreichbar(*e); });
+            std::find_if(folge.begin(), folge.end(), [&](const Element* e) { return bildschirm.istErreichbar(*e); });
         if (ziel != folge.end()) {
-            bildschirm->setzeFokus(*ziel); // comes back here
+            bildschirm.setzeFokus(*ziel); // comes back here
         }
         return;
     }

@@ -51,7 +51,9 @@ private:
     void platziereKind(const Platz& platz);
     std::string nameInGebrauch() const;
     void entlade(const Bildschirm& bildschirm);
+    void gibTastaturWeiter();
     void gleicheFokusAb();
+    void gleicheFokusAb(Bildschirm& bildschirm);
     void beiFokuswechsel(QWidget* neu);
     void folgeFremdemFokus(const QWidget& widget);
     Ansicht* ansichtVon(const QWidget* widget) const;

@@ -7,6 +7,12 @@
 #include <algorithm>
 #include <numeric>
 
+namespace {
+
+constexpr double reihenabstand = 0.5;
+
+} // namespace
+
 void Handfläche::resizeEvent(QResizeEvent* /*ereignis*/)
 {
     ordne();
@@ -95,6 +101,83 @@ void Stapelfläche::ordne()
     }
 }
 
+Umbruchreihe::Umbruchreihe(QWidget* eltern) : Handfläche(eltern)
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void Umbruchreihe::setze(std::vector<QWidget*> teile, std::size_t lücke)
+{
+    m_teile = std::move(teile);
+    m_lücke = lücke;
+}
+
+bool Umbruchreihe::istRechts(const QWidget* teil) const
+{
+    return std::find(m_teile.begin() + static_cast<std::ptrdiff_t>(m_lücke), m_teile.end(), teil) != m_teile.end();
+}
+
+std::vector<std::vector<QWidget*>> Umbruchreihe::reihen() const
+{
+    std::vector<std::vector<QWidget*>> ergebnis(1);
+    int breite = 0;
+    for (auto* teil : m_teile) {
+        if (teil->isHidden()) {
+            continue;
+        }
+        const int seine = teil->sizeHint().width();
+        if (!ergebnis.back().empty() && breite + em(reihenabstand) + seine > width()) {
+            ergebnis.emplace_back();
+            breite = 0;
+        }
+        breite += seine + (ergebnis.back().empty() ? 0 : em(reihenabstand));
+        ergebnis.back().push_back(teil);
+    }
+    return ergebnis;
+}
+
+int Umbruchreihe::reihenhöhe() const
+{
+    return std::accumulate(m_teile.begin(), m_teile.end(), 0,
+                           [](int höhe, const QWidget* teil) { return std::max(höhe, teil->sizeHint().height()); });
+}
+
+QSize Umbruchreihe::sizeHint() const
+{
+    const auto anzahl = static_cast<int>(reihen().size());
+    return {minimumSizeHint().width(), anzahl * reihenhöhe() + (anzahl - 1) * em(reihenabstand)};
+}
+
+QSize Umbruchreihe::minimumSizeHint() const
+{
+    const int breite = std::accumulate(m_teile.begin(), m_teile.end(), 0, [](int breiteste, const QWidget* teil) {
+        return std::max(breiteste, teil->sizeHint().width());
+    });
+    const auto anzahl = static_cast<int>(reihen().size());
+    return {breite, anzahl * reihenhöhe() + (anzahl - 1) * em(reihenabstand)};
+}
+
+void Umbruchreihe::ordne()
+{
+    int oben = 0;
+    for (const auto& reihe : reihen()) {
+        int links = 0;
+        int rechts = width();
+        for (auto* teil : reihe) {
+            if (!istRechts(teil)) {
+                teil->setGeometry(links, oben, teil->sizeHint().width(), reihenhöhe());
+                links += teil->width() + em(reihenabstand);
+            }
+        }
+        for (auto teil = reihe.rbegin(); teil != reihe.rend() && istRechts(*teil); ++teil) {
+            rechts -= (*teil)->sizeHint().width();
+            (*teil)->setGeometry(rechts, oben, (*teil)->sizeHint().width(), reihenhöhe());
+            rechts -= em(reihenabstand);
+        }
+        oben += reihenhöhe() + em(reihenabstand);
+    }
+}
+
 Kartenreihe::Kartenreihe(QWidget* eltern) : Handfläche(eltern)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
@@ -117,15 +200,35 @@ bool Kartenreihe::passtNebeneinander(int breite) const
     return nötig <= breite;
 }
 
-/// Preferred widths first; what is left over (or missing) is shared in proportion to them, between least and
-/// greatest width of each.
+/// What is missing is taken from each column as it can spare it, down to its least width.
+void Kartenreihe::verenge(std::vector<int>& breiten, int fehlt) const
+{
+    int spielraum = 0;
+    for (std::size_t i = 0; i < breiten.size(); ++i) {
+        spielraum += breiten[i] - m_spalten[i].widget->minimumSizeHint().width();
+    }
+    for (std::size_t i = 0; i < breiten.size() && spielraum > 0; ++i) {
+        const int eigener = breiten[i] - m_spalten[i].widget->minimumSizeHint().width();
+        const int anteil = fehlt * eigener / spielraum;
+        breiten[i] -= anteil;
+        fehlt -= anteil;
+        spielraum -= eigener;
+    }
+}
+
+/// Preferred widths first; what is left over is shared in proportion to them, up to the greatest width of each.
 std::vector<int> Kartenreihe::verteile(int breite) const
 {
     const int frei = breite - em(0.6) * (static_cast<int>(m_spalten.size()) - 1);
     std::vector<int> breiten;
     std::vector<bool> fest(m_spalten.size(), false);
     for (const auto& spalte : m_spalten) {
-        breiten.push_back(std::min(spalte.widget->sizeHint().width(), spalte.höchstbreite));
+        breiten.push_back(std::max(std::min(spalte.widget->sizeHint().width(), spalte.höchstbreite),
+                                   spalte.widget->minimumSizeHint().width()));
+    }
+    if (const int fehlt = std::accumulate(breiten.begin(), breiten.end(), 0) - frei; fehlt > 0) {
+        verenge(breiten, fehlt);
+        return breiten;
     }
     for (std::size_t runde = 0; runde < m_spalten.size(); ++runde) {
         int rest = frei - std::accumulate(breiten.begin(), breiten.end(), 0);

@@ -59,6 +59,28 @@ private:
     std::vector<QWidget*> m_teile;
 };
 
+/// Buttons side by side, those behind the gap at the right; in several rows where they don't fit into one.
+class Umbruchreihe : public Handfläche {
+public:
+    explicit Umbruchreihe(QWidget* eltern);
+
+    /// All are its children already; `lücke` is how many stand before the gap.
+    void setze(std::vector<QWidget*> teile, std::size_t lücke);
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void ordne() override;
+
+private:
+    std::vector<std::vector<QWidget*>> reihen() const;
+    bool istRechts(const QWidget* teil) const;
+    int reihenhöhe() const;
+
+    std::vector<QWidget*> m_teile;
+    std::size_t m_lücke = 0;
+};
+
 /// Columns of cards side by side; below each other where their least widths don't fit.
 class Kartenreihe : public Handfläche {
 public:
@@ -81,6 +103,7 @@ private:
 
     bool passtNebeneinander(int breite) const;
     std::vector<int> verteile(int breite) const;
+    void verenge(std::vector<int>& breiten, int fehlt) const;
     int höhe(bool kleinste) const;
 
     std::vector<Spalte> m_spalten;

@@ -90,11 +90,7 @@ bool Knopf::event(QEvent* ereignis)
         return QPushButton::event(ereignis);
     }
     // The mnemonic acts at once, and only if the field that has the focus lets go.
-    m_ansicht.ereignis([this] {
-        if (m_ansicht.bildschirm().fokussiere(&m_element)) {
-            m_element.klicke();
-        }
-    });
+    m_ansicht.ereignis([this] { m_ansicht.bildschirm().drückeKürzel(m_element); });
     return true;
 }
 

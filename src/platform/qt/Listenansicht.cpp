@@ -6,8 +6,13 @@
 #include "platform/qt/Umschrift.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
+#include <QStyle>
+#include <QToolTip>
 
 #include <algorithm>
 #include <numeric>
@@ -19,6 +24,36 @@ constexpr int zeilenMindestens = 6;
 constexpr int zeilenGern = 16;
 constexpr double zeilenhöhe = 1.45;
 constexpr double kopfhöhe = 1.9;
+constexpr double spaltenrand = 1.35;
+constexpr double kurzeSpalte = 7; ///< a number or a date is not cut
+
+/// Round the text of a cell, at least: the sheet's padding and the style's own margin.
+int schmalerRand(const QWidget& liste)
+{
+    return em(0.55) + 2 * (liste.style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 3;
+}
+
+int summe(const QList<int>& werte)
+{
+    return std::accumulate(werte.begin(), werte.end(), 0);
+}
+
+/// What is missing is taken from each width as it can spare it.
+QList<int> verengt(QList<int> breiten, const QList<int>& mindestens, int fehlt)
+{
+    int spielraum = 0;
+    for (int i = 0; i < breiten.size(); ++i) {
+        spielraum += std::max(0, breiten[i] - mindestens[i]);
+    }
+    for (int i = 0; i < breiten.size() && fehlt > 0 && spielraum > 0; ++i) {
+        const int eigener = std::max(0, breiten[i] - mindestens[i]);
+        const int anteil = std::min(eigener, (fehlt * eigener + spielraum - 1) / spielraum);
+        breiten[i] -= anteil;
+        fehlt -= anteil;
+        spielraum -= eigener;
+    }
+    return breiten;
+}
 
 } // namespace
 
@@ -47,7 +82,8 @@ QVariant Listenmodell::data(const QModelIndex& ort, int rolle) const
 
 QVariant Listenmodell::headerData(int abschnitt, Qt::Orientation richtung, int rolle) const
 {
-    if (richtung != Qt::Horizontal || rolle != Qt::DisplayRole || abschnitt >= columnCount()) {
+    const bool istText = rolle == Qt::DisplayRole || rolle == Qt::ToolTipRole; // a narrow head is cut
+    if (richtung != Qt::Horizontal || !istText || abschnitt >= columnCount()) {
         return QAbstractTableModel::headerData(abschnitt, richtung, rolle);
     }
     return alsQString(m_element.spalten()[static_cast<std::size_t>(abschnitt)]);
@@ -76,6 +112,7 @@ Listenansicht::Listenansicht(Liste& element, Ansicht& ansicht, QWidget* eltern)
     ansicht.binde(element, *this, [this] { übernimm(); });
     ansicht.abonniere(element.zeilenGeändert, [this] { übernimmZeilen(); });
     ansicht.abonniere(element.inSicht, [this] { zeigeAuswahl(); });
+    connect(verticalScrollBar(), &QScrollBar::actionTriggered, this, [this] { m_folgtAuswahl = false; });
     messeSpalten();
 }
 
@@ -84,9 +121,11 @@ void Listenansicht::richteKopfEin()
     auto& kopf = *header();
     kopf.setSectionsClickable(true);
     kopf.setSectionsMovable(false);
+    kopf.setTextElideMode(Qt::ElideRight);
+    kopf.setMinimumSectionSize(em(1));
     kopf.setHighlightSections(false);
     kopf.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    kopf.setStretchLastSection(true);
+    kopf.setStretchLastSection(false); // it would keep more than is left
     kopf.setSortIndicatorShown(false);
     connect(&kopf, &QHeaderView::sectionClicked, this, [this](int spalte) {
         m_ansicht.ereignis([this, spalte] { m_element.klickeKopf(static_cast<std::size_t>(spalte) + 1); });
@@ -126,12 +165,15 @@ void Listenansicht::messeSpalten()
     const QFontMetrics maß(font());
     const auto zeilen = std::min(m_element.anzahl(), gemesseneZeilen);
     m_spaltenbreiten.clear();
+    m_mindestbreiten.clear();
     for (std::size_t spalte = 1; spalte <= m_element.spalten().size(); ++spalte) {
-        int breite = kopfmaß.horizontalAdvance(alsQString(m_element.spalten()[spalte - 1]));
+        const int kopf = kopfmaß.horizontalAdvance(alsQString(m_element.spalten()[spalte - 1]));
+        int breite = kopf;
         for (std::size_t zeile = 1; zeile <= zeilen; ++zeile) {
             breite = std::max(breite, maß.horizontalAdvance(alsQString(m_element.zelle(zeile, spalte))));
         }
-        m_spaltenbreiten.append(std::min(breite, em(16)) + em(1.35));
+        m_spaltenbreiten.append(std::min(breite, em(16)) + em(spaltenrand));
+        m_mindestbreiten.append((breite <= em(kurzeSpalte) ? breite : kopf) + schmalerRand(*this));
     }
     verteileSpalten();
     updateGeometry();
@@ -139,15 +181,27 @@ void Listenansicht::messeSpalten()
 
 void Listenansicht::verteileSpalten()
 {
-    const int nötig = std::accumulate(m_spaltenbreiten.begin(), m_spaltenbreiten.end(), 0);
-    const int übrig = std::max(0, viewport()->width() - nötig);
-    for (int spalte = 0; spalte + 1 < m_spaltenbreiten.size(); ++spalte) {
-        header()->resizeSection(spalte, m_spaltenbreiten[spalte] + übrig * m_spaltenbreiten[spalte] / (nötig * 2 + 1));
+    const int nötig = summe(m_spaltenbreiten);
+    const int platz = viewport()->width();
+    auto breiten = m_spaltenbreiten;
+    if (nötig > platz) {
+        // the last column, which takes the rest, has to stay in sight: names give way, numbers and dates do not
+        breiten = verengt(breiten, m_mindestbreiten, nötig - platz);
+        breiten = verengt(breiten, QList<int>(breiten.size(), header()->minimumSectionSize()), summe(breiten) - platz);
+    }
+    const int übrig = std::max(0, platz - nötig);
+    int rest = platz;
+    for (int spalte = 0; spalte < breiten.size(); ++spalte) {
+        const int breite = breiten[spalte] + übrig * breiten[spalte] / (nötig * 2 + 1);
+        const bool istLetzte = spalte + 1 == breiten.size();
+        header()->resizeSection(spalte, istLetzte ? std::max(breite, rest) : breite);
+        rest -= breite;
     }
 }
 
 void Listenansicht::zeigeAuswahl()
 {
+    m_folgtAuswahl = true;
     if (m_element.auswahl() > 0) {
         scrollTo(m_modell->index(static_cast<int>(m_element.auswahl()) - 1, 0));
     }
@@ -157,6 +211,28 @@ void Listenansicht::resizeEvent(QResizeEvent* ereignis)
 {
     QTreeView::resizeEvent(ereignis);
     verteileSpalten();
+    if (m_folgtAuswahl) {
+        zeigeAuswahl();
+    }
+}
+
+bool Listenansicht::viewportEvent(QEvent* ereignis)
+{
+    if (ereignis->type() == QEvent::ToolTip) {
+        const auto& hilfe = *static_cast<QHelpEvent*>(ereignis);
+        const auto ort = indexAt(hilfe.pos());
+        const auto text = ort.data().toString();
+        const bool ganz = fontMetrics().horizontalAdvance(text) + schmalerRand(*this) <= visualRect(ort).width();
+        QToolTip::showText(hilfe.globalPos(), ganz ? QString() : text, this);
+        return true;
+    }
+    return QTreeView::viewportEvent(ereignis);
+}
+
+/// The rows are moved by the element's keys alone; a highlight that the toolkit moves is no selection.
+void Listenansicht::keyPressEvent(QKeyEvent* ereignis)
+{
+    ereignis->ignore();
 }
 
 void Listenansicht::mousePressEvent(QMouseEvent* ereignis)
@@ -183,13 +259,19 @@ void Listenansicht::mouseDoubleClickEvent(QMouseEvent* ereignis)
     }
 }
 
+void Listenansicht::setzeMindestbreite(int breite)
+{
+    m_breite = breite;
+}
+
 QSize Listenansicht::sizeHint() const
 {
-    const int nötig = std::accumulate(m_spaltenbreiten.begin(), m_spaltenbreiten.end(), 0);
-    return {std::max(em(14), nötig + em(1)), em(kopfhöhe + zeilenhöhe * zeilenGern)};
+    // a list of a given width does not push its neighbour about when its rows change
+    const int breite = m_breite > 0 ? m_breite * 13 / 10 : std::max(em(14), summe(m_spaltenbreiten) + em(1));
+    return {breite, em(kopfhöhe + zeilenhöhe * zeilenGern)};
 }
 
 QSize Listenansicht::minimumSizeHint() const
 {
-    return {em(14), em(kopfhöhe + zeilenhöhe * zeilenMindestens)};
+    return {m_breite > 0 ? m_breite : em(14), em(kopfhöhe + zeilenhöhe * zeilenMindestens)};
 }

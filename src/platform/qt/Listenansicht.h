@@ -27,15 +27,19 @@ class Listenansicht : public QTreeView {
 public:
     Listenansicht(Liste& element, Ansicht& ansicht, QWidget* eltern);
 
+    /// In pixels: the least width, from which the wanted one follows. Without it both follow the rows.
+    void setzeMindestbreite(int breite);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:
+    void keyPressEvent(QKeyEvent* ereignis) override;
     void mousePressEvent(QMouseEvent* ereignis) override;
     void mouseMoveEvent(QMouseEvent* ereignis) override;
     void mouseReleaseEvent(QMouseEvent* ereignis) override;
     void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
     void resizeEvent(QResizeEvent* ereignis) override;
+    bool viewportEvent(QEvent* ereignis) override;
 
 private:
     void richteKopfEin();
@@ -49,4 +53,7 @@ private:
     Ansicht& m_ansicht;
     Listenmodell* m_modell;
     QList<int> m_spaltenbreiten; ///< what the texts need
+    QList<int> m_mindestbreiten; ///< what heads, numbers and dates need; names can be cut
+    int m_breite = 0;
+    bool m_folgtAuswahl = false; ///< the selected row stays in sight when the list changes its size
 };

@@ -29,8 +29,8 @@ class QWidget;
 /// The widget of each kind of element: Beschriftung QLabel, Schaltfläche QPushButton (a "hyphen, blank" of a
 /// way button is shown as hyphen and line break), Textfeld QLineEdit or QPlainTextEdit, Auswahlfeld Auswahlbox
 /// (a QComboBox; `gezeigterText` is what it shows), Optionsfeld QRadioButton, Ankreuzfeld QCheckBox, Datumsfeld
-/// QDateEdit, Fortschrittsbalken QProgressBar, Bildlaufleiste QScrollBar, Fläche QWidget, Liste QTreeView,
-/// triCtlJaNein Antwortfeld, Bild QLabel; a Menüeintrag is a QAction. The object name of each is the name of
+/// Datumsbox (a QLineEdit), Fortschrittsbalken QProgressBar, Bildlaufleiste QScrollBar, Fläche QWidget, Liste
+/// QTreeView, triCtlJaNein Antwortfeld, Bild QLabel; a Menüeintrag is a QAction. The object name of each is the name of
 /// the element.
 class QtOberfläche {
 public:

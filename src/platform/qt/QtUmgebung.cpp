@@ -65,6 +65,24 @@ QMessageBox::StandardButton knopfFür(Antwort antwort)
     return QMessageBox::Ok;
 }
 
+/// A word longer than a line could not be broken, and would make the box wider than the screen.
+QString mitBruchstellen(const QString& text)
+{
+    constexpr int längstesWort = 40;
+    const QChar bruchstelle(0x200B);
+    QString ergebnis;
+    int länge = 0;
+    for (const auto zeichen : text) {
+        länge = zeichen.isSpace() ? 0 : länge + 1;
+        if (länge > längstesWort) {
+            ergebnis += bruchstelle;
+            länge = 1;
+        }
+        ergebnis += zeichen;
+    }
+    return ergebnis;
+}
+
 /// Long actions are long because of their files, and come by here again and again.
 class GeduldigerZugriff : public Zugriffsweiche {
 public:
@@ -97,9 +115,10 @@ public:
 std::unique_ptr<QMessageBox> baueMeldungsfenster(const Meldung& meldung)
 {
     auto fenster = std::make_unique<QMessageBox>(QApplication::activeWindow());
-    fenster->setWindowTitle(alsQString(meldung.titel));
+    // before the program has found its own title its name stands there
+    fenster->setWindowTitle(meldung.titel.empty() ? QCoreApplication::applicationName() : alsQString(meldung.titel));
     fenster->setTextFormat(Qt::PlainText);
-    fenster->setText(alsMehrzeiler(meldung.text));
+    fenster->setText(mitBruchstellen(alsMehrzeiler(meldung.text)));
     fenster->setTextInteractionFlags(Qt::TextSelectableByMouse);
     for (const auto& [symbol, bild] : symbole) {
         if (symbol == meldung.symbol) {
@@ -154,8 +173,9 @@ std::string alsQtFilter(const std::string& filter)
     return ergebnis;
 }
 
-QtUmgebung::QtUmgebung(Tabellenprogramm& tabellenprogramm)
-    : m_tabellenprogramm(tabellenprogramm), m_dateien(std::make_unique<GeduldigerZugriff>(erzeugeDateizugriff()))
+QtUmgebung::QtUmgebung(Tabellenprogramm& tabellenprogramm, Laufort laufort)
+    : m_tabellenprogramm(tabellenprogramm), m_laufort(std::move(laufort)),
+      m_dateien(std::make_unique<GeduldigerZugriff>(erzeugeDateizugriff()))
 {}
 
 QtUmgebung::~QtUmgebung() = default;
@@ -164,11 +184,6 @@ Datum QtUmgebung::heute()
 {
     const auto tag = QDate::currentDate();
     return {tag.year(), tag.month(), tag.day()};
-}
-
-std::filesystem::path QtUmgebung::programmordner()
-{
-    return {QCoreApplication::applicationDirPath().toStdU16String()};
 }
 
 bool QtUmgebung::istErsteInstanz(const std::filesystem::path& datenordner)
@@ -188,7 +203,8 @@ Antwort QtUmgebung::zeigeMeldung(const Meldung& meldung)
 std::optional<std::filesystem::path> QtUmgebung::wähleDatei(const Dateiwahl& wahl)
 {
     const geduld::Pause pause;
-    const auto ordner = QString::fromStdU16String(wahl.anfangsordner.u16string());
+    const auto utf8 = wahl.anfangsordner.u8string(); // a name that is no Unicode must not end the program
+    const auto ordner = QString::fromUtf8(reinterpret_cast<const char*>(utf8.data()), std::ssize(utf8));
     const auto pfad =
         QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, ordner, alsQString(alsQtFilter(wahl.filter)));
     if (pfad.isEmpty()) {

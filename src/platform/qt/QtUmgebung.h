@@ -2,6 +2,7 @@
 
 #include "platform/dateien/Dateien.h"
 #include "platform/dateien/Ordnersperre.h"
+#include "platform/umgebung/Laufort.h"
 #include "platform/umgebung/Umgebung.h"
 
 #include <QElapsedTimer>
@@ -15,11 +16,13 @@ class Tabellenprogramm;
 /// The outside world of a person at a desktop. QApplication must exist.
 class QtUmgebung : public Umgebung {
 public:
-    explicit QtUmgebung(Tabellenprogramm& tabellenprogramm);
+    QtUmgebung(Tabellenprogramm& tabellenprogramm, Laufort laufort);
     ~QtUmgebung() override;
 
     Datum heute() override;
-    std::filesystem::path programmordner() override;
+    std::filesystem::path programmordner() override { return m_laufort.programmordner; }
+    std::filesystem::path installation() override { return m_laufort.installation; }
+    bool istMuster() override { return m_laufort.istMuster; }
     bool istErsteInstanz(const std::filesystem::path& datenordner) override;
     Dateien& dateien() override { return m_dateien; }
 
@@ -38,6 +41,7 @@ private:
     bool istBildFällig();
 
     Tabellenprogramm& m_tabellenprogramm;
+    Laufort m_laufort;
     Dateien m_dateien;
     std::unique_ptr<Ordnersperre> m_sperre;
     QElapsedTimer m_seitDemBild;

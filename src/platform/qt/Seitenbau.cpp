@@ -31,6 +31,9 @@ public:
     QSize minimumSizeHint() const override { return {em(20), em(6)}; }
 };
 
+constexpr double periodenbreite = 12; ///< the period is whole, whatever the name
+constexpr int vielMehr = 1000;        ///< stretch of what takes all that is left
+
 Etikett& fügeBandtext(QWidget& widget, const char* rolle, Schriftrolle schriftrolle, QHBoxLayout& ziel)
 {
     widget.setProperty("rolle", rolle);
@@ -60,6 +63,11 @@ void fügeNamen(Ansicht& ansicht, Element& name, QWidget& band, QHBoxLayout& zie
     ziel.addWidget(strich);
     ziel.addSpacing(em(0.1));
     auto& text = fügeBandtext(*zeichneElement(name, ansicht, &band), "auf-band", Schriftrolle::Bandname, ziel);
+    // a name takes what title and period leave, and is cut before they are
+    constexpr double mindestens = 4;
+    text.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    text.setMinimumWidth(em(mindestens));
+    ziel.setStretchFactor(&text, vielMehr);
     zeigeNurGefüllt(ansicht, name, {strich, &text});
 }
 
@@ -79,6 +87,8 @@ void fügeWerte(Ansicht& ansicht, const std::vector<Kopfband::Wert>& werte, QWid
                                  Schriftrolle::Grund, ziel);
         auto& text = fügeBandtext(*zeichneElement(*wert.element, ansicht, &band), "auf-band", Schriftrolle::Wert, ziel);
         sprichMitBeschriftung(ansicht, *wert.element, vor, text);
+        vor.setzeMindestbreite(periodenbreite);
+        text.setzeMindestbreite(periodenbreite);
         zeigeNurGefüllt(ansicht, *wert.element, {&vor, &text});
     }
 }

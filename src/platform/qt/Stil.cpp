@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFontMetrics>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
@@ -10,6 +11,7 @@
 #include <QStyleFactory>
 #include <QTranslator>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
@@ -46,6 +48,14 @@ Stilstand& stand()
 {
     static Stilstand einer;
     return einer;
+}
+
+double leuchtdichte(const QColor& farbe)
+{
+    const auto anteil = [](double wert) {
+        return wert <= 0.04045 ? wert / 12.92 : std::pow((wert + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * anteil(farbe.redF()) + 0.7152 * anteil(farbe.greenF()) + 0.0722 * anteil(farbe.blueF());
 }
 
 Farbtafel tafel(Thema thema)
@@ -142,9 +152,18 @@ void richteStilEin(QApplication& anwendung)
     richteStilEin(anwendung, istDunkel ? Thema::Dunkel : Thema::Hell);
 }
 
+/// Under which name and sign the desktop shows the program and its boxes.
+static void nenneProgramm()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Tolvek7"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("tolvek7"));
+    QGuiApplication::setWindowIcon(programmzeichen());
+}
+
 void richteStilEin(QApplication& anwendung, Thema thema)
 {
     ladeBilder();
+    nenneProgramm();
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     ladeÜbersetzung(anwendung);
     auto& s = stand();
@@ -160,6 +179,15 @@ void richteStilEin(QApplication& anwendung, Thema thema)
     }
 }
 
+QIcon programmzeichen()
+{
+    QIcon zeichen;
+    for (const int seite : {16, 24, 32, 48, 64, 128, 256}) {
+        zeichen.addFile(QStringLiteral(":/stil/zeichen/tolvek7-%1.png").arg(seite), {seite, seite});
+    }
+    return zeichen;
+}
+
 const Farbtafel& farben()
 {
     return stand().farben;
@@ -168,6 +196,13 @@ const Farbtafel& farben()
 Thema thema()
 {
     return stand().thema;
+}
+
+double kontrast(const QColor& eine, const QColor& andere)
+{
+    const double a = leuchtdichte(eine);
+    const double b = leuchtdichte(andere);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
 int em(double länge)

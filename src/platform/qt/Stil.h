@@ -4,6 +4,7 @@
 #include <QFont>
 
 class QApplication;
+class QIcon;
 
 /// The colours of a theme by the names that the style sheet uses.
 struct Farbtafel {
@@ -19,9 +20,15 @@ void richteStilEin(QApplication& anwendung);
 /// The same with a chosen theme.
 void richteStilEin(QApplication& anwendung, Thema thema);
 
+/// The sign of the program, in all sizes.
+QIcon programmzeichen();
+
 /// The colours in use.
 const Farbtafel& farben();
 Thema thema();
+
+/// Contrast of two colours, 1 to 21.
+double kontrast(const QColor& eine, const QColor& andere);
 
 /// Length in logical pixels; 1 em is the height of a line of the system's font.
 int em(double länge);

@@ -12,12 +12,8 @@
 
 namespace {
 
-Etikett* macheTitel(const std::string& text, QWidget* eltern)
+Etikett* formeTitel(Etikett* titel)
 {
-    if (text.empty()) {
-        return nullptr;
-    }
-    auto* titel = new Etikett(alsMehrzeiler(text), eltern);
     titel->brichAmBindestrich();
     titel->setFont(schrift(Schriftrolle::Spaltenkopf));
     titel->setProperty("rolle", "kopf");
@@ -26,6 +22,17 @@ Etikett* macheTitel(const std::string& text, QWidget* eltern)
     titel->setIndent(0);
     titel->setAccessibleName(gesprochen(alsQString(text)));
     return titel;
+}
+
+Etikett* macheTitel(const std::string& text, QWidget* eltern)
+{
+    return text.empty() ? nullptr : formeTitel(new Etikett(alsMehrzeiler(text), eltern));
+}
+
+Etikett* macheTitel(const Tabellenspalte& spalte, Ansicht& ansicht, QWidget* eltern)
+{
+    return spalte.kopf == nullptr ? macheTitel(spalte.titel, eltern)
+                                  : formeTitel(dynamic_cast<Etikett*>(zeichneElement(*spalte.kopf, ansicht, eltern)));
 }
 
 } // namespace
@@ -37,7 +44,7 @@ Tabellenkopf::Tabellenkopf(const Anordnung& tabelle, Ansicht& ansicht, QWidget* 
     std::vector<int> breiten;
     for (const auto& spalte : tabelle.spalten) {
         breiten.push_back(em(spalte.breite));
-        m_titelzeile.push_back(macheTitel(spalte.titel, this));
+        m_titelzeile.push_back(macheTitel(spalte, ansicht, this));
     }
     baueFüller(tabelle, ansicht);
     baueGruppen(tabelle, breiten);

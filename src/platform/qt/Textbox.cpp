@@ -7,8 +7,13 @@
 #include "platform/qt/Umschrift.h"
 
 #include <QFocusEvent>
-#include <QScrollBar>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
 #include <QTextCursor>
+#include <QTextDocument>
+
+#include <algorithm>
 
 namespace {
 
@@ -24,9 +29,7 @@ Textzeile::Textzeile(Textfeld& element, Ansicht& ansicht, QWidget* eltern)
     : QLineEdit(eltern), m_element(element), m_ansicht(ansicht)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    if (element.höchstlänge() > 0) {
-        setMaxLength(static_cast<int>(element.höchstlänge()));
-    }
+    // no length of the widget's own: it would cut what was stored longer
     connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { gibEin(text); });
     ansicht.binde(element, *this, [this] { übernimm(); });
 }
@@ -41,13 +44,19 @@ void Textzeile::übernimm()
 
 void Textzeile::gibEin(const QString& text)
 {
-    const auto eingabe = filtere(text, cursorPosition(), false, m_element.höchstlänge());
-    meldeFilter(*this, eingabe);
-    if (!eingabe.istWieGetippt) {
-        setText(alsQString(eingabe.text));
-        setCursorPosition(static_cast<int>(eingabe.schreibmarke));
+    if (!m_ansicht.lebt()) {
+        return;
     }
-    m_ansicht.ereignis([&] { m_element.gibEin(eingabe.text, eingabe.schreibmarke); });
+    const auto eingabe = filtere(m_element.text(), text, cursorPosition(), false, m_element.höchstlänge());
+    if (const auto genommen = alsQString(eingabe.ergebnis.text); genommen != text) {
+        setText(genommen);
+        const auto marke = static_cast<int>(eingabe.schreibmarke);
+        const auto anker = static_cast<int>(eingabe.anker);
+        setCursorPosition(marke);
+        setSelection(anker, marke - anker);
+    }
+    meldeFilter(*this, eingabe.ergebnis, m_element.höchstlänge());
+    m_ansicht.ereignis([&] { m_element.gibEin(eingabe.ergebnis.text, eingabe.schreibmarke); });
 }
 
 void Textzeile::focusInEvent(QFocusEvent* ereignis)
@@ -72,7 +81,7 @@ Textblock::Textblock(Textfeld& element, Ansicht& ansicht, QWidget* eltern)
     : QPlainTextEdit(eltern), m_element(element), m_ansicht(ansicht)
 {
     setTabChangesFocus(true);
-    connect(this, &QPlainTextEdit::textChanged, this, [this] { gibEin(); });
+    connect(this, &QPlainTextEdit::textChanged, this, [this] { übertrage(); });
     ansicht.binde(element, *this, [this] { übernimm(); });
 }
 
@@ -83,27 +92,103 @@ void Textblock::setzeText(const QString& text)
     m_wirdGefüllt = false;
 }
 
+/// As the document holds it; `toPlainText` would make blanks of no-break spaces.
+QString Textblock::rohtext() const
+{
+    auto text = document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, QChar('\n'));
+    text.replace(QChar::LineSeparator, QChar('\n'));
+    return text;
+}
+
 void Textblock::übernimm()
 {
-    if (const auto neu = alsMehrzeiler(m_element.text()); toPlainText() != neu) {
+    if (const auto neu = alsMehrzeiler(m_element.text()); rohtext() != neu) {
         setzeText(neu);
     }
 }
 
-void Textblock::gibEin()
+/// Makes the document what the field takes, by one step that can be undone.
+void Textblock::ersetze(const QString& genommen, int marke)
+{
+    const auto roh = rohtext();
+    const auto kürzere = std::min(roh.size(), genommen.size());
+    qsizetype vorn = 0;
+    while (vorn < kürzere && roh[vorn] == genommen[vorn]) {
+        ++vorn;
+    }
+    qsizetype hinten = 0;
+    while (hinten < kürzere - vorn && roh[roh.size() - 1 - hinten] == genommen[genommen.size() - 1 - hinten]) {
+        ++hinten;
+    }
+    QTextCursor stelle(document());
+    stelle.setPosition(static_cast<int>(vorn));
+    stelle.setPosition(static_cast<int>(roh.size() - hinten), QTextCursor::KeepAnchor);
+    stelle.insertText(genommen.mid(vorn, genommen.size() - vorn - hinten));
+    stelle.setPosition(marke);
+    setTextCursor(stelle);
+    ensureCursorVisible();
+}
+
+void Textblock::fügeEin(const QString& getippt)
+{
+    if (!m_ansicht.lebt() || getippt.isEmpty()) {
+        return;
+    }
+    const auto auswahl = textCursor();
+    auto jetzt = rohtext();
+    jetzt.replace(auswahl.selectionStart(), auswahl.selectionEnd() - auswahl.selectionStart(), getippt);
+    const int marke = auswahl.selectionStart() + static_cast<int>(getippt.size());
+    const auto eingabe = filtere(m_element.text(), jetzt, marke, true, m_element.höchstlänge());
+    meldeFilter(*this, eingabe.ergebnis, m_element.höchstlänge());
+    if (eingabe.schreibmarke != eingabe.anker) {
+        return; // nothing was taken, and what is selected stays
+    }
+    m_wirdGefüllt = true;
+    ersetze(alsMehrzeiler(eingabe.ergebnis.text), markeIn(eingabe.ergebnis.text, eingabe.schreibmarke));
+    m_wirdGefüllt = false;
+    m_ansicht.ereignis([&] { m_element.gibEin(eingabe.ergebnis.text, eingabe.schreibmarke); });
+}
+
+/// What the toolkit did by itself: deleted, broken a line, undone.
+void Textblock::übertrage()
 {
     if (m_wirdGefüllt || !m_ansicht.lebt()) {
         return;
     }
-    const auto eingabe = filtere(toPlainText(), textCursor().position(), true, m_element.höchstlänge());
-    meldeFilter(*this, eingabe);
-    if (!eingabe.istWieGetippt) {
-        setzeText(alsMehrzeiler(eingabe.text));
-        auto marke = textCursor();
-        marke.setPosition(markeIn(eingabe.text, eingabe.schreibmarke));
-        setTextCursor(marke);
+    const auto roh = alsZeichen(rohtext());
+    const auto marke = static_cast<std::size_t>(textCursor().position());
+    const auto neu = übertrageÄnderung(m_element.text(), roh, std::min(marke, roh.size()), true);
+    if (neu.ergebnis.text != m_element.text()) {
+        m_ansicht.ereignis([&] { m_element.gibEin(neu.ergebnis.text, neu.schreibmarke); });
     }
-    m_ansicht.ereignis([&] { m_element.gibEin(eingabe.text, eingabe.schreibmarke); });
+}
+
+void Textblock::keyPressEvent(QKeyEvent* ereignis)
+{
+    const bool istKombination = (ereignis->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+    const bool istAltGr = ereignis->modifiers().testFlag(Qt::ControlModifier) && ereignis->modifiers().testFlag(Qt::AltModifier);
+    const auto text = ereignis->text();
+    const bool istZeichen = !text.isEmpty() && text.front().unicode() >= 0x20 && text.front().unicode() != 0x7F;
+    if (istZeichen && (!istKombination || istAltGr)) {
+        fügeEin(text);
+        ereignis->accept();
+    } else {
+        QPlainTextEdit::keyPressEvent(ereignis);
+    }
+}
+
+void Textblock::inputMethodEvent(QInputMethodEvent* ereignis)
+{
+    QInputMethodEvent ohneText(ereignis->preeditString(), ereignis->attributes());
+    QPlainTextEdit::inputMethodEvent(&ohneText);
+    fügeEin(ereignis->commitString());
+    ereignis->accept();
+}
+
+void Textblock::insertFromMimeData(const QMimeData* daten)
+{
+    fügeEin(daten->text());
 }
 
 void Textblock::focusInEvent(QFocusEvent* ereignis)

@@ -26,7 +26,6 @@
 namespace {
 
 constexpr auto schlüsselAnsicht = "ansicht";
-constexpr auto schlüsselSpricht = "spricht";
 
 QAccessibleInterface* erzeugeFürElement(QWidget& widget)
 {
@@ -58,32 +57,11 @@ QAccessibleInterface* erzeugeFürElement(QWidget& widget)
     return nullptr;
 }
 
-/// A calendar says each day that keys or mouse come to; the toolkit's own keeps silent.
-void lasseSprechen(QCalendarWidget& kalender)
-{
-    if (kalender.property(schlüsselSpricht).toBool()) {
-        return;
-    }
-    kalender.setProperty(schlüsselSpricht, true);
-    QObject::connect(&kalender, &QCalendarWidget::selectionChanged, &kalender, [&kalender] {
-        auto* blatt = kalender.findChild<QAbstractItemView*>();
-        if (blatt != nullptr && blatt->isVisible()) {
-            blatt->setAccessibleName(kalender.locale().toString(kalender.selectedDate(), QLocale::LongFormat));
-            QAccessibleEvent erreicht(blatt, QAccessible::Focus);
-            QAccessible::updateAccessibility(&erreicht);
-        }
-    });
-}
-
 /// Asked by the toolkit once for each object, with the class it is and then with each class it descends from.
 QAccessibleInterface* erzeuge(const QString& /*klasse*/, QObject* objekt)
 {
     auto* widget = objekt != nullptr && objekt->isWidgetType() ? static_cast<QWidget*>(objekt) : nullptr;
     if (widget == nullptr) {
-        return nullptr;
-    }
-    if (auto* kalender = dynamic_cast<QCalendarWidget*>(widget)) {
-        lasseSprechen(*kalender); // a reader meets it for the first time
         return nullptr;
     }
     if (dynamic_cast<QScrollArea*>(widget) != nullptr) {
@@ -176,6 +154,20 @@ void nimmFremdeEingabe(QWidget& feld, const Element& element, Ansicht& ansicht)
             QTimer::singleShot(0, zeile, gleicheAb); // when all that belongs to this change has been done
         }
     });
+}
+
+void sprichKalender(QCalendarWidget& kalender)
+{
+    const auto sprich = [&kalender] {
+        auto* blatt = kalender.findChild<QAbstractItemView*>();
+        if (blatt == nullptr || !blatt->isVisible()) {
+            return;
+        }
+        blatt->setAccessibleName(kalender.locale().toString(kalender.selectedDate(), QLocale::LongFormat));
+        QAccessibleEvent erreicht(blatt, QAccessible::Focus);
+        QAccessible::updateAccessibility(&erreicht);
+    };
+    QObject::connect(&kalender, &QCalendarWidget::selectionChanged, &kalender, sprich);
 }
 
 void meldeWert(QWidget& feld, const QString& wert)

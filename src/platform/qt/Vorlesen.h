@@ -6,6 +6,7 @@
 
 class Ansicht;
 class Element;
+class QCalendarWidget;
 class QLabel;
 class QWidget;
 
@@ -36,6 +37,9 @@ void benenneFüller(QWidget& füller, std::string_view gefülltes);
 
 /// A text that a reader (or whoever dictates through it) puts into the widget comes to the element as a typed one does.
 void nimmFremdeEingabe(QWidget& feld, const Element& element, Ansicht& ansicht);
+
+/// The calendar says each day that the keys or the mouse come to; the toolkit's own keeps silent.
+void sprichKalender(QCalendarWidget& kalender);
 
 /// The widget shows another value now.
 void meldeWert(QWidget& feld, const QString& wert);

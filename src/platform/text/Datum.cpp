@@ -3,6 +3,7 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 
@@ -87,4 +88,19 @@ std::optional<Datum> leseDatum(std::string_view text)
         return std::nullopt;
     }
     return datum;
+}
+
+std::optional<Datum> leseDatumseingabe(std::string_view text, const Datum& heute)
+{
+    constexpr int erstesJahr = 100;
+    auto mitPunkten = std::string(getrimmt(text));
+    const auto punkte = std::count(mitPunkten.begin(), mitPunkten.end(), '.');
+    if (punkte == 0 && (mitPunkten.size() == 6 || mitPunkten.size() == 8)) {
+        mitPunkten.insert(4, 1, '.').insert(2, 1, '.');
+    } else if (punkte == 1 || (punkte == 2 && mitPunkten.ends_with('.'))) {
+        mitPunkten += punkte == 1 ? "." : "";
+        mitPunkten += aufgefüllt(heute.jahr, 4);
+    }
+    const auto datum = leseDatum(mitPunkten);
+    return datum && datum->jahr >= erstesJahr ? datum : std::nullopt;
 }

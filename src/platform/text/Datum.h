@@ -28,3 +28,7 @@ std::string alsDatumstext(const Datum& datum);
 /// Reads d.m.yyyy or d.m.yy (00 to 29 are 20yy, 30 to 99 are 19yy), a day of the calendar, blanks
 /// around it allowed; anything else is no date.
 std::optional<Datum> leseDatum(std::string_view text);
+
+/// Reads a date as a person types it: as leseDatum does, besides without the year (d.m. or d.m: that of `heute`) and
+/// without points (TTMMJJ, TTMMJJJJ). Years below 100 are slips of the keyboard and no dates.
+std::optional<Datum> leseDatumseingabe(std::string_view text, const Datum& heute);

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -42,6 +44,41 @@ std::optional<char> ausLauf(char32_t zeichen)
     return std::nullopt;
 }
 
+/// Letters that the code page has composed, by the mark that follows the letter.
+struct Zusammensetzung {
+    char32_t zeichen;
+    std::u32string_view grund;
+    std::u32string_view zusammen;
+};
+
+constexpr std::array<Zusammensetzung, 8> zusammensetzungen{{
+    {0x0300, U"AEIOUaeiou", U"ÀÈÌÒÙàèìòù"},
+    {0x0301, U"AEIOUYaeiouy", U"ÁÉÍÓÚÝáéíóúý"},
+    {0x0302, U"AEIOUaeiou", U"ÂÊÎÔÛâêîôû"},
+    {0x0303, U"ANOano", U"ÃÑÕãñõ"},
+    {0x0308, U"AEIOUYaeiouy", U"ÄËÏÖÜŸäëïöüÿ"},
+    {0x030A, U"Aa", U"Åå"},
+    {0x030C, U"SZsz", U"ŠŽšž"},
+    {0x0327, U"Cc", U"Çç"},
+}};
+
+bool istAkzent(char32_t zeichen)
+{
+    return zeichen >= 0x0300 && zeichen <= 0x036F;
+}
+
+/// The letter with the mark on it; nothing where the code page has no such letter.
+std::optional<char32_t> mitAkzent(char32_t grund, char32_t akzent)
+{
+    for (const auto& z : zusammensetzungen) {
+        const auto ort = z.zeichen == akzent ? z.grund.find(grund) : std::u32string_view::npos;
+        if (ort != std::u32string_view::npos) {
+            return z.zusammen[ort];
+        }
+    }
+    return std::nullopt;
+}
+
 bool istSteuerzeichen(char32_t zeichen)
 {
     return zeichen < 0x20 || zeichen == 0x7F || zeichen == 0x2028 || zeichen == 0x2029 || zeichen == 0x85;
@@ -50,6 +87,17 @@ bool istSteuerzeichen(char32_t zeichen)
 bool istZeilenumbruch(char32_t zeichen)
 {
     return zeichen == U'\r' || zeichen == U'\n' || zeichen == 0x2028 || zeichen == 0x2029;
+}
+
+void nimmSteuerzeichen(char32_t zeichen, bool mehrzeilig, Eingabeergebnis& ergebnis)
+{
+    if (!mehrzeilig) {
+        ergebnis.text.push_back(' ');
+    } else if (zeichen == U'\t') {
+        ergebnis.text.push_back('\t');
+    } else {
+        ergebnis.verweigert = true;
+    }
 }
 
 /// Appends what becomes of the character at `ort`; returns how many characters it took.
@@ -61,17 +109,109 @@ std::size_t nimmZeichen(std::u32string_view eingabe, std::size_t ort, bool mehrz
         return zeichen == U'\r' && ort + 1 < eingabe.size() && eingabe[ort + 1] == U'\n' ? 2 : 1;
     }
     if (istSteuerzeichen(zeichen)) {
-        ergebnis.text.push_back(' ');
+        nimmSteuerzeichen(zeichen, mehrzeilig, ergebnis);
         return 1;
     }
+    const bool amBuchstaben = istAkzent(zeichen) && ort > 0 && !istSteuerzeichen(eingabe[ort - 1]);
     const auto byte = nächstesZeichen(zeichen);
     if (byte) {
         ergebnis.text.push_back(*byte);
         ergebnis.ersetzt = ergebnis.ersetzt || zeichensatz::unicodeVon(*byte) != zeichen;
+    } else if (amBuchstaben) {
+        ergebnis.ersetzt = true; // the letter without its mark is the nearest one
     } else {
         ergebnis.verweigert = true;
     }
     return 1;
+}
+
+std::u32string zusammengesetzt(std::u32string_view text)
+{
+    std::u32string ergebnis;
+    for (const char32_t zeichen : text) {
+        const auto mit = ergebnis.empty() ? std::nullopt : mitAkzent(ergebnis.back(), zeichen);
+        if (mit) {
+            ergebnis.back() = *mit;
+        } else {
+            ergebnis.push_back(zeichen);
+        }
+    }
+    return ergebnis;
+}
+
+/// A character of a stored text as a field shows it, and the bytes that it stands for.
+struct Feldzeichen {
+    char32_t zeichen;
+    std::size_t anfang;
+    std::size_t länge;
+};
+
+std::vector<Feldzeichen> feldzeichen(std::string_view text, bool mehrzeilig)
+{
+    std::vector<Feldzeichen> ergebnis;
+    ergebnis.reserve(text.size());
+    for (std::size_t ort = 0; ort < text.size();) {
+        const bool umbruch = mehrzeilig && (text[ort] == '\r' || text[ort] == '\n');
+        const std::size_t länge = umbruch && text.substr(ort, 2) == "\r\n" ? 2 : 1;
+        ergebnis.push_back({umbruch ? U'\n' : zeichensatz::unicodeVon(text[ort]), ort, länge});
+        ort += länge;
+    }
+    return ergebnis;
+}
+
+/// How many characters at the start and at the end of a field were not touched.
+struct Unberührt {
+    std::size_t vorn;
+    std::size_t hinten;
+};
+
+Unberührt vergleiche(const std::vector<Feldzeichen>& alt, std::u32string_view jetzt, std::size_t marke)
+{
+    const auto gleich = [&](std::size_t a, std::size_t j) { return alt[a].zeichen == jetzt[j]; };
+    const std::size_t kürzere = std::min(alt.size(), jetzt.size());
+    // the cursor stands behind what was typed: what follows it is the rest of the old text
+    std::size_t hinten = 0;
+    const std::size_t hinterDerMarke = std::min(kürzere, jetzt.size() - std::min(marke, jetzt.size()));
+    while (hinten < hinterDerMarke && gleich(alt.size() - 1 - hinten, jetzt.size() - 1 - hinten)) {
+        ++hinten;
+    }
+    std::size_t vorn = 0;
+    while (vorn < kürzere - hinten && gleich(vorn, vorn)) {
+        ++vorn;
+    }
+    // a change elsewhere than at the cursor (undo)
+    while (vorn + hinten < kürzere && gleich(alt.size() - 1 - hinten, jetzt.size() - 1 - hinten)) {
+        ++hinten;
+    }
+    return {vorn, hinten};
+}
+
+/// The bytes that were touched.
+struct Stelle {
+    std::size_t anfang;
+    std::size_t ende;
+};
+
+Stelle bytesZu(const std::vector<Feldzeichen>& alt, std::size_t länge, const Unberührt& unberührt)
+{
+    return {unberührt.vorn == alt.size() ? länge : alt[unberührt.vorn].anfang,
+            unberührt.hinten == 0 ? länge : alt[alt.size() - unberührt.hinten].anfang};
+}
+
+/// The old text with what is new in place of what was touched.
+Feldänderung eingesetzt(std::string_view bisher, const Stelle& stelle, Eingabeergebnis neu)
+{
+    const std::size_t marke = stelle.anfang + neu.text.size();
+    neu.text = std::string(bisher.substr(0, stelle.anfang)) + neu.text + std::string(bisher.substr(stelle.ende));
+    return {std::move(neu), marke, marke};
+}
+
+void kürze(Eingabeergebnis& ergebnis, std::size_t platz)
+{
+    if (ergebnis.text.size() > platz) {
+        ergebnis.text.resize(platz);
+        ergebnis.gekürzt = true;
+    }
 }
 
 constexpr char32_t unlesbar = 0xFFFD;
@@ -126,14 +266,69 @@ std::optional<char> nächstesZeichen(char32_t zeichen)
 
 Eingabeergebnis nimmEingabe(std::u32string_view eingabe, bool mehrzeilig, std::size_t höchstlänge)
 {
+    const auto zeichen = zusammengesetzt(eingabe);
     Eingabeergebnis ergebnis;
-    for (std::size_t ort = 0; ort < eingabe.size();) {
-        ort += nimmZeichen(eingabe, ort, mehrzeilig, ergebnis);
+    for (std::size_t ort = 0; ort < zeichen.size();) {
+        ort += nimmZeichen(zeichen, ort, mehrzeilig, ergebnis);
     }
-    if (höchstlänge > 0 && ergebnis.text.size() > höchstlänge) {
-        ergebnis.text.resize(höchstlänge);
+    if (höchstlänge > 0) {
+        kürze(ergebnis, höchstlänge);
     }
     return ergebnis;
+}
+
+std::u32string alsFeldtext(std::string_view text, bool mehrzeilig)
+{
+    std::u32string ergebnis;
+    for (const auto& zeichen : feldzeichen(text, mehrzeilig)) {
+        ergebnis.push_back(zeichen.zeichen);
+    }
+    return ergebnis;
+}
+
+Feldänderung nimmÄnderung(std::string_view bisher, std::u32string_view jetzt, std::size_t marke, bool mehrzeilig,
+                          std::size_t höchstlänge)
+{
+    const auto alt = feldzeichen(bisher, mehrzeilig);
+    auto unberührt = vergleiche(alt, jetzt, marke);
+    const auto getipptes = [&] {
+        return jetzt.substr(unberührt.vorn, jetzt.size() - unberührt.vorn - unberührt.hinten);
+    };
+    // a mark that is typed behind a letter changes that letter
+    const bool beginntMitAkzent = unberührt.vorn > 0 && !getipptes().empty() && istAkzent(getipptes().front());
+    if (beginntMitAkzent && mitAkzent(jetzt[unberührt.vorn - 1], jetzt[unberührt.vorn])) {
+        --unberührt.vorn;
+    }
+    auto getippt = nimmEingabe(getipptes(), mehrzeilig);
+    if (beginntMitAkzent && getippt.verweigert) {
+        getippt.verweigert = false;
+        getippt.ersetzt = true;
+    }
+    const Stelle stelle = bytesZu(alt, bisher.size(), unberührt);
+    if (höchstlänge > 0) {
+        const std::size_t bleibt = stelle.anfang + bisher.size() - stelle.ende;
+        kürze(getippt, höchstlänge - std::min(höchstlänge, bleibt));
+    }
+    if (getippt.text.empty() && !getipptes().empty()) {
+        getippt.text = bisher;
+        return {std::move(getippt), stelle.ende, stelle.anfang};
+    }
+    return eingesetzt(bisher, stelle, std::move(getippt));
+}
+
+Feldänderung übertrageÄnderung(std::string_view bisher, std::u32string_view jetzt, std::size_t marke, bool mehrzeilig)
+{
+    const auto alt = feldzeichen(bisher, mehrzeilig);
+    const auto unberührt = vergleiche(alt, jetzt, marke);
+    Eingabeergebnis neu;
+    for (const char32_t zeichen : jetzt.substr(unberührt.vorn, jetzt.size() - unberührt.vorn - unberührt.hinten)) {
+        if (mehrzeilig && zeichen == U'\n') {
+            neu.text.append("\r\n");
+        } else if (const auto byte = zeichensatz::byteVon(zeichen)) {
+            neu.text.push_back(*byte);
+        }
+    }
+    return eingesetzt(bisher, bytesZu(alt, bisher.size(), unberührt), std::move(neu));
 }
 
 std::u32string ausUtf8(std::string_view text)

@@ -35,8 +35,12 @@ public:
     virtual ~Umgebung() = default;
 
     virtual Datum heute() = 0;
-    /// The folder that holds the program file.
+    /// The folder that holds the records, the settings and all else that the program writes.
     virtual std::filesystem::path programmordner() = 0;
+    /// The folder of the files that the installation brings, for what the program folder has none of its own.
+    virtual std::filesystem::path installation() { return programmordner(); }
+    /// Whether the records are made up, for training.
+    virtual bool istMuster() { return false; }
     /// False when a previous instance works on the same data folder, by whatever path, user or link. Makes the folder
     /// when it is missing, and holds it until the process ends. Laufzeitfehler when that can't be found out.
     virtual bool istErsteInstanz(const std::filesystem::path& datenordner) = 0;

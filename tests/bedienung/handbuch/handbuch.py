@@ -37,12 +37,12 @@ class Schirm:
         self.xvfb = subprocess.Popen(["Xvfb", "-displayfd", str(schreiben), "-screen", "0", "1366x768x24", "-nolisten", "tcp"],
                                      pass_fds=[schreiben], stderr=subprocess.DEVNULL)
         os.close(schreiben)
-        self.anzeige = ":" + os.read(lesen, 16).decode().strip()
-        os.close(lesen)
+        with os.fdopen(lesen) as zeile:  # the number may come in pieces
+            self.anzeige = ":" + zeile.readline().strip()
         self.umgebung = dict(os.environ, DISPLAY=self.anzeige)
         self.umgebung.pop("WAYLAND_DISPLAY", None)
         self.wm = subprocess.Popen(["openbox"], env=self.umgebung, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        warte(lambda: "window id" in self.frage("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), was="the window manager")
+        warte(lambda: "window id" in self.frage("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), 60, "the window manager")
 
     def schließe(self):
         for prozess in (self.wm, self.xvfb):
@@ -100,10 +100,7 @@ schirm = None
 def setUpModule():
     global schirm
     schirm = Schirm()
-
-
-def tearDownModule():
-    schirm.schließe()
+    unittest.addModuleCleanup(schirm.schließe)
 
 
 class Bedienung(unittest.TestCase):

@@ -2,34 +2,96 @@
 
 #include "platform/qt/Antwortfeld.h"
 #include "platform/qt/Auswahlbox.h"
-#include "platform/qt/Eingabefilter.h"
+#include "platform/qt/Datumsbox.h"
+#include "platform/qt/Feldhinweis.h"
 
+#include <QAccessible>
+#include <QCalendarWidget>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QDateEdit>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcutEvent>
+#include <QTextDocument>
 #include <QTreeView>
 
 namespace {
 
-TEST_F(Fensterprobe, WheelChangesOnlyWhatHasTheFocus)
+TEST_F(Fensterprobe, WheelChangesNoAnswerFocusedOrNot)
 {
     öffne();
-    bildschirm->setzeFokus(&bildschirm->tbName);
     for (auto* element :
          std::initializer_list<Element*>{&bildschirm->comboArt, &bildschirm->comboZahl(1), &bildschirm->DTPicker}) {
         const auto vorher = element->text();
+        bildschirm->setzeFokus(&bildschirm->tbName);
+        dreheRad(widget(*element));
+        EXPECT_EQ(element->text(), vorher) << element->name();
+        bildschirm->setzeFokus(element);
         dreheRad(widget(*element));
         EXPECT_EQ(element->text(), vorher) << element->name();
     }
-    bildschirm->setzeFokus(&bildschirm->comboArt);
-    dreheRad(widget(bildschirm->comboArt));
-    EXPECT_EQ(bildschirm->comboArt.text(), "zweite Art");
+}
+
+TEST_F(Fensterprobe, PageKeysLeaveAChoiceAlone)
+{
+    öffne();
+    for (auto* feld : {&bildschirm->comboArt, &bildschirm->comboZahl(1)}) {
+        bildschirm->setzeFokus(feld);
+        const auto vorher = feld->text();
+        drücke(tastatur(), Qt::Key_PageDown);
+        drücke(tastatur(), Qt::Key_PageUp);
+        EXPECT_EQ(feld->text(), vorher);
+    }
+}
+
+TEST_F(Fensterprobe, CombinationsThatMeanNothingDoNothing)
+{
+    öffne();
+    auto& liste = bildschirm->lvw;
+    liste.setzeZeilen({"1\xB7"
+                       "Zander",
+                       "2\xB7"
+                       "Adler"});
+    liste.wähle(1);
+    bildschirm->setzeFokus(&liste);
+    auto& ansicht = widgetAls<QTreeView>(liste);
+    for (const auto zusatz : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier}) {
+        for (const auto taste : {Qt::Key_Down, Qt::Key_End, Qt::Key_PageDown, Qt::Key_Space, Qt::Key_A}) {
+            drücke(ansicht, taste, {}, zusatz);
+            EXPECT_EQ(ansicht.currentIndex().row(), 0) << taste;
+            EXPECT_EQ(liste.auswahl(), 1U) << taste;
+        }
+    }
+    auto& zahl = bildschirm->comboZahl(1);
+    bildschirm->setzeFokus(&zahl);
+    drücke(tastatur(), Qt::Key_Delete, {}, Qt::ControlModifier);
+    drücke(tastatur(), Qt::Key_1, QStringLiteral("1"), Qt::AltModifier);
+    drücke(tastatur(), Qt::Key_Down, {}, Qt::ControlModifier);
+    EXPECT_EQ(zahl.text(), "k.A.");
+    EXPECT_EQ(widgetAls<Auswahlbox>(zahl).gezeigterText(), QStringLiteral("k.A."));
+    bildschirm->setzeFokus(&bildschirm->tbName);
+    drücke(tastatur(), Qt::Key_5, QStringLiteral("5"), Qt::AltModifier);
+    EXPECT_EQ(bildschirm->tbName.text(), "");
+}
+
+TEST_F(Fensterprobe, NumberComboAndDateAreSelectedAsAWholeWithTheCursorBefore)
+{
+    öffne();
+    bildschirm->setzeFokus(&bildschirm->comboZahl(1));
+    auto& zahl = *widgetAls<Auswahlbox>(bildschirm->comboZahl(1)).lineEdit();
+    EXPECT_EQ(zahl.selectedText(), QStringLiteral("k.A."));
+    EXPECT_EQ(zahl.cursorPosition(), 0);
+    tippe(tastatur(), QStringLiteral("1"));
+    EXPECT_EQ(bildschirm->comboZahl(1).text(), "1");
+    bildschirm->setzeFokus(&bildschirm->DTPicker);
+    auto& datum = widgetAls<Datumsbox>(bildschirm->DTPicker);
+    EXPECT_EQ(datum.selectedText(), QStringLiteral("02.08.2007"));
+    EXPECT_EQ(datum.cursorPosition(), 0);
+    klicke(datum, {datum.width() / 4, datum.height() / 2});
+    EXPECT_FALSE(datum.hasSelectedText()) << "a press sets the cursor";
 }
 
 TEST_F(Fensterprobe, CharactersOutsideTheCodePageBecomeTheirNearestLetterOrAreRefused)
@@ -40,7 +102,7 @@ TEST_F(Fensterprobe, CharactersOutsideTheCodePageBecomeTheirNearestLetterOrAreRe
     tippe(zeile, QStringLiteral("Kovačić"));
     EXPECT_EQ(bildschirm->tbName.text(), "Kovacic");
     EXPECT_EQ(zeile.text(), QStringLiteral("Kovacic"));
-    EXPECT_NE(zeile.window()->findChild<QLabel*>(filterhinweis), nullptr);
+    EXPECT_NE(zeile.window()->findChild<QLabel*>(QLatin1String(feldhinweis)), nullptr);
 
     tippe(zeile, QStringLiteral("ś漢ü"));
     EXPECT_EQ(bildschirm->tbName.text(), "Kovacics\xFC");
@@ -225,7 +287,8 @@ TEST_P(DatumGetippt, IsReadWhenTheFieldIsLeft)
     tippe(tastatur(), QString::fromLatin1(GetParam().getippt));
     klicke(bildschirm->cmdOK);
     EXPECT_EQ(bildschirm->DTPicker.text(), GetParam().erwartet);
-    EXPECT_EQ(widgetAls<QDateEdit>(bildschirm->DTPicker).text().toStdString(), GetParam().erwartet);
+    EXPECT_EQ(widgetAls<Datumsbox>(bildschirm->DTPicker).text().toStdString(), GetParam().erwartet);
+    EXPECT_TRUE(bildschirm->cmdOK.hatFokus());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -233,7 +296,97 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(Datumseingabe{"2.8.1974", "02.08.1974"}, Datumseingabe{"02.08.1974", "02.08.1974"},
                       Datumseingabe{"31.12.2006", "31.12.2006"}, Datumseingabe{"02081974", "02.08.1974"},
                       Datumseingabe{"8.3.74", "08.03.1974"}, Datumseingabe{"29.2.2004", "29.02.2004"},
-                      Datumseingabe{"29.2.2005", "02.08.2007"}, Datumseingabe{"31.12.", "02.08.2007"}));
+                      Datumseingabe{"31.12.", "31.12.2007"}, Datumseingabe{"311225", "31.12.2025"}));
+
+TEST_F(Fensterprobe, ADateThatIsNoneKeepsTextAndFocusAndSaysSo)
+{
+    öffne();
+    int klicks = 0;
+    bildschirm->cmdOK.beiKlick = [&] { ++klicks; };
+    bildschirm->setzeFokus(&bildschirm->DTPicker);
+    auto& feld = widgetAls<Datumsbox>(bildschirm->DTPicker);
+    tippe(feld, QStringLiteral("29.2.2005"));
+    klicke(bildschirm->cmdOK);
+    EXPECT_EQ(klicks, 0);
+    EXPECT_EQ(feld.text(), QStringLiteral("29.2.2005"));
+    EXPECT_EQ(&tastatur(), &feld);
+    auto* hinweis = feld.window()->findChild<QLabel*>(QLatin1String(feldhinweis));
+    ASSERT_NE(hinweis, nullptr);
+    EXPECT_TRUE(hinweis->text().contains(QStringLiteral("29.2.2005"))) << hinweis->text().toStdString();
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(hinweis)->role(), QAccessible::Notification);
+    drücke(feld, Qt::Key_Escape);
+    EXPECT_EQ(feld.text(), QStringLiteral("02.08.2007"));
+    EXPECT_EQ(bildschirm->DTPicker.text(), "02.08.2007");
+}
+
+TEST_F(Fensterprobe, ArrowsChangeThePartOfTheDateWhereTheCursorIs)
+{
+    öffne();
+    klicke(bildschirm->DTPicker);
+    auto& feld = widgetAls<Datumsbox>(bildschirm->DTPicker);
+    feld.setCursorPosition(4);
+    drücke(feld, Qt::Key_Up);
+    EXPECT_EQ(bildschirm->DTPicker.text(), "02.09.2007");
+    feld.setCursorPosition(8);
+    drücke(feld, Qt::Key_Down);
+    EXPECT_EQ(bildschirm->DTPicker.text(), "02.09.2006");
+    feld.setCursorPosition(1);
+    drücke(feld, Qt::Key_Down);
+    EXPECT_EQ(bildschirm->DTPicker.text(), "01.09.2006");
+}
+
+TEST_F(Fensterprobe, AKeyOpensTheCalendarAndItsKeysPick)
+{
+    öffne();
+    bildschirm->setzeFokus(&bildschirm->DTPicker);
+    auto& feld = widgetAls<Datumsbox>(bildschirm->DTPicker);
+    drücke(feld, Qt::Key_Down, {}, Qt::AltModifier);
+    ASSERT_NE(feld.kalender(), nullptr);
+    auto* tage = feld.kalender()->findChild<QWidget*>(QStringLiteral("qt_calendar_calendarview"));
+    ASSERT_NE(tage, nullptr);
+    drücke(*tage, Qt::Key_Down);
+    EXPECT_EQ(feld.kalender()->selectedDate(), QDate(2007, 8, 9));
+    EXPECT_EQ(bildschirm->DTPicker.text(), "02.08.2007");
+    drücke(*tage, Qt::Key_Return);
+    EXPECT_EQ(bildschirm->DTPicker.text(), "09.08.2007");
+    EXPECT_EQ(feld.kalender(), nullptr);
+}
+
+TEST_F(Fensterprobe, AMemoKeepsWhatNobodyTouched)
+{
+    öffne();
+    const auto alt = std::string("a\xA0"
+                                 "b\tc\x81\r\nd");
+    bildschirm->tbMemo.setzeText(alt);
+    auto& block = widgetAls<QPlainTextEdit>(bildschirm->tbMemo);
+    klicke(bildschirm->tbMemo);
+    block.moveCursor(QTextCursor::End);
+    tippe(block, QStringLiteral("e"));
+    EXPECT_EQ(bildschirm->tbMemo.text(), alt + "e");
+    tippe(block, QStringLiteral("漢"));
+    EXPECT_EQ(bildschirm->tbMemo.text(), alt + "e");
+    EXPECT_EQ(block.document()->characterAt(1), QChar(QChar::Nbsp));
+    block.selectAll();
+    drücke(block, Qt::Key_Delete, QStringLiteral("\x7F"));
+    EXPECT_EQ(bildschirm->tbMemo.text(), "");
+    block.undo();
+    EXPECT_EQ(bildschirm->tbMemo.text(), alt + "e");
+}
+
+TEST_F(Fensterprobe, ALongerStoredTextIsNotCutByItsWidget)
+{
+    öffne();
+    bildschirm->tbName.setzeText("0123456789012345678901234"); // the field takes 20
+    klicke(bildschirm->tbName);
+    auto& zeile = widgetAls<QLineEdit>(bildschirm->tbName);
+    zeile.end(false);
+    drücke(zeile, Qt::Key_Backspace, QStringLiteral("\b"));
+    EXPECT_EQ(bildschirm->tbName.text(), "012345678901234567890123");
+    tippe(zeile, QStringLiteral("x"));
+    EXPECT_EQ(bildschirm->tbName.text(), "012345678901234567890123");
+    EXPECT_EQ(zeile.text(), QStringLiteral("012345678901234567890123"));
+    EXPECT_NE(zeile.window()->findChild<QLabel*>(QLatin1String(feldhinweis)), nullptr);
+}
 
 TEST_F(Fensterprobe, ListTakesClicksKeysAndHeaderClicksToItsElement)
 {

@@ -1,18 +1,23 @@
 #include "platform/qt/Probe.h"
 
 #include "platform/qt/Antwortfeld.h"
+#include "platform/qt/Etikett.h"
 #include "platform/qt/QtUmgebung.h"
 #include "platform/qt/Stil.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QAction>
+#include <QApplication>
+#include <QHelpEvent>
+#include <QIcon>
 #include <QImage>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QToolTip>
 
 namespace {
 
@@ -234,6 +239,53 @@ TEST(Meldungsfenster, HasTheButtonsTheDefaultAndTheGermanTextsOfItsMessage)
     const auto zwei = baueMeldungsfenster({"?", Symbol::Keins, Knöpfe::OKAbbrechen, Antwort::OK, {}});
     EXPECT_EQ(zwei->button(QMessageBox::Cancel)->text().remove('&'), QStringLiteral("Abbrechen"));
     EXPECT_EQ(zwei->standardButton(zwei->defaultButton()), QMessageBox::Ok);
+}
+
+TEST(Meldungsfenster, BearsTheProgramsNameWhileNoTitleIsKnown)
+{
+    stelleAnwendungBereit();
+    EXPECT_EQ(baueMeldungsfenster({"?", Symbol::Info, Knöpfe::OK, Antwort::OK, {}})->windowTitle(),
+              QStringLiteral("Tolvek7"));
+    EXPECT_EQ(baueMeldungsfenster({"?", Symbol::Info, Knöpfe::OK, Antwort::OK, "Titel"})->windowTitle(),
+              QStringLiteral("Titel"));
+}
+
+TEST(Meldungsfenster, FitsTheScreenWhateverNameItTells)
+{
+    stelleAnwendungBereit();
+    const auto fenster = baueMeldungsfenster(
+        {"Soll " + std::string(255, 'W') + " verworfen werden?", Symbol::Frage, Knöpfe::JaNein, Antwort::Nein, {}});
+    fenster->show();
+    EXPECT_LE(fenster->width(), em(60));
+    EXPECT_EQ(fenster->text().remove(QChar(0x200B)).count(QChar('W')), 255);
+}
+
+TEST(Programm, HasASignInEverySizeAndANameForTheDesktop)
+{
+    stelleAnwendungBereit();
+    EXPECT_EQ(QGuiApplication::desktopFileName(), QStringLiteral("tolvek7"));
+    EXPECT_EQ(QGuiApplication::applicationDisplayName(), QStringLiteral("Tolvek7"));
+    const auto größen = QApplication::windowIcon().availableSizes();
+    for (const int seite : {16, 24, 32, 48, 64, 128, 256}) {
+        EXPECT_TRUE(größen.contains(QSize(seite, seite))) << seite;
+        EXPECT_EQ(QApplication::windowIcon().pixmap(seite, seite).size(), QSize(seite, seite));
+    }
+}
+
+TEST_F(Fensterprobe, ALabelThatIsCutTellsTheWholeInItsToolTip)
+{
+    bildschirm->lblName.setzeText(std::string(255, 'W'));
+    öffne();
+    auto& name = widgetAls<Etikett>(bildschirm->lblName);
+    EXPECT_TRUE(name.gezeigterText().endsWith(QChar(0x2026)));
+    EXPECT_LE(oberfläche->rahmenfenster()->minimumSizeHint().width(), em(60));
+    QHelpEvent ereignis(QEvent::ToolTip, name.rect().center(), name.mapToGlobal(name.rect().center()));
+    QApplication::sendEvent(&name, &ereignis);
+    EXPECT_EQ(QToolTip::text(), QString(255, QChar('W')));
+    QToolTip::hideText();
+    bildschirm->lblName.setzeText("Adler, Anna"_t);
+    lasseGeschehen();
+    EXPECT_EQ(name.gezeigterText(), QStringLiteral("Adler, Anna"));
 }
 
 TEST(Dateiwahlfilter, BecomesTheToolkitsForm)

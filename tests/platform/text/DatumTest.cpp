@@ -35,6 +35,22 @@ TEST(Datum, AllesAndereIstKeinDatum)
     }
 }
 
+TEST(Datum, EingabeOhneJahrUndOhnePunkte)
+{
+    const Datum heute{2007, 8, 2};
+    for (const auto& [text, erwartet] :
+         {std::pair{"31.12.", Datum{2007, 12, 31}}, std::pair{"1.2", Datum{2007, 2, 1}},
+          std::pair{"311225", Datum{2025, 12, 31}}, std::pair{"01022003", Datum{2003, 2, 1}},
+          std::pair{"1.1.2025", Datum{2025, 1, 1}}, std::pair{"8.3.74", Datum{1974, 3, 8}}}) {
+        EXPECT_EQ(leseDatumseingabe(text, heute), erwartet) << text;
+    }
+    for (const auto* text :
+         {"", ".", "..", "1", "1.", "31.2.2025", "29.2.", "12345", "1234567", "311325", "1.1.2", "1.1.0025"}) {
+        EXPECT_EQ(leseDatumseingabe(text, heute), std::nullopt) << text;
+    }
+    EXPECT_EQ(leseDatumseingabe("29.2.", {2008, 1, 1}), (Datum{2008, 2, 29}));
+}
+
 TEST(Datum, OrdnungNachJahrMonatTag)
 {
     EXPECT_LT((Datum{2006, 12, 31}), (Datum{2007, 1, 1}));

@@ -189,6 +189,13 @@ void fügeEin(Lauf& lauf, const Anweisung& anweisung)
     });
 }
 
+void drehe(Lauf& lauf, const Anweisung& anweisung)
+{
+    handle(lauf, anweisung, [&](Oberfläche& oberfläche, Element& element) {
+        oberfläche.dreheRad(element, static_cast<int>(anweisung.zahl(1)));
+    });
+}
+
 void verlasse(Lauf& lauf, const Anweisung& anweisung)
 {
     handle(lauf, anweisung, [](Oberfläche& oberfläche, Element& element) { oberfläche.verlasse(element); });
@@ -230,7 +237,7 @@ Handlertafel elementhandler()
 {
     return {
         {"klicke", klicke}, {"doppelklicke", doppelklicke}, {"kopf", kopf},         {"setze", setze},
-        {"tippe", tippe},   {"einfügen", fügeEin},          {"verlasse", verlasse},
+        {"tippe", tippe},   {"einfügen", fügeEin},          {"verlasse", verlasse}, {"rad", drehe},
     };
 }
 

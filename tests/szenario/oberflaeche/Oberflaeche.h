@@ -54,6 +54,8 @@ public:
     virtual void tippe(Element& element, const std::vector<Tastendruck>& tasten) = 0;
     virtual void fügeEin(Textfeld& feld, std::u32string_view text) = 0;
     virtual void fügeEin(Auswahlfeld& feld, std::u32string_view text) = 0;
+    /// Turns the wheel over the element, downwards for a positive number of steps.
+    virtual void dreheRad(Element& element, int schritte) = 0;
     virtual void verlasse(Element& element) = 0;
     virtual void schließeRahmen() = 0;
     virtual void verschiebeRahmen(const Lage& lage) = 0;

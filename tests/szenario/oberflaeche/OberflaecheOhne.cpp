@@ -18,6 +18,39 @@ const Bildschirm* obersteSeite(const Bildschirmfolge& folge)
     return seite == geladene.rend() ? nullptr : *seite;
 }
 
+/// A press with the mouse sets the cursor where a number combo or a date is typed.
+void setzeSchreibmarkeAnsEnde(Element& element)
+{
+    if (auto* auswahl = dynamic_cast<Auswahlfeld*>(&element); auswahl != nullptr && auswahl->istTippbar()) {
+        auswahl->setzeSchreibmarke(auswahl->text().size());
+    } else if (auto* datum = dynamic_cast<Datumsfeld*>(&element)) {
+        datum->setzeStelle(datum->anzeige().size(), datum->anzeige().size());
+    }
+}
+
+/// Tab with the shift key is a key of its own.
+Taste::Art artVon(const Tastendruck& druck)
+{
+    return druck.art == Taste::Art::Tab && druck.umschalt ? Taste::Art::RückTab : druck.art;
+}
+
+/// Where the wheel scrolls over the element: a scroll bar itself, or the one of the listing that it stands in.
+Bildlaufleiste* rollendeLeiste(const Anordnung& a, const Element& element, Bildlaufleiste* um)
+{
+    if (a.wort == Anordnung::Wort::Listung) {
+        um = dynamic_cast<Bildlaufleiste*>(a.element);
+    }
+    if (a.element == &element) {
+        return um;
+    }
+    for (const auto& teil : a.teile) {
+        if (auto* leiste = rollendeLeiste(teil, element, um)) {
+            return leiste;
+        }
+    }
+    return nullptr;
+}
+
 /// For all others two quick clicks are two clicks.
 bool kenntDoppelklick(const Element& element)
 {
@@ -35,60 +68,23 @@ void OberflächeOhne::beginne(Programm& programm)
 
 void OberflächeOhne::beende()
 {
-    m_datumseingabe.reset();
+    m_offeneListe.schließe();
     m_zustand = nullptr;
-}
-
-/// A date that is being typed is read before anything else happens.
-void OberflächeOhne::schließeDatumAb()
-{
-    if (!m_datumseingabe) {
-        return;
-    }
-    const auto geladene = m_zustand->folge.geladene();
-    const auto* bildschirm = m_datumsbildschirm;
-    if (std::find(geladene.begin(), geladene.end(), bildschirm) != geladene.end()) {
-        m_datumseingabe->übernimm();
-    }
-    m_datumseingabe.reset();
-}
-
-bool OberflächeOhne::gibDatumsfeld(Element& element, const Taste& taste)
-{
-    auto* feld = dynamic_cast<Datumsfeld*>(&element);
-    if (feld == nullptr) {
-        return false;
-    }
-    if (!m_datumseingabe || !m_datumseingabe->gilt()) {
-        m_datumseingabe.emplace(*feld);
-        m_datumsbildschirm = feld->bildschirm();
-    }
-    if (m_datumseingabe->taste(taste)) {
-        return true;
-    }
-    schließeDatumAb();
-    return false;
 }
 
 std::string OberflächeOhne::text(const Element& element) const
 {
-    const bool wirdGetippt = m_datumseingabe && &m_datumseingabe->feld() == &element && m_datumseingabe->gilt();
-    return wirdGetippt ? m_datumseingabe->text() : element.text();
-}
-
-bool OberflächeOhne::fokussiere(Element& element)
-{
-    if (!element.hatFokus() && element.nimmtFokus()) {
-        schließeDatumAb();
-    }
-    return !element.nimmtFokus() || element.bildschirm()->fokussiere(&element);
+    const auto* datum = dynamic_cast<const Datumsfeld*>(&element);
+    return datum == nullptr ? element.text() : datum->anzeige();
 }
 
 void OberflächeOhne::handle(Element& element, const std::function<void()>& aktion)
 {
     m_zustand->ablauf.ereignis([&] {
+        m_offeneListe.schließe();
         m_tastaturbildschirm = element.bildschirm();
-        if (fokussiere(element) && istErreichbar(element)) {
+        const bool darf = !element.nimmtFokus() || element.bildschirm()->fokussiere(&element);
+        if (darf && istErreichbar(element)) {
             aktion();
         }
     });
@@ -98,6 +94,7 @@ void OberflächeOhne::klicke(Element& element)
 {
     const bool istListe = dynamic_cast<Liste*>(&element) != nullptr; // beside its rows a list has nothing to click
     handle(element, [&] {
+        setzeSchreibmarkeAnsEnde(element);
         if (!istListe) {
             element.klicke();
         }
@@ -116,6 +113,10 @@ void OberflächeOhne::doppelklicke(Element& element)
         return;
     }
     if (kenntDoppelklick(element)) {
+        const auto* liste = dynamic_cast<const Liste*>(&element);
+        if (liste != nullptr && liste->auswahl() == 0) {
+            return; // beside the rows
+        }
         handle(element, [&] { element.doppelklicke(); });
     } else {
         klicke(element);
@@ -157,49 +158,86 @@ void OberflächeOhne::wähleEintrag(Auswahlfeld& feld, std::size_t eintrag)
 
 void OberflächeOhne::wähleDatum(Datumsfeld& feld, const Datum& datum)
 {
-    handle(feld, [&] {
-        m_datumseingabe.reset();
-        feld.wähle(datum);
-    });
+    handle(feld, [&] { feld.wähle(datum); });
 }
 
-void OberflächeOhne::drücke(const Taste& taste)
+/// Typed characters reach a text as they are, since a mark is composed with the letter before it.
+bool OberflächeOhne::gibElement(Element& element, const Tastendruck& druck, const Taste& taste)
+{
+    auto* auswahl = dynamic_cast<Auswahlfeld*>(&element);
+    const bool mitLeertaste = auswahl != nullptr && !auswahl->istTippbar() && !taste.istKombination() &&
+                              taste.art == Taste::Art::Zeichen && taste.zeichen == ' ';
+    if (auswahl != nullptr && (mitLeertaste || taste.klapptAuf())) {
+        m_offeneListe.öffne(*auswahl);
+        return true;
+    }
+    if (auto* text = dynamic_cast<Textfeld*>(&element);
+        text != nullptr && taste.art == Taste::Art::Zeichen && !taste.istKombination()) {
+        text->fügeEin(std::u32string_view(&druck.zeichen, 1));
+        return true;
+    }
+    return gibTaste(element, taste) || geheInReihe(element, taste);
+}
+
+void OberflächeOhne::gib(Bildschirm& bildschirm, const Tastendruck& druck)
+{
+    const bool istZeichen = druck.art == Taste::Art::Zeichen;
+    const auto zeichen = istZeichen ? nächstesZeichen(druck.zeichen) : std::optional('\0');
+    const Taste taste{artVon(druck), zeichen.value_or('\0'), druck.umschalt, druck.strg, druck.alt};
+    auto* element = bildschirm.fokus();
+    const bool nimmtAlles = dynamic_cast<Textfeld*>(element) != nullptr;
+    if (!zeichen && !nimmtAlles) {
+        return;
+    }
+    const bool erreicht = element != nullptr && istErreichbar(*element);
+    if (!erreicht || !gibElement(*element, druck, taste)) {
+        bildschirm.taste(taste);
+    }
+}
+
+void OberflächeOhne::drücke(const Tastendruck& druck)
 {
     m_zustand->ablauf.ereignis([&] {
-        auto* bildschirm = tastaturbildschirm(m_zustand->folge, m_tastaturbildschirm);
-        if (bildschirm == nullptr) {
-            return;
+        if (m_offeneListe.istOffen()) {
+            m_offeneListe.taste({druck.art, 0, druck.umschalt, druck.strg, druck.alt});
+        } else if (auto* bildschirm = tastaturbildschirm(m_zustand->folge, m_tastaturbildschirm)) {
+            gib(*bildschirm, druck);
         }
-        auto* element = bildschirm->fokus();
-        const bool erreicht = element != nullptr && istErreichbar(*element);
-        if (erreicht && (gibDatumsfeld(*element, taste) || element->taste(taste) || geheInReihe(*element, taste))) {
-            return;
-        }
-        bildschirm->taste(taste);
     });
 }
 
 void OberflächeOhne::tippe(Element& element, const std::vector<Tastendruck>& tasten)
 {
+    const bool hatteFokus = element.hatFokus();
     bool hier = false;
     handle(element, [&] { hier = true; });
     if (!hier) {
         return;
     }
-    for (const auto& druck : tasten) {
-        if (druck.art != Taste::Art::Zeichen) {
-            drücke({druck.art, 0});
-        } else if (const auto zeichen = nächstesZeichen(druck.zeichen)) {
-            drücke({druck.art, *zeichen});
-        }
+    if (!hatteFokus) {
+        m_zustand->ablauf.ereignis([&] { setzeSchreibmarkeAnsEnde(element); });
     }
+    for (const auto& druck : tasten) {
+        drücke(druck);
+    }
+}
+
+void OberflächeOhne::dreheRad(Element& element, int schritte)
+{
+    constexpr int zeilenJeSchritt = 3; // as desktops are set
+    m_zustand->ablauf.ereignis([&] {
+        if (auto* leiste = rollendeLeiste(element.bildschirm()->aufbau, element, nullptr)) {
+            const int weite = std::min(zeilenJeSchritt * leiste->kleinerSchritt(), leiste->großerSchritt());
+            leiste->setzeWert(leiste->wert() + schritte * weite);
+        }
+    });
 }
 
 void OberflächeOhne::fügeEin(Textfeld& feld, std::u32string_view text)
 {
     handle(feld, [&] {
-        const auto neu = nimmEingabe(text, feld.istMehrzeilig(), feld.höchstlänge()).text;
-        feld.gibEin(neu, neu.size());
+        feld.wähleAlles();
+        feld.fügeEin(text);
     });
 }
 
@@ -215,7 +253,6 @@ void OberflächeOhne::verlasse(Element& element)
 {
     m_zustand->ablauf.ereignis([&] {
         if (element.hatFokus()) {
-            schließeDatumAb();
             element.bildschirm()->fokussiere(nullptr);
         }
     });

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "oberflaeche/Datumseingabe.h"
 #include "oberflaeche/Oberflaeche.h"
+#include "oberflaeche/OffeneListe.h"
 
 #include "zustand/Zustand.h"
 
 #include <functional>
-#include <optional>
 
 /// No toolkit: acts through the doors of the elements, and reads the elements.
 class OberflächeOhne : public Oberfläche {
@@ -27,6 +26,7 @@ public:
     void tippe(Element& element, const std::vector<Tastendruck>& tasten) override;
     void fügeEin(Textfeld& feld, std::u32string_view text) override;
     void fügeEin(Auswahlfeld& feld, std::u32string_view text) override;
+    void dreheRad(Element& element, int schritte) override;
     void verlasse(Element& element) override;
     void schließeRahmen() override;
     void verschiebeRahmen(const Lage& lage) override;
@@ -56,13 +56,11 @@ public:
 private:
     /// Moves the focus to the element; then, if it can still be reached, acts. All as one event.
     void handle(Element& element, const std::function<void()>& aktion);
-    void drücke(const Taste& taste);
-    bool fokussiere(Element& element);
-    bool gibDatumsfeld(Element& element, const Taste& taste);
-    void schließeDatumAb();
+    void drücke(const Tastendruck& druck);
+    void gib(Bildschirm& bildschirm, const Tastendruck& druck);
+    bool gibElement(Element& element, const Tastendruck& druck, const Taste& taste);
 
     Zustand* m_zustand = nullptr;
-    std::optional<Datumseingabe> m_datumseingabe; ///< in the date field that has the focus
-    const Bildschirm* m_datumsbildschirm = nullptr;
+    OffeneListe m_offeneListe;                        ///< of the combo box that has the focus
     const Bildschirm* m_tastaturbildschirm = nullptr; ///< that was acted on last
 };

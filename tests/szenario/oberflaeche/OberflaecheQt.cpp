@@ -5,6 +5,7 @@
 #include "oberflaeche/QtHand.h"
 
 #include "app/moMain.h"
+#include "platform/qt/Datumsbox.h"
 #include "platform/qt/Mass.h"
 #include "platform/qt/QtOberflaeche.h"
 
@@ -12,7 +13,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QHeaderView>
 #include <QMainWindow>
 #include <QMenuBar>
@@ -27,6 +27,8 @@ namespace {
 
 class OberflächeQt : public Oberfläche {
 public:
+    explicit OberflächeQt(const Schirm& schirm) : m_anwendung(schirm) {}
+
     std::string_view name() const override { return "qt"; }
     void beginne(Programm& programm) override;
     void beende() override;
@@ -43,6 +45,7 @@ public:
     void tippe(Element& element, const std::vector<Tastendruck>& tasten) override;
     void fügeEin(Textfeld& feld, std::u32string_view text) override { fügeInFeld(feld, text); }
     void fügeEin(Auswahlfeld& feld, std::u32string_view text) override { fügeInFeld(feld, text); }
+    void dreheRad(Element& element, int schritte) override;
     void verlasse(Element& element) override;
     void schließeRahmen() override;
     void verschiebeRahmen(const Lage& lage) override;
@@ -90,6 +93,13 @@ private:
     std::unique_ptr<QtOberfläche> m_qt;
 };
 
+/// Number combos and dates, whose whole text is selected when the focus comes by key.
+bool istEingabezeile(const Element& element)
+{
+    const auto* auswahl = dynamic_cast<const Auswahlfeld*>(&element);
+    return (auswahl != nullptr && auswahl->istTippbar()) || dynamic_cast<const Datumsfeld*>(&element) != nullptr;
+}
+
 /// The widget's place in twips, exact where it is the one that the program wants.
 Lage lageVon(const QWidget& fenster, const Lage& gewünscht)
 {
@@ -100,9 +110,9 @@ Lage lageVon(const QWidget& fenster, const Lage& gewünscht)
 
 } // namespace
 
-std::unique_ptr<Oberfläche> erzeugeOberflächeQt()
+std::unique_ptr<Oberfläche> erzeugeOberflächeQt(const Schirm& schirm)
 {
-    return std::make_unique<OberflächeQt>();
+    return std::make_unique<OberflächeQt>(schirm);
 }
 
 void OberflächeQt::beginne(Programm& programm)
@@ -254,15 +264,19 @@ void OberflächeQt::wähleEintrag(Auswahlfeld& feld, std::size_t eintrag)
 void OberflächeQt::wähleDatum(Datumsfeld& feld, const Datum& datum)
 {
     greife(feld);
-    qthand::wähle(als<QDateEdit>(feld), QDate(datum.jahr, datum.monat, datum.tag));
+    qthand::wähle(dynamic_cast<Datumsbox&>(widget(feld)), QDate(datum.jahr, datum.monat, datum.tag));
     ruhe();
 }
 
 void OberflächeQt::tippe(Element& element, const std::vector<Tastendruck>& tasten)
 {
+    const bool hatteFokus = qtauge::hatFokus(widget(element));
     fokussiere(element);
     if (!qtauge::hatFokus(widget(element))) {
         return;
+    }
+    if (!hatteFokus && istEingabezeile(element)) {
+        qthand::drücke(widget(element), Qt::Key_End);
     }
     const auto* const hier = element.bildschirm(); // the keys may unload it
     for (const auto& druck : tasten) {
@@ -274,6 +288,12 @@ void OberflächeQt::tippe(Element& element, const std::vector<Tastendruck>& tast
         qthand::drücke(*fenster, druck);
         ruhe();
     }
+}
+
+void OberflächeQt::dreheRad(Element& element, int schritte)
+{
+    qthand::dreheRad(greife(element), schritte);
+    ruhe();
 }
 
 void OberflächeQt::fügeInFeld(Element& element, std::u32string_view text)

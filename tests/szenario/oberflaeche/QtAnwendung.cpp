@@ -3,6 +3,7 @@
 #include "platform/qt/Stil.h"
 
 #include <QFile>
+#include <QFont>
 
 #include <cstdio>
 
@@ -11,9 +12,11 @@ namespace {
 constexpr auto bildschirm = R"({
     "synchronousWindowSystemEvents": true,
     "windowFrameMargins": false,
-    "screens": [{"name": "S", "x": 0, "y": 0, "width": 3840, "height": 2160,
+    "screens": [{"name": "S", "x": 0, "y": 0, "width": %1, "height": %2,
                  "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]
 })";
+
+constexpr double gewöhnlicheSchrift = 10; // points
 
 /// What platform and session lack concerns no scenario.
 void meldeWeiter(QtMsgType /*art*/, const QMessageLogContext& /*ort*/, const QString& text)
@@ -26,18 +29,26 @@ void meldeWeiter(QtMsgType /*art*/, const QMessageLogContext& /*ort*/, const QSt
 
 } // namespace
 
-QtAnwendung::QtAnwendung()
+QtAnwendung::QtAnwendung(const Schirm& schirm)
 {
     const QString pfad = m_ordner.filePath(QStringLiteral("bildschirm.json"));
     QFile datei(pfad);
     if (datei.open(QIODevice::WriteOnly)) {
-        datei.write(bildschirm);
+        datei.write(QString::fromLatin1(bildschirm).arg(schirm.breite).arg(schirm.höhe).toLatin1());
         datei.close();
     }
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(pfad));
+    if (schirm.schärfe != 1) {
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(schirm.schärfe));
+    }
     qInstallMessageHandler(meldeWeiter);
     m_anwendung = std::make_unique<QApplication>(m_argc, m_argv);
-    richteStilEin(*m_anwendung, Thema::Hell);
+    if (schirm.schrift > 0) {
+        QFont schrift(QStringLiteral("Noto Sans"));
+        schrift.setPointSizeF(gewöhnlicheSchrift * schirm.schrift);
+        QApplication::setFont(schrift);
+    }
+    richteStilEin(*m_anwendung, schirm.istDunkel ? Thema::Dunkel : Thema::Hell);
     for (const auto effekt : {Qt::UI_AnimateCombo, Qt::UI_AnimateMenu, Qt::UI_AnimateTooltip, Qt::UI_FadeTooltip}) {
         QApplication::setEffectEnabled(effekt, false);
     }

@@ -1,14 +1,16 @@
 #pragma once
 
+#include "oberflaeche/Schirm.h"
+
 #include <QApplication>
 #include <QTemporaryDir>
 
 #include <memory>
 
-/// The application on Qt's offscreen platform, with a screen that has room for every window.
+/// The application on Qt's offscreen platform.
 class QtAnwendung {
 public:
-    QtAnwendung();
+    explicit QtAnwendung(const Schirm& schirm);
 
 private:
     QTemporaryDir m_ordner;

@@ -9,7 +9,6 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
@@ -17,6 +16,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTextDocument>
 #include <QTreeView>
 
 namespace {
@@ -48,10 +48,8 @@ QString gezeigterText(const QWidget& widget)
         return zeile->text();
     }
     if (const auto* block = qobject_cast<const QPlainTextEdit*>(&widget)) {
-        return block->toPlainText();
-    }
-    if (const auto* datum = qobject_cast<const QDateEdit*>(&widget)) {
-        return datum->text();
+        auto text = block->document()->toRawText(); // toPlainText makes blanks of no-break spaces
+        return text.replace(QChar::ParagraphSeparator, QChar('\n'));
     }
     if (const auto* balken = qobject_cast<const QProgressBar*>(&widget)) {
         return QString::number(balken->value());

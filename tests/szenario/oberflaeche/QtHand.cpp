@@ -1,12 +1,13 @@
 #include "oberflaeche/QtHand.h"
 
+#include "platform/qt/Datumsbox.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QHeaderView>
 #include <QInputMethodEvent>
 #include <QRadioButton>
@@ -20,6 +21,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -51,7 +53,7 @@ QWidget* abschneidendes(const QWidget& widget, QPoint ort)
     return nullptr;
 }
 
-void dreheRad(QWidget& widget, bool abwärts)
+void drehe(QWidget& widget, bool abwärts)
 {
     constexpr int raste = 120;
     const QPoint mitte = widget.rect().center();
@@ -78,7 +80,7 @@ QPoint ziel(const QWidget& widget, QPoint ort)
     return stelle;
 }
 
-constexpr std::array<std::pair<Taste::Art, Qt::Key>, 11> sondertasten{{
+constexpr std::array<std::pair<Taste::Art, Qt::Key>, 13> sondertasten{{
     {Taste::Art::Rück, Qt::Key_Backspace},
     {Taste::Art::Entf, Qt::Key_Delete},
     {Taste::Art::Links, Qt::Key_Left},
@@ -90,6 +92,8 @@ constexpr std::array<std::pair<Taste::Art, Qt::Key>, 11> sondertasten{{
     {Taste::Art::Tab, Qt::Key_Tab},
     {Taste::Art::Eingabe, Qt::Key_Return},
     {Taste::Art::Esc, Qt::Key_Escape},
+    {Taste::Art::F1, Qt::Key_F1},
+    {Taste::Art::F4, Qt::Key_F4},
 }};
 
 QString alsQString(std::u32string_view text)
@@ -123,6 +127,26 @@ QString textDer(Qt::Key taste)
     default:
         return {};
     }
+}
+
+Qt::KeyboardModifiers zusatzVon(const Tastendruck& druck)
+{
+    Qt::KeyboardModifiers zusatz;
+    zusatz.setFlag(Qt::ShiftModifier, druck.umschalt);
+    zusatz.setFlag(Qt::ControlModifier, druck.strg);
+    zusatz.setFlag(Qt::AltModifier, druck.alt);
+    return zusatz;
+}
+
+/// With Ctrl a letter brings its control character along, with Alt itself.
+QString textDes(const Tastendruck& druck)
+{
+    const auto text = alsQString({&druck.zeichen, 1});
+    if (!druck.strg) {
+        return druck.umschalt ? text.toUpper() : text;
+    }
+    const bool istBuchstabe = druck.zeichen < 0x80 && text.front().isLetter();
+    return istBuchstabe ? QString(QChar(text.front().toUpper().unicode() - u'@')) : QString();
 }
 
 QPoint aufklappknopf(const QComboBox& box)
@@ -171,10 +195,17 @@ void rolleMitRad(QWidget& widget, QPoint ort)
             return;
         }
         const QPoint vorher = imFenster(widget, ort);
-        dreheRad(*um, widget.mapTo(um, ort).y() > um->rect().center().y());
+        drehe(*um, widget.mapTo(um, ort).y() > um->rect().center().y());
         if (imFenster(widget, ort) == vorher) {
             return;
         }
+    }
+}
+
+void dreheRad(QWidget& widget, int schritte)
+{
+    for (int i = 0; i < std::abs(schritte); ++i) {
+        drehe(widget, schritte > 0);
     }
 }
 
@@ -195,13 +226,18 @@ void drücke(QWidget& fenster, Qt::Key taste, Qt::KeyboardModifiers zusatz)
 
 void drücke(QWidget& fenster, const Tastendruck& druck)
 {
+    const auto zusatz = zusatzVon(druck);
     if (druck.art == Taste::Art::Zeichen) {
-        sendeTaste(fenster, tasteFür(druck.zeichen), alsQString({&druck.zeichen, 1}), Qt::NoModifier);
+        sendeTaste(fenster, tasteFür(druck.zeichen), textDes(druck), zusatz);
+        return;
+    }
+    if (druck.art == Taste::Art::Tab && druck.umschalt) {
+        drücke(fenster, Qt::Key_Backtab, zusatz);
         return;
     }
     const auto ort =
         std::find_if(sondertasten.begin(), sondertasten.end(), [&](const auto& t) { return t.first == druck.art; });
-    drücke(fenster, ort->second);
+    drücke(fenster, ort->second, zusatz);
 }
 
 void tippe(QWidget& fenster, std::u32string_view text)
@@ -209,8 +245,7 @@ void tippe(QWidget& fenster, std::u32string_view text)
     constexpr std::size_t vonHand = 300; // longer texts come as from an input method, all at once
     const auto hand = text.substr(0, vonHand);
     for (const char32_t zeichen : hand) {
-        drücke(fenster,
-               zeichen == U'\n' ? Tastendruck{Taste::Art::Eingabe, 0} : Tastendruck{Taste::Art::Zeichen, zeichen});
+        drücke(fenster, zeichen == U'\n' ? Tastendruck{.art = Taste::Art::Eingabe} : Tastendruck{.zeichen = zeichen});
     }
     if (auto* feld = fenster.window()->focusWidget(); feld != nullptr && hand.size() < text.size()) {
         QInputMethodEvent eingabe;
@@ -243,11 +278,11 @@ void wähle(QComboBox& box, int eintrag)
     klicke(*liste.viewport(), liste.visualRect(ort).center());
 }
 
-void wähle(QDateEdit& feld, const QDate& datum)
+void wähle(Datumsbox& feld, const QDate& datum)
 {
     const Geduld geduld;
-    klicke(feld, {feld.width() - feld.height() / 2, feld.height() / 2});
-    auto* kalender = feld.calendarWidget();
+    klicke(feld.kalenderknopf(), feld.kalenderknopf().rect().center());
+    auto* kalender = feld.kalender();
     if (kalender == nullptr || !kalender->isVisible()) {
         return; // the press was refused
     }

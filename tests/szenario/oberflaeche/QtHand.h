@@ -7,9 +7,9 @@
 
 #include <string_view>
 
+class Datumsbox;
 class QComboBox;
 class QDate;
-class QDateEdit;
 class QTreeView;
 class QWidget;
 
@@ -22,6 +22,9 @@ QPoint griff(const QWidget& widget);
 
 /// Turns the wheel over what cuts the widget off, until the place is in view or nothing moves any more.
 void rolleMitRad(QWidget& widget, QPoint ort);
+
+/// Turns the wheel over the middle of the widget.
+void dreheRad(QWidget& widget, int schritte);
 
 void klicke(QWidget& widget, QPoint ort);
 /// The single click before it included.
@@ -38,7 +41,7 @@ void fügeEin(QWidget& fenster, std::u32string_view text);
 /// Opens the list of the box and clicks on the entry.
 void wähle(QComboBox& box, int eintrag);
 /// Opens the calendar and clicks on the day.
-void wähle(QDateEdit& feld, const QDate& datum);
+void wähle(Datumsbox& feld, const QDate& datum);
 /// The place of the row in the viewport of the list, scrolled into view.
 QPoint zeilenort(QTreeView& liste, int zeile);
 QPoint kopfort(QTreeView& liste, int spalte);

@@ -44,6 +44,7 @@ std::vector<Anweisungsform> handlungen()
         {.wort = "setze", .gattung = Handlung, .pflicht = {Element, Text}, .auchUnmöglich = true},
         {.wort = "tippe", .gattung = Handlung, .pflicht = {Element, Tasten}, .auchUnmöglich = true},
         {.wort = "einfügen", .gattung = Handlung, .pflicht = {Element, Text}, .auchUnmöglich = true},
+        {.wort = "rad", .gattung = Handlung, .pflicht = {Element, Zahl}, .auchUnmöglich = true},
         {.wort = "verlasse", .gattung = Handlung, .pflicht = {Element}, .auchUnmöglich = true},
         {.wort = "schließe", .gattung = Handlung, .pflicht = {Rahmen}},
         {.wort = "verschiebe", .gattung = Handlung, .pflicht = {Rahmen, Zahl, Zahl}},

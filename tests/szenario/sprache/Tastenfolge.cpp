@@ -11,17 +11,54 @@ struct Sondertaste {
 };
 
 constexpr std::array sondertasten{
-    Sondertaste{U"{Rück}", Taste::Art::Rück},   Sondertaste{U"{Entf}", Taste::Art::Entf},
-    Sondertaste{U"{Links}", Taste::Art::Links}, Sondertaste{U"{Rechts}", Taste::Art::Rechts},
-    Sondertaste{U"{Auf}", Taste::Art::Auf},     Sondertaste{U"{Ab}", Taste::Art::Ab},
-    Sondertaste{U"{Pos1}", Taste::Art::Pos1},   Sondertaste{U"{Ende}", Taste::Art::Ende},
-    Sondertaste{U"{Tab}", Taste::Art::Tab},     Sondertaste{U"{Eingabe}", Taste::Art::Eingabe},
-    Sondertaste{U"{Esc}", Taste::Art::Esc},
+    Sondertaste{U"Rück", Taste::Art::Rück},   Sondertaste{U"Entf", Taste::Art::Entf},
+    Sondertaste{U"Links", Taste::Art::Links}, Sondertaste{U"Rechts", Taste::Art::Rechts},
+    Sondertaste{U"Auf", Taste::Art::Auf},     Sondertaste{U"Ab", Taste::Art::Ab},
+    Sondertaste{U"Pos1", Taste::Art::Pos1},   Sondertaste{U"Ende", Taste::Art::Ende},
+    Sondertaste{U"Tab", Taste::Art::Tab},     Sondertaste{U"Eingabe", Taste::Art::Eingabe},
+    Sondertaste{U"Esc", Taste::Art::Esc},     Sondertaste{U"F1", Taste::Art::F1},
+    Sondertaste{U"F4", Taste::Art::F4},
 };
 
 Tastendruck druckVon(char32_t zeichen)
 {
-    return zeichen == U'\n' ? Tastendruck{Taste::Art::Eingabe, 0} : Tastendruck{Taste::Art::Zeichen, zeichen};
+    return zeichen == U'\n' ? Tastendruck{.art = Taste::Art::Eingabe}
+                            : Tastendruck{.art = Taste::Art::Zeichen, .zeichen = zeichen};
+}
+
+/// Takes the word from the front of the name, if it stands there.
+bool nimm(std::u32string_view& name, std::u32string_view wort)
+{
+    const bool da = name.starts_with(wort);
+    name.remove_prefix(da ? wort.size() : 0);
+    return da;
+}
+
+/// What stands in braces: modifiers, then a special key or, behind a modifier, a character.
+std::optional<Tastendruck> liesTaste(std::u32string_view name)
+{
+    Tastendruck druck;
+    bool mit = true;
+    while (mit) {
+        const bool umschalt = nimm(name, U"Umschalt+");
+        const bool strg = nimm(name, U"Strg+");
+        const bool alt = nimm(name, U"Alt+");
+        mit = umschalt || strg || alt;
+        druck.umschalt = druck.umschalt || umschalt;
+        druck.strg = druck.strg || strg;
+        druck.alt = druck.alt || alt;
+    }
+    const auto ort =
+        std::find_if(sondertasten.begin(), sondertasten.end(), [&](const auto& t) { return t.name == name; });
+    if (ort != sondertasten.end()) {
+        druck.art = ort->art;
+        return druck;
+    }
+    if (name.size() != 1 || !(druck.umschalt || druck.strg || druck.alt)) {
+        return std::nullopt;
+    }
+    druck.zeichen = name.front();
+    return druck;
 }
 
 } // namespace
@@ -30,18 +67,18 @@ std::optional<std::vector<Tastendruck>> liesTastenfolge(std::u32string_view text
 {
     std::vector<Tastendruck> tasten;
     while (!text.empty()) {
-        if (text.front() != U'{' || text.find(U'}') == std::u32string_view::npos) {
+        const auto zu = text.front() == U'{' ? text.find(U'}') : std::u32string_view::npos;
+        if (zu == std::u32string_view::npos) {
             tasten.push_back(druckVon(text.front()));
             text.remove_prefix(1);
             continue;
         }
-        const auto taste = std::find_if(sondertasten.begin(), sondertasten.end(),
-                                        [&](const auto& t) { return text.starts_with(t.name); });
-        if (taste == sondertasten.end()) {
+        const auto taste = liesTaste(text.substr(1, zu - 1));
+        if (!taste) {
             return std::nullopt;
         }
-        tasten.push_back({taste->art, 0});
-        text.remove_prefix(taste->name.size());
+        tasten.push_back(*taste);
+        text.remove_prefix(zu + 1);
     }
     return tasten;
 }

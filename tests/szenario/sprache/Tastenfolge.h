@@ -10,7 +10,11 @@
 struct Tastendruck {
     Taste::Art art = Taste::Art::Zeichen;
     char32_t zeichen = 0; ///< set for Art::Zeichen only
+    bool umschalt = false;
+    bool strg = false;
+    bool alt = false;
 };
 
-/// The key presses of the text, special keys in braces; nothing when a name in braces is no key.
+/// The key presses of the text; special keys, and any key with Umschalt+, Strg+ or Alt+ in front, in braces; nothing
+/// when a name in braces is no key.
 std::optional<std::vector<Tastendruck>> liesTastenfolge(std::u32string_view text);

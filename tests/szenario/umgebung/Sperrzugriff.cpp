@@ -2,21 +2,35 @@
 
 #include "platform/text/Text.h"
 
-namespace {
-
 class FlüchtigeDatei : public OffeneDatei {
 public:
-    explicit FlüchtigeDatei(std::unique_ptr<OffeneDatei> datei) : m_datei(std::move(datei)) {}
+    FlüchtigeDatei(std::unique_ptr<OffeneDatei> datei, Sperrzugriff& zugriff)
+        : m_datei(std::move(datei)), m_zugriff(zugriff)
+    {}
 
-    std::size_t schreibe(std::string_view bytes) override { return m_datei->schreibe(bytes); }
+    std::size_t schreibe(std::string_view bytes) override
+    {
+        m_zugriff.zähle();
+        return m_datei->schreibe(bytes);
+    }
     void sichereAufPlatte() override {}
     void schließe() override { m_datei->schließe(); }
 
 private:
     std::unique_ptr<OffeneDatei> m_datei;
+    Sperrzugriff& m_zugriff;
 };
 
-} // namespace
+void Sperrzugriff::zähle()
+{
+    if (!m_frist) {
+        return;
+    }
+    if (*m_frist == 0) {
+        throw Dateifehler("the process is dead");
+    }
+    --*m_frist;
+}
 
 /// A new version beside the file counts as the file.
 void Sperrzugriff::prüfe(std::filesystem::path pfad)
@@ -31,12 +45,38 @@ void Sperrzugriff::prüfe(std::filesystem::path pfad)
 
 std::unique_ptr<OffeneDatei> Sperrzugriff::öffne(const std::filesystem::path& pfad, Öffnung wie)
 {
+    zähle();
     prüfe(pfad);
-    return std::make_unique<FlüchtigeDatei>(Zugriffsweiche::öffne(pfad, wie));
+    return std::make_unique<FlüchtigeDatei>(Zugriffsweiche::öffne(pfad, wie), *this);
 }
 
 void Sperrzugriff::benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach)
 {
+    zähle();
     prüfe(nach);
     Zugriffsweiche::benenneUm(von, nach);
+}
+
+void Sperrzugriff::lösche(const std::filesystem::path& pfad)
+{
+    zähle();
+    Zugriffsweiche::lösche(pfad);
+}
+
+void Sperrzugriff::verknüpfe(const std::filesystem::path& von, const std::filesystem::path& nach)
+{
+    zähle();
+    Zugriffsweiche::verknüpfe(von, nach);
+}
+
+void Sperrzugriff::legeOrdnerAn(const std::filesystem::path& pfad)
+{
+    zähle();
+    Zugriffsweiche::legeOrdnerAn(pfad);
+}
+
+void Sperrzugriff::entferneOrdner(const std::filesystem::path& pfad)
+{
+    zähle();
+    Zugriffsweiche::entferneOrdner(pfad);
 }

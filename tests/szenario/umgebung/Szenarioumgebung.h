@@ -38,6 +38,10 @@ public:
     // what the scenario sets
     void setzeHeute(const Datum& heute) { m_heute = heute; }
     void sperre(const std::filesystem::path& pfad) { m_zugriff->sperre(pfad); }
+    /// The process dies after so many file operations that change something, if it comes so far.
+    void stirbNach(int operationen) { m_zugriff->stirbNach(operationen); }
+    bool istTot() const { return m_zugriff->istTot(); }
+    void lebe() { m_zugriff->lebe(); }
     void meldeZweiteInstanz() { m_zweiteInstanz = true; }
     void entferneTabellenprogramm() { m_tabellenprogramm = false; }
     void stelleAntwortBereit(Antwort antwort) { m_antworten.push_back(antwort); }

@@ -1,6 +1,6 @@
-#include "daten/Musterdaten.h"
+#include "app/muster/Musterdaten.h"
 
-#include "daten/Zufall.h"
+#include "app/muster/Zufall.h"
 
 #include "platform/Ressourcen.h"
 #include "platform/dateien/Dateien.h"

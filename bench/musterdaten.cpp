@@ -1,7 +1,7 @@
 // musterdaten ORDNER --klienten N --episoden-je K --saat S
 // writes the program folder of a made-up facility.
 
-#include "daten/Musterdaten.h"
+#include "app/muster/Musterdaten.h"
 
 #include "platform/text/Eingabe.h"
 #include "platform/text/Zahl.h"

@@ -1,0 +1,73 @@
+#include "platform/qt/Feldhinweis.h"
+
+#include "platform/qt/Stil.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QLabel>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int vierSekunden = 4000;
+
+/// A tool tip is a window of its own that takes the next press to itself, and the button that was meant never
+/// hears of it; this label lies in the window of the field and lets every press through.
+class Feldhinweis : public QLabel {
+public:
+    Feldhinweis(const QString& text, QWidget& fenster) : QLabel(&fenster)
+    {
+        setText(text); // here it is known what it is: a screen reader asks at once
+        setObjectName(QLatin1String(feldhinweis));
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setWordWrap(true);
+        setAccessibleName(text);
+    }
+};
+
+/// A screen reader speaks a notification by itself when it appears.
+class Vorlesehinweis : public QAccessibleWidget {
+public:
+    explicit Vorlesehinweis(Feldhinweis& hinweis) : QAccessibleWidget(&hinweis, QAccessible::Notification) {}
+};
+
+QAccessibleInterface* erzeugeVorlesehinweis(const QString& /*klasse*/, QObject* objekt)
+{
+    auto* hinweis = dynamic_cast<Feldhinweis*>(objekt);
+    return hinweis == nullptr ? nullptr : new Vorlesehinweis(*hinweis);
+}
+
+void legeAn(const QWidget& feld, QLabel& hinweis)
+{
+    const QWidget& fenster = *hinweis.parentWidget();
+    const int breiteste = std::min(em(34), fenster.width());
+    const int ganz = hinweis.fontMetrics().horizontalAdvance(hinweis.text()) + em(1.2);
+    const int breite = std::min(ganz, breiteste);
+    hinweis.resize(breite, hinweis.heightForWidth(breite));
+    const QPoint unten = feld.mapTo(&fenster, QPoint(0, feld.height()));
+    const QPoint oben = feld.mapTo(&fenster, QPoint(0, -hinweis.height()));
+    const int y = unten.y() + hinweis.height() <= fenster.height() ? unten.y() : std::max(0, oben.y());
+    hinweis.move(std::max(0, std::min(unten.x(), fenster.width() - hinweis.width())), y);
+}
+
+} // namespace
+
+void zeigeFeldhinweis(QWidget& feld, const QString& text)
+{
+    static const bool angemeldet = [] {
+        QAccessible::installFactory(erzeugeVorlesehinweis);
+        return true;
+    }();
+    Q_UNUSED(angemeldet)
+    delete feld.window()->findChild<QLabel*>(QLatin1String(feldhinweis), Qt::FindDirectChildrenOnly);
+    auto* hinweis = new Feldhinweis(text, *feld.window());
+    hinweis->ensurePolished();
+    legeAn(feld, *hinweis);
+    hinweis->show();
+    hinweis->raise();
+    QAccessibleEvent gemeldet(hinweis, QAccessible::Alert);
+    QAccessible::updateAccessibility(&gemeldet);
+    QTimer::singleShot(vierSekunden, hinweis, &QObject::deleteLater);
+}

@@ -1,0 +1,64 @@
+#include "platform/umgebung/Systemorte.h"
+
+#include <array>
+#include <string>
+#include <system_error>
+
+#include <windows.h>
+
+#include <shellapi.h>
+#include <shlobj.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t längsterPfad = 32'768;
+
+fs::path programmdatei()
+{
+    std::wstring pfad(längsterPfad, L'\0');
+    pfad.resize(GetModuleFileNameW(nullptr, pfad.data(), static_cast<DWORD>(pfad.size())));
+    return pfad;
+}
+
+fs::path dokumente()
+{
+    std::array<wchar_t, MAX_PATH> pfad{};
+    return SHGetFolderPathW(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, pfad.data()) == S_OK ? pfad.data()
+                                                                                                       : fs::path{};
+}
+
+/// The rights of a folder say little on Windows (virtual store, network drives); so it is tried.
+bool nimmtDateien(const fs::path& ordner)
+{
+    const auto probe = ordner / L"Tolvek7.versuch";
+    HANDLE griff = CreateFileW(probe.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                               FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    return griff != INVALID_HANDLE_VALUE && CloseHandle(griff) != 0;
+}
+
+} // namespace
+
+Systemorte frageSystem()
+{
+    std::error_code egal;
+    const fs::path programm = programmdatei().parent_path();
+    return {.programm = programm,
+            .programmBeschreibbar = nimmtDateien(programm),
+            .person = dokumente(),
+            .arbeitsordner = fs::current_path(egal)};
+}
+
+std::vector<fs::path> argumente(int /*anzahl*/, char** /*werte*/)
+{
+    // the narrow ones have lost what the code page of the system lacks
+    std::vector<fs::path> ergebnis;
+    int anzahl = 0;
+    wchar_t** werte = CommandLineToArgvW(GetCommandLineW(), &anzahl);
+    for (int i = 1; i < anzahl; ++i) {
+        ergebnis.emplace_back(werte[i]);
+    }
+    LocalFree(werte);
+    return ergebnis;
+}

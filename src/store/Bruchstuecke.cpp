@@ -1,0 +1,68 @@
+#include "store/Bruchstuecke.h"
+
+#include "platform/text/Text.h"
+#include "store/Sicherungen.h"
+#include "store/Vorgang.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+struct Bruchstück {
+    Tabelle tabelle;
+    std::string davor; ///< the table without it
+    std::string rest;
+    std::size_t nummer; ///< of its line
+};
+
+std::optional<Bruchstück> findeBruchstück(const Bestand& bestand, Tabelle tabelle)
+{
+    const auto inhalt = bestand.inhalt(tabelle);
+    const auto text = inhalt->text();
+    const auto rest = bruchstückIn(text);
+    if (rest.empty()) {
+        return std::nullopt;
+    }
+    return Bruchstück{tabelle, std::string(text.substr(0, text.size() - rest.size())), std::string(rest),
+                      zähleZeilen(text)};
+}
+
+void melde(const Bestand& bestand, const Bruchstück& stück, const std::filesystem::path& ordner)
+{
+    bestand.meldung()(
+        verbinde(ortsangabe(bestand.pfade().von(stück.tabelle), stück.nummer),
+                 ": Die letzte Zeile war nur halb geschrieben (\""_t, stück.rest,
+                 "\") und gehört zu niemandem. Sie wurde herausgenommen. Die Tabelle, wie sie war, liegt in \""_t,
+                 pfadtext(ordner), "\"."_t),
+        Symbol::Warnung);
+}
+
+} // namespace
+
+std::string_view bruchstückIn(std::string_view inhalt)
+{
+    constexpr int schlüsselfelder = 2;
+    const auto ende = inhalt.find_last_of("\r\n");
+    const auto rest = inhalt.substr(ende == std::string_view::npos ? 0 : ende + 1);
+    return std::ranges::count(rest, trenner) < schlüsselfelder ? rest : std::string_view();
+}
+
+void stelleBruchstückeBeiseite(const Bestand& bestand)
+{
+    auto& dateien = bestand.dateien();
+    for (const auto tabelle : dieTabellen) {
+        auto stück = findeBruchstück(bestand, tabelle);
+        if (!stück) {
+            continue;
+        }
+        const auto& pfad = bestand.pfade().von(tabelle);
+        const auto ordner = legeSicherungsordnerAn(dateien, bestand.pfade(), dateien.zeitVon(pfad), " halbe Zeile"_t);
+        dateien.verdopple(dateien.ziel(pfad), ordner / pfad.filename());
+        dateien.sichereOrdner(ordner);
+        Vorgang vorgang(bestand);
+        vorgang.setzeInhalt(tabelle, std::move(stück->davor));
+        vorgang.bestätige();
+        melde(bestand, *stück, ordner);
+    }
+}

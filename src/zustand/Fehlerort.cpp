@@ -1,0 +1,74 @@
+#include "zustand/Fehlerort.h"
+
+#include "platform/text/Text.h"
+#include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/moHelferlein.h"
+#include "zustand/Zustand.h"
+
+namespace {
+
+[[noreturn]] void wirfMitOrt(std::string_view ort, int feld, const Laufzeitfehler& fehler)
+{
+    throw Laufzeitfehler(verbinde(ort, ", Feld "_t, std::to_string(feld), ": "_t, fehler.text()));
+}
+
+bool istLesbaresDatum(std::string_view datum)
+{
+    try {
+        return vergleicheDatum(datum, "<="_t, datum);
+    } catch (const Laufzeitfehler&) {
+        return false;
+    }
+}
+
+struct Fundstelle {
+    std::string ort;
+    int feld = 0;
+};
+
+/// The first date of the client's episodes that can't be read.
+std::optional<Fundstelle> unlesbaresDatum(std::int32_t kernID)
+{
+    constexpr int feldBeginn = 3;
+    constexpr int feldEnde = 4;
+    const auto& bestand = zustand().bestand;
+    const auto& pfad = bestand.pfade().betrDat;
+    std::optional<Fundstelle> gefunden;
+    bestand.laufe(Tabelle::Betr, [&](std::string_view zeile, std::size_t nummer) {
+        if (leseSchlüssel(zeile, 1, 16, pfad, nummer) != kernID) {
+            return true;
+        }
+        for (const int feld : {feldBeginn, feldEnde}) {
+            const auto datum = getFeld(zeile, feld);
+            const bool istOffen = feld == feldEnde && datum == "offen"_t;
+            if (!gefunden && !istOffen && !istLesbaresDatum(datum)) {
+                gefunden = Fundstelle{ortsangabe(pfad, nummer), feld};
+            }
+        }
+        return !gefunden;
+    });
+    return gefunden;
+}
+
+} // namespace
+
+void mitSatzort(Tabelle tabelle, const Satzschlüssel& schlüssel, int feld, const std::function<void()>& tue)
+{
+    try {
+        tue();
+    } catch (const Laufzeitfehler& fehler) {
+        wirfMitOrt(zustand().bestand.ortVon(tabelle, schlüssel), feld, fehler);
+    }
+}
+
+void mitDatumsort(std::int32_t kernID, const std::function<void()>& tue)
+{
+    try {
+        tue();
+    } catch (const Laufzeitfehler& fehler) {
+        if (const auto stelle = unlesbaresDatum(kernID)) {
+            wirfMitOrt(stelle->ort, stelle->feld, fehler);
+        }
+        throw;
+    }
+}

@@ -1,0 +1,56 @@
+// speicher [GÄNGE]: opens and closes page A of an episode so many times in the real widgets, after a while of warming
+// up, and measures how much more memory is in use afterwards. Exit status 1 from one megabyte on.
+
+#include "Rundgang.h"
+#include "oberflaeche/OberflaecheQt.h"
+
+#include <malloc.h>
+
+#include <cstdio>
+#include <string>
+
+namespace {
+
+constexpr int gängeZumWarmwerden = 50;
+constexpr double höchstensByte = 1024.0 * 1024.0;
+
+/// The way to the care main page, and from there to page A and back.
+std::string weg(int gänge)
+{
+    const auto gehe = [](int wieOft) {
+        std::string text;
+        for (int i = 0; i < wieOft; ++i) {
+            text += "klicke cmdBetrA\nklicke cmdOK\n";
+        }
+        return text;
+    };
+    return "klient 1 Nachname=Adler\nbetreuung 1 1 01.02.2006 offen\ndiagnose 1 1\nstarte\nklicke "
+           "cmdBetreuungBearbeiten\n" +
+           gehe(gängeZumWarmwerden) + "# bild vorher\n" + gehe(gänge) +
+           "# bild nachher\nerwarte bildschirm frmBetreuungA\n";
+}
+
+double belegt()
+{
+    const auto stand = mallinfo2();
+    return static_cast<double>(stand.uordblks) + static_cast<double>(stand.hblkhd);
+}
+
+} // namespace
+
+int main(int anzahl, char** werte)
+{
+    const int gänge = anzahl > 1 ? std::stoi(werte[1]) : 1000;
+    const auto oberfläche = erzeugeOberflächeQt();
+    double vorher = 0;
+    double nachher = 0;
+    const auto fehlschlag = Rundgang::ausText(weg(gänge)).gehe(*oberfläche, [&](const std::string& name) {
+        (name == "vorher" ? vorher : nachher) = belegt();
+    });
+    if (!fehlschlag.empty()) {
+        std::printf("%s\n", fehlschlag.c_str());
+        return 1;
+    }
+    std::printf("%d round trips: %.0f bytes more, %.1f a trip\n", gänge, nachher - vorher, (nachher - vorher) / gänge);
+    return vorher > 0 && nachher - vorher < höchstensByte ? 0 : 1;
+}
