@@ -31,6 +31,11 @@ def istInneres(knoten):
         ("table", "cell")}
 
 
+def istDatum(knoten):
+    """A date shows itself as such."""
+    return re.fullmatch(r"\d\d\.\d\d\.\d{4}", knoten.text or "") is not None
+
+
 def istAntwort(leser, knoten):
     """An answer field is a choice that is pressed and opens no list."""
     return knoten.rolle == "combo box" and "showmenu" not in leser.handlungen(knoten)
@@ -254,7 +259,7 @@ def prüfeOffeneListen(wurzel, leser, bühne):
 
 def prüfeKalender(wurzel, leser, bühne):
     """The calendar of a date opens and says each day that the keys come to."""
-    felder = [k for k in fokussierbare(wurzel) if re.fullmatch(r"\d\d\.\d\d\.\d{4}", k.text or "")]
+    felder = [k for k in fokussierbare(wurzel) if istDatum(k)]
     if not felder:
         return []
     x, y, breite, höhe = leser.frage(felder[0].pfad, BAUSTEIN, "GetExtents", GLib.Variant("(u)", (0,)))[0]
@@ -278,6 +283,8 @@ def prüfeÄnderungen(wurzel, leser, bühne):
     for k in fokussierbare(wurzel):
         tasten = {"combo box": [("Down",), ("Up",)], "text": [("x", "BackSpace")], "spin box": [("Up",), ("Down",)],
                   "table": [("Down",), ("Up",)]}.get(k.rolle)
+        if istDatum(k):
+            tasten = [("Up",), ("Down",)]
         if tasten is None or (k.rolle == "combo box" and istAntwort(leser, k)):
             continue
         if k.rolle == "table" and sum(x.rolle == "cell" for x in k.kinder) < 5:

@@ -20,7 +20,7 @@ Etikett* formeTitel(Etikett* titel)
     titel->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
     titel->setWordWrap(true);
     titel->setIndent(0);
-    titel->setAccessibleName(gesprochen(alsQString(text)));
+    titel->setAccessibleName(gesprochen(titel->text()));
     return titel;
 }
 
