@@ -110,6 +110,10 @@ class Bühne:
         subprocess.run(["xdotool", "key", "--clearmodifiers", "--delay", "8", *namen], env=self._umgebung(),
                        check=True)
 
+    def klicke(self, x, y):
+        """Clicks the mouse there."""
+        subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], env=self._umgebung(), check=True)
+
     def bild(self, datei):
         """Takes a picture of the display."""
         subprocess.run(["import", "-window", "root", datei], env=self._umgebung(), check=False)

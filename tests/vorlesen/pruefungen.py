@@ -1,8 +1,10 @@
 """What must hold on every screen, each rule a function that gives its findings as pairs of element and fault."""
 
+import re
+
 from gi.repository import GLib
 
-from baum import WERT, ZUGANG, Knoten
+from baum import BAUSTEIN, WERT, ZUGANG, Knoten
 
 EINGABEN = {"push button", "check box", "radio button", "combo box", "text", "spin box", "tree", "list", "table",
             "scroll bar", "slider"}
@@ -27,6 +29,11 @@ def istInneres(knoten):
     return knoten.eltern is not None and (knoten.eltern.rolle, knoten.rolle) in {
         ("combo box", "text"), ("spin box", "text"), ("tree", "tree item"),
         ("table", "cell")}
+
+
+def istDatum(knoten):
+    """A date shows itself as such."""
+    return re.fullmatch(r"\d\d\.\d\d\.\d{4}", knoten.text or "") is not None
 
 
 def istAntwort(leser, knoten):
@@ -250,12 +257,34 @@ def prüfeOffeneListen(wurzel, leser, bühne):
     return befunde
 
 
+def prüfeKalender(wurzel, leser, bühne):
+    """The calendar of a date opens and says each day that the keys come to."""
+    felder = [k for k in fokussierbare(wurzel) if istDatum(k)]
+    if not felder:
+        return []
+    x, y, breite, höhe = leser.frage(felder[0].pfad, BAUSTEIN, "GetExtents", GLib.Variant("(u)", (0,)))[0]
+    bühne.klicke(x + breite - 10, y + höhe // 2)
+    leser.lasse_geschehen(0.3)
+    leser.ereignisse.clear()
+
+    def sagt_den_tag():
+        ziele = [e.pfad for e in leser.ereignisse if (e.name, e.art, e.zahl) == ("StateChanged", "focused", 1)]
+        return any(re.search(r"\d{1,2}\. \w+ \d{4}", leser.name(Knoten(pfad, None))) for pfad in ziele)
+    bühne.tasten("Right")
+    gesagt = leser.warte_bis(sagt_den_tag, 3)
+    bühne.tasten("Escape")
+    leser.lasse_geschehen(0.3)
+    return [] if gesagt else [(felder[0], "der Kalender sagt den Tag nicht")]
+
+
 def prüfeÄnderungen(wurzel, leser, bühne):
     """A change by key or press is told by the element that was changed."""
     befunde = []
     for k in fokussierbare(wurzel):
         tasten = {"combo box": [("Down",), ("Up",)], "text": [("x", "BackSpace")], "spin box": [("Up",), ("Down",)],
                   "table": [("Down",), ("Up",)]}.get(k.rolle)
+        if istDatum(k):
+            tasten = [("Up",), ("Down",)]
         if tasten is None or (k.rolle == "combo box" and istAntwort(leser, k)):
             continue
         if k.rolle == "table" and sum(x.rolle == "cell" for x in k.kinder) < 5:

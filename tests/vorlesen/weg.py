@@ -248,6 +248,7 @@ def prüfeStation(schirm, weg):
     befunde += pruefungen.prüfeAntworten(weg.wurzel, leser, antworten)
     befunde += pruefungen.prüfeAntworttasten(weg.wurzel, leser, bühne)
     befunde += pruefungen.prüfeOffeneListen(weg.wurzel, leser, bühne)
+    befunde += pruefungen.prüfeKalender(weg.wurzel, leser, bühne)
     befunde += pruefungen.prüfeÄnderungen(weg.wurzel, leser, bühne)
     weg.schau()
     return befunde
