@@ -179,10 +179,6 @@ Unberührt vergleiche(const std::vector<Feldzeichen>& alt, std::u32string_view j
     while (vorn < kürzere - hinten && gleich(vorn, vorn)) {
         ++vorn;
     }
-    // a change elsewhere than at the cursor (undo)
-    while (vorn + hinten < kürzere && gleich(alt.size() - 1 - hinten, jetzt.size() - 1 - hinten)) {
-        ++hinten;
-    }
     return {vorn, hinten};
 }
 

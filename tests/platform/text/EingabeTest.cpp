@@ -94,6 +94,8 @@ TEST(Feldeingabe, WasNiemandAngefasstHatBleibtAufsByte)
         {alt, U"a\u00A0b\tc漢\u0081\nd", 6, alt, 5},
         {alt, U"", 0, "", 0},
         {"aaaa", U"aaaxa", 4, "aaaxa", 4},
+        {"unten", U"n", 1, "n", 1}, // typed over the whole text: the cursor stands behind it
+        {"unten", U"", 0, "", 0},
         {"u", U"u\u0308", 2, "\xFC", 1},
         {"c", U"c\u0301", 2, "c", 1},
     };
