@@ -12,7 +12,7 @@
 
 namespace {
 
-Etikett* formeTitel(Etikett* titel, const std::string& text)
+Etikett* formeTitel(Etikett* titel)
 {
     titel->brichAmBindestrich();
     titel->setFont(schrift(Schriftrolle::Spaltenkopf));
@@ -26,14 +26,13 @@ Etikett* formeTitel(Etikett* titel, const std::string& text)
 
 Etikett* macheTitel(const std::string& text, QWidget* eltern)
 {
-    return text.empty() ? nullptr : formeTitel(new Etikett(alsMehrzeiler(text), eltern), text);
+    return text.empty() ? nullptr : formeTitel(new Etikett(alsMehrzeiler(text), eltern));
 }
 
 Etikett* macheTitel(const Tabellenspalte& spalte, Ansicht& ansicht, QWidget* eltern)
 {
     return spalte.kopf == nullptr ? macheTitel(spalte.titel, eltern)
-                                  : formeTitel(dynamic_cast<Etikett*>(zeichneElement(*spalte.kopf, ansicht, eltern)),
-                                               spalte.kopf->text());
+                                  : formeTitel(dynamic_cast<Etikett*>(zeichneElement(*spalte.kopf, ansicht, eltern)));
 }
 
 } // namespace
