@@ -274,10 +274,10 @@ class Bühne:
 
     @contextlib.contextmanager
     def neues_fenster(self):
-        """What happens inside brings up another window, which then has the keyboard."""
+        """What happens inside brings up another window, which then has the keyboard (the frame may have it between)."""
         vorher = self.fokusfenster()
         yield
-        warte(lambda: self.fokusfenster_des_programms() not in ("", vorher), "kein neues Fenster")
+        warte(lambda: self.fokusfenster_des_programms() not in ("", vorher, self.rahmen), "kein neues Fenster")
 
     def warte_auf_fenster(self, fenster):
         warte(lambda: self.fokusfenster_des_programms() == fenster, "das Fenster bekommt die Tastatur nicht")

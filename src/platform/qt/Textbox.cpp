@@ -166,8 +166,10 @@ void Textblock::übertrage()
 
 void Textblock::keyPressEvent(QKeyEvent* ereignis)
 {
-    const bool istKombination = (ereignis->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-    const bool istAltGr = ereignis->modifiers().testFlag(Qt::ControlModifier) && ereignis->modifiers().testFlag(Qt::AltModifier);
+    const bool istKombination =
+        (ereignis->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+    const bool istAltGr =
+        ereignis->modifiers().testFlag(Qt::ControlModifier) && ereignis->modifiers().testFlag(Qt::AltModifier);
     const auto text = ereignis->text();
     const bool istZeichen = !text.isEmpty() && text.front().unicode() >= 0x20 && text.front().unicode() != 0x7F;
     if (istZeichen && (!istKombination || istAltGr)) {

@@ -198,9 +198,14 @@ void OberflächeOhne::gib(Bildschirm& bildschirm, const Tastendruck& druck)
 void OberflächeOhne::drücke(const Tastendruck& druck)
 {
     m_zustand->ablauf.ereignis([&] {
-        if (m_offeneListe.istOffen()) {
+        auto* bildschirm = tastaturbildschirm(m_zustand->folge, m_tastaturbildschirm);
+        if (bildschirm == nullptr) {
+            return;
+        }
+        if (m_offeneListe.istOffenAn(bildschirm->fokus())) {
             m_offeneListe.taste({druck.art, 0, druck.umschalt, druck.strg, druck.alt});
-        } else if (auto* bildschirm = tastaturbildschirm(m_zustand->folge, m_tastaturbildschirm)) {
+        } else {
+            m_offeneListe.schließe();
             gib(*bildschirm, druck);
         }
     });

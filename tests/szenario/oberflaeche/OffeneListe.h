@@ -7,7 +7,7 @@
 /// The list of a combo box while it is open: a highlight that the keys move, and that nothing follows until Return.
 class OffeneListe {
 public:
-    bool istOffen() const { return m_feld != nullptr; }
+    bool istOffenAn(const Element* element) const { return m_feld != nullptr && m_feld == element; }
     void öffne(Auswahlfeld& feld);
     void schließe() { m_feld = nullptr; }
     /// Every key is the list's while it is open.
