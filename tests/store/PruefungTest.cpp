@@ -1,6 +1,6 @@
 #include "store/Pruefung.h"
 
-#include "daten/Musterdaten.h"
+#include "app/muster/Musterdaten.h"
 #include "hilfen/Platte.h"
 #include "hilfen/Testumgebung.h"
 #include "platform/text/Text.h"
