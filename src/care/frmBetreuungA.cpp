@@ -4,8 +4,8 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/Vorgang.h"
 #include "satz/moHelferlein.h"
+#include "store/Vorgang.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>

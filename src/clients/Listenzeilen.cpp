@@ -1,8 +1,8 @@
 #include "clients/Listenzeilen.h"
 
 #include "platform/text/Text.h"
-#include "store/Lesestand.h"
 #include "satz/moHelferlein.h"
+#include "store/Lesestand.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>
@@ -32,8 +32,8 @@ std::string idText(std::string_view id)
 std::vector<std::string> klientenzeilen()
 {
     std::vector<std::string> zeilen;
-    zustand().bestand.fürJedeZeile(
-        Tabelle::Kern, [&](std::string_view satz, std::size_t) { zeilen.push_back(klientenzeile(satz)); });
+    zustand().bestand.fürJedeZeile(Tabelle::Kern,
+                                   [&](std::string_view satz, std::size_t) { zeilen.push_back(klientenzeile(satz)); });
     return zeilen;
 }
 

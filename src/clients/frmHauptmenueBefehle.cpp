@@ -1,9 +1,9 @@
 #include "clients/frmHauptmenue.h"
 
 #include "platform/text/Zahl.h"
+#include "satz/moHelferlein.h"
 #include "store/Sicherungen.h"
 #include "store/Vorgang.h"
-#include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
 #include <limits>

@@ -52,7 +52,8 @@ std::string ordnertext()
 {
     const auto& daten = zustand().pfade.daten;
     return verbinde("Ordner der Daten: "_t, umbrochen(pfadtext(daten)), "\r\nStand beim Start dieser Sitzung: "_t,
-                    umbrochen(pfadtext(daten / "*.bak")), "\r\nFrühere Stände: "_t, umbrochen(pfadtext(daten / "Sicherungen")));
+                    umbrochen(pfadtext(daten / "*.bak")), "\r\nFrühere Stände: "_t,
+                    umbrochen(pfadtext(daten / "Sicherungen")));
 }
 
 } // namespace

@@ -13,8 +13,8 @@ int jahrVon(std::string_view datum, int feld, std::string_view bezeichnung)
     constexpr std::size_t stellen = 4;
     const auto jahr = leseGanzzahl16(datum.substr(datum.size() - std::min(datum.size(), stellen)));
     if (!jahr) {
-        throw Laufzeitfehler(
-            verbinde("Feld "_t, std::to_string(feld), ": Das Datum \""_t, datum, "\" der Betreuung "_t, bezeichnung, " hat keine Jahreszahl."_t));
+        throw Laufzeitfehler(verbinde("Feld "_t, std::to_string(feld), ": Das Datum \""_t, datum, "\" der Betreuung "_t,
+                                      bezeichnung, " hat keine Jahreszahl."_t));
     }
     return *jahr;
 }

@@ -24,8 +24,8 @@ std::filesystem::path arbeitsordner()
 
 Importlauf::Importlauf(std::filesystem::path kernAlt, std::filesystem::path betreuungenAlt)
     : m_kernAlt(std::move(kernAlt)), m_betreuungenAlt(std::move(betreuungenAlt)),
-      m_ordner(arbeitsordner()), m_tabellen{datei("KernDat.txt"), datei("BetrDat.txt"),
-                                                                         datei("DiagDat.txt"), datei("dummyDat.txt")}
+      m_ordner(arbeitsordner()), m_tabellen{datei("KernDat.txt"), datei("BetrDat.txt"), datei("DiagDat.txt"),
+                                            datei("dummyDat.txt")}
 {}
 
 Importzahlen Importlauf::führeAus()
@@ -85,4 +85,3 @@ void Importlauf::führeStufenAus() const
     nachSchritt();
     beiSchritt("Bereit"_t, 5);
 }
-

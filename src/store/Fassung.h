@@ -46,7 +46,7 @@ private:
     Tabelle m_tabelle;
     std::filesystem::path m_pfad;
     std::unique_ptr<Dateiinhalt> m_inhalt;
-    std::deque<std::string> m_neue;          ///< owns the texts of new lines
-    std::vector<std::string_view> m_anhang;  ///< new lines at the end, while the table is in one piece
+    std::deque<std::string> m_neue;         ///< owns the texts of new lines
+    std::vector<std::string_view> m_anhang; ///< new lines at the end, while the table is in one piece
     std::optional<std::vector<Zeile>> m_zeilen;
 };

@@ -56,8 +56,7 @@ std::int32_t leseSchlüssel(std::string_view zeile, int feld, int bits, const fs
     return *zahl;
 }
 
-Zeilenschlüssel leseSchlüsselDerZeile(Tabelle tabelle, std::string_view zeile, const fs::path& pfad,
-                                      std::size_t nummer)
+Zeilenschlüssel leseSchlüsselDerZeile(Tabelle tabelle, std::string_view zeile, const fs::path& pfad, std::size_t nummer)
 {
     if (tabelle == Tabelle::Kern) {
         return {leseSchlüssel(zeile, 2, 16, pfad, nummer), 0};
@@ -143,8 +142,7 @@ std::string Lesestand::ortVon(Tabelle tabelle, const Satzschlüssel& schlüssel)
     std::string ort = verbinde("\""_t, pfadtext(m_pfade.von(tabelle)), "\""_t);
     try {
         laufe(tabelle, [&](std::string_view zeile, std::size_t nummer) {
-            const bool trifft =
-                leseSchlüsselDerZeile(tabelle, zeile, m_pfade.von(tabelle), nummer).passtZu(schlüssel);
+            const bool trifft = leseSchlüsselDerZeile(tabelle, zeile, m_pfade.von(tabelle), nummer).passtZu(schlüssel);
             if (trifft) {
                 ort = ortsangabe(m_pfade.von(tabelle), nummer);
             }

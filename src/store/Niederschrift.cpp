@@ -130,10 +130,11 @@ void legeBeiseite(Dateien& dateien, const Bestandspfade& pfade, const Bestandsme
     }
     dateien.sichereOrdner(ordner);
     dateien.lösche(pfade.vorgang);
-    meldung(verbinde("Die letzte Eingabe war gespeichert, aber noch nicht in allen Tabellen, und die Tabellen wurden "
-                     "seither von anderer Hand verändert. Sie bleiben, wie sie sind. Der gespeicherte Stand liegt in \""_t,
-                     pfadtext(ordner), "\"."_t),
-            Symbol::Stop);
+    meldung(
+        verbinde("Die letzte Eingabe war gespeichert, aber noch nicht in allen Tabellen, und die Tabellen wurden "
+                 "seither von anderer Hand verändert. Sie bleiben, wie sie sind. Der gespeicherte Stand liegt in \""_t,
+                 pfadtext(ordner), "\"."_t),
+        Symbol::Stop);
 }
 
 void vollende(Dateien& dateien, const Bestandspfade& pfade, const std::vector<Vermerk>& vermerke,

@@ -76,7 +76,8 @@ std::optional<std::vector<Vermerk>> leseVermerke(std::string_view text, const Be
     }
     for (auto anfang = zeilen.position(); const auto zeile = zeilen.nächste(); anfang = zeilen.position()) {
         if (getFeldMit(*zeile, 1, ';') == schlußwort) {
-            const bool istGanz = zahlAus(getFeldMit(*zeile, 2, ';'), hexadezimal) == Prüfsumme::von(text.substr(0, anfang));
+            const bool istGanz =
+                zahlAus(getFeldMit(*zeile, 2, ';'), hexadezimal) == Prüfsumme::von(text.substr(0, anfang));
             return istGanz ? std::optional(vermerke) : std::nullopt;
         }
         const auto vermerk = vermerkAus(*zeile, pfade);

@@ -39,8 +39,8 @@ std::set<std::string> reste(const Plattenstand& stand)
 {
     std::set<std::string> reste;
     for (const auto& [pfad, text] : stand.dateien) {
-        if (pfad.extension() == ".neu" || pfad == pfade().vorgang || pfad.parent_path().filename() == "importDummyVerz" ||
-            pfad.parent_path().extension() == ".neu") {
+        if (pfad.extension() == ".neu" || pfad == pfade().vorgang ||
+            pfad.parent_path().filename() == "importDummyVerz" || pfad.parent_path().extension() == ".neu") {
             reste.insert(pfad.string());
         }
     }
@@ -73,7 +73,8 @@ std::string befunde(Platte& platte)
     Dateien dateien(std::make_unique<Plattenzugriff>(platte));
     std::string zeilen;
     for (const auto& befund : prüfeBestand(dateien, pfade()).befunde) {
-        zeilen += befund.istHinweis() || istAlterRest(befund) ? std::string() : alsBerichtszeile(befund, pfade()) + '\n';
+        zeilen +=
+            befund.istHinweis() || istAlterRest(befund) ? std::string() : alsBerichtszeile(befund, pfade()) + '\n';
     }
     return zeilen;
 }
@@ -187,7 +188,8 @@ TEST_P(AusfallTest, AbgebrochenUndWiederAngelaufen)
     Versuch versuch(GetParam());
     const auto sicherungen = sicherungstexte(versuch.platte.stand());
     int punkte = 0;
-    const auto stellen = schnappschüsse(versuch.platte, [&] { versuch.handle(); }, punkte);
+    const auto stellen = schnappschüsse(
+        versuch.platte, [&] { versuch.handle(); }, punkte);
     int wiederanläufe = 0;
     std::set<Plattenstand> erholte;
     for (const auto& stelle : stellen) {
@@ -197,9 +199,11 @@ TEST_P(AusfallTest, AbgebrochenUndWiederAngelaufen)
         // and the start that follows is broken off itself, at every operation
         Platte platte(stelle.stand);
         Plattenlauf lauf(platte);
-        for (const auto& zweite : schnappschüsse(platte, [&] { lauf.starte(); }, wiederanläufe)) {
+        for (const auto& zweite : schnappschüsse(
+                 platte, [&] { lauf.starte(); }, wiederanläufe)) {
             if (erholte.insert(zweite.stand).second) {
-                erwarteGanz(nachStart(zweite.stand, stelle.ort + ", then " + zweite.ort), stelle.ort + ", then " + zweite.ort);
+                erwarteGanz(nachStart(zweite.stand, stelle.ort + ", then " + zweite.ort),
+                            stelle.ort + ", then " + zweite.ort);
             }
         }
     }
@@ -260,7 +264,8 @@ TEST(Wiederanlauf, FremdeTabellenWerdenNichtÜberschrieben)
     Versuch versuch(handlung);
     int punkte = 0;
     std::optional<Plattenstand> mitVermerk;
-    for (const auto& stelle : schnappschüsse(versuch.platte, [&] { versuch.handle(); }, punkte)) {
+    for (const auto& stelle : schnappschüsse(
+             versuch.platte, [&] { versuch.handle(); }, punkte)) {
         const auto& dateien = stelle.stand.dateien;
         if (dateien.contains(pfade().vorgang) && dateien.contains(pfade().daten / "betrDat.txt.neu") && !mitVermerk) {
             mitVermerk = stelle.stand;

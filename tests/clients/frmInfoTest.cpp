@@ -33,7 +33,7 @@ TEST(frmInfoTest, EinLangerPfadWirdUmbrochen)
     const auto teil = std::string(40, 'a') + "/";
     EXPECT_EQ(pfadzeilen("/" + teil + teil + std::string(150, 'b')),
               (std::vector<std::string>{"/" + teil, teil, std::string(60, 'b'), std::string(60, 'b'),
-                                        std::string(30, 'b') + "/", "Daten"}));
+                                        std::string(30, 'b') + "/Daten"}));
 }
 
 } // namespace

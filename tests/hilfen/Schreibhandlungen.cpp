@@ -51,7 +51,8 @@ void legeBestand(Platte& platte, const Pfade& pfade)
     lege(platte, pfade.betrDat,
          {betreuung("1", "1", "01.01.2005", "31.12.2005"), betreuung("2", "1", "01.01.2005", "31.12.2005"),
           betreuung("2", "2", "01.02.2006", "28.02.2006")});
-    lege(platte, pfade.diagDat, {diagnose("1", "1"), diagnose("2", "1"), diagnose("2", "2"), diagnose("2", "9", "alt")});
+    lege(platte, pfade.diagDat,
+         {diagnose("1", "1"), diagnose("2", "1"), diagnose("2", "2"), diagnose("2", "9", "alt")});
     lege(platte, pfade.kernBak, {klient("1"), klient("9")});
     lege(platte, pfade.betrBak, {betreuung("9", "1", "01.01.2004", "31.12.2004")});
     lege(platte, pfade.diagBak, {diagnose("9", "1")});
@@ -60,8 +61,8 @@ void legeBestand(Platte& platte, const Pfade& pfade)
 
 void legeAltesAn(Platte& platte, const Pfade& pfade)
 {
-    for (const auto* pfad : {&pfade.kernDat, &pfade.betrDat, &pfade.diagDat, &pfade.kernBak, &pfade.betrBak,
-                             &pfade.diagBak, &pfade.ini}) {
+    for (const auto* pfad :
+         {&pfade.kernDat, &pfade.betrDat, &pfade.diagDat, &pfade.kernBak, &pfade.betrBak, &pfade.diagBak, &pfade.ini}) {
         platte.lege(*pfad, "");
     }
     lege(platte, pfade.programm / "alt" / "kernDat.txt", {altKlient(1), altKlient(2)});

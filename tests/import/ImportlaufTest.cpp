@@ -2,8 +2,8 @@
 #include "hilfen/Textdatei.h"
 #include "import/Importfall.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/Niederschrift.h"
 #include "satz/moHelferlein.h"
+#include "store/Niederschrift.h"
 
 namespace {
 
@@ -97,7 +97,8 @@ TEST_F(ImportlaufTest, StatusKommtAusDerBestehendenTabelle)
                                                     "2\xB7"
                                                     "01.01.2000\xB7"
                                                     "01.01.2001"});
-    const Texte erwartet{lauf.stand.bestand.betrStatusVon("1"), lauf.stand.bestand.betrStatusVon("2"), lauf.stand.bestand.betrStatusVon("3")};
+    const Texte erwartet{lauf.stand.bestand.betrStatusVon("1"), lauf.stand.bestand.betrStatusVon("2"),
+                         lauf.stand.bestand.betrStatusVon("3")};
     altdaten({altKlient(1), altKlient(2), altKlient(3)}, {altBetreuung(1, 1), altBetreuung(2, 1), altBetreuung(3, 1)});
     importiere();
     Texte gefunden;

@@ -109,8 +109,8 @@ bool gelingt(const Aufruf& aufruf, Oberfläche& oberfläche)
     const auto fehler = irrgang.gehe(aufruf.schritte);
     schreibeMitschrift(irrgang, aufruf.mitschrift, !fehler);
     std::cout << (fehler ? "FEHLER" : "ok") << " Oberfläche " << oberfläche.name() << ", Saat " << aufruf.saat
-              << ", Schritt " << irrgang.gegangen() << ", " << irrgang.gespeichert() << " mal gespeichert, " << irrgang.gestorben() << " mal beim Schreiben getötet"
-              << std::endl;
+              << ", Schritt " << irrgang.gegangen() << ", " << irrgang.gespeichert() << " mal gespeichert, "
+              << irrgang.gestorben() << " mal beim Schreiben getötet" << std::endl;
     if (fehler) {
         std::cout << *fehler << "\nDie letzten Schritte:\n";
         irrgang.mitschrift().gibAus(std::cout, gezeigteSchritte);

@@ -1,8 +1,8 @@
 #include "hilfen/Testumgebung.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/moHelferlein.h"
 #include "store/moBereinigeBetrOA.h"
 #include "store/moBereinigeDatum.h"
-#include "satz/moHelferlein.h"
 
 namespace {
 

@@ -27,8 +27,7 @@ void Schaltfläche::setzeText(std::string_view text)
 
 bool Schaltfläche::taste(const Taste& taste)
 {
-    const bool drückt =
-        taste.art == Taste::Art::Eingabe || (taste.art == Taste::Art::Zeichen && taste.zeichen == ' ');
+    const bool drückt = taste.art == Taste::Art::Eingabe || (taste.art == Taste::Art::Zeichen && taste.zeichen == ' ');
     if (!drückt) {
         return false;
     }

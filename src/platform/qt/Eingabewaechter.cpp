@@ -207,8 +207,7 @@ bool Eingabewächter::beiTaste(QWidget& widget, const QKeyEvent& ereignis)
         return false;
     }
     const bool drückt = taste->art == Taste::Art::Zeichen || taste->art == Taste::Art::Eingabe;
-    if (ereignis.isAutoRepeat() && drückt &&
-        dynamic_cast<QAbstractButton*>(feld) != nullptr) {
+    if (ereignis.isAutoRepeat() && drückt && dynamic_cast<QAbstractButton*>(feld) != nullptr) {
         return true; // a key that is held down presses once
     }
     if (taste->art == Taste::Art::Zeichen && taste->zeichen == 0) {

@@ -124,7 +124,8 @@ TEST(Handbuchtext, EveryMessageIsExplained)
     const auto text = handbuch().simplified().remove(QLatin1Char('\\'));
     int geprüfte = 0;
     for (const auto& quelle : quelltexte()) {
-        for (const auto& aufruf : treffer(quelle, "(?:zeigeMeldung|frage =|meldeNichtsVerändert|melde\\(verbinde|meldung\\()\\s*\\(?([^;]*);")) {
+        for (const auto& aufruf : treffer(
+                 quelle, "(?:zeigeMeldung|frage =|meldeNichtsVerändert|melde\\(verbinde|meldung\\()\\s*\\(?([^;]*);")) {
             QString längstes;
             for (auto stück : treffer(aufruf, "\"((?:[^\"\\\\]|\\\\.)*)\"")) {
                 stück.replace(QStringLiteral("\\\""), QStringLiteral("\""));

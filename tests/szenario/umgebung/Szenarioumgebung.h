@@ -1,7 +1,7 @@
 #pragma once
 
-#include "umgebung/Scheitern.h"
 #include "platform/dateien/Dateien.h"
+#include "umgebung/Scheitern.h"
 #include "umgebung/Sperrzugriff.h"
 
 #include "platform/mappe/Arbeitsmappe.h"
