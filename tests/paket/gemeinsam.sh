@@ -35,7 +35,8 @@ warte_auf() {
 # An ordinary user with a home and a temporary folder of his own; `als_nutzer` runs a command as that user.
 heim=$werk/heim
 mkdir "$heim" "$werk/tmp"
-nutzer=(env -i "PATH=$PATH" "HOME=$heim" "TMPDIR=$werk/tmp" LANG=de_DE.UTF-8)
+# No session bus: where one is started by itself, the first window waits for its services.
+nutzer=(env -i "PATH=$PATH" "HOME=$heim" "TMPDIR=$werk/tmp" LANG=de_DE.UTF-8 DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent)
 if [ "$(id -u)" -eq 0 ]; then
     chown 65534:65534 "$heim" "$werk/tmp"
     nutzer=(setpriv --reuid=65534 --regid=65534 --clear-groups --inh-caps=-all --bounding-set=-all "${nutzer[@]}")

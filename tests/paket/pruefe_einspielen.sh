@@ -11,8 +11,9 @@ projekt=$hier/../..
     grep -qx "$(sha256sum "$datei")" ausgeliefert.sha256 || scheitere "not in ausgeliefert.sha256: $datei"
 done) || exit 1
 
-mkdir "$werk/projekt" "$werk/projekt/werkzeug"
+mkdir -p "$werk/projekt/werkzeug" "$werk/projekt/docs"
 cp -R "$projekt/anweisungen" "$werk/projekt/"
+cp -R "$projekt/docs/handbuch" "$werk/projekt/docs/"
 cp "$projekt/werkzeug/einspielen.sh" "$werk/projekt/werkzeug/"
 spiele_ein() {
     erwarte "it can be installed" "$werk/projekt/werkzeug/einspielen.sh" "$werk/programm" "$werk/ordner"
