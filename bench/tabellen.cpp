@@ -117,7 +117,7 @@ void geänderteBetreuung(benchmark::State& stand)
 void neueBetreuung(benchmark::State& stand)
 {
     const auto kopie = öffne(bestand(), letzterKlient);
-    int betrID = letzteBetreuung;
+    static int betrID = letzteBetreuung;
     messeVerhältnis(stand, 1.3, kopiereDieDrei, [&] { speichere(bestand(), kopie, ++betrID, true); });
 }
 
@@ -126,7 +126,7 @@ void gelöschterKlient(benchmark::State& stand)
 {
     constexpr int betreuungen = 10;
     constexpr int weitereBetreuungen = 100; // beyond those that other measurements add
-    int klient = letzterKlient;
+    static int klient = letzterKlient; // each client can be deleted once, however often the measurement is begun
     const auto bereiteVor = [&] {
         --klient;
         Vorgang vorgang(bestand());
@@ -163,7 +163,7 @@ void start(benchmark::State& stand)
 {
     Verhältnis verhältnis;
     const auto kopie = öffne(bestand(), 1);
-    int betrID = 1000;
+    static int betrID = 1000;
     for (auto _ : stand) {
         speichere(bestand(), kopie, ++betrID, true);
         verhältnis.grenze += stoppe(kopiereAlleSechs);

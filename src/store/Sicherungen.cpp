@@ -22,13 +22,20 @@ fs::path mitEndung(fs::path ordner)
     return ordner;
 }
 
-/// The content of the .bak files; empty for one that is not there.
-std::array<std::string, 3> inhaltDerBak(const Bestand& bestand)
+/// The contents of three files; nothing for one that is not there.
+using Dreierinhalt = std::array<std::unique_ptr<Dateiinhalt>, 3>;
+
+std::string_view textVon(const std::unique_ptr<Dateiinhalt>& inhalt)
 {
-    std::array<std::string, 3> inhalte;
+    return inhalt ? inhalt->text() : std::string_view();
+}
+
+Dreierinhalt inhaltDerBak(const Bestand& bestand)
+{
+    Dreierinhalt inhalte;
     for (std::size_t i = 0; i < dieSicherungen.size(); ++i) {
         if (!bestand.dateien().fehlt(bestand.pfade().von(dieSicherungen[i]))) {
-            inhalte[i] = bestand.inhalt(dieSicherungen[i])->text();
+            inhalte[i] = bestand.inhalt(dieSicherungen[i]);
         }
     }
     return inhalte;
@@ -47,12 +54,12 @@ std::string zeitDerBak(const Bestand& bestand)
     return zeit;
 }
 
-bool liegtSchonDa(const Bestand& bestand, const fs::path& ordner, const std::array<std::string, 3>& inhalte)
+bool liegtSchonDa(const Bestand& bestand, const fs::path& ordner, const Dreierinhalt& inhalte)
 {
     auto& dateien = bestand.dateien();
     for (std::size_t i = 0; i < dieSicherungen.size(); ++i) {
         const auto kopie = ordner / bestand.pfade().von(dieSicherungen[i]).filename();
-        if (!dateien.istDatei(kopie) || dateien.lies(kopie)->text() != inhalte[i]) {
+        if (!dateien.istDatei(kopie) || dateien.lies(kopie)->text() != textVon(inhalte[i])) {
             return false;
         }
     }
@@ -60,7 +67,7 @@ bool liegtSchonDa(const Bestand& bestand, const fs::path& ordner, const std::arr
 }
 
 /// A name for the set that no other set has.
-fs::path freierOrdner(const Bestand& bestand, const std::array<std::string, 3>& inhalte)
+fs::path freierOrdner(const Bestand& bestand, const Dreierinhalt& inhalte)
 {
     const auto zeit = zeitDerBak(bestand);
     auto ordner = bestand.pfade().sicherungen / zeit;
@@ -70,12 +77,13 @@ fs::path freierOrdner(const Bestand& bestand, const std::array<std::string, 3>& 
     return ordner;
 }
 
-/// Sets the .bak files aside when they hold records other than `neue`. The set comes under its name when it is whole.
-void stelleBakBeiseite(const Bestand& bestand, const std::array<std::string, 3>& neue)
+/// Sets the .bak files with these contents aside when they hold records other than `neue`. The set comes under its name
+/// when it is whole.
+void stelleBakBeiseite(const Bestand& bestand, const Dreierinhalt& inhalte, const Dreierinhalt& neue)
 {
     auto& dateien = bestand.dateien();
-    const auto inhalte = inhaltDerBak(bestand);
-    if (inhalte == neue || std::ranges::all_of(inhalte, &std::string::empty)) {
+    if (std::ranges::equal(inhalte, neue, {}, textVon, textVon) ||
+        std::ranges::all_of(inhalte, [](const auto& inhalt) { return textVon(inhalt).empty(); })) {
         return;
     }
     const auto ordner = freierOrdner(bestand, inhalte);
@@ -154,9 +162,9 @@ void entferneAngefangeneSicherungen(Dateien& dateien, const Bestandspfade& pfade
 void sichereDateien(const Bestand& bestand)
 {
     Vorgang vorgang(bestand);
-    std::array<std::string, 3> neue;
+    Dreierinhalt neue;
     for (std::size_t i = 0; i < dieTabellen.size(); ++i) {
-        neue[i] = bestand.inhalt(dieTabellen[i])->text();
+        neue[i] = bestand.inhalt(dieTabellen[i]);
         const auto& bak = bestand.pfade().von(dieSicherungen[i]);
         // a folder without the file of an earlier backup has been tampered with; going on could overwrite what
         // somebody has moved aside
@@ -164,9 +172,11 @@ void sichereDateien(const Bestand& bestand)
             throw Laufzeitfehler(verbinde("Die Sicherungsdatei \""_t, pfadtext(bak), "\" fehlt"_t));
         }
     }
-    stelleBakBeiseite(bestand, neue);
+    auto alte = inhaltDerBak(bestand);
+    stelleBakBeiseite(bestand, alte, neue);
     for (std::size_t i = 0; i < dieTabellen.size(); ++i) {
-        vorgang.setzeInhalt(dieSicherungen[i], std::move(neue[i]));
+        vorgang.setzeInhalt(dieSicherungen[i], std::move(neue[i]), textVon(alte[i]).size());
+        alte[i].reset();
     }
     vorgang.bestätige();
     kürzeSicherungen(bestand.dateien(), bestand.pfade().sicherungen);
@@ -187,10 +197,10 @@ void legeTabellenAn(const Bestand& bestand)
     if (!dateien.istOrdner(bestand.pfade().daten)) {
         dateien.legeOrdnerAn(bestand.pfade().daten);
     }
-    stelleBakBeiseite(bestand, {});
+    stelleBakBeiseite(bestand, inhaltDerBak(bestand), {});
     Vorgang vorgang(bestand);
     for (const auto tabelle : alleSechs) {
-        vorgang.setzeInhalt(tabelle, {});
+        vorgang.setzeInhalt(tabelle, std::string());
     }
     vorgang.bestätige();
 }

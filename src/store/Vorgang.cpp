@@ -106,8 +106,13 @@ void Vorgang::setzeInhalt(Tabelle tabelle, std::string inhalt)
     if (!dateien.fehlt(pfad)) {
         alteLänge = dateien.lies(pfad)->text().size();
     }
+    setzeInhalt(tabelle, std::make_unique<Dateiinhalt>(std::move(inhalt)), alteLänge);
+}
+
+void Vorgang::setzeInhalt(Tabelle tabelle, std::unique_ptr<Dateiinhalt> inhalt, std::optional<std::uint64_t> alteLänge)
+{
     m_änderungen.erase(tabelle);
-    m_änderungen.try_emplace(tabelle, tabelle, pfad, std::make_unique<Dateiinhalt>(std::move(inhalt)), alteLänge);
+    m_änderungen.try_emplace(tabelle, tabelle, pfade().von(tabelle), std::move(inhalt), alteLänge);
 }
 
 void Vorgang::laufe(Tabelle tabelle, const Zeilenbesuch& besuch) const

@@ -47,14 +47,24 @@ bool brauchtReparatur(std::string_view zeile, std::span<const Datumsfeldstelle> 
         stellen, [&](const auto& s) { return istGanz(zeile, s) && brauchtReparatur(getFeld(zeile, s.feld)); });
 }
 
-bool brauchtReparatur(const Bestand& bestand, Tabelle tabelle, std::span<const Datumsfeldstelle> stellen)
+/// What the repair wants to know of a table, in one walk.
+struct Tabellenbefund {
+    std::string ersteZeile;
+    bool brauchtReparatur = false;
+};
+
+/// An empty first line ends the walk through the clients: then nothing is repaired.
+Tabellenbefund besieh(const Bestand& bestand, Tabelle tabelle, std::span<const Datumsfeldstelle> stellen)
 {
-    bool braucht = false;
-    bestand.laufe(tabelle, [&](std::string_view zeile, std::size_t) {
-        braucht = brauchtReparatur(zeile, stellen);
-        return !braucht;
+    Tabellenbefund befund;
+    bestand.laufe(tabelle, [&](std::string_view zeile, std::size_t nummer) {
+        if (nummer == 1) {
+            befund.ersteZeile = zeile;
+        }
+        befund.brauchtReparatur = brauchtReparatur(zeile, stellen);
+        return !befund.brauchtReparatur && !(tabelle == Tabelle::Kern && befund.ersteZeile.empty());
     });
-    return braucht;
+    return befund;
 }
 
 /// Years 0 to 8 were written in this century when the four digits came in.
@@ -99,29 +109,23 @@ void repariere(const Bestand& bestand, Vorgang& vorgang, Tabelle tabelle, std::s
     vorgang.setzeInhalt(tabelle, std::move(inhalt));
 }
 
-std::string ersteZeile(const Bestand& bestand, Tabelle tabelle)
-{
-    return std::string(Tabellenleser(bestand, tabelle).nächste().value_or(std::string_view()));
-}
-
 } // namespace
 
 std::optional<GefundeneFelder> bereinigeDatum(const Bestand& bestand)
 {
-    const auto klient = ersteZeile(bestand, Tabelle::Kern);
-    if (klient.empty()) {
+    const auto klienten = besieh(bestand, Tabelle::Kern, klientendaten);
+    if (klienten.ersteZeile.empty()) {
         return std::nullopt;
     }
-    const auto betreuung = ersteZeile(bestand, Tabelle::Betr);
-    const GefundeneFelder gefunden{anzahlFelder(klient), anzahlFelder(betreuung.empty() ? klient : betreuung)};
+    const auto betreuungen = besieh(bestand, Tabelle::Betr, betreuungsdaten);
+    const auto& betreuung = betreuungen.ersteZeile.empty() ? klienten.ersteZeile : betreuungen.ersteZeile;
+    const GefundeneFelder gefunden{anzahlFelder(klienten.ersteZeile), anzahlFelder(betreuung)};
 
-    const bool klienten = brauchtReparatur(bestand, Tabelle::Kern, klientendaten);
-    const bool betreuungen = brauchtReparatur(bestand, Tabelle::Betr, betreuungsdaten);
     Vorgang vorgang(bestand);
-    if (klienten) {
+    if (klienten.brauchtReparatur) {
         repariere(bestand, vorgang, Tabelle::Kern, klientendaten);
     }
-    if (betreuungen) {
+    if (betreuungen.brauchtReparatur) {
         repariere(bestand, vorgang, Tabelle::Betr, betreuungsdaten);
     }
     vorgang.bestätige();
