@@ -70,6 +70,16 @@ fenster_da() {
 erwarte_fenster() {
     erwarte "the window \"$1\" appears; there are: $(xwininfo -root -tree)" warte_auf 60 fenster_da "$1"
 }
+# Presses the key in the window until the program has ended: a key that comes before the window has the focus is lost.
+druecke_bis_ende() {
+    local fenster
+    for fenster in $(xdotool search --name "$1" 2>/dev/null); do
+        timeout 2 xdotool windowfocus "$fenster" key "$2" 2>/dev/null
+        [ -e "/proc/$programm/exe" ] || return 0
+    done
+    sleep 0.3
+    [ ! -e "/proc/$programm/exe" ]
+}
 beende_hart() {
     kill -9 "$programm"
     wait "$programm" 2>/dev/null

@@ -112,8 +112,7 @@ start_ordner() {
     # one that is not there may be a slip: asked first, and No is the answer of a hasty Return
     starte "$ordner/Tolvek7/tolvek7" "$heim/vertippt"
     erwarte_fenster "Tolvek7"
-    xdotool search --onlyvisible --name '^Tolvek7$' windowactivate --sync key Return
-    erwarte "the program ends" warte_auf 60 test ! -e "/proc/$programm/exe"
+    erwarte "the program ends" warte_auf 60 druecke_bis_ende '^Tolvek7$' Return
     erwarte "the folder is not made" test ! -e "$heim/vertippt"
     erwarte "the user's Tolvek7 is not made" test ! -e "$heim/Tolvek7"
 
@@ -145,8 +144,7 @@ start_muster() {
     erwarte_fenster "MUSTER – $titel"
     erwarte "the next start removes it" test ! -e "$erster"
     erwarte "there is a new one" test -d "$(musterordner)"
-    xdotool search --onlyvisible --name "^MUSTER" windowactivate --sync key alt+e
-    erwarte "Exit ends the program" warte_auf 60 test ! -e "/proc/$programm/exe"
+    erwarte "Exit ends the program" warte_auf 60 druecke_bis_ende "^MUSTER" alt+e
     erwarte "the folder goes at the end" test -z "$(musterordner)"
     erwarte "real records are not made" test ! -e "$heim/Tolvek7"
 }
