@@ -65,7 +65,8 @@ starte() {
 }
 fenster_da() {
     kill -0 "$programm" 2>/dev/null || scheitere "the program has ended: $(cat "$werk/programm.log")"
-    xwininfo -root -tree | grep -qF "\"$1\""
+    # grep reads to the end: under pipefail a list that is cut short would count as "not there"
+    xwininfo -root -tree | grep -F "\"$1\"" > /dev/null
 }
 erwarte_fenster() {
     erwarte "the window \"$1\" appears; there are: $(xwininfo -root -tree)" warte_auf 60 fenster_da "$1"
