@@ -41,7 +41,7 @@ fi
 # the locales that the tests run under
 [ "$umfang" = alles ] || exit 0
 for gebiet in de_DE tr_TR; do
-    if ! locale -a | grep -qi "^${gebiet}.utf-\?8$"; then
+    if ! locale -a | grep -i "^${gebiet}.utf-\?8$" > /dev/null; then
         "${als_root[@]}" localedef -i "$gebiet" -f UTF-8 "$gebiet.UTF-8"
     fi
 done
