@@ -131,13 +131,8 @@ std::filesystem::path frmExport::richteOrdnerEin(int jahr)
     const auto ordner = exporte / verbinde("DBDD"_t, alsText(jahr));
     bool istNeu = false;
     beimSchreiben([&] {
-        if (!dateien.istOrdner(exporte)) {
-            dateien.legeOrdnerAn(exporte);
-        }
-        istNeu = !dateien.istOrdner(ordner);
-        if (istNeu) {
-            dateien.legeOrdnerAn(ordner);
-        }
+        dateien.sorgeFürOrdner(exporte);
+        istNeu = dateien.sorgeFürOrdner(ordner);
     });
     if (istNeu) {
         return ordner;

@@ -140,9 +140,9 @@ Importzahlen schreibeImportListe(const NeueTabellen& tabellen, const std::filesy
 void ersetzeTabellen(const NeueTabellen& tabellen, const std::function<void()>& davor)
 {
     Vorgang vorgang(zustand().bestand);
-    vorgang.setzeInhalt(Tabelle::Kern, std::string(dateien().lies(tabellen.kernDat)->text()));
-    vorgang.setzeInhalt(Tabelle::Betr, std::string(dateien().lies(tabellen.betrDat)->text()));
-    vorgang.setzeInhalt(Tabelle::Diag, std::string(dateien().lies(tabellen.diagDat)->text()));
+    vorgang.setzeInhalt(Tabelle::Kern, dateien().lies(tabellen.kernDat));
+    vorgang.setzeInhalt(Tabelle::Betr, dateien().lies(tabellen.betrDat));
+    vorgang.setzeInhalt(Tabelle::Diag, dateien().lies(tabellen.diagDat));
     davor();
     vorgang.bestätige();
 }

@@ -15,7 +15,7 @@ class Bestand : public Lesestand {
 public:
     /// Files, paths and door outlive the store; the paths may be filled in later, before the first operation.
     Bestand(Dateien& dateien, const Bestandspfade& pfade, const Bestandsmeldung& meldung)
-        : Lesestand(pfade, meldung), m_dateien(dateien), m_meldung(meldung)
+        : Lesestand(pfade, meldung), m_dateien(dateien)
     {}
 
     void laufe(Tabelle tabelle, const Zeilenbesuch& besuch) const override;
@@ -25,11 +25,9 @@ public:
     std::unique_ptr<Dateiinhalt> inhalt(Tabelle tabelle) const;
 
     Dateien& dateien() const { return m_dateien; }
-    const Bestandsmeldung& meldung() const { return m_meldung; }
 
 private:
     Dateien& m_dateien;
-    const Bestandsmeldung& m_meldung;
 };
 
 /// The lines of a table in file order, as views that hold as long as the reader.

@@ -16,8 +16,20 @@ struct Bruchstück {
     std::size_t nummer; ///< of its line
 };
 
+/// Told by the last byte, so that a start need not read whole tables for this. Whoever reads the table tells that it
+/// is missing.
+bool endetMitZeile(Dateien& dateien, const std::filesystem::path& pfad)
+{
+    const auto länge = dateien.fehlt(pfad) ? 0 : dateien.länge(pfad);
+    const auto letztes = länge == 0 ? nullptr : dateien.lies(pfad, länge - 1);
+    return letztes == nullptr || letztes->text() == "\n" || letztes->text() == "\r";
+}
+
 std::optional<Bruchstück> findeBruchstück(const Bestand& bestand, Tabelle tabelle)
 {
+    if (endetMitZeile(bestand.dateien(), bestand.pfade().von(tabelle))) {
+        return std::nullopt;
+    }
     const auto inhalt = bestand.inhalt(tabelle);
     const auto text = inhalt->text();
     const auto rest = bruchstückIn(text);

@@ -53,6 +53,7 @@ public:
     std::string ortVon(Tabelle tabelle, const Satzschlüssel& schlüssel) const;
 
     const Bestandspfade& pfade() const { return m_pfade; }
+    const Bestandsmeldung& meldung() const { return m_meldung; }
 
 protected:
     void melde(std::string_view text, Symbol symbol) const { m_meldung(text, symbol); }

@@ -12,12 +12,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path mitEndung(fs::path pfad)
-{
-    pfad += ".neu";
-    return pfad;
-}
-
 /// The folders in which the files really lie.
 std::set<fs::path> ordnerVon(Dateien& dateien, const Bestandspfade& pfade, const std::vector<Vermerk>& vermerke)
 {
@@ -49,7 +43,7 @@ void legeVermerkHin(Dateien& dateien, const Bestandspfade& pfade, const std::vec
             dateien.sichereOrdner(ordner); // the names of the new files, where they lie elsewhere
         }
     }
-    const auto entwurf = mitEndung(pfade.vorgang);
+    const auto entwurf = fassungNeben(pfade.vorgang);
     const auto schreiber = dateien.schreibeArbeitsdatei(entwurf);
     schreiber->text(alsVermerktext(vermerke, pfade));
     schreiber->schließe();
@@ -64,7 +58,7 @@ void ersetzeDurchNeue(Dateien& dateien, const Bestandspfade& pfade, const std::v
 {
     for (const auto& vermerk : ausstehende) {
         const auto ziel = dateien.ziel(pfade.von(vermerk.tabelle));
-        dateien.benenneUm(mitEndung(ziel), ziel);
+        dateien.benenneUm(fassungNeben(ziel), ziel);
     }
     for (const auto& ordner : ordnerVon(dateien, pfade, alle)) {
         dateien.sichereOrdner(ordner);
@@ -90,7 +84,7 @@ void verwirfNeue(Dateien& dateien, const Bestandspfade& pfade, const std::vector
     if (!versuche([&] { dateien.entferne(pfade.vorgang); })) {
         return;
     }
-    versuche([&] { dateien.entferne(mitEndung(pfade.vorgang)); });
+    versuche([&] { dateien.entferne(fassungNeben(pfade.vorgang)); });
     for (const auto& auftrag : aufträge) {
         versuche([&] { dateien.entferne(neuNeben(dateien, pfade.von(auftrag.tabelle))); });
     }
@@ -100,11 +94,8 @@ enum class Stand { Ausstehend, Erledigt, Unpassend };
 
 bool passt(Dateien& dateien, const fs::path& pfad, const Vermerk& vermerk)
 {
-    if (!dateien.istDatei(pfad)) {
-        return false;
-    }
-    const auto inhalt = dateien.lies(pfad);
-    return inhalt->text().size() == vermerk.neueLänge && Prüfsumme::von(inhalt->text()) == vermerk.prüfsumme;
+    return dateien.istDatei(pfad) && dateien.länge(pfad) == vermerk.neueLänge &&
+           Prüfsumme::von(dateien.lies(pfad)->text()) == vermerk.prüfsumme;
 }
 
 Stand standVon(Dateien& dateien, const Bestandspfade& pfade, const Vermerk& vermerk)
@@ -113,9 +104,9 @@ Stand standVon(Dateien& dateien, const Bestandspfade& pfade, const Vermerk& verm
     if (passt(dateien, ziel, vermerk)) {
         return Stand::Erledigt;
     }
-    const bool istAlt = dateien.istDatei(ziel) ? dateien.lies(ziel)->text().size() == vermerk.alteLänge
-                                               : !vermerk.alteLänge.has_value();
-    return istAlt && passt(dateien, mitEndung(ziel), vermerk) ? Stand::Ausstehend : Stand::Unpassend;
+    const bool istAlt =
+        dateien.istDatei(ziel) ? dateien.länge(ziel) == vermerk.alteLänge : !vermerk.alteLänge.has_value();
+    return istAlt && passt(dateien, fassungNeben(ziel), vermerk) ? Stand::Ausstehend : Stand::Unpassend;
 }
 
 /// Somebody has put other tables in the place of the old ones since: these count, and what was saved is kept aside.
@@ -123,7 +114,7 @@ void legeBeiseite(Dateien& dateien, const Bestandspfade& pfade, const Bestandsme
 {
     const auto ordner = legeSicherungsordnerAn(dateien, pfade, dateien.zeitVon(pfade.vorgang), " unvollendet"_t);
     for (const auto tabelle : alleSechs) {
-        const auto neu = mitEndung(dateien.ziel(pfade.von(tabelle)));
+        const auto neu = fassungNeben(dateien.ziel(pfade.von(tabelle)));
         if (dateien.istDatei(neu)) {
             dateien.verdopple(neu, ordner / pfade.von(tabelle).filename());
         }
@@ -160,7 +151,7 @@ void vollende(Dateien& dateien, const Bestandspfade& pfade, const std::vector<Ve
 
 fs::path neuNeben(Dateien& dateien, const fs::path& tabelle)
 {
-    return mitEndung(dateien.ziel(tabelle));
+    return fassungNeben(dateien.ziel(tabelle));
 }
 
 void schreibeNieder(Dateien& dateien, const Bestandspfade& pfade, const Bestandsmeldung& meldung,
@@ -200,7 +191,7 @@ void vollendeVorgang(Dateien& dateien, const Bestandspfade& pfade, const Bestand
             dateien.lösche(pfade.vorgang);
         }
     }
-    dateien.entferne(mitEndung(pfade.vorgang));
+    dateien.entferne(fassungNeben(pfade.vorgang));
     for (const auto tabelle : alleSechs) {
         dateien.entferne(neuNeben(dateien, pfade.von(tabelle)));
     }

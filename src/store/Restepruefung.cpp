@@ -56,7 +56,7 @@ void prüfeSicherungen(Dateien& dateien, const Bestandspfade& pfade, const fs::p
         return;
     }
     for (const auto& name : dateien.ordnerIn(pfade.sicherungen)) {
-        if (name.extension() == ".neu") {
+        if (istFassungNeben(name)) {
             befunde.melde(Befundart::SicherungAngefangen, anDatei(pfade.sicherungen / name, wurzel));
         } else if (pfadtext(name).ends_with("unvollendet"_t)) {
             befunde.melde(Befundart::SicherungUnvollendet, anDatei(pfade.sicherungen / name, wurzel));

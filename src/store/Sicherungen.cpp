@@ -13,15 +13,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::size_t aufgehobeneSätze = 10;
-/// A set under this ending is not whole: being made, or on its way out.
-constexpr auto angefangen = ".neu";
-
-fs::path mitEndung(fs::path ordner)
-{
-    ordner += angefangen;
-    return ordner;
-}
-
 /// The contents of three files; nothing for one that is not there.
 using Dreierinhalt = std::array<std::unique_ptr<Dateiinhalt>, 3>;
 
@@ -77,11 +68,11 @@ fs::path freierOrdner(const Bestand& bestand, const Dreierinhalt& inhalte)
     return ordner;
 }
 
-/// Sets the .bak files with these contents aside when they hold records other than `neue`. The set comes under its name
-/// when it is whole.
-void stelleBakBeiseite(const Bestand& bestand, const Dreierinhalt& inhalte, const Dreierinhalt& neue)
+/// Sets the .bak files aside when they hold records other than `neue`. The set comes under its name when it is whole.
+void stelleBakBeiseite(const Bestand& bestand, const Dreierinhalt& neue)
 {
     auto& dateien = bestand.dateien();
+    const auto inhalte = inhaltDerBak(bestand);
     if (std::ranges::equal(inhalte, neue, {}, textVon, textVon) ||
         std::ranges::all_of(inhalte, [](const auto& inhalt) { return textVon(inhalt).empty(); })) {
         return;
@@ -90,7 +81,9 @@ void stelleBakBeiseite(const Bestand& bestand, const Dreierinhalt& inhalte, cons
     if (dateien.istOrdner(ordner)) {
         return; // a start that was broken off has done it
     }
-    const auto entwurf = legeSicherungsordnerAn(dateien, bestand.pfade(), mitEndung(ordner).filename().string(), {});
+    const auto entwurf = fassungNeben(ordner);
+    dateien.sorgeFürOrdner(bestand.pfade().sicherungen);
+    dateien.sorgeFürOrdner(entwurf);
     for (const auto bak : dieSicherungen) {
         const auto& pfad = bestand.pfade().von(bak);
         if (dateien.istDatei(pfad)) {
@@ -111,8 +104,7 @@ std::vector<fs::path> sätzeIn(Dateien& dateien, const fs::path& sicherungen)
         const auto text = pfadtext(name);
         const bool istZeit = text.size() >= längeDerZeit &&
                              text.find_first_not_of("0123456789-. ") >= std::min(text.size(), längeDerZeit);
-        return !istZeit || text.ends_with(angefangen) || text.ends_with("unvollendet"_t) ||
-               text.ends_with("halbe Zeile"_t);
+        return !istZeit || istFassungNeben(name) || text.ends_with("unvollendet"_t) || text.ends_with("halbe Zeile"_t);
     });
     return sätze;
 }
@@ -123,7 +115,7 @@ void kürzeSicherungen(Dateien& dateien, const fs::path& sicherungen)
     try {
         const auto sätze = sätzeIn(dateien, sicherungen);
         for (std::size_t i = 0; i + aufgehobeneSätze < sätze.size(); ++i) {
-            const auto weg = mitEndung(sicherungen / sätze[i]);
+            const auto weg = fassungNeben(sicherungen / sätze[i]); // a set under this name is not whole
             dateien.benenneUm(sicherungen / sätze[i], weg);
             dateien.entferneOrdner(weg);
         }
@@ -138,12 +130,8 @@ fs::path legeSicherungsordnerAn(Dateien& dateien, const Bestandspfade& pfade, st
                                 std::string_view zusatz)
 {
     const auto ordner = pfade.sicherungen / verbinde(zeit, zusatz);
-    if (!dateien.istOrdner(pfade.sicherungen)) {
-        dateien.legeOrdnerAn(pfade.sicherungen);
-    }
-    if (!dateien.istOrdner(ordner)) {
-        dateien.legeOrdnerAn(ordner);
-    }
+    dateien.sorgeFürOrdner(pfade.sicherungen);
+    dateien.sorgeFürOrdner(ordner);
     return ordner;
 }
 
@@ -153,7 +141,7 @@ void entferneAngefangeneSicherungen(Dateien& dateien, const Bestandspfade& pfade
         return;
     }
     for (const auto& name : dateien.ordnerIn(pfade.sicherungen)) {
-        if (name.extension() == angefangen) {
+        if (istFassungNeben(name)) {
             dateien.entferneOrdner(pfade.sicherungen / name);
         }
     }
@@ -172,11 +160,9 @@ void sichereDateien(const Bestand& bestand)
             throw Laufzeitfehler(verbinde("Die Sicherungsdatei \""_t, pfadtext(bak), "\" fehlt"_t));
         }
     }
-    auto alte = inhaltDerBak(bestand);
-    stelleBakBeiseite(bestand, alte, neue);
+    stelleBakBeiseite(bestand, neue);
     for (std::size_t i = 0; i < dieTabellen.size(); ++i) {
-        vorgang.setzeInhalt(dieSicherungen[i], std::move(neue[i]), textVon(alte[i]).size());
-        alte[i].reset();
+        vorgang.setzeInhalt(dieSicherungen[i], std::move(neue[i]));
     }
     vorgang.bestätige();
     kürzeSicherungen(bestand.dateien(), bestand.pfade().sicherungen);
@@ -186,18 +172,15 @@ void verwerfeSitzung(const Bestand& bestand)
 {
     Vorgang vorgang(bestand);
     for (std::size_t i = 0; i < dieTabellen.size(); ++i) {
-        vorgang.setzeInhalt(dieTabellen[i], std::string(bestand.inhalt(dieSicherungen[i])->text()));
+        vorgang.setzeInhalt(dieTabellen[i], bestand.inhalt(dieSicherungen[i]));
     }
     vorgang.bestätige();
 }
 
 void legeTabellenAn(const Bestand& bestand)
 {
-    auto& dateien = bestand.dateien();
-    if (!dateien.istOrdner(bestand.pfade().daten)) {
-        dateien.legeOrdnerAn(bestand.pfade().daten);
-    }
-    stelleBakBeiseite(bestand, inhaltDerBak(bestand), {});
+    bestand.dateien().sorgeFürOrdner(bestand.pfade().daten);
+    stelleBakBeiseite(bestand, {});
     Vorgang vorgang(bestand);
     for (const auto tabelle : alleSechs) {
         vorgang.setzeInhalt(tabelle, std::string());

@@ -100,19 +100,16 @@ void Vorgang::löscheDiagReste(std::int32_t kernID, std::int32_t betrID)
 
 void Vorgang::setzeInhalt(Tabelle tabelle, std::string inhalt)
 {
-    auto& dateien = m_bestand.dateien();
-    const auto& pfad = pfade().von(tabelle);
-    std::optional<std::uint64_t> alteLänge;
-    if (!dateien.fehlt(pfad)) {
-        alteLänge = dateien.lies(pfad)->text().size();
-    }
-    setzeInhalt(tabelle, std::make_unique<Dateiinhalt>(std::move(inhalt)), alteLänge);
+    setzeInhalt(tabelle, std::make_unique<Dateiinhalt>(std::move(inhalt)));
 }
 
-void Vorgang::setzeInhalt(Tabelle tabelle, std::unique_ptr<Dateiinhalt> inhalt, std::optional<std::uint64_t> alteLänge)
+void Vorgang::setzeInhalt(Tabelle tabelle, std::unique_ptr<Dateiinhalt> inhalt)
 {
+    auto& dateien = m_bestand.dateien();
+    const auto& pfad = pfade().von(tabelle);
+    const auto alteLänge = dateien.fehlt(pfad) ? std::nullopt : std::optional(dateien.länge(pfad));
     m_änderungen.erase(tabelle);
-    m_änderungen.try_emplace(tabelle, tabelle, pfade().von(tabelle), std::move(inhalt), alteLänge);
+    m_änderungen.try_emplace(tabelle, tabelle, pfad, std::move(inhalt), alteLänge);
 }
 
 void Vorgang::laufe(Tabelle tabelle, const Zeilenbesuch& besuch) const

@@ -60,8 +60,7 @@ public:
     void löscheDiagReste(std::int32_t kernID, std::int32_t betrID);
     /// The whole content of a file of the store.
     void setzeInhalt(Tabelle tabelle, std::string inhalt);
-    /// The same for one whose present length is known (none: it is not there), without a copy.
-    void setzeInhalt(Tabelle tabelle, std::unique_ptr<Dateiinhalt> inhalt, std::optional<std::uint64_t> alteLänge);
+    void setzeInhalt(Tabelle tabelle, std::unique_ptr<Dateiinhalt> inhalt);
 
     void laufe(Tabelle tabelle, const Zeilenbesuch& besuch) const override;
 

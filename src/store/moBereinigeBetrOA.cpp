@@ -74,8 +74,7 @@ void bereinigeBetrOA(const Bestand& bestand)
         const auto klienten = bestand.inhalt(Tabelle::Kern);
         const auto tafel = statusAusBetreuungen(bestand.inhalt(Tabelle::Betr)->text());
         Vorgang vorgang(bestand);
-        vorgang.setzeInhalt(Tabelle::Kern, std::make_unique<Dateiinhalt>(mitStatusAller(klienten->text(), tafel)),
-                            klienten->text().size());
+        vorgang.setzeInhalt(Tabelle::Kern, mitStatusAller(klienten->text(), tafel));
         vorgang.bestätige();
     } catch (const Laufzeitfehler&) {
         // the status only decorates the list: the table stays as it was, and the next start tries again

@@ -97,13 +97,23 @@ private:
     std::string m_name;
 };
 
-std::unique_ptr<Dateiinhalt> Plattenzugriff::lies(const fs::path& pfad)
+const std::string& Plattenzugriff::inhalt(const fs::path& pfad) const
 {
     const auto ort = m_platte.m_namen.find(pfad);
     if (ort == m_platte.m_namen.end() || !ort->second) {
         scheitere("no such file");
     }
-    return std::make_unique<Dateiinhalt>(ort->second->jetzt);
+    return ort->second->jetzt;
+}
+
+std::unique_ptr<Dateiinhalt> Plattenzugriff::lies(const fs::path& pfad, std::uint64_t ab)
+{
+    return std::make_unique<Dateiinhalt>(inhalt(pfad).substr(static_cast<std::size_t>(ab)));
+}
+
+std::uint64_t Plattenzugriff::länge(const fs::path& pfad)
+{
+    return inhalt(pfad).size();
 }
 
 std::unique_ptr<OffeneDatei> Plattenzugriff::öffne(const fs::path& pfad, Öffnung wie)

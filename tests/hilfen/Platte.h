@@ -72,7 +72,8 @@ class Plattenzugriff : public Dateizugriff {
 public:
     explicit Plattenzugriff(Platte& platte) : m_platte(platte) {}
 
-    std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad) override;
+    std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad, std::uint64_t ab) override;
+    std::uint64_t länge(const std::filesystem::path& pfad) override;
     std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) override;
     void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach) override;
     void lösche(const std::filesystem::path& pfad) override;
@@ -88,5 +89,7 @@ public:
     std::vector<std::filesystem::path> namenIn(const std::filesystem::path& ordner, bool sindOrdner) override;
 
 private:
+    const std::string& inhalt(const std::filesystem::path& pfad) const;
+
     Platte& m_platte;
 };

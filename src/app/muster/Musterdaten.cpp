@@ -227,9 +227,7 @@ void schreibeProgrammordner(const std::filesystem::path& ordner, const Mustertab
 {
     Dateien dateien(erzeugeDateizugriff());
     for (const auto& pfad : {ordner, ordner / "Daten"}) {
-        if (!dateien.istOrdner(pfad)) {
-            dateien.legeOrdnerAn(pfad);
-        }
+        dateien.sorgeFürOrdner(pfad);
     }
     const std::array<std::pair<std::string_view, const std::string*>, 3> namen{
         {{"kernDat", &tabellen.kern}, {"betrDat", &tabellen.betr}, {"diagDat", &tabellen.diag}}};

@@ -39,6 +39,23 @@ void schreibeGanz(OffeneDatei& datei, std::string_view bytes)
 
 } // namespace
 
+namespace {
+
+constexpr auto neueFassung = ".neu";
+
+} // namespace
+
+fs::path fassungNeben(fs::path pfad)
+{
+    pfad += neueFassung;
+    return pfad;
+}
+
+bool istFassungNeben(const fs::path& pfad)
+{
+    return pfad.extension() == neueFassung;
+}
+
 std::string pfadtext(const fs::path& pfad)
 {
     const auto utf8 = pfad.u8string();
@@ -100,9 +117,14 @@ Dateien::Dateien(std::unique_ptr<Dateizugriff> zugriff) : m_zugriff(std::move(zu
 
 Dateien::~Dateien() = default;
 
-std::unique_ptr<Dateiinhalt> Dateien::lies(const fs::path& pfad)
+std::unique_ptr<Dateiinhalt> Dateien::lies(const fs::path& pfad, std::uint64_t ab)
 {
-    return mitNamen("Die Datei kann nicht gelesen werden:"_t, pfad, [&] { return m_zugriff->lies(pfad); });
+    return mitNamen("Die Datei kann nicht gelesen werden:"_t, pfad, [&] { return m_zugriff->lies(pfad, ab); });
+}
+
+std::uint64_t Dateien::länge(const fs::path& pfad)
+{
+    return mitNamen("Die Datei kann nicht gelesen werden:"_t, pfad, [&] { return m_zugriff->länge(pfad); });
 }
 
 Fund Dateien::findet(const fs::path& pfad)
@@ -133,9 +155,7 @@ void Dateien::ersetze(const fs::path& ziel, const fs::path& arbeitsdatei, const 
 void Dateien::kopiereÜber(const fs::path& quelle, const fs::path& ziel)
 {
     const auto inhalt = lies(quelle);
-    auto daneben = ziel;
-    daneben += ".neu";
-    ersetze(ziel, daneben, [&](Schreiber& schreiber) { schreiber.text(inhalt->text()); });
+    ersetze(ziel, fassungNeben(ziel), [&](Schreiber& schreiber) { schreiber.text(inhalt->text()); });
 }
 
 void Dateien::legeLeerAn(const fs::path& pfad)
@@ -196,6 +216,15 @@ void Dateien::legeOrdnerAn(const fs::path& pfad)
         m_zugriff->legeOrdnerAn(pfad);
         m_zugriff->sichereOrdnerAufPlatte(pfad.parent_path());
     });
+}
+
+bool Dateien::sorgeFürOrdner(const fs::path& pfad)
+{
+    const bool fehlt = !istOrdner(pfad);
+    if (fehlt) {
+        legeOrdnerAn(pfad);
+    }
+    return fehlt;
 }
 
 void Dateien::entferneOrdner(const fs::path& ordner)

@@ -64,8 +64,9 @@ public:
     explicit Dateien(std::unique_ptr<Dateizugriff> zugriff);
     ~Dateien();
 
-    /// The content. Throws Laufzeitfehler.
-    std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad);
+    /// The content, from byte `ab` on. Throws Laufzeitfehler.
+    std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad, std::uint64_t ab = 0);
+    std::uint64_t länge(const std::filesystem::path& pfad);
     /// What lies there, links followed. Laufzeitfehler when that can't be told (no permission, I/O error, a link to
     /// something that is not there): such a file must never be taken for missing.
     Fund findet(const std::filesystem::path& pfad);
@@ -80,7 +81,7 @@ public:
     /// Writes `arbeitsdatei` anew with what `inhalt` writes, then puts it in the place of `ziel` as told above.
     void ersetze(const std::filesystem::path& ziel, const std::filesystem::path& arbeitsdatei,
                  const std::function<void(Schreiber&)>& inhalt);
-    /// Replaces `ziel` by a copy of `quelle` through `ziel` + ".neu" beside it.
+    /// Replaces `ziel` by a copy of `quelle` through its `fassungNeben`.
     void kopiereÜber(const std::filesystem::path& quelle, const std::filesystem::path& ziel);
     /// Creates the file empty; Laufzeitfehler when something lies there already, a link included.
     void legeLeerAn(const std::filesystem::path& pfad);
@@ -100,6 +101,8 @@ public:
     void sichereOrdner(const std::filesystem::path& ordner);
     /// Makes the folder; it is on the disk then.
     void legeOrdnerAn(const std::filesystem::path& pfad);
+    /// Makes the folder unless it is there; whether it was made.
+    bool sorgeFürOrdner(const std::filesystem::path& pfad);
     /// Removes the folder with the files in it; it holds no folders.
     void entferneOrdner(const std::filesystem::path& ordner);
     std::vector<std::filesystem::path> dateienIn(const std::filesystem::path& ordner);
@@ -110,6 +113,10 @@ public:
 private:
     std::unique_ptr<Dateizugriff> m_zugriff;
 };
+
+/// The name under which the new version of a file or folder is written beside it: with ".neu" behind its own.
+std::filesystem::path fassungNeben(std::filesystem::path pfad);
+bool istFassungNeben(const std::filesystem::path& pfad);
 
 /// The path as code-page text, for messages; what its name holds beyond the code page is replaced.
 std::string pfadtext(const std::filesystem::path& pfad);

@@ -55,8 +55,10 @@ public:
     Dateizugriff& operator=(const Dateizugriff&) = delete;
     virtual ~Dateizugriff() = default;
 
-    /// Never waits: a pipe or a device in the place of a file is a failure.
-    virtual std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad) = 0;
+    /// The content from byte `ab` on (0: all of it). Never waits: a pipe or a device in the place of a file is a
+    /// failure.
+    virtual std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad, std::uint64_t ab) = 0;
+    virtual std::uint64_t länge(const std::filesystem::path& pfad) = 0;
     virtual std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) = 0;
     virtual void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach) = 0;
     virtual void lösche(const std::filesystem::path& pfad) = 0;
@@ -83,7 +85,11 @@ class Zugriffsweiche : public Dateizugriff {
 public:
     explicit Zugriffsweiche(std::unique_ptr<Dateizugriff> dahinter) : m_dahinter(std::move(dahinter)) {}
 
-    std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad) override { return m_dahinter->lies(pfad); }
+    std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad, std::uint64_t ab) override
+    {
+        return m_dahinter->lies(pfad, ab);
+    }
+    std::uint64_t länge(const std::filesystem::path& pfad) override { return m_dahinter->länge(pfad); }
     std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) override
     {
         return m_dahinter->öffne(pfad, wie);

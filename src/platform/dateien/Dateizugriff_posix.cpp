@@ -4,6 +4,7 @@
 #include "platform/dateien/Systemgrund.h"
 #include "platform/text/Text.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <system_error>
 #include <utility>
@@ -64,12 +65,19 @@ std::uint64_t längeVon(const Griff& griff)
     return static_cast<std::uint64_t>(angaben.st_size);
 }
 
-/// The whole content; a file that grows or shrinks meanwhile is read as far as it goes.
-std::string liesGanz(const fs::path& pfad)
+/// Without waiting: an open pipe would otherwise stop the program until somebody writes into it.
+int öffneZumLesen(const fs::path& pfad)
 {
-    // without waiting: an open pipe would otherwise stop the program until somebody writes into it
-    const Griff griff(::open(pfad.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-    std::string text(static_cast<std::size_t>(längeVon(griff)) + 1, '\0'); // one more, to see the end
+    return ::open(pfad.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+}
+
+/// A file that grows or shrinks meanwhile is read as far as it goes.
+std::string liesBisEnde(const fs::path& pfad, std::uint64_t ab)
+{
+    const Griff griff(öffneZumLesen(pfad));
+    const auto länge = längeVon(griff);
+    prüfe(::lseek(griff.nummer(), static_cast<off_t>(ab), SEEK_SET) >= 0);
+    std::string text(static_cast<std::size_t>(länge - std::min(länge, ab)) + 1, '\0'); // one more, to see the end
     std::size_t gelesen = 0;
     for (;;) {
         if (gelesen == text.size()) {
@@ -119,10 +127,11 @@ private:
 
 class PosixZugriff : public Dateizugriff {
 public:
-    std::unique_ptr<Dateiinhalt> lies(const fs::path& pfad) override
+    std::unique_ptr<Dateiinhalt> lies(const fs::path& pfad, std::uint64_t ab) override
     {
-        return std::make_unique<Dateiinhalt>(liesGanz(pfad));
+        return std::make_unique<Dateiinhalt>(liesBisEnde(pfad, ab));
     }
+    std::uint64_t länge(const fs::path& pfad) override { return längeVon(Griff(öffneZumLesen(pfad))); }
     std::unique_ptr<OffeneDatei> öffne(const fs::path& pfad, Öffnung wie) override
     {
         return std::make_unique<PosixDatei>(pfad, wie);

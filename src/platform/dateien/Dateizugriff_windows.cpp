@@ -59,10 +59,14 @@ private:
     HANDLE m_griff;
 };
 
-std::string liesGanz(const fs::path& pfad)
+std::string liesBisEnde(const fs::path& pfad, std::uint64_t ab)
 {
-    Griff griff(pfad, GENERIC_READ, OPEN_EXISTING);
-    std::string text(static_cast<std::size_t>(griff.länge()), '\0');
+    const Griff griff(pfad, GENERIC_READ, OPEN_EXISTING);
+    const auto länge = griff.länge();
+    LARGE_INTEGER stelle = {};
+    stelle.QuadPart = static_cast<LONGLONG>(ab);
+    prüfe(::SetFilePointerEx(griff.griff(), stelle, nullptr, FILE_BEGIN) != 0);
+    std::string text(static_cast<std::size_t>(länge - std::min(länge, ab)), '\0');
     std::size_t ort = 0;
     while (ort < text.size()) {
         DWORD gelesen = 0;
@@ -107,10 +111,11 @@ std::int64_t sekundenVon(const FILETIME& zeit)
 
 class WindowsZugriff : public Dateizugriff {
 public:
-    std::unique_ptr<Dateiinhalt> lies(const fs::path& pfad) override
+    std::unique_ptr<Dateiinhalt> lies(const fs::path& pfad, std::uint64_t ab) override
     {
-        return std::make_unique<Dateiinhalt>(liesGanz(pfad));
+        return std::make_unique<Dateiinhalt>(liesBisEnde(pfad, ab));
     }
+    std::uint64_t länge(const fs::path& pfad) override { return Griff(pfad, GENERIC_READ, OPEN_EXISTING).länge(); }
     std::unique_ptr<OffeneDatei> öffne(const fs::path& pfad, Öffnung wie) override
     {
         return std::make_unique<WindowsDatei>(pfad, wie);

@@ -9,11 +9,8 @@ namespace {
 /// The first start makes the folder; two first starts at once meet in one folder.
 void stelleOrdnerBereit(Dateien& dateien, const std::filesystem::path& ordner)
 {
-    if (dateien.istOrdner(ordner)) {
-        return;
-    }
     try {
-        dateien.legeOrdnerAn(ordner);
+        dateien.sorgeFürOrdner(ordner);
     } catch (const Laufzeitfehler& fehler) {
         if (!dateien.istOrdner(ordner)) {
             throw Laufzeitfehler(verbinde("Der Programmordner ist nicht beschreibbar. "_t, fehler.text()));

@@ -88,10 +88,10 @@ class GeduldigerZugriff : public Zugriffsweiche {
 public:
     using Zugriffsweiche::Zugriffsweiche;
 
-    std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad) override
+    std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad, std::uint64_t ab) override
     {
         geduld::prüfe();
-        return Zugriffsweiche::lies(pfad);
+        return Zugriffsweiche::lies(pfad, ab);
     }
     std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) override
     {
