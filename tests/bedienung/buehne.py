@@ -19,6 +19,9 @@ import tempfile
 import time
 import traceback
 
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "hilfen"))
+from anzeige import Anzeige
+
 GEDULD = 20.0  # seconds until something that must happen has not happened
 BREITE, HÖHE = 1366, 768
 ABSEITS = 4, 400  # where the mouse, which is in the picture too, stands over nothing
@@ -110,12 +113,12 @@ class Bühne:
         self.tolvek7 = os.path.abspath(tolvek7)
         self.szenario = os.path.abspath(szenario)
         self.ordner = tempfile.mkdtemp(prefix="bedienung-")
-        self.prozesse = []
+        self.anzeige = None
         self.programm = None
         self.nummer = 0
         self.umwelt = dict(os.environ, HOME=self.ordner, XDG_RUNTIME_DIR=self.ordner, QT_QPA_PLATFORM="xcb",
                            DBUS_SESSION_BUS_ADDRESS="disabled:", LC_ALL="C.UTF-8", QT_SCALE_FACTOR="1")
-        for fremd in ("WAYLAND_DISPLAY", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "QT_STYLE_OVERRIDE"):
+        for fremd in ("XDG_CONFIG_HOME", "XDG_DATA_HOME", "QT_STYLE_OVERRIDE"):
             self.umwelt.pop(fremd, None)
 
     def __enter__(self):
@@ -127,34 +130,26 @@ class Bühne:
         return self
 
     def _öffne(self):
-        lesen, schreiben = os.pipe()
-        self._starte("Xvfb", "-displayfd", str(schreiben), "-screen", "0", f"{BREITE}x{HÖHE}x24", "-fbdir", self.ordner,
-                     "-nolisten", "tcp", "-noreset", pass_fds=[schreiben])
-        os.close(schreiben)
-        with os.fdopen(lesen) as antwort:
-            anzeige = antwort.readline().strip()
-        verlange(anzeige, "kein X-Server")
-        self.umwelt["DISPLAY"] = ":" + anzeige
         with open(self.pfad("rc.xml"), "w", encoding="utf-8") as datei:
             datei.write(OPENBOX)
-        self._starte("openbox", "--sm-disable", "--config-file", self.pfad("rc.xml"))
-        warte(lambda: self._xdotool("get_num_desktops", darf_scheitern=True) == "1", "kein Fensterverwalter")
+        with open(self.pfad("anzeige.log"), "ab") as mitschrift:
+            self.anzeige = Anzeige(self.umwelt, BREITE, HÖHE, xvfb=["-fbdir", self.ordner, "-noreset"],
+                                   openbox=["--sm-disable", "--config-file", self.pfad("rc.xml")], ausgabe=mitschrift)
+        self.umwelt = self.anzeige.umgebung
 
     def __exit__(self, *_):
         self.beende_programm()
-        for prozess in reversed(self.prozesse):
-            self._töte(prozess)
+        if self.anzeige is not None:
+            self.anzeige.schließe()
         shutil.rmtree(self.ordner, ignore_errors=True)
 
     def pfad(self, *teile):
         return os.path.join(self.ordner, *teile)
 
-    def _starte(self, *befehl, **mehr):
+    def _starte(self, *befehl):
         with open(self.pfad(os.path.basename(befehl[0]) + ".log"), "ab") as mitschrift:
-            prozess = subprocess.Popen(befehl, env=self.umwelt, stdin=subprocess.DEVNULL, stdout=mitschrift,
-                                       stderr=mitschrift, **mehr)
-        self.prozesse.append(prozess)
-        return prozess
+            return subprocess.Popen(befehl, env=self.umwelt, stdin=subprocess.DEVNULL, stdout=mitschrift,
+                                    stderr=mitschrift)
 
     @staticmethod
     def _töte(prozess):
@@ -226,7 +221,6 @@ class Bühne:
     def beende_programm(self):
         if self.programm is not None:
             self._töte(self.programm)
-            self.prozesse.remove(self.programm)
             self.programm = None
 
     def warte_auf_ende(self):

@@ -4,9 +4,12 @@ import os
 import shutil
 import signal
 import subprocess
+import sys
 import tempfile
-import time
 from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "hilfen"))
+from anzeige import Anzeige
 
 EINRICHTUNG = """
 heute 02.08.2007
@@ -43,34 +46,11 @@ class Bühne:
         self.ordner = Path(tempfile.mkdtemp(prefix="tolvek-vorlesen-"))
         self.vorlage = Path(programm)
         self.szenario = szenario
-        self.hilfen = []
         self.lauf = None
-        self.schirm = self._starteSchirm()
-        self._starteFensterverwaltung()
-
-    def _starteSchirm(self):
-        lesen, schreiben = os.pipe()
-        xvfb = subprocess.Popen(["Xvfb", "-displayfd", str(schreiben), "-screen", "0", "1366x768x24", "-nolisten",
-                                 "tcp"], pass_fds=[schreiben], stderr=subprocess.DEVNULL)
-        os.close(schreiben)
-        self.hilfen.append(xvfb)
-        with os.fdopen(lesen) as nummer:
-            return ":" + nummer.readline().strip()
-
-    def _starteFensterverwaltung(self):
-        """A window that opens before the window manager is there would never get the keyboard."""
-        self.hilfen.append(subprocess.Popen(["openbox"], env=self._umgebung(), stdout=subprocess.DEVNULL,
-                                            stderr=subprocess.DEVNULL))
-        frage = ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]
-        for _ in range(100):
-            if "window id" in subprocess.run(frage, env=self._umgebung(), capture_output=True, text=True,
-                                             check=False).stdout:
-                return
-            time.sleep(0.1)
-        raise RuntimeError("openbox meldet sich nicht")
+        self.anzeige = Anzeige(os.environ)
 
     def _umgebung(self, **mehr):
-        return {**os.environ, "DISPLAY": self.schirm, **mehr}
+        return {**self.anzeige.umgebung, **mehr}
 
     def starte(self, dpi, leer=False):
         """Starts the program with the desktop's font at this resolution (96 is 100 %), in a folder of its own."""
@@ -121,9 +101,6 @@ class Bühne:
     def räumeAb(self):
         """Ends everything and removes the facility."""
         self.beende()
-        for hilfe in reversed(self.hilfen):
-            hilfe.terminate()
-        for hilfe in self.hilfen:
-            hilfe.wait(5)
+        self.anzeige.schließe()
         shutil.rmtree(self.ordner, ignore_errors=True)
 

@@ -14,6 +14,9 @@ import tempfile
 import time
 import unittest
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "hilfen"))
+from anzeige import Anzeige
+
 PROGRAMM, MUSTERDATEN = (pathlib.Path(p).resolve() for p in sys.argv[1:3])
 HANDBUCH = pathlib.Path(__file__).resolve().parents[3] / "docs" / "handbuch"
 
@@ -29,28 +32,8 @@ def warte(bedingung, sekunden=20, was="nothing"):
     raise AssertionError(f"waited {sekunden} s for {was}")
 
 
-class Schirm:
-    """A virtual screen with a window manager, the same for all tests."""
-
-    def __init__(self):
-        lesen, schreiben = os.pipe()
-        self.xvfb = subprocess.Popen(["Xvfb", "-displayfd", str(schreiben), "-screen", "0", "1366x768x24", "-nolisten", "tcp"],
-                                     pass_fds=[schreiben], stderr=subprocess.DEVNULL)
-        os.close(schreiben)
-        with os.fdopen(lesen) as zeile:  # the number may come in pieces
-            self.anzeige = ":" + zeile.readline().strip()
-        self.umgebung = dict(os.environ, DISPLAY=self.anzeige)
-        self.umgebung.pop("WAYLAND_DISPLAY", None)
-        self.wm = subprocess.Popen(["openbox"], env=self.umgebung, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        warte(lambda: "window id" in self.frage("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), 60, "the window manager")
-
-    def schließe(self):
-        for prozess in (self.wm, self.xvfb):
-            prozess.terminate()
-            prozess.wait()
-
-    def frage(self, *befehl):
-        return subprocess.run(befehl, env=self.umgebung, capture_output=True, text=True, check=False).stdout
+class Schirm(Anzeige):
+    """What the tests do on their display, one for all."""
 
     def fenster(self, name):
         """The visible window whose title holds the name, or None."""
@@ -88,7 +71,7 @@ class Schirm:
             self.x11.XOpenDisplay.restype = ctypes.c_void_p
             self.xfixes.XFixesGetCursorImage.restype = ctypes.POINTER(Bild)
             self.xfixes.XFixesGetCursorImage.argtypes = [ctypes.c_void_p]
-            self.verbindung = self.x11.XOpenDisplay(self.anzeige.encode())
+            self.verbindung = self.x11.XOpenDisplay(self.umgebung["DISPLAY"].encode())
         bild = self.xfixes.XFixesGetCursorImage(self.verbindung).contents
         return bytes(bild.name or b"").decode() or f"{bild.breite}x{bild.höhe}:" + str(
             hash(tuple(bild.punkte[i] for i in range(bild.breite * bild.höhe))))
@@ -99,7 +82,7 @@ schirm = None
 
 def setUpModule():
     global schirm
-    schirm = Schirm()
+    schirm = Schirm(os.environ)
     unittest.addModuleCleanup(schirm.schließe)
 
 
