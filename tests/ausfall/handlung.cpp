@@ -6,7 +6,7 @@
 // It says on the standard output what happens: "HAUPTMENÜ" when the main menu is there, "MELDUNG …" for each box
 // (answered with its confirming button), "FERTIG" when the action has come back. The exit status is the program's.
 
-#include "app/moMain.h"
+#include "hilfen/Schreibhandlungen.h"
 #include "platform/dateien/Ordnersperre.h"
 #include "platform/text/Eingabe.h"
 #include "platform/umgebung/Prozessschutz.h"
@@ -14,11 +14,10 @@
 #include "platform/calc/Rechenprogramm.h"
 #endif
 
-#include <array>
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <iostream>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -107,123 +106,15 @@ void zähleAbHier()
     }
 }
 
-class Hand {
-public:
-    Hand(Programm& programm, Handlungsumgebung& umgebung) : m_programm(programm), m_umgebung(umgebung) {}
-
-    void klicke(std::string_view name)
-    {
-        tue(name, [](Element& element) { element.klicke(); });
-    }
-    void tippe(std::string_view name, std::string_view text)
-    {
-        tue(name,
-            [text](Element& element) { dynamic_cast<Textfeld&>(element).gibEin(std::string(text), text.size()); });
-    }
-    void tippeZahl(std::string_view name, std::string_view text)
-    {
-        tue(name,
-            [text](Element& element) { dynamic_cast<Auswahlfeld&>(element).gibEin(std::string(text), text.size()); });
-    }
-    void wähle(std::string_view name, std::size_t eintrag)
-    {
-        tue(name, [eintrag](Element& element) { dynamic_cast<Auswahlfeld&>(element).wähle(eintrag); });
-    }
-    void wähleZeile(std::string_view name, std::size_t zeile)
-    {
-        tue(name, [zeile](Element& element) { dynamic_cast<Liste&>(element).klickeZeile(zeile); });
-    }
-    Handlungsumgebung& umgebung() { return m_umgebung; }
-    const Pfade& pfade() { return m_programm.zustand().pfade; }
-
-private:
-    template <class F> void tue(std::string_view name, F aktion)
-    {
-        m_programm.zustand().ablauf.ereignis([&] {
-            auto* bildschirm = m_programm.zustand().folge.inGebrauch();
-            auto* element = bildschirm == nullptr ? nullptr : bildschirm->finde(name);
-            if (element == nullptr || !bildschirm->istErreichbar(*element)) {
-                throw std::logic_error("out of reach: " + alsUtf8(name));
-            }
-            if (!element->nimmtFokus() || bildschirm->fokussiere(element)) {
-                aktion(*element);
-            }
-        });
-    }
-
-    Programm& m_programm;
-    Handlungsumgebung& m_umgebung;
-};
-
-void legeNeueBetreuungAn(Hand& hand)
-{
-    hand.klicke("cmdBetreuungHinzufügen"_t);
-    hand.klicke("cmdOK"_t); // begin
-    hand.klicke("cmdOK"_t); // end
-    zähleAbHier();
-    hand.klicke("cmdOK"_t);
-}
-
-void ändereBetreuung(Hand& hand)
-{
-    hand.klicke("cmdBetreuungBearbeiten"_t);
-    hand.wähle("comboWieder"_t, 2);
-    zähleAbHier();
-    hand.klicke("cmdOK"_t);
-}
-
-void löscheBetreuung(Hand& hand)
-{
-    zähleAbHier();
-    hand.klicke("cmdBetreuungLöschen"_t);
-}
-
-void legeNeuenKlientenAn(Hand& hand)
-{
-    hand.klicke("cmdKlientenHinzufügen"_t);
-    hand.tippe("tbNachname"_t, "Zeisig"_t);
-    zähleAbHier();
-    hand.klicke("cmdOK"_t);
-}
-
-void löscheKlienten(Hand& hand)
-{
-    hand.wähleZeile("lvwKlienten"_t, 2);
-    zähleAbHier();
-    hand.klicke("cmdKlientenLöschen"_t);
-}
-
-void verwerfeSitzung(Hand& hand)
-{
-    hand.wähleZeile("lvwKlienten"_t, 2);
-    hand.klicke("cmdKlientenLöschen"_t);
-    zähleAbHier();
-    hand.klicke("cmdRollback"_t);
-}
-
-void importiere(Hand& hand)
-{
-    hand.klicke("cmdDatenübernahme"_t);
-    hand.tippe("tbKernDatAlt"_t, "alt/kernDat.txt"_t);
-    hand.tippe("tbBetrDatAlt"_t, "alt/betreuungenDat.txt"_t);
-    zähleAbHier();
-    hand.klicke("cmdOK"_t);
-}
-
-void übergibMappe(Hand& hand)
-{
-    hand.klicke("mnExcel"_t);
-}
-
 /// Another hand cuts the tables to nothing while the export reads them.
-void exportiereAusGekürzten(Hand& hand)
+void exportiereAusGekürzten(Hand& hand, Handlungsumgebung& umgebung)
 {
     bool gekürzt = false;
-    hand.umgebung().beiZeichnen = [&] {
+    umgebung.beiZeichnen = [&] {
         if (!gekürzt) {
             gekürzt = true;
             for (const auto tabelle : dieTabellen) {
-                if (::truncate(hand.pfade().von(tabelle).c_str(), 0) != 0) {
+                if (::truncate(zustand().pfade.von(tabelle).c_str(), 0) != 0) {
                     std::perror("truncate");
                 }
             }
@@ -235,39 +126,33 @@ void exportiereAusGekürzten(Hand& hand)
     hand.klicke("cmdOK"_t);
 }
 
-void bleibe(Hand& /*hand*/)
+void schreibe(const Schreibhandlung& handlung, Hand& hand)
 {
-    sage("BLEIBT");
-    ::pause();
+    handlung.bereiteVor(hand);
+    zähleAbHier();
+    handlung.handle(hand);
 }
 
-void stürzeAb(Hand& /*hand*/)
+/// False for a name that is none.
+bool tue(std::string_view name, Hand& hand, Handlungsumgebung& umgebung)
 {
-    std::abort();
+    const auto handlung = std::ranges::find(schreibhandlungen(), name, &Schreibhandlung::name);
+    if (handlung != schreibhandlungen().end()) {
+        schreibe(*handlung, hand);
+    } else if (name == "mappe") {
+        hand.klicke("mnExcel"_t);
+    } else if (name == "export-gekuerzt") {
+        exportiereAusGekürzten(hand, umgebung);
+    } else if (name == "bleibe") {
+        sage("BLEIBT");
+        ::pause();
+    } else if (name == "absturz") {
+        std::abort();
+    } else {
+        return name == "start";
+    }
+    return true;
 }
-
-void starteNur(Hand& /*hand*/)
-{}
-
-struct Handlung {
-    std::string_view name;
-    void (*tue)(Hand&);
-};
-
-constexpr std::array handlungen{
-    Handlung{"start", starteNur},
-    Handlung{"neue-betreuung", legeNeueBetreuungAn},
-    Handlung{"betreuung-aendern", ändereBetreuung},
-    Handlung{"betreuung-loeschen", löscheBetreuung},
-    Handlung{"klient-neu", legeNeuenKlientenAn},
-    Handlung{"klient-loeschen", löscheKlienten},
-    Handlung{"rollback", verwerfeSitzung},
-    Handlung{"import", importiere},
-    Handlung{"mappe", übergibMappe},
-    Handlung{"export-gekuerzt", exportiereAusGekürzten},
-    Handlung{"bleibe", bleibe},
-    Handlung{"absturz", stürzeAb},
-};
 
 } // namespace
 
@@ -285,15 +170,12 @@ int main(int argc, char** argv)
         return zustand.ablauf.status();
     }
     sage("HAUPTMENÜ");
-    Hand hand(programm, umgebung);
-    for (const auto& handlung : handlungen) {
-        if (handlung.name == argv[2]) {
-            handlung.tue(hand);
-            if (zustand.ablauf.läuft()) {
-                sage("FERTIG");
-            }
-            return zustand.ablauf.status();
-        }
+    Hand hand(programm);
+    if (!tue(argv[2], hand, umgebung)) {
+        return 2;
     }
-    return 2;
+    if (zustand.ablauf.läuft()) {
+        sage("FERTIG");
+    }
+    return zustand.ablauf.status();
 }

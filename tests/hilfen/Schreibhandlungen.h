@@ -1,54 +1,40 @@
 #pragma once
 
 #include "app/moMain.h"
-#include "hilfen/Platte.h"
-#include "hilfen/Testumgebung.h"
 
-#include <functional>
-#include <string>
+#include <cstddef>
+#include <string_view>
 #include <vector>
 
-/// The actions that write tables, done as a person does them: through the elements of the screens. Each on a disk in
-/// memory that is laid out before.
+/// The actions that write tables, done as a person does them: through the elements of the screen in use. The fault
+/// tests do them on a disk in memory and in real processes.
 
-/// A program run on a disk in memory; the disk outlives it.
-class Plattenlauf {
+/// What a person does with the elements of a running program. What is out of reach is a failure of the test
+/// (std::logic_error).
+class Hand {
 public:
-    explicit Plattenlauf(Platte& platte);
+    explicit Hand(Programm& programm) : m_programm(programm) {}
 
-    Testumgebung umgebung;
-    Programm programm;
-
-    /// Starts; false when the program has ended by it.
-    bool starte();
-    bool läuft() { return programm.zustand().ablauf.läuft(); }
-    bool istUnvollendet() { return absturz().find("chsten Start vollendet") != std::string::npos; }
-    const std::string& absturz() { return programm.zustand().ablauf.absturz(); }
-
-    /// Presses the button of the screen.
-    void klicke(std::string_view bildschirm, std::string_view knopf);
-    void klickeZeile(std::string_view liste, std::size_t zeile);
-    void tippe(std::string_view bildschirm, std::string_view feld, std::string_view text);
-    /// The answer to the next box with a choice.
-    void antworte(Antwort antwort) { umgebung.antworten.push_back(antwort); }
+    void klicke(std::string_view name);
+    void tippe(std::string_view name, std::string_view text);
+    void tippeZahl(std::string_view name, std::string_view text);
+    void wähle(std::string_view name, std::size_t eintrag);
+    void klickeZeile(std::string_view name, std::size_t zeile);
 
 private:
-    Element& element(std::string_view bildschirm, std::string_view name);
+    template <class F> void tue(std::string_view name, F aktion);
+
+    Programm& m_programm;
 };
 
-struct Handlung {
-    std::string name;
-    /// Lays out the disk.
-    std::function<void(Platte&, const Pfade&)> richteEin;
-    /// Steps up to the moment before the action; then the action itself. Both after the start.
-    std::function<void(Plattenlauf&)> bereiteVor;
-    std::function<void(Plattenlauf&)> handle;
-    /// The action is the start itself: `bereiteVor` and `handle` do nothing then.
-    bool istStart = false;
+struct Schreibhandlung {
+    std::string_view name; ///< ASCII
+    /// Steps from the main menu up to the moment before the action; then the action itself. Boxes are to be answered
+    /// with their confirming button.
+    void (*bereiteVor)(Hand&);
+    void (*handle)(Hand&);
 };
 
-const std::vector<Handlung>& handlungen();
-void PrintTo(const Handlung& handlung, std::ostream* strom);
-
-/// The program folder of all runs on a disk in memory.
-std::filesystem::path plattenordner();
+/// The facility has at least two clients; the first one has an episode, and the older files of an import lie in
+/// `alt` below the program folder.
+const std::vector<Schreibhandlung>& schreibhandlungen();
