@@ -30,10 +30,25 @@ void wähleZweiten(Hand& hand)
     hand.klickeZeile("lvwKlienten"_t, 2);
 }
 
+void löscheKlient(Hand& hand)
+{
+    hand.klicke("cmdKlientenLöschen"_t);
+}
+
 void löscheZweiten(Hand& hand)
 {
     wähleZweiten(hand);
-    hand.klicke("cmdKlientenLöschen"_t);
+    löscheKlient(hand);
+}
+
+void löscheBetreuung(Hand& hand)
+{
+    hand.klicke("cmdBetreuungLöschen"_t);
+}
+
+void machRückgängig(Hand& hand)
+{
+    hand.klicke("cmdRollback"_t);
 }
 
 void beginneImport(Hand& hand)
@@ -97,10 +112,10 @@ const std::vector<Schreibhandlung>& schreibhandlungen()
     static const std::vector<Schreibhandlung> alle{
         {"neue-betreuung", beginneBetreuung, bestätige},
         {"betreuung-aendern", ändereBetreuung, bestätige},
-        {"betreuung-loeschen", nichts, [](Hand& hand) { hand.klicke("cmdBetreuungLöschen"_t); }},
+        {"betreuung-loeschen", nichts, löscheBetreuung},
         {"klient-neu", beginneKlient, bestätige},
-        {"klient-loeschen", wähleZweiten, [](Hand& hand) { hand.klicke("cmdKlientenLöschen"_t); }},
-        {"rollback", löscheZweiten, [](Hand& hand) { hand.klicke("cmdRollback"_t); }},
+        {"klient-loeschen", wähleZweiten, löscheKlient},
+        {"rollback", löscheZweiten, machRückgängig},
         {"import", beginneImport, bestätige},
     };
     return alle;
