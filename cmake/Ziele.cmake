@@ -9,9 +9,12 @@ if(TOLVEK_WARNUNG_IST_FEHLER)
   list(APPEND TOLVEK_WARNUNGEN -Werror)
 endif()
 
-# tolvek_ordner(NAME [target ...]): a static library of all sources below this folder (subfolders with a
-# CMakeLists.txt of their own excepted), linked with the targets it may see.
+# tolvek_ordner(NAME [target ...] [QT]): a static library of all sources below this folder (subfolders with a
+# CMakeLists.txt of their own excepted), linked with the targets it may see; QT says that it is
+# the one that knows the toolkit.
 function(tolvek_ordner name)
+  cmake_parse_arguments(PARSE_ARGV 1 ordner "QT" "" "")
+  set(nachbarn ${ordner_UNPARSED_ARGUMENTS})
   file(GLOB_RECURSE quellen CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
   file(GLOB_RECURSE unterziele ${CMAKE_CURRENT_SOURCE_DIR}/*/CMakeLists.txt)
   foreach(unterziel ${unterziele})
@@ -27,7 +30,14 @@ function(tolvek_ordner name)
   set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_compile_options(${name} PRIVATE ${TOLVEK_WARNUNGEN})
-  if(ARGN)
-    target_link_libraries(${name} PUBLIC ${ARGN})
+  if(ordner_QT)
+    tolvek_vorab(${name} QT)
+  elseif(name STREQUAL "platform")
+    tolvek_vorab(${name})
+  else()
+    tolvek_vorab(${name} WIE platform)
+  endif()
+  if(nachbarn)
+    target_link_libraries(${name} PUBLIC ${nachbarn})
   endif()
 endfunction()
