@@ -1,6 +1,6 @@
 # The two commands for everyone are `make start` and `make test`; the others are their parts.
 
-.PHONY: start test demo bilder bauen einrichten pruefung windows bench ausfall format paket freigabe
+.PHONY: start test abnahme demo bilder bauen einrichten pruefung windows bench ausfall format paket freigabe
 
 # The program and nothing else; its folder is Tolvek7/.
 start:
@@ -43,6 +43,12 @@ pruefung: einrichten
 windows: einrichten
 	cmake --preset windows
 	cmake --build --preset windows
+
+# Writes the approved files, the guide's picture and the words of the scenarios anew, and shows what has changed.
+abnahme: einrichten
+	cmake --preset entwicklung
+	cmake --build --preset entwicklung --target einheiten
+	werkzeug/abnehmen.sh bau/entwicklung
 
 # Every point at which the real process can be killed or refused something; `make test` takes a sample.
 ausfall: einrichten

@@ -9,12 +9,12 @@ if(TOLVEK_WARNUNG_IST_FEHLER)
   list(APPEND TOLVEK_WARNUNGEN -Werror)
 endif()
 
-# tolvek_ordner(NAME [target ...] [QT]): a static library of all sources below this folder (subfolders with a
-# CMakeLists.txt of their own excepted), linked with the targets it may see; QT says that it is
-# the one that knows the toolkit.
+# tolvek_ordner(NAME ZWECK "what it is for" [UEBER target ...] [QT]): a static library of all sources below this folder
+# (subfolders with a CMakeLists.txt of their own excepted), linked with the targets that it stands over and may include;
+# what those may include, it may too. QT says that it is the one that knows the toolkit. The purpose is one line of the
+# picture in docs/guide.md.
 function(tolvek_ordner name)
-  cmake_parse_arguments(PARSE_ARGV 1 ordner "QT" "" "")
-  set(nachbarn ${ordner_UNPARSED_ARGUMENTS})
+  cmake_parse_arguments(PARSE_ARGV 1 ordner "QT" "ZWECK" "UEBER")
   file(GLOB_RECURSE quellen CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
   file(GLOB_RECURSE unterziele ${CMAKE_CURRENT_SOURCE_DIR}/*/CMakeLists.txt)
   foreach(unterziel ${unterziele})
@@ -32,12 +32,39 @@ function(tolvek_ordner name)
   target_compile_options(${name} PRIVATE ${TOLVEK_WARNUNGEN})
   if(ordner_QT)
     tolvek_vorab(${name} QT)
-  elseif(name STREQUAL "platform")
+  elseif(name STREQUAL "platform_text")
     tolvek_vorab(${name})
   else()
-    tolvek_vorab(${name} WIE platform)
+    tolvek_vorab(${name} WIE platform_text)
   endif()
-  if(nachbarn)
-    target_link_libraries(${name} PUBLIC ${nachbarn})
-  endif()
+  target_link_libraries(${name} PUBLIC ${ordner_UEBER})
+  tolvek_hausteil(${name} "${ordner_ZWECK}")
+endfunction()
+
+# tolvek_hausteil(TARGET PURPOSE): the target belongs to the house, so its includes are held to its links.
+function(tolvek_hausteil name zweck)
+  set_property(GLOBAL APPEND PROPERTY TOLVEK_HAUS ${name})
+  set_target_properties(${name} PROPERTIES TOLVEK_ZWECK "${zweck}")
+endfunction()
+
+# Writes the link graph for tests/architektur: a line a target, "target|folder below src|links|purpose", as CMake has it
+# when all folders have been read. Links to what is not of the house (libraries of others) are left out.
+function(tolvek_schreibe_haus datei)
+  get_property(haus GLOBAL PROPERTY TOLVEK_HAUS)
+  set(zeilen "")
+  foreach(ziel ${haus})
+    get_target_property(ordner ${ziel} SOURCE_DIR)
+    file(RELATIVE_PATH ordner ${PROJECT_SOURCE_DIR}/src ${ordner})
+    get_target_property(zweck ${ziel} TOLVEK_ZWECK)
+    get_target_property(nachbarn ${ziel} LINK_LIBRARIES)
+    set(unten "")
+    foreach(nachbar ${nachbarn})
+      if(nachbar IN_LIST haus)
+        string(APPEND unten " ${nachbar}")
+      endif()
+    endforeach()
+    string(STRIP "${unten}" unten)
+    string(APPEND zeilen "${ziel}|${ordner}|${unten}|${zweck}\n")
+  endforeach()
+  file(WRITE ${datei} "${zeilen}")
 endfunction()

@@ -1,6 +1,6 @@
 #include "import/moAnweisungen.h"
 
-#include "platform/Ressourcen.h"
+#include "platform/text/Ressourcen.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/Satzaufbau.h"

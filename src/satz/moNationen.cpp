@@ -1,6 +1,6 @@
 #include "satz/moNationen.h"
 
-#include "platform/Ressourcen.h"
+#include "platform/text/Ressourcen.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 

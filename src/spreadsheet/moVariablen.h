@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Ressourcen.h"
+#include "platform/text/Ressourcen.h"
 
 /// The variables of the annual export with the words that the core data set gives them, as string resources:
 /// name, first label and second label joined by the delimiter. 6000 and 7000 hold the number of rows, the rows

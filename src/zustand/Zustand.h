@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/Ressourcen.h"
 #include "platform/bildschirm/Ablauf.h"
 #include "platform/bildschirm/Bildschirmfolge.h"
 #include "platform/bildschirm/Rahmen.h"
+#include "platform/text/Ressourcen.h"
 #include "platform/text/Text.h"
 #include "platform/umgebung/Umgebung.h"
 #include "store/Bestand.h"

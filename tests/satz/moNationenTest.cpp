@@ -1,7 +1,7 @@
 #include "satz/moNationen.h"
 #include "hilfen/Testumgebung.h"
 
-#include "platform/Ressourcen.h"
+#include "platform/text/Ressourcen.h"
 #include "satz/moHelferlein.h"
 
 #include <set>

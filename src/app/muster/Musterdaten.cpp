@@ -2,9 +2,9 @@
 
 #include "app/muster/Zufall.h"
 
-#include "platform/Ressourcen.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Datum.h"
+#include "platform/text/Ressourcen.h"
 #include "platform/text/Text.h"
 #include "satz/Satzaufbau.h"
 #include "satz/moNationen.h"

@@ -124,9 +124,11 @@ void Bildschirm::setzeFokus(Element* element)
     auto* vorher = m_fokus;
     m_fokus = element;
     if (vorher != nullptr) {
+        vorher->m_hatFokus = false;
         vorher->fokusGewechselt(false);
     }
     if (m_fokus != nullptr) {
+        m_fokus->m_hatFokus = true;
         m_fokus->fokusGewechselt(true);
     }
     fokusGeändert.melde();

@@ -1,7 +1,5 @@
 #include "platform/elemente/Element.h"
 
-#include "platform/bildschirm/Bildschirm.h"
-
 void Element::zeige(bool sichtbar)
 {
     if (m_sichtbar != sichtbar) {
@@ -28,11 +26,6 @@ void Element::setzeHintergrund(Farbe farbe)
 {
     m_hintergrund = farbe;
     meldeÄnderung();
-}
-
-bool Element::hatFokus() const
-{
-    return m_bildschirm != nullptr && m_bildschirm->fokus() == this;
 }
 
 bool Element::taste(const Taste& /*taste*/)

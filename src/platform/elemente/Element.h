@@ -52,7 +52,7 @@ public:
     /// Whether it takes the keyboard focus at all.
     virtual bool nimmtFokus() const { return true; }
     /// Whether it is the element of its screen that has the focus.
-    bool hatFokus() const;
+    bool hatFokus() const { return m_hatFokus; }
 
     virtual void besuche(Elementbesucher& besucher) = 0;
 
@@ -94,6 +94,7 @@ private:
     Bildschirm* m_bildschirm = nullptr;
     bool m_sichtbar = true;
     bool m_frei = true;
+    bool m_hatFokus = false;
     std::string m_hinweis;
     std::optional<Farbe> m_hintergrund;
 };

@@ -3,8 +3,6 @@
 #include "ablauf/Anweisungen.h"
 #include "sprache/Unicode.h"
 
-#include <algorithm>
-#include <array>
 #include <exception>
 #include <stdexcept>
 
@@ -25,18 +23,11 @@ Handlertafel sammle()
     return alle;
 }
 
-/// Statements that write or remove files past the program.
-bool schreibtDateien(std::string_view wort)
-{
-    constexpr std::array worte{"datei", "rohdatei", "klient", "betreuung", "diagnose", "ordner", "kopiere", "entferne"};
-    return std::ranges::find(worte, wort) != worte.end();
-}
-
 void hörtSchiedsrichter(Lauf& lauf, const Anweisungsform& form)
 {
     if (form.wort == "starte") {
         lauf.schiedsrichter().vorStart();
-    } else if (schreibtDateien(form.wort)) {
+    } else if (form.schreibtDateien) {
         lauf.schiedsrichter().vermerkeFremdesSchreiben();
     } else if (form.gattung == Gattung::Handlung) {
         lauf.schiedsrichter().vorHandlung();

@@ -21,16 +21,23 @@ struct Option {
     std::vector<std::string_view> werte;
 };
 
+struct Argument {
+    Argumentart art;
+    std::string_view name; ///< in the description: "ZEILE"
+};
+
 struct Anweisungsform {
     std::string_view wort; ///< "erwarte text"
     Gattung gattung;
-    std::vector<Argumentart> pflicht = {};
-    std::vector<Argumentart> möglich = {};
-    std::vector<Argumentart> weitere = {}; ///< the kind of any number of further arguments, or nothing
+    std::vector<Argument> pflicht = {};
+    std::vector<Argument> möglich = {};
+    std::vector<Argument> weitere = {}; ///< any number of further arguments of this kind, or nothing
     std::vector<Option> optionen = {};
     bool mitZeilen = false;
-    bool einzelzeichen = false; ///< `\r` and `\n` in its texts are the single characters
-    bool auchUnmöglich = false; ///< may stand behind `unmöglich`
+    bool einzelzeichen = false;   ///< `\r` and `\n` in its texts are the single characters
+    bool auchUnmöglich = false;   ///< may stand behind `unmöglich`
+    bool schreibtDateien = false; ///< or removes them, past the program
+    std::string_view bedeutung;   ///< for the description (Sprachbeschreibung), in English
 };
 
 const std::vector<Anweisungsform>& anweisungsformen();

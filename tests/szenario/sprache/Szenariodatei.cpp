@@ -45,10 +45,10 @@ std::size_t höchstzahl(const Anweisungsform& form)
 Argumentart artVon(const Anweisungsform& form, std::size_t n)
 {
     if (n < form.pflicht.size()) {
-        return form.pflicht[n];
+        return form.pflicht[n].art;
     }
     const std::size_t möglich = n - form.pflicht.size();
-    return möglich < form.möglich.size() ? form.möglich[möglich] : form.weitere.front();
+    return möglich < form.möglich.size() ? form.möglich[möglich].art : form.weitere.front().art;
 }
 
 /// Puts `name=value` behind the required arguments into the options; false when it is none of the form's.
@@ -88,7 +88,7 @@ void ordneZu(Anweisung& anweisung, std::vector<std::u32string> worte)
         anweisung.argumente.push_back(std::move(wort));
     }
     if (anweisung.argumente.size() < form.pflicht.size()) {
-        throw Formfehler(benennung(form.pflicht[anweisung.argumente.size()]));
+        throw Formfehler(benennung(form.pflicht[anweisung.argumente.size()].art));
     }
 }
 

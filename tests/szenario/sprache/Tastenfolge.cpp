@@ -63,6 +63,15 @@ std::optional<Tastendruck> liesTaste(std::u32string_view name)
 
 } // namespace
 
+std::vector<std::u32string_view> sondertastennamen()
+{
+    std::vector<std::u32string_view> namen;
+    for (const auto& taste : sondertasten) {
+        namen.push_back(taste.name);
+    }
+    return namen;
+}
+
 std::optional<std::vector<Tastendruck>> liesTastenfolge(std::u32string_view text)
 {
     std::vector<Tastendruck> tasten;

@@ -15,6 +15,9 @@ struct Tastendruck {
     bool alt = false;
 };
 
+/// The names of the special keys: "Rück", "Entf", …
+std::vector<std::u32string_view> sondertastennamen();
+
 /// The key presses of the text; special keys, and any key with Umschalt+, Strg+ or Alt+ in front, in braces; nothing
 /// when a name in braces is no key.
 std::optional<std::vector<Tastendruck>> liesTastenfolge(std::u32string_view text);

@@ -1,0 +1,135 @@
+#!/usr/bin/env python3
+"""Every house rule is met with a small house that keeps it and with one that breaks it: a rule that finds nothing would
+look like a house in order."""
+
+import json
+import tempfile
+import unittest
+from pathlib import Path
+
+import leitfaden
+import regeln
+from haus import Haus
+
+LINKS = "unten|unten||the ground\noben|oben|unten|the roof\ntolvek7|.|oben|main.cpp: starts\n"
+LEITFADEN = """# Guide
+
+<!-- bild -->
+
+    main.cpp                          starts  → oben
+      oben                            the roof  → unten
+        unten                         the ground
+
+<!-- /bild -->
+
+See `oben/Dach.h` and `src/unten/`.
+
+## Glossary
+
+| Word | Meaning |
+|---|---|
+| Dach | roof |
+"""
+ORDNUNG = {
+    "src/main.cpp": '#include "oben/Dach.h"\n#include <QApplication>\n',
+    "src/oben/Dach.h": '#pragma once\n\n#include "unten/Boden.h"\n\nstruct Dach { Boden boden; };\n',
+    "src/unten/Boden.h": "#pragma once\n\nstruct Boden {};\n",
+    "docs/guide.md": LEITFADEN,
+    "README.md": "# Readme\n",
+    "CONTRIBUTING.md": "# Contributing: [guide](docs/guide.md)\n",
+    "docs/szenarien.md": "# Words\n",
+}
+
+
+class Gegenprobe(unittest.TestCase):
+    def pruefe(self, regel, links=LINKS, **aenderungen):
+        """The messages of the rule about the house, with these files changed ("__" stands for "/", "_PUNKT_" for ".")."""
+        dateien = ORDNUNG | {n.replace("__", "/").replace("_PUNKT_", "."): t for n, t in aenderungen.items()}
+        with tempfile.TemporaryDirectory() as ordner:
+            for name, text in dateien.items():
+                pfad = Path(ordner, name)
+                pfad.parent.mkdir(parents=True, exist_ok=True)
+                pfad.write_text(text, encoding="utf-8")
+            bau = Path(ordner, "bau")
+            bau.mkdir()
+            (bau / "haus.txt").write_text(links, encoding="utf-8")
+            befehl = {"file": f"{ordner}/src/oben/Dach.cpp", "command": f"g++ -std=c++20 -I{ordner}/src -o x -c Dach.cpp"}
+            (bau / "compile_commands.json").write_text(json.dumps([befehl]), encoding="utf-8")
+            return "\n".join(regel(regeln.Baum(ordner, Haus(bau / "haus.txt"), bau)))
+
+    def erwarte(self, regel, *teile, **aenderungen):
+        self.assertEqual(self.pruefe(regel), "")
+        meldung = self.pruefe(regel, **aenderungen)
+        for teil in teile:
+            self.assertIn(teil, meldung)
+
+    def test_toolkit(self):
+        self.erwarte(regeln.toolkit, "src/oben/Dach.h:1 includes <QString>", "only src/platform/qt",
+                     src__oben__Dach_PUNKT_h="#include <QString>\n")
+        self.erwarte(regeln.toolkit, "includes <xlsxwriter.h>", "src/platform/mappe",
+                     src__oben__Dach_PUNKT_h="#include <xlsxwriter.h>\n")
+
+    def test_system(self):
+        self.erwarte(regeln.system, "includes <fcntl.h>", "_posix.cpp", src__oben__Dach_PUNKT_h="#include <fcntl.h>\n")
+
+    def test_dateien(self):
+        for zeile in ("std::ofstream strom(pfad);", "fs::rename(a, b);"):
+            self.erwarte(regeln.dateien, f"src/oben/a.cpp:1 goes past the file layer: {zeile}", "Use Dateien",
+                         src__oben__a_PUNKT_cpp=zeile + "\n")
+
+    def test_include_nach_oben(self):
+        self.erwarte(regeln.pfeile, 'src/unten/a.cpp:1 includes "oben/Dach.h"', "unten stands below oben", "hand it in",
+                     src__unten__a_PUNKT_cpp='#include "oben/Dach.h"\n')
+
+    def test_include_zur_seite(self):
+        self.erwarte(regeln.pfeile, "daneben does not link oben", "add oben to UEBER in src/daneben/CMakeLists.txt",
+                     links=LINKS + "daneben|daneben||a shed\n", src__daneben__a_PUNKT_cpp='#include "oben/Dach.h"\n')
+
+    def test_include_im_gleichen_ordner_der_platform(self):
+        links = "platform_a|platform/a||a\nplatform_b|platform/b|platform_a|b\n" + LINKS
+        self.assertIn("platform/a stands below platform/b",
+                      self.pruefe(regeln.pfeile, links, src__platform__a__a_PUNKT_h='#include "platform/b/b.h"\n',
+                                  src__platform__b__b_PUNKT_h='#include "platform/a/a.h"\n'))
+
+    def test_unbenutzter_link(self):
+        self.erwarte(regeln.pfeile, "src/CMakeLists.txt links unten, of which src/main.cpp includes nothing", "take it out",
+                     links=LINKS.replace("|oben|main", "|oben unten|main"))
+
+    def test_ordner_ohne_ziel(self):
+        self.erwarte(regeln.pfeile, "src/neu/a.h belongs to no target", "tolvek_ordner", src__neu__a_PUNKT_h="\n")
+
+    def test_include_ohne_datei(self):
+        self.erwarte(regeln.pfeile, "there is no src/Boden.h", "named from src/ on",
+                     src__oben__a_PUNKT_cpp='#include "Boden.h"\n')
+
+    def test_allein(self):
+        self.erwarte(regeln.allein, "src/oben/a.h does not compile alone", "include in it what it uses",
+                     src__oben__a_PUNKT_h="std::string f();\n")
+
+    def test_sauber(self):
+        for text in ("a \n", "\ta\n"):
+            self.erwarte(regeln.sauber, "README.md:1: a tab, or a blank", README_PUNKT_md=text)
+        self.erwarte(regeln.sauber, "README.md: the last line lacks", README_PUNKT_md="a")
+
+    def test_namen(self):
+        self.erwarte(regeln.namen, "src/oben/Größe.h: rename it", src__oben__Größe_PUNKT_h="\n")
+        self.erwarte(regeln.namen, "src/oben/Dach.h and src/oben/dach.h: rename one", src__oben__dach_PUNKT_h="\n")
+
+    def test_bild(self):
+        self.erwarte(leitfaden.bild, "another house", "make abnahme", links=LINKS.replace("the roof", "the attic"))
+        self.erwarte(leitfaden.bild, "another house", links=LINKS + "neu|neu||new\n")
+        self.erwarte(leitfaden.bild, "no place for the picture", docs__guide_PUNKT_md="# Guide\n")
+
+    def test_wege(self):
+        self.erwarte(leitfaden.wege, "CONTRIBUTING.md:1 names `src/oben/Giebel.cpp`, which is not there",
+                     CONTRIBUTING_PUNKT_md="`src/oben/Giebel.cpp`\n")
+        self.erwarte(leitfaden.wege, "docs/guide.md:1 links anders.md", docs__guide_PUNKT_md="[else](anders.md)\n")
+
+    def test_glossar(self):
+        for zeile, wort in (("| Giebel | gable |", "»Giebel«, a word that src/ does not use"), ("| Dach | roof |", "»Dach« twice")):
+            self.erwarte(leitfaden.glossar, wort, docs__guide_PUNKT_md=LEITFADEN + zeile + "\n")
+        self.erwarte(leitfaden.glossar, "no section", docs__guide_PUNKT_md="# Guide\n")
+
+
+if __name__ == "__main__":
+    unittest.main()

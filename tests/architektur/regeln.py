@@ -1,0 +1,166 @@
+"""The house rules that the compiler does not see. Each rule gives a list of messages that say where and what to do."""
+
+import json
+import re
+import subprocess
+import tempfile
+from collections import defaultdict
+from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+
+EIGENER_INCLUDE = re.compile(r'^\s*#\s*include "([^"]+)"')
+FREMDER_INCLUDE = re.compile(r"^\s*#\s*include <([^>]+)>")
+
+
+class Baum:
+    """A checkout, its link graph (haus.Haus) and the folder that it is built in."""
+
+    def __init__(self, wurzel, haus, bau):
+        self.wurzel, self.haus, self.bau = Path(wurzel).resolve(), haus, Path(bau)
+
+    def dateien(self):
+        """Names of all files of the project; without version control, of what lies there."""
+        befehl = ["git", "-C", str(self.wurzel), "ls-files", "-z", "--cached", "--others", "--exclude-standard"]
+        lauf = subprocess.run(befehl, capture_output=True, check=False)
+        if lauf.returncode == 0:
+            return sorted({name.decode() for name in lauf.stdout.split(b"\0") if name})
+        alle = (str(p.relative_to(self.wurzel)) for p in self.wurzel.rglob("*") if p.is_file())
+        return sorted(name for name in alle if not name.startswith(("bau/", "build/")))
+
+    def quellen(self):
+        """Headers and sources below src/ that are there, by their names below src/."""
+        return [d.removeprefix("src/") for d in self.dateien()
+                if d.startswith("src/") and d.endswith((".h", ".cpp")) and (self.wurzel / d).is_file()]
+
+    def zeilen(self, datei):
+        return enumerate((self.wurzel / datei).read_text(encoding="utf-8").split("\n"), 1)
+
+    def includes(self, muster):
+        """(file below src/, line, what is included) of every include that has this form."""
+        for datei in self.quellen():
+            for nummer, zeile in self.zeilen("src/" + datei):
+                if treffer := muster.match(zeile):
+                    yield datei, nummer, treffer[1]
+
+
+def toolkit(baum):
+    funde = []
+    for datei, nummer, kopf in baum.includes(FREMDER_INCLUDE):
+        if re.match(r"Q[A-Za-z]", kopf) and not datei.startswith("platform/qt/") and datei != "main.cpp":
+            funde.append(f"src/{datei}:{nummer} includes <{kopf}>: only src/platform/qt and main.cpp know Qt. Say it with the "
+                         "elements or the Umgebung, and draw it in src/platform/qt.")
+        if kopf.startswith("xlsxwriter") and not datei.startswith("platform/calc/"):
+            funde.append(f"src/{datei}:{nummer} includes <{kopf}>: only src/platform/calc knows the library. Put into the model "
+                         "(src/platform/mappe) what is missing there, and write it in src/platform/calc.")
+    return funde
+
+
+SYSTEM = re.compile(r"(sys/.*|unistd\.h|fcntl\.h|signal\.h|spawn\.h|dirent\.h|windows\.h|shl.*\.h|shell.*\.h|io\.h)$")
+
+
+def system(baum):
+    return [f"src/{datei}:{nummer} includes <{kopf}>: what one system alone has stands in a file …_posix.cpp, with its fellow "
+            "…_windows.cpp beside it. Declare what you need in a header of its own and move the call there."
+            for datei, nummer, kopf in baum.includes(FREMDER_INCLUDE)
+            if SYSTEM.match(kopf) and not datei.endswith(("_posix.cpp", "_windows.cpp"))]
+
+
+STROM = re.compile(r"std::w?[io]?fstream|QSaveFile|QTemporaryFile|\bfopen\(")
+SCHREIBEN = re.compile(r"\b(fs|filesystem)::(rename|remove|remove_all|copy|copy_file|resize_file|create_director\w+)\(")
+
+
+def dateien(baum):
+    return [f"src/{datei}:{nummer} goes past the file layer: {zeile.strip()}\n  Use Dateien "
+            "(src/platform/dateien/Dateien.h): it looks at every return value, so that nothing confirmed is lost."
+            for datei in baum.quellen() for nummer, zeile in baum.zeilen("src/" + datei)
+            if STROM.search(zeile) or SCHREIBEN.search(zeile) and not datei.startswith("platform/dateien/")]
+
+
+def _falscher_pfeil(haus, ort, von, nach):
+    if von.ziel in haus.alles_unter(nach.ziel):
+        return (f"{ort}: {von.name} stands below {nach.name} and does not know it. Move what both need down into "
+                f"{von.name} or lower, or let {nach.name} hand it in (an argument, a handler).")
+    return (f"{ort}: {von.name} does not link {nach.name}. If it shall stand over it, add {nach.ziel} to UEBER in "
+            f"{von.cmake} and run `make abnahme` for the guide's picture; else move what both need into a folder below both.")
+
+
+def pfeile(baum):
+    """Includes are held to the link graph, and the links to the includes."""
+    haus, funde, benutzt = baum.haus, [], defaultdict(set)
+    for datei in baum.quellen():
+        if haus.teil_von(datei) is None:
+            funde.append(f"src/{datei} belongs to no target: give its folder a CMakeLists.txt with tolvek_ordner(…), or move "
+                         "the file into a folder that has one.")
+    for datei, nummer, kopf in baum.includes(EIGENER_INCLUDE):
+        von, nach = haus.teil_von(datei), haus.teil_von(kopf)
+        ort = f'src/{datei}:{nummer} includes "{kopf}"'
+        if not (baum.wurzel / "src" / kopf).is_file():
+            funde.append(f"{ort}: there is no src/{kopf}. Our own headers are named from src/ on.")
+        elif von and nach and von is not nach:
+            benutzt[von.ziel].add(nach.ziel)
+            if nach.ziel not in haus.alles_unter(von.ziel):
+                funde.append(_falscher_pfeil(haus, ort, von, nach))
+    for teil in haus.teile.values():
+        funde += [f"{teil.cmake} links {unten}, of which src/{teil.name} includes nothing: take it out (what was reached "
+                  f"through it takes its place), then run `make abnahme` for the guide's picture."
+                  for unten in teil.unten if unten not in benutzt[teil.ziel]]
+    return funde
+
+
+def _schalter(baum):
+    """The switches that decide what a header means, by target folder, from the commands that CMake has written."""
+    schalter = {}
+    for eintrag in json.loads((baum.bau / "compile_commands.json").read_text(encoding="utf-8")):
+        datei = Path(eintrag["file"])
+        if datei.suffix != ".cpp" or not datei.is_relative_to(baum.wurzel / "src"):
+            continue
+        teil = baum.haus.teil_von(datei.relative_to(baum.wurzel / "src"))
+        worte = eintrag["command"].split()
+        gewaehlt = [w for w in worte if re.match(r"-(I|D|std=|f|O)", w)]
+        gewaehlt += [teilwort for n, w in enumerate(worte) if w == "-isystem" for teilwort in worte[n:n + 2]]
+        if teil:
+            schalter.setdefault(teil.ziel, gewaehlt)
+    return schalter
+
+
+def allein(baum, compiler="g++"):
+    """Every header compiles alone, without the precompiled ones."""
+    schalter = _schalter(baum)
+
+    def uebersetze(kopf):
+        teil = baum.haus.teil_von(kopf)
+        with tempfile.NamedTemporaryFile("w", suffix=".cpp") as probe:
+            probe.write(f'#include "{kopf}"\n')
+            probe.flush()
+            lauf = subprocess.run([compiler, *schalter.get(teil.ziel if teil else "", ["-std=c++20", f"-I{baum.wurzel}/src"]),
+                                   "-fsyntax-only", probe.name], capture_output=True, text=True, check=False)
+        return lauf.returncode and (f"src/{kopf} does not compile alone: include in it what it uses.\n"
+                                    + "\n".join(lauf.stderr.splitlines()[:6]))
+
+    with ThreadPoolExecutor(2) as hand:
+        return [fund for fund in hand.map(uebersetze, [d for d in baum.quellen() if d.endswith(".h")]) if fund]
+
+
+def sauber(baum):
+    """What people read: no tab, no blank at the end of a line, a line end at the end."""
+    funde = []
+    for datei in baum.dateien():
+        if not datei.endswith((".h", ".cpp", ".md", ".py", ".sh", ".cmake", "CMakeLists.txt")) or not (baum.wurzel / datei).is_file():
+            continue
+        funde += [f"{datei}:{nummer}: a tab, or a blank at the end of the line; take it out (`make format` does for C++)."
+                  for nummer, zeile in baum.zeilen(datei) if "\t" in zeile or zeile != zeile.rstrip(" ")]
+        if not (baum.wurzel / datei).read_bytes().endswith(b"\n"):
+            funde.append(f"{datei}: the last line lacks its line end; add it.")
+    return funde
+
+
+def namen(baum):
+    """Checkouts on other systems, archives and half of all tools stumble over names beyond ASCII and over two that differ by
+    case alone."""
+    funde, klein = [], defaultdict(list)
+    for name in baum.dateien():
+        klein[name.lower()].append(name)
+        if not name.isascii():
+            funde.append(f"{name}: rename it, file names are ASCII (ae, oe, ue, ss).")
+    funde += [f"{' and '.join(paar)}: rename one of them, they differ by case alone." for paar in klein.values() if len(paar) > 1]
+    return funde
