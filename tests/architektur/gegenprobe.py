@@ -104,7 +104,10 @@ class Gegenprobe(unittest.TestCase):
 
     def test_allein(self):
         self.erwarte(regeln.allein, "src/oben/a.h does not compile alone", "include in it what it uses",
-                     src__oben__a_PUNKT_h="std::string f();\n")
+                     src__oben__a_PUNKT_h="Boden f();\n")
+        self.erwarte(regeln.allein, "it uses std::string, include <string>",
+                     src__oben__a_PUNKT_h="#include <vector>\nstd::string f();\n")
+        self.erwarte(regeln.allein, "std::jthread: say in STANDARD", src__oben__a_PUNKT_h="#include <thread>\nstd::jthread f();\n")
 
     def test_sauber(self):
         for text in ("a \n", "\ta\n"):

@@ -2,6 +2,7 @@
 
 import json
 import re
+import shlex
 import subprocess
 import tempfile
 from collections import defaultdict
@@ -107,25 +108,63 @@ def pfeile(baum):
     return funde
 
 
+# The header that brings each name of the standard library which our headers use.
+STANDARD = {name: kopf for kopf, namen in {
+    "array": "array", "cmath": "lround", "cstddef": "size_t ptrdiff_t byte nullptr_t",
+    "cstdint": "int8_t int16_t int32_t int64_t uint8_t uint16_t uint32_t uint64_t intptr_t uintptr_t", "deque": "deque",
+    "filesystem": "filesystem", "functional": "function less hash", "initializer_list": "initializer_list",
+    "iosfwd": "ostream istream", "map": "map multimap", "memory": "unique_ptr shared_ptr weak_ptr make_unique make_shared",
+    "optional": "optional nullopt make_optional", "random": "mt19937_64", "set": "set multiset", "span": "span",
+    "stdexcept": "runtime_error logic_error out_of_range invalid_argument",
+    "string": "string u32string wstring to_string", "string_view": "string_view u32string_view wstring_view",
+    "system_error": "error_code errc system_error", "tuple": "tuple tie", "type_traits": "is_same_v decay_t enable_if_t",
+    "unordered_map": "unordered_map", "utility": "move forward exchange pair swap as_const", "variant": "variant visit monostate",
+    "vector": "vector erase erase_if"}.items() for name in namen.split()}
+# Containers bring what their own declarations need.
+BRINGT_MIT = {kopf: ["cstddef", "utility", "initializer_list"] for kopf in STANDARD.values()}
+BRINGT_MIT |= {"iostream": ["iosfwd"], "ostream": ["iosfwd"], "string": BRINGT_MIT["string"] + ["string_view"],
+               "filesystem": BRINGT_MIT["string"] + ["string_view", "system_error"]}
+
+
 def _schalter(baum):
-    """The switches that decide what a header means, by target folder, from the commands that CMake has written."""
+    """What the sources of each target are compiled with, the precompiled header included, as CMake has written it."""
     schalter = {}
     for eintrag in json.loads((baum.bau / "compile_commands.json").read_text(encoding="utf-8")):
         datei = Path(eintrag["file"])
-        if datei.suffix != ".cpp" or not datei.is_relative_to(baum.wurzel / "src"):
-            continue
-        teil = baum.haus.teil_von(datei.relative_to(baum.wurzel / "src"))
-        worte = eintrag["command"].split()
-        gewaehlt = [w for w in worte if re.match(r"-(I|D|std=|f|O)", w)]
-        gewaehlt += [teilwort for n, w in enumerate(worte) if w == "-isystem" for teilwort in worte[n:n + 2]]
-        if teil:
-            schalter.setdefault(teil.ziel, gewaehlt)
+        if datei.suffix == ".cpp" and datei.is_relative_to(baum.wurzel / "src"):
+            teil = baum.haus.teil_von(datei.relative_to(baum.wurzel / "src"))
+            worte = shlex.split(eintrag["command"])
+            anfang = max(n for n, wort in enumerate(worte) if re.search(r"(^|/)(c|g|clang)\+\+[-\d]*$", wort))
+            ende = min(n for n, wort in enumerate(worte) if wort in ("-MD", "-o"))
+            schalter.setdefault(teil.ziel, worte[anfang + 1:ende])
     return schalter
 
 
+def _kommt_an(baum, kopf, gesehen):
+    """The standard headers that the header includes, by itself or through ours."""
+    gesehen.add(kopf)
+    for _, zeile in baum.zeilen("src/" + kopf):
+        if treffer := FREMDER_INCLUDE.match(zeile):
+            yield from [treffer[1], *BRINGT_MIT.get(treffer[1], [])]
+        elif (treffer := EIGENER_INCLUDE.match(zeile)) and treffer[1] not in gesehen:
+            yield from _kommt_an(baum, treffer[1], gesehen)
+
+
+def _standard(baum, kopf):
+    text = "\n".join(re.sub(r"//.*", "", zeile) for _, zeile in baum.zeilen("src/" + kopf))
+    da = set(_kommt_an(baum, kopf, set()))
+    for name in sorted(set(re.findall(r"\bstd::(\w+)", text))):
+        if name not in STANDARD:
+            yield f"src/{kopf} uses std::{name}: say in STANDARD (tests/architektur/regeln.py) which header brings it."
+        elif STANDARD[name] not in da:
+            yield f"src/{kopf} does not compile alone: it uses std::{name}, include <{STANDARD[name]}>."
+
+
 def allein(baum, compiler="g++"):
-    """Every header compiles alone, without the precompiled ones."""
+    """Every header compiles alone. The precompiled header of its folder makes that quick, so what it would hide, the
+    standard library's names, is looked up first."""
     schalter = _schalter(baum)
+    koepfe = [datei for datei in baum.quellen() if datei.endswith(".h")]
 
     def uebersetze(kopf):
         teil = baum.haus.teil_von(kopf)
@@ -137,8 +176,9 @@ def allein(baum, compiler="g++"):
         return lauf.returncode and (f"src/{kopf} does not compile alone: include in it what it uses.\n"
                                     + "\n".join(lauf.stderr.splitlines()[:6]))
 
+    funde = [fund for kopf in koepfe for fund in _standard(baum, kopf)]
     with ThreadPoolExecutor(2) as hand:
-        return [fund for fund in hand.map(uebersetze, [d for d in baum.quellen() if d.endswith(".h")]) if fund]
+        return funde + [fund for fund in hand.map(uebersetze, koepfe) if fund]
 
 
 def sauber(baum):

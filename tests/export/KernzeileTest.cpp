@@ -7,6 +7,7 @@
 #include "platform/umgebung/Laufzeitfehler.h"
 
 #include "satz/moData.h"
+#include "satz/moHelferlein.h"
 
 #include <algorithm>
 

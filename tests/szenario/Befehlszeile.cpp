@@ -1,7 +1,9 @@
 #include "Befehlszeile.h"
 
 #include <algorithm>
+#include <charconv>
 #include <optional>
+#include <system_error>
 
 namespace fs = std::filesystem;
 
@@ -25,6 +27,19 @@ Oberflächenwahl liesOberfläche(std::string_view wert)
         return Oberflächenwahl::Beide;
     }
     throw Aufruffehler("--oberfläche=ohne, qt oder beide statt »" + std::string(wert) + "«");
+}
+
+/// "2/3" is the second of three parts.
+void liesTeil(std::string_view wert, Befehlszeile& befehlszeile)
+{
+    const auto strich = std::min(wert.find('/'), wert.size());
+    const auto ende = wert.data() + wert.size();
+    const auto erste = std::from_chars(wert.data(), wert.data() + strich, befehlszeile.teil);
+    const auto zweite = std::from_chars(std::min(wert.data() + strich + 1, ende), ende, befehlszeile.teile);
+    if (erste.ec != std::errc() || erste.ptr != wert.data() + strich || zweite.ec != std::errc() ||
+        zweite.ptr != ende || befehlszeile.teil < 1 || befehlszeile.teil > befehlszeile.teile) {
+        throw Aufruffehler("--teil=1/3, 2/3 oder 3/3 statt »" + std::string(wert) + "«");
+    }
 }
 
 /// What stands behind `name=`, if the argument is this option.
@@ -55,6 +70,8 @@ Befehlszeile liesBefehlszeile(const std::vector<std::string>& argumente)
             befehlszeile.oberfläche = liesOberfläche(*oberfläche);
         } else if (const auto nur = wertVon(argument, "--nur=")) {
             befehlszeile.nur = *nur;
+        } else if (const auto teil = wertVon(argument, "--teil=")) {
+            liesTeil(*teil, befehlszeile);
         } else if (argument.starts_with("--")) {
             throw Aufruffehler("unbekannt: " + argument);
         } else {
@@ -78,5 +95,8 @@ std::vector<fs::path> findeSzenarien(const Befehlszeile& befehlszeile)
         dateien.insert(dateien.end(), gefunden.begin(), gefunden.end());
     }
     std::erase_if(dateien, [&](const auto& pfad) { return alsText(pfad).find(befehlszeile.nur) == std::string::npos; });
+    // neighbours go into different parts, since the long ones are neighbours
+    std::size_t nummer = 0;
+    std::erase_if(dateien, [&](const auto&) { return nummer++ % befehlszeile.teile != befehlszeile.teil - 1; });
     return dateien;
 }

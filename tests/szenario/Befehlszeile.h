@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
@@ -11,7 +12,9 @@ enum class Oberflächenwahl { Ohne, Qt, Beide };
 /// What the runner is called with.
 struct Befehlszeile {
     Oberflächenwahl oberfläche = Oberflächenwahl::Beide;
-    std::string nur; ///< only scenarios whose path contains it
+    std::string nur;      ///< only scenarios whose path contains it
+    std::size_t teil = 1; ///< of so many parts of about the same size, the one to be run
+    std::size_t teile = 1;
     std::vector<std::filesystem::path> orte;
 };
 

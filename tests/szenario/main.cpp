@@ -107,7 +107,7 @@ int main(int argc, char** argv)
     try {
         return führeAlleAus(liesBefehlszeile({argv + 1, argv + argc}));
     } catch (const Aufruffehler& fehler) {
-        std::cerr << fehler.what() << "\nszenario [--oberfläche=ohne|qt|beide] [--nur=WORT] DATEI-ODER-ORDNER ...\n";
+        std::cerr << fehler.what() << "\nszenario [--oberfläche=ohne|qt|beide] [--nur=WORT] [--teil=N/ALLE] DATEI-ODER-ORDNER ...\n";
         return 2;
     }
 }

@@ -35,13 +35,12 @@ struct Menü {
     std::vector<Menüeintrag*> einträge;
 };
 
-/// A screen: a class `frm…` whose public members are its elements, under their own names. Its constructor
-/// gives captions, lists and arrangement and registers the elements; its methods are its rules. It knows no
-/// toolkit.
+/// A screen: a class `frm…` whose public members are its elements, under their own names, in the order in which
+/// they are declared. Its constructor gives lists and arrangement; its methods are its rules. It knows no toolkit.
 ///
 /// A screen object lives from one loading to its unloading: whoever opens a screen makes a new object
 /// (Bildschirmplatz), so that every opening starts with the elements as they were laid out.
-class Bildschirm {
+class Bildschirm : public Elementträger {
 public:
     explicit Bildschirm(std::string_view name) : m_name(name) {}
     Bildschirm(const Bildschirm&) = delete;
@@ -87,7 +86,7 @@ public:
     bool istZuSehen(const Element& element) const { return element.istSichtbar() && !istVerdeckt(element); }
     bool istErreichbar(const Element& element) const { return istZuSehen(element) && element.istFrei(); }
 
-    Element* fokus() const { return m_fokus; }
+    Element* fokus() const override { return m_fokus; }
     /// Moves the focus to the element (nullptr: away from all). False when the field that has it does not let
     /// go; the action behind the move is then not to happen.
     bool fokussiere(Element* element);
@@ -112,17 +111,10 @@ public:
     Melder<> fokusGeändert;
     Melder<> lageGeändert;
 
-protected:
-    /// Registers the element under its name; the constructor calls it for each.
-    void benenne(std::string_view name, Element& element);
-    template <class E> void benenne(std::string_view name, Elementreihe<E>& reihe)
-    {
-        for (int i = reihe.von(); i <= reihe.bis(); ++i) {
-            benenne(verbinde(name, '(', std::to_string(i), ')'), reihe(i));
-        }
-    }
-
 private:
+    /// The element's own constructor registers it.
+    void nimmAuf(Element& element) override;
+
     void sammleTabFolge(const Anordnung& a, std::vector<Element*>& folge) const;
     bool istUnterDecke(const Anordnung& a, const Element& element, bool verdeckt) const;
 
@@ -136,3 +128,9 @@ private:
     Element* m_fokus = nullptr;
     bool m_prüftVerlassen = false;
 };
+
+/// The screen that the element is on; nothing else carries elements.
+inline Bildschirm& bildschirmVon(const Element& element)
+{
+    return static_cast<Bildschirm&>(element.träger());
+}

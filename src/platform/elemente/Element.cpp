@@ -1,5 +1,10 @@
 #include "platform/elemente/Element.h"
 
+Element::Element(Elementträger& träger, std::string_view name) : m_träger(träger), m_name(name)
+{
+    m_träger.nimmAuf(*this);
+}
+
 void Element::zeige(bool sichtbar)
 {
     if (m_sichtbar != sichtbar) {
@@ -26,6 +31,11 @@ void Element::setzeHintergrund(Farbe farbe)
 {
     m_hintergrund = farbe;
     meldeÄnderung();
+}
+
+bool Element::hatFokus() const
+{
+    return m_träger.fokus() == this;
 }
 
 bool Element::taste(const Taste& /*taste*/)

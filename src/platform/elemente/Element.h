@@ -9,8 +9,18 @@
 #include <string>
 #include <string_view>
 
-class Bildschirm;
+class Element;
 class Elementbesucher;
+
+/// What elements live on: a screen (platform/bildschirm). It takes each as it is made and knows which has the focus.
+class Elementträger {
+public:
+    virtual void nimmAuf(Element& element) = 0;
+    virtual Element* fokus() const = 0;
+
+protected:
+    ~Elementträger() = default;
+};
 
 /// What every element of a screen has in common. An element is a value with a change notification: the
 /// surface subscribes to `geändert` and draws; a person's action comes back through the doors (`klicke`,
@@ -21,14 +31,14 @@ class Elementbesucher;
 /// they do not move the focus (Bildschirm::fokussiere does). All texts are code page.
 class Element {
 public:
-    Element() = default;
+    /// Registers with the screen under the name ("cmdOK", "optHDohne(2)"), in the order of declaration.
+    Element(Elementträger& träger, std::string_view name);
     Element(const Element&) = delete;
     Element& operator=(const Element&) = delete;
     virtual ~Element() = default;
 
-    /// The element's own name on its screen, as "cmdOK" or "optHDohne(2)"; set by the screen.
     const std::string& name() const { return m_name; }
-    Bildschirm* bildschirm() const { return m_bildschirm; }
+    Elementträger& träger() const { return m_träger; }
 
     bool istSichtbar() const { return m_sichtbar; }
     void zeige(bool sichtbar = true);
@@ -52,7 +62,7 @@ public:
     /// Whether it takes the keyboard focus at all.
     virtual bool nimmtFokus() const { return true; }
     /// Whether it is the element of its screen that has the focus.
-    bool hatFokus() const { return m_hatFokus; }
+    bool hatFokus() const;
 
     virtual void besuche(Elementbesucher& besucher) = 0;
 
@@ -88,13 +98,10 @@ protected:
     }
 
 private:
-    friend class Bildschirm;
-
+    Elementträger& m_träger;
     std::string m_name;
-    Bildschirm* m_bildschirm = nullptr;
     bool m_sichtbar = true;
     bool m_frei = true;
-    bool m_hatFokus = false;
     std::string m_hinweis;
     std::optional<Farbe> m_hintergrund;
 };
