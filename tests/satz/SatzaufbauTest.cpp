@@ -177,7 +177,6 @@ TEST(Vorgaben, BetreuungHat192Felder)
     const auto satz = erstelleDefaultBetrDS();
     EXPECT_EQ(anzahlFelder(satz), 192);
     EXPECT_EQ(felder(satz, 1, 5), "1·1·02.08.2007·02.08.2007·k.A.·"_t);
-    EXPECT_EQ(getFeld(satz, 13), "Keine / Selbstmelder");
     EXPECT_EQ(felder(satz, 141, 144), "k.A.·0·0·keine Angaben·"_t);
     EXPECT_EQ(felder(satz, 150, 156), "Wahr·Falsch·Falsch·Falsch·Falsch·Falsch·keine Angaben·"_t);
     EXPECT_EQ(felder(satz, 160, 164), "Wahr·Falsch·Falsch·Falsch·k.A.·"_t);
