@@ -3,6 +3,7 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Klientenfelder.h"
 
 #include <algorithm>
 #include <array>
@@ -133,9 +134,7 @@ std::string felder(std::string_view zeile, int von, int bis)
 
 std::string klientenname(std::string_view kernDS)
 {
-    constexpr int feldNachname = 4;
-    constexpr int feldVorname = 5;
-    return verbinde(getFeld(kernDS, feldNachname), ", "_t, getFeld(kernDS, feldVorname));
+    return verbinde(getFeld(kernDS, feld::kern::nachname), ", "_t, getFeld(kernDS, feld::kern::vorname));
 }
 
 bool vergleicheDatum(std::string_view a, std::string_view op, std::string_view b)

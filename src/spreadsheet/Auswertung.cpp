@@ -5,6 +5,7 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Diagnosefelder.h"
 #include "satz/Satzaufbau.h"
 #include "satz/moData.h"
 #include "satz/moHelferlein.h"
@@ -75,7 +76,7 @@ HDBlock sucheHDBlock(std::string_view zeile)
 {
     getFeld(zeile, 1); // refuses a line that is too long to be counted
     HDBlock block;
-    for (int feld = 1; feld <= diagnosefeld(diagnosegruppen, felderJeGruppe); ++feld) {
+    for (int feld = 1; feld <= feld::diag::antwort(höchsteGruppe, felderJeGruppe); ++feld) {
         const std::size_t ende = zeile.find(trenner);
         const std::string_view text = zeile.substr(0, ende);
         const int platz = (feld + 5) % felderJeGruppe;
