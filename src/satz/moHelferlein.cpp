@@ -7,20 +7,13 @@
 
 #include <algorithm>
 #include <array>
+#include <climits>
 #include <filesystem>
 #include <limits>
 
 namespace {
 
 constexpr std::size_t höchsteZeilenlänge = std::numeric_limits<std::int16_t>::max();
-
-void prüfeZeilenlänge(std::string_view zeile)
-{
-    if (zeile.size() > höchsteZeilenlänge) {
-        throw Laufzeitfehler(verbinde("Überlauf: Eine Zeile ist "_t, std::to_string(zeile.size()),
-                                      " Zeichen lang, erlaubt sind "_t, std::to_string(höchsteZeilenlänge)));
-    }
-}
 
 /// What is left of the line from field `nummer` on, without a value when there is no such field.
 std::optional<std::string_view> abFeld(std::string_view zeile, int nummer, char trennzeichen)
@@ -76,6 +69,14 @@ Datumsteile zerlegeDatum(std::string_view datum)
 
 } // namespace
 
+void prüfeZeilenlänge(std::string_view zeile)
+{
+    if (zeile.size() > höchsteZeilenlänge) {
+        throw Laufzeitfehler(verbinde("Überlauf: Eine Zeile ist "_t, std::to_string(zeile.size()),
+                                      " Zeichen lang, erlaubt sind "_t, std::to_string(höchsteZeilenlänge)));
+    }
+}
+
 std::string_view getFeld(std::string_view zeile, int nummer)
 {
     return getFeldMit(zeile, nummer, trenner);
@@ -130,6 +131,16 @@ std::string felder(std::string_view zeile, int von, int bis)
         rest = rest ? abFeld(*rest, 2, trenner) : rest;
     }
     return ergebnis;
+}
+
+std::string_view feldbereich(std::string_view zeile, int von, int bis)
+{
+    const auto bereich = abFeld(zeile, von, trenner).value_or(std::string_view{});
+    if (bis == INT_MAX) {
+        return bereich;
+    }
+    const auto dahinter = abFeld(bereich, bis - von + 2, trenner);
+    return dahinter ? bereich.substr(0, bereich.size() - dahinter->size() - 1) : bereich;
 }
 
 std::string klientenname(std::string_view kernDS)
