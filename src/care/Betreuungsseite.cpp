@@ -5,16 +5,9 @@
 
 Betreuungsseite::Betreuungsseite(std::string_view name, std::string_view überschrift, Bildschirm& betreuung,
                                  std::string Arbeitskopie::*stück)
-    : Bildschirm(name), lblHeader(überschrift), m_betreuung(betreuung), m_stück(stück)
+    : Bildschirm(name), m_betreuung(betreuung), m_stück(stück)
 {
-    benenne("lblHeader"_t, lblHeader);
-    benenne("lblName"_t, lblName);
-    benenne("lblBetrBeg"_t, lblBetrBeg);
-    benenne("lblBetrEnd"_t, lblBetrEnd);
-    benenne("cmdMemo"_t, cmdMemo);
-    benenne("cmdOK"_t, cmdOK);
-    benenne("cmdExit"_t, cmdExit);
-
+    lblHeader.setzeText(überschrift);
     kopfband.titel = &lblHeader;
     kopfband.name = &lblName;
     kopfband.werte = {{std::string("Betreuungszeitraum von:"_t), &lblBetrBeg}, {std::string("bis:"_t), &lblBetrEnd}};

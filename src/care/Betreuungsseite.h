@@ -12,11 +12,13 @@
 /// (asking first when the screen differs from it). No page writes to a table.
 class Betreuungsseite : public Bildschirm {
 public:
-    Beschriftung lblHeader;
-    Beschriftung lblName, lblBetrBeg, lblBetrEnd;
-    Schaltfläche cmdMemo{"&Memo"_t};
-    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt};
-    Schaltfläche cmdExit{"&Exit"_t};
+    Beschriftung lblHeader{*this, "lblHeader"_t};
+    Beschriftung lblName{*this, "lblName"_t};
+    Beschriftung lblBetrBeg{*this, "lblBetrBeg"_t};
+    Beschriftung lblBetrEnd{*this, "lblBetrEnd"_t};
+    Schaltfläche cmdMemo{*this, "cmdMemo"_t, "&Memo"_t};
+    Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
 protected:
     /// `betreuung` is the care main page, which is shown again at the end; `stück` the page's piece.

@@ -70,7 +70,6 @@ frmBetrA::frmBetrA(Bildschirm& betreuung)
 {
     beschrifte(lblZuvor, maßnahmenarten);
     beschrifte(lblKooper, kooperationspartner);
-    benenneElemente();
     baueTafel();
     richteFüllerEin(cmdSchnellFüller(0), triJaNeinMasInt);
     richteFüllerEin(cmdSchnellFüller(1), triJaNeinMasExt);
@@ -78,19 +77,6 @@ frmBetrA::frmBetrA(Bildschirm& betreuung)
     cmdSchnellFüller(3).setzeHinweis("setzt alle \"k.A.\" auf \"0\""_t);
     cmdSchnellFüller(3).beiKlick = [this] { setzeZuvorAufNull(); };
     aufbau = anordnung::karten({anordnung::spalte({maßnahmen()}), anordnung::spalte({kooperationen()})});
-}
-
-void frmBetrA::benenneElemente()
-{
-    benenne("comboSubstitut"_t, comboSubstitut);
-    benenne("comboZuvorNULL"_t, comboZuvorNULL);
-    benenne("lblZuvor"_t, lblZuvor);
-    benenne("triJaNeinMasInt"_t, triJaNeinMasInt);
-    benenne("triJaNeinMasExt"_t, triJaNeinMasExt);
-    benenne("comboZuvor"_t, comboZuvor);
-    benenne("lblKooper"_t, lblKooper);
-    benenne("triJaNeinKooper"_t, triJaNeinKooper);
-    benenne("cmdSchnellFüller"_t, cmdSchnellFüller);
 }
 
 void frmBetrA::baueTafel()

@@ -6,20 +6,20 @@
 /// earlier measures, cooperation partners.
 class frmBetrA : public Betreuungsseite {
 public:
-    Auswahlfeld comboSubstitut, comboZuvorNULL;
-    Elementreihe<Beschriftung> lblZuvor{1, 18};
-    Elementreihe<triCtlJaNein> triJaNeinMasInt{1, 17};
-    Elementreihe<triCtlJaNein> triJaNeinMasExt{1, 17};
-    Elementreihe<Auswahlfeld> comboZuvor{1, 18, Auswahlfeld::Art::Tippbar};
-    Elementreihe<Beschriftung> lblKooper{1, 26};
-    Elementreihe<triCtlJaNein> triJaNeinKooper{1, 26};
-    Elementreihe<Schaltfläche> cmdSchnellFüller{0, 3, "!"_t, Schaltfläche::Rolle::Füller};
+    Auswahlfeld comboSubstitut{*this, "comboSubstitut"_t};
+    Auswahlfeld comboZuvorNULL{*this, "comboZuvorNULL"_t};
+    Elementreihe<Beschriftung> lblZuvor{*this, "lblZuvor"_t, 1, 18};
+    Elementreihe<triCtlJaNein> triJaNeinMasInt{*this, "triJaNeinMasInt"_t, 1, 17};
+    Elementreihe<triCtlJaNein> triJaNeinMasExt{*this, "triJaNeinMasExt"_t, 1, 17};
+    Elementreihe<Auswahlfeld> comboZuvor{*this, "comboZuvor"_t, 1, 18, Auswahlfeld::Art::Tippbar};
+    Elementreihe<Beschriftung> lblKooper{*this, "lblKooper"_t, 1, 26};
+    Elementreihe<triCtlJaNein> triJaNeinKooper{*this, "triJaNeinKooper"_t, 1, 26};
+    Elementreihe<Schaltfläche> cmdSchnellFüller{*this, "cmdSchnellFüller"_t, 0, 3, "!"_t, Schaltfläche::Rolle::Füller};
 
     /// `betreuung` is the care main page.
     explicit frmBetrA(Bildschirm& betreuung);
 
 private:
-    void benenneElemente();
     void baueTafel();
     Anordnung maßnahmen();
     Anordnung kooperationen();

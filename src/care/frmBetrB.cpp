@@ -18,25 +18,11 @@ frmBetrB::frmBetrB(Bildschirm& betreuung)
     : Betreuungsseite("frmBetrB"_t, "Soziodemografische Daten 1"_t, betreuung, &Arbeitskopie::DSBetrB)
 {
     beschrifte(lblLebensit, lebenssituationen);
-    benenneElemente();
     baueTafel();
     ordneAn();
     for (Auswahlfeld& feld : comboLebensit) {
         feld.beiWahl = [this] { zeigeLebensit(); };
     }
-}
-
-void frmBetrB::benenneElemente()
-{
-    benenne("comboFamsta"_t, comboFamsta);
-    benenne("comboPartner"_t, comboPartner);
-    benenne("lblLebensit"_t, lblLebensit);
-    benenne("comboLebensit"_t, comboLebensit);
-    benenne("comboKinder1"_t, comboKinder1);
-    benenne("comboKinder2"_t, comboKinder2);
-    benenne("comboWohnung1"_t, comboWohnung1);
-    benenne("comboWohnung2"_t, comboWohnung2);
-    benenne("comboWohnung3"_t, comboWohnung3);
 }
 
 void frmBetrB::baueTafel()

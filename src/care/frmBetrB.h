@@ -5,17 +5,20 @@
 /// Socio-demographic page 1: family, household, children, housing.
 class frmBetrB : public Betreuungsseite {
 public:
-    Auswahlfeld comboFamsta, comboPartner;
-    Elementreihe<Beschriftung> lblLebensit{0, 5};
-    Elementreihe<Auswahlfeld> comboLebensit{0, 5};
-    Auswahlfeld comboKinder1{Auswahlfeld::Art::Tippbar}, comboKinder2{Auswahlfeld::Art::Tippbar};
-    Auswahlfeld comboWohnung1, comboWohnung2, comboWohnung3;
+    Auswahlfeld comboFamsta{*this, "comboFamsta"_t};
+    Auswahlfeld comboPartner{*this, "comboPartner"_t};
+    Elementreihe<Beschriftung> lblLebensit{*this, "lblLebensit"_t, 0, 5};
+    Elementreihe<Auswahlfeld> comboLebensit{*this, "comboLebensit"_t, 0, 5};
+    Auswahlfeld comboKinder1{*this, "comboKinder1"_t, Auswahlfeld::Art::Tippbar};
+    Auswahlfeld comboKinder2{*this, "comboKinder2"_t, Auswahlfeld::Art::Tippbar};
+    Auswahlfeld comboWohnung1{*this, "comboWohnung1"_t};
+    Auswahlfeld comboWohnung2{*this, "comboWohnung2"_t};
+    Auswahlfeld comboWohnung3{*this, "comboWohnung3"_t};
 
     /// `betreuung` is the care main page.
     explicit frmBetrB(Bildschirm& betreuung);
 
 private:
-    void benenneElemente();
     void baueTafel();
     void ordneAn();
     void zeigeLebensit();

@@ -46,7 +46,6 @@ frmBetrC::frmBetrC(Bildschirm& betreuung)
     : Betreuungsseite("frmBetrC"_t, "Soziodemografische Daten 2"_t, betreuung, &Arbeitskopie::DSBetrC)
 {
     beschrifte(lblLebUnt, lebensunterhalte);
-    benenneElemente();
     baueTafel();
     for (int i = lblLebUnt.von(); i <= lblLebUnt.bis(); ++i) {
         verbindeZeile(optLebunterV(i), triJaNeinLebuntv(i), m_hauptVor);
@@ -55,24 +54,6 @@ frmBetrC::frmBetrC(Bildschirm& betreuung)
     richteFüllerEin(cmdSchnellFüller(0), triJaNeinLebuntv);
     richteFüllerEin(cmdSchnellFüller(1), triJaNeinLebuntn);
     ordneAn();
-}
-
-void frmBetrC::benenneElemente()
-{
-    benenne("lblLebUnt"_t, lblLebUnt);
-    benenne("triJaNeinLebuntv"_t, triJaNeinLebuntv);
-    benenne("Frame1"_t, Frame1);
-    benenne("optLebunterV"_t, optLebunterV);
-    benenne("triJaNeinLebuntn"_t, triJaNeinLebuntn);
-    benenne("Frame2"_t, Frame2);
-    benenne("optLebunterN"_t, optLebunterN);
-    benenne("comboSchule"_t, comboSchule);
-    benenne("comboAusbild"_t, comboAusbild);
-    benenne("comboErwerb1"_t, comboErwerb1);
-    benenne("comboErwerb2"_t, comboErwerb2);
-    benenne("comboErwerb3"_t, comboErwerb3);
-    benenne("comboSchulden"_t, comboSchulden);
-    benenne("cmdSchnellFüller"_t, cmdSchnellFüller);
 }
 
 void frmBetrC::baueTafel()

@@ -9,23 +9,26 @@
 /// the mark away. The answer survives the mark.
 class frmBetrC : public Betreuungsseite {
 public:
-    Elementreihe<Beschriftung> lblLebUnt{1, 12};
-    Elementreihe<triCtlJaNein> triJaNeinLebuntv{1, 12};
+    Elementreihe<Beschriftung> lblLebUnt{*this, "lblLebUnt"_t, 1, 12};
+    Elementreihe<triCtlJaNein> triJaNeinLebuntv{*this, "triJaNeinLebuntv"_t, 1, 12};
     /// The heads over the two groups of options.
-    Beschriftung Frame1{"Haupt- lebens- unterhalt"_t}, Frame2{"Haupt- lebens- unterhalt"_t};
-    Elementreihe<Optionsfeld> optLebunterV{1, 12};
-    Elementreihe<triCtlJaNein> triJaNeinLebuntn{1, 12};
-    Elementreihe<Optionsfeld> optLebunterN{1, 12};
-    Auswahlfeld comboSchule, comboAusbild;
-    Auswahlfeld comboErwerb1, comboErwerb2, comboErwerb3;
-    Auswahlfeld comboSchulden;
-    Elementreihe<Schaltfläche> cmdSchnellFüller{0, 1, "!"_t, Schaltfläche::Rolle::Füller};
+    Beschriftung Frame1{*this, "Frame1"_t, "Haupt- lebens- unterhalt"_t};
+    Beschriftung Frame2{*this, "Frame2"_t, "Haupt- lebens- unterhalt"_t};
+    Elementreihe<Optionsfeld> optLebunterV{*this, "optLebunterV"_t, 1, 12};
+    Elementreihe<triCtlJaNein> triJaNeinLebuntn{*this, "triJaNeinLebuntn"_t, 1, 12};
+    Elementreihe<Optionsfeld> optLebunterN{*this, "optLebunterN"_t, 1, 12};
+    Auswahlfeld comboSchule{*this, "comboSchule"_t};
+    Auswahlfeld comboAusbild{*this, "comboAusbild"_t};
+    Auswahlfeld comboErwerb1{*this, "comboErwerb1"_t};
+    Auswahlfeld comboErwerb2{*this, "comboErwerb2"_t};
+    Auswahlfeld comboErwerb3{*this, "comboErwerb3"_t};
+    Auswahlfeld comboSchulden{*this, "comboSchulden"_t};
+    Elementreihe<Schaltfläche> cmdSchnellFüller{*this, "cmdSchnellFüller"_t, 0, 1, "!"_t, Schaltfläche::Rolle::Füller};
 
     /// `betreuung` is the care main page.
     explicit frmBetrC(Bildschirm& betreuung);
 
 private:
-    void benenneElemente();
     void baueTafel();
     void ordneAn();
     Anordnung lebensunterhalt();

@@ -38,22 +38,9 @@ frmBetrE::frmBetrE(Bildschirm& betreuung)
     : Betreuungsseite("frmBetrE"_t, "Daten zu Bereuungsende"_t, betreuung, &Arbeitskopie::DSBetrE)
 {
     beschrifte(lblVermitt, vermittlungen);
-    benenneElemente();
     baueTafel();
     richteVermittlungenEin();
     ordneAn();
-}
-
-void frmBetrE::benenneElemente()
-{
-    benenne("comboKontakte"_t, comboKontakte);
-    benenne("comboArtEnd1"_t, comboArtEnd1);
-    benenne("comboArtEnd2"_t, comboArtEnd2);
-    benenne("comboProblEnde"_t, comboProblEnde);
-    benenne("comboWeiter"_t, comboWeiter);
-    benenne("lblVermitt"_t, lblVermitt);
-    benenne("triJaNeinVermitt"_t, triJaNeinVermitt);
-    benenne("cmdSchnellFüller"_t, cmdSchnellFüller);
 }
 
 void frmBetrE::baueTafel()

@@ -6,17 +6,19 @@
 /// it only while the end in flight is a date.
 class frmBetrE : public Betreuungsseite {
 public:
-    Auswahlfeld comboKontakte{Auswahlfeld::Art::Tippbar};
-    Auswahlfeld comboArtEnd1, comboArtEnd2, comboProblEnde, comboWeiter;
-    Elementreihe<Beschriftung> lblVermitt{1, 23};
-    Elementreihe<triCtlJaNein> triJaNeinVermitt{1, 23};
-    Schaltfläche cmdSchnellFüller{"!"_t, Schaltfläche::Rolle::Füller};
+    Auswahlfeld comboKontakte{*this, "comboKontakte"_t, Auswahlfeld::Art::Tippbar};
+    Auswahlfeld comboArtEnd1{*this, "comboArtEnd1"_t};
+    Auswahlfeld comboArtEnd2{*this, "comboArtEnd2"_t};
+    Auswahlfeld comboProblEnde{*this, "comboProblEnde"_t};
+    Auswahlfeld comboWeiter{*this, "comboWeiter"_t};
+    Elementreihe<Beschriftung> lblVermitt{*this, "lblVermitt"_t, 1, 23};
+    Elementreihe<triCtlJaNein> triJaNeinVermitt{*this, "triJaNeinVermitt"_t, 1, 23};
+    Schaltfläche cmdSchnellFüller{*this, "cmdSchnellFüller"_t, "!"_t, Schaltfläche::Rolle::Füller};
 
     /// `betreuung` is the care main page.
     explicit frmBetrE(Bildschirm& betreuung);
 
 private:
-    void benenneElemente();
     void baueTafel();
     void richteVermittlungenEin();
     void ordneAn();

@@ -54,43 +54,10 @@ std::vector<std::string> nationen()
 frmBetreuungA::frmBetreuungA(Bildschirm& hauptmenü) : Bildschirm("frmBetreuungA"_t), m_hauptmenü(hauptmenü)
 {
     beschrifte(lblKosten, kostenträgerarten);
-    benenneElemente();
     baueTafel();
     m_tafel.fülleListen(); // the page is in view, behind the period dialogue, before it is loaded
     ordneAn();
     richteKnöpfeEin();
-}
-
-void frmBetreuungA::benenneElemente()
-{
-    benenne("lblHeader"_t, lblHeader);
-    benenne("lblName"_t, lblName);
-    benenne("lblBetrBeg"_t, lblBetrBeg);
-    benenne("lblBetrEnd"_t, lblBetrEnd);
-    benenne("comboWieder"_t, comboWieder);
-    benenne("comboBetrGru"_t, comboBetrGru);
-    benenne("comboAngeho"_t, comboAngeho);
-    benenne("comboProblem"_t, comboProblem);
-    benenne("comboNation"_t, comboNation);
-    benenne("comboSprache"_t, comboSprache);
-    benenne("comboMigrant1"_t, comboMigrant1);
-    benenne("comboMigrant2"_t, comboMigrant2);
-    benenne("comboVermitt"_t, comboVermitt);
-    benenne("comboAuflagen1"_t, comboAuflagen1);
-    benenne("comboAuflagen2"_t, comboAuflagen2);
-    benenne("lblKosten"_t, lblKosten);
-    benenne("triJaNeinKosten"_t, triJaNeinKosten);
-    benenne("cmdSchnellFüller"_t, cmdSchnellFüller);
-    benenne("cmdIsEigeneProblematik"_t, cmdIsEigeneProblematik);
-    benenne("cmdBearbeiteZeitraum"_t, cmdBearbeiteZeitraum);
-    benenne("cmdBetrA"_t, cmdBetrA);
-    benenne("cmdBetrB"_t, cmdBetrB);
-    benenne("cmdBetrC"_t, cmdBetrC);
-    benenne("cmdBetrDiagnose"_t, cmdBetrDiagnose);
-    benenne("cmdBetrE"_t, cmdBetrE);
-    benenne("cmdMemo"_t, cmdMemo);
-    benenne("cmdOK"_t, cmdOK);
-    benenne("cmdExit"_t, cmdExit);
 }
 
 void frmBetreuungA::baueTafel()

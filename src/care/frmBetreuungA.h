@@ -20,24 +20,35 @@
 /// working copy away, and nothing has to be restored, since nothing was written.
 class frmBetreuungA : public Bildschirm {
 public:
-    Beschriftung lblHeader{"Betreuung Hauptseite"_t};
-    Beschriftung lblName, lblBetrBeg, lblBetrEnd;
-    Auswahlfeld comboWieder, comboBetrGru, comboAngeho, comboProblem, comboNation, comboSprache;
-    Auswahlfeld comboMigrant1, comboMigrant2, comboVermitt, comboAuflagen1, comboAuflagen2;
-    Elementreihe<Beschriftung> lblKosten{1, 9};
-    Elementreihe<triCtlJaNein> triJaNeinKosten{1, 9};
-    Schaltfläche cmdSchnellFüller{"!"_t, Schaltfläche::Rolle::Füller};
+    Beschriftung lblHeader{*this, "lblHeader"_t, "Betreuung Hauptseite"_t};
+    Beschriftung lblName{*this, "lblName"_t};
+    Beschriftung lblBetrBeg{*this, "lblBetrBeg"_t};
+    Beschriftung lblBetrEnd{*this, "lblBetrEnd"_t};
+    Auswahlfeld comboWieder{*this, "comboWieder"_t};
+    Auswahlfeld comboBetrGru{*this, "comboBetrGru"_t};
+    Auswahlfeld comboAngeho{*this, "comboAngeho"_t};
+    Auswahlfeld comboProblem{*this, "comboProblem"_t};
+    Auswahlfeld comboNation{*this, "comboNation"_t};
+    Auswahlfeld comboSprache{*this, "comboSprache"_t};
+    Auswahlfeld comboMigrant1{*this, "comboMigrant1"_t};
+    Auswahlfeld comboMigrant2{*this, "comboMigrant2"_t};
+    Auswahlfeld comboVermitt{*this, "comboVermitt"_t};
+    Auswahlfeld comboAuflagen1{*this, "comboAuflagen1"_t};
+    Auswahlfeld comboAuflagen2{*this, "comboAuflagen2"_t};
+    Elementreihe<Beschriftung> lblKosten{*this, "lblKosten"_t, 1, 9};
+    Elementreihe<triCtlJaNein> triJaNeinKosten{*this, "triJaNeinKosten"_t, 1, 9};
+    Schaltfläche cmdSchnellFüller{*this, "cmdSchnellFüller"_t, "!"_t, Schaltfläche::Rolle::Füller};
     /// Blank cover over comboAngeho and comboProblem while the reason is not a person's surroundings.
-    Schaltfläche cmdIsEigeneProblematik{{}, Schaltfläche::Rolle::Decke};
-    Schaltfläche cmdBearbeiteZeitraum{"bearbeite Zeitraum"_t};
-    Schaltfläche cmdBetrA{"Maßnahmen und Interventionen"_t, Schaltfläche::Rolle::Weg};
-    Schaltfläche cmdBetrB{"Soziodemo- grafische Daten 1"_t, Schaltfläche::Rolle::Weg};
-    Schaltfläche cmdBetrC{"Soziodemo- grafische Daten 2"_t, Schaltfläche::Rolle::Weg};
-    Schaltfläche cmdBetrDiagnose{"Diagnose und Konsum"_t, Schaltfläche::Rolle::Weg};
-    Schaltfläche cmdBetrE{"Daten zu Betreuungs- ende"_t, Schaltfläche::Rolle::Weg};
-    Schaltfläche cmdMemo{"&Memo"_t};
-    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt};
-    Schaltfläche cmdExit{"&Exit"_t};
+    Schaltfläche cmdIsEigeneProblematik{*this, "cmdIsEigeneProblematik"_t, {}, Schaltfläche::Rolle::Decke};
+    Schaltfläche cmdBearbeiteZeitraum{*this, "cmdBearbeiteZeitraum"_t, "bearbeite Zeitraum"_t};
+    Schaltfläche cmdBetrA{*this, "cmdBetrA"_t, "Maßnahmen und Interventionen"_t, Schaltfläche::Rolle::Weg};
+    Schaltfläche cmdBetrB{*this, "cmdBetrB"_t, "Soziodemo- grafische Daten 1"_t, Schaltfläche::Rolle::Weg};
+    Schaltfläche cmdBetrC{*this, "cmdBetrC"_t, "Soziodemo- grafische Daten 2"_t, Schaltfläche::Rolle::Weg};
+    Schaltfläche cmdBetrDiagnose{*this, "cmdBetrDiagnose"_t, "Diagnose und Konsum"_t, Schaltfläche::Rolle::Weg};
+    Schaltfläche cmdBetrE{*this, "cmdBetrE"_t, "Daten zu Betreuungs- ende"_t, Schaltfläche::Rolle::Weg};
+    Schaltfläche cmdMemo{*this, "cmdMemo"_t, "&Memo"_t};
+    Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
     // Set by the main menu before it shows the page. Begin and end in flight stand in the working copy.
     std::int32_t kernID = 0;
@@ -56,7 +67,6 @@ private:
     void beiAktivierung() override;
     void beiEntladen() override;
 
-    void benenneElemente();
     void baueTafel();
     void ordneAn();
     Anordnung angaben();

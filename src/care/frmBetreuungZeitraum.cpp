@@ -13,7 +13,6 @@ frmBetreuungZeitraum::frmBetreuungZeitraum() : Bildschirm("frmBetreuungZeitraum"
         feld->heute = [] { return zustand().umgebung.heute(); };
         feld->setzeDatum(zustand().umgebung.heute());
     }
-    benenneElemente();
     ordneAn();
     beiEingabe = &cmdOK;
     beiEscape = &cmdExit;
@@ -23,20 +22,6 @@ frmBetreuungZeitraum::frmBetreuungZeitraum() : Bildschirm("frmBetreuungZeitraum"
     cmdVonVerbessern.beiKlick = [this] { beiVonVerbessern(); };
     cmdOK.beiKlick = [this] { beiOK(); };
     cmdExit.beiKlick = [this] { beiExit(); };
-}
-
-void frmBetreuungZeitraum::benenneElemente()
-{
-    benenne("lblHeader"_t, lblHeader);
-    benenne("lblVon"_t, lblVon);
-    benenne("DTPickerVon"_t, DTPickerVon);
-    benenne("lblBis"_t, lblBis);
-    benenne("DTPickerBis"_t, DTPickerBis);
-    benenne("cmdIsOffen"_t, cmdIsOffen);
-    benenne("cmdOffenEintragen"_t, cmdOffenEintragen);
-    benenne("cmdVonVerbessern"_t, cmdVonVerbessern);
-    benenne("cmdOK"_t, cmdOK);
-    benenne("cmdExit"_t, cmdExit);
 }
 
 void frmBetreuungZeitraum::ordneAn()

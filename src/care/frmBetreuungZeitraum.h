@@ -12,15 +12,17 @@
 /// to the caller, which keeps it until its own OK.
 class frmBetreuungZeitraum : public Bildschirm {
 public:
-    Beschriftung lblHeader{"Bitte Zeitraum für Betreuung eingeben"_t};
-    Beschriftung lblVon{"von:"_t}, lblBis{"bis:"_t};
-    Datumsfeld DTPickerVon, DTPickerBis;
+    Beschriftung lblHeader{*this, "lblHeader"_t, "Bitte Zeitraum für Betreuung eingeben"_t};
+    Beschriftung lblVon{*this, "lblVon"_t, "von:"_t};
+    Beschriftung lblBis{*this, "lblBis"_t, "bis:"_t};
+    Datumsfeld DTPickerVon{*this, "DTPickerVon"_t};
+    Datumsfeld DTPickerBis{*this, "DTPickerBis"_t};
     /// Shown while the end is open.
-    Schaltfläche cmdIsOffen{"offen"_t, Schaltfläche::Rolle::Gedrückt};
-    Schaltfläche cmdOffenEintragen{"offen eintragen"_t};
-    Schaltfläche cmdVonVerbessern{"von verbessern"_t};
-    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt};
-    Schaltfläche cmdExit{"&Exit"_t};
+    Schaltfläche cmdIsOffen{*this, "cmdIsOffen"_t, "offen"_t, Schaltfläche::Rolle::Gedrückt};
+    Schaltfläche cmdOffenEintragen{*this, "cmdOffenEintragen"_t, "offen eintragen"_t};
+    Schaltfläche cmdVonVerbessern{*this, "cmdVonVerbessern"_t, "von verbessern"_t};
+    Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
     // Set by the caller before it opens the dialogue.
     bool istNeu = false;     ///< the episode is not yet in the care table
@@ -38,7 +40,6 @@ private:
 
     void beiAktivierung() override;
     void beiEntladen() override;
-    void benenneElemente();
     void ordneAn();
     void setzeStufeEins();
     void zeigeStufe();

@@ -28,41 +28,12 @@ std::int32_t idAus(const Liste& liste, std::size_t nummer, std::size_t spalte)
 } // namespace
 
 frmHauptmenü::frmHauptmenü(std::function<void()> aufräumen)
-    : Bildschirm("frmHauptmenü"_t),
-      lvwKlienten({std::string("kernID"_t), std::string("i"_t), std::string("Nachname"_t), std::string("Vorname"_t),
-                   std::string("Straße"_t), std::string("PLZ"_t), std::string("Ort"_t), std::string("GebDatum"_t)}),
-      lvwBetreuungen({std::string("kernID"_t), std::string("betrID"_t), std::string("von"_t), std::string("bis"_t)}),
-      m_aufräumen(std::move(aufräumen))
+    : Bildschirm("frmHauptmenü"_t), m_aufräumen(std::move(aufräumen))
 {
     setzeTitel(verbinde(zustand().titel, " - Hauptmenü"_t));
-    benenneElemente();
     baueMenü();
     ordneAn();
     verbindeRegeln();
-}
-
-void frmHauptmenü::benenneElemente()
-{
-    benenne("mnDatei"_t, mnDatei);
-    benenne("mnHandakte"_t, mnHandakte);
-    benenne("mnExcel"_t, mnExcel);
-    benenne("mnBeenden"_t, mnBeenden);
-    benenne("Export"_t, Export);
-    benenne("mnExport"_t, mnExport);
-    benenne("mnFragezeichen"_t, mnFragezeichen);
-    benenne("mnInfo"_t, mnInfo);
-    benenne("lblHeader"_t, lblHeader);
-    benenne("lvwKlienten"_t, lvwKlienten);
-    benenne("lvwBetreuungen"_t, lvwBetreuungen);
-    benenne("cmdKlientenHinzufügen"_t, cmdKlientenHinzufügen);
-    benenne("cmdKlientenBearbeiten"_t, cmdKlientenBearbeiten);
-    benenne("cmdKlientenLöschen"_t, cmdKlientenLöschen);
-    benenne("cmdBetreuungHinzufügen"_t, cmdBetreuungHinzufügen);
-    benenne("cmdBetreuungBearbeiten"_t, cmdBetreuungBearbeiten);
-    benenne("cmdBetreuungLöschen"_t, cmdBetreuungLöschen);
-    benenne("cmdRollback"_t, cmdRollback);
-    benenne("cmdDatenübernahme"_t, cmdDatenübernahme);
-    benenne("cmdExit"_t, cmdExit);
 }
 
 void frmHauptmenü::baueMenü()

@@ -18,27 +18,30 @@
 /// Every activation reads the lists anew, so nobody has to tell the main menu what has changed.
 class frmHauptmenü : public Bildschirm {
 public:
-    Menüeintrag mnDatei{"Datei"_t};
-    Menüeintrag mnHandakte{"Handakte"_t};
-    Menüeintrag mnExcel{"Daten > Excel"_t};
-    Menüeintrag mnBeenden{"Beenden"_t};
-    Menüeintrag Export{"Export"_t};
-    Menüeintrag mnExport{"Export"_t};
-    Menüeintrag mnFragezeichen{"?"_t};
-    Menüeintrag mnInfo{"Info"_t};
+    Menüeintrag mnDatei{*this, "mnDatei"_t, "Datei"_t};
+    Menüeintrag mnHandakte{*this, "mnHandakte"_t, "Handakte"_t};
+    Menüeintrag mnExcel{*this, "mnExcel"_t, "Daten > Excel"_t};
+    Menüeintrag mnBeenden{*this, "mnBeenden"_t, "Beenden"_t};
+    Menüeintrag Export{*this, "Export"_t, "Export"_t};
+    Menüeintrag mnExport{*this, "mnExport"_t, "Export"_t};
+    Menüeintrag mnFragezeichen{*this, "mnFragezeichen"_t, "?"_t};
+    Menüeintrag mnInfo{*this, "mnInfo"_t, "Info"_t};
 
-    Beschriftung lblHeader{"Hauptmenü"_t};
-    Liste lvwKlienten;
-    Liste lvwBetreuungen;
-    Schaltfläche cmdKlientenHinzufügen{"Klienten hinzufügen"_t};
-    Schaltfläche cmdKlientenBearbeiten{"Klienten bearbeiten"_t};
-    Schaltfläche cmdKlientenLöschen{"Klienten löschen"_t, Schaltfläche::Rolle::Gefahr};
-    Schaltfläche cmdBetreuungHinzufügen{"Betreuung hinzufügen"_t};
-    Schaltfläche cmdBetreuungBearbeiten{"Betreuung bearbeiten"_t};
-    Schaltfläche cmdBetreuungLöschen{"Betreuung löschen"_t, Schaltfläche::Rolle::Gefahr};
-    Schaltfläche cmdRollback{"Eingaben dieser Sitzung verwerfen"_t};
-    Schaltfläche cmdDatenübernahme{"Import der Daten aus Tolvek"_t};
-    Schaltfläche cmdExit{"&Exit"_t};
+    Beschriftung lblHeader{*this, "lblHeader"_t, "Hauptmenü"_t};
+    Liste lvwKlienten{*this,
+                      "lvwKlienten"_t,
+                      {"kernID"_t, "i"_t, "Nachname"_t, "Vorname"_t, "Straße"_t, "PLZ"_t, "Ort"_t, "GebDatum"_t}};
+    Liste lvwBetreuungen{*this, "lvwBetreuungen"_t, {"kernID"_t, "betrID"_t, "von"_t, "bis"_t}};
+    Schaltfläche cmdKlientenHinzufügen{*this, "cmdKlientenHinzufügen"_t, "Klienten hinzufügen"_t};
+    Schaltfläche cmdKlientenBearbeiten{*this, "cmdKlientenBearbeiten"_t, "Klienten bearbeiten"_t};
+    Schaltfläche cmdKlientenLöschen{*this, "cmdKlientenLöschen"_t, "Klienten löschen"_t, Schaltfläche::Rolle::Gefahr};
+    Schaltfläche cmdBetreuungHinzufügen{*this, "cmdBetreuungHinzufügen"_t, "Betreuung hinzufügen"_t};
+    Schaltfläche cmdBetreuungBearbeiten{*this, "cmdBetreuungBearbeiten"_t, "Betreuung bearbeiten"_t};
+    Schaltfläche cmdBetreuungLöschen{*this, "cmdBetreuungLöschen"_t, "Betreuung löschen"_t,
+                                     Schaltfläche::Rolle::Gefahr};
+    Schaltfläche cmdRollback{*this, "cmdRollback"_t, "Eingaben dieser Sitzung verwerfen"_t};
+    Schaltfläche cmdDatenübernahme{*this, "cmdDatenübernahme"_t, "Import der Daten aus Tolvek"_t};
+    Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
     /// `aufräumen` ends the run; the frame gives it.
     explicit frmHauptmenü(std::function<void()> aufräumen);
@@ -47,7 +50,6 @@ private:
     void beiAktivierung() override;
     void beiEntladen() override;
 
-    void benenneElemente();
     void baueMenü();
     void ordneAn();
     void verbindeRegeln();

@@ -61,12 +61,6 @@ std::string ordnertext()
 frmInfo::frmInfo() : Bildschirm("frmInfo"_t)
 {
     using namespace anordnung;
-    benenne("lblHeader"_t, lblHeader);
-    benenne("picInfo"_t, picInfo);
-    benenne("lblText"_t, lblText);
-    benenne("lblOrdner"_t, lblOrdner);
-    benenne("lblTasten"_t, lblTasten);
-    benenne("cmdOK"_t, cmdOK);
     kopfband.titel = &lblHeader;
     aufbau = spalte({karte({}, zeile({element(picInfo, 6), füllend(element(lblText))})),
                      karte("Daten und Sicherungen"_t, element(lblOrdner)), karte("Tasten"_t, element(lblTasten))});

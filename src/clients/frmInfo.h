@@ -5,10 +5,12 @@
 /// Name, version and origin of the program, where its data lie, and the keys. The main menu stays in use meanwhile.
 class frmInfo : public Bildschirm {
 public:
-    Beschriftung lblHeader{"Über dieses Programm"_t};
-    Bild picInfo{"info"_t};
-    Beschriftung lblText, lblOrdner, lblTasten;
-    Schaltfläche cmdOK{"OK"_t, Schaltfläche::Rolle::Haupt};
+    Beschriftung lblHeader{*this, "lblHeader"_t, "Über dieses Programm"_t};
+    Bild picInfo{*this, "picInfo"_t, "info"_t};
+    Beschriftung lblText{*this, "lblText"_t};
+    Beschriftung lblOrdner{*this, "lblOrdner"_t};
+    Beschriftung lblTasten{*this, "lblTasten"_t};
+    Schaltfläche cmdOK{*this, "cmdOK"_t, "OK"_t, Schaltfläche::Rolle::Haupt};
 
     frmInfo();
 

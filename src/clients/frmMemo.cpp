@@ -17,12 +17,6 @@ constexpr std::size_t höchstlänge = 10000;
 frmMemo::frmMemo() : Bildschirm("frmMemo"_t)
 {
     using namespace anordnung;
-    benenne("lblHeader"_t, lblHeader);
-    benenne("tbMemoK"_t, tbMemoK);
-    benenne("tbMemoB"_t, tbMemoB);
-    benenne("cmdDummy"_t, cmdDummy);
-    benenne("cmdOK"_t, cmdOK);
-    benenne("cmdExit"_t, cmdExit);
     kopfband.titel = &lblHeader;
     aufbau = spalte({füllend(karte("Klientenebene:"_t, füllend(element(tbMemoK)))),
                      füllend(karte("Betreuungenebene:"_t, füllend(stapel({element(tbMemoB), element(cmdDummy)}))))});

@@ -9,12 +9,12 @@
 /// them into its records at its own OK. A record is one line, so a line break is stored as character 182.
 class frmMemo : public Bildschirm {
 public:
-    Beschriftung lblHeader;
-    Textfeld tbMemoK{Mehrzeilig};
-    Textfeld tbMemoB{Mehrzeilig};
-    Schaltfläche cmdDummy{"Es wurde keine Betreuung ausgewählt"_t, Schaltfläche::Rolle::Decke};
-    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt};
-    Schaltfläche cmdExit{"&Exit"_t};
+    Beschriftung lblHeader{*this, "lblHeader"_t};
+    Textfeld tbMemoK{*this, "tbMemoK"_t, Mehrzeilig};
+    Textfeld tbMemoB{*this, "tbMemoB"_t, Mehrzeilig};
+    Schaltfläche cmdDummy{*this, "cmdDummy"_t, "Es wurde keine Betreuung ausgewählt"_t, Schaltfläche::Rolle::Decke};
+    Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
     /// Set by a caller that has no care episode: the care-level box is hidden then.
     bool zeigeMemoB = false;

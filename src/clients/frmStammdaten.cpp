@@ -43,19 +43,6 @@ template <class Form> auto textfelder(Form& form)
 
 frmStammdaten::frmStammdaten(Bildschirm& hauptmenü) : Bildschirm("frmStammdaten"_t), m_hauptmenü(hauptmenü)
 {
-    benenne("lblHeader"_t, lblHeader);
-    benenne("tbNachname"_t, tbNachname);
-    benenne("tbVorname"_t, tbVorname);
-    benenne("tbStrasse"_t, tbStrasse);
-    benenne("tbPLZ"_t, tbPLZ);
-    benenne("tbOrt"_t, tbOrt);
-    benenne("comboGeschlecht"_t, comboGeschlecht);
-    benenne("DTPickerGeburtsdatum"_t, DTPickerGeburtsdatum);
-    benenne("cmdGebUnbekannt"_t, cmdGebUnbekannt);
-    benenne("cmdGebUnbekanntEintragen"_t, cmdGebUnbekanntEintragen);
-    benenne("cmdMemo"_t, cmdMemo);
-    benenne("cmdOK"_t, cmdOK);
-    benenne("cmdExit"_t, cmdExit);
     ordneAn();
     DTPickerGeburtsdatum.heute = [] { return zustand().umgebung.heute(); };
     DTPickerGeburtsdatum.setzeDatum(zustand().umgebung.heute());

@@ -8,19 +8,19 @@
 /// The client form: shows and edits one client record, which reaches the table at OK.
 class frmStammdaten : public Bildschirm {
 public:
-    Beschriftung lblHeader;
-    Textfeld tbNachname{Einzeilig, höchstlänge};
-    Textfeld tbVorname{Einzeilig, höchstlänge};
-    Textfeld tbStrasse{Einzeilig, höchstlänge};
-    Textfeld tbPLZ{Einzeilig, höchstlänge};
-    Textfeld tbOrt{Einzeilig, höchstlänge};
-    Auswahlfeld comboGeschlecht;
-    Datumsfeld DTPickerGeburtsdatum;
-    Schaltfläche cmdGebUnbekannt{"<Unbekannt> (Datum ?)"_t, Schaltfläche::Rolle::Decke};
-    Schaltfläche cmdGebUnbekanntEintragen{"<unbekannt> eintragen"_t};
-    Schaltfläche cmdMemo{"&Memo"_t};
-    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt};
-    Schaltfläche cmdExit{"&Exit"_t};
+    Beschriftung lblHeader{*this, "lblHeader"_t};
+    Textfeld tbNachname{*this, "tbNachname"_t, Einzeilig, höchstlänge};
+    Textfeld tbVorname{*this, "tbVorname"_t, Einzeilig, höchstlänge};
+    Textfeld tbStrasse{*this, "tbStrasse"_t, Einzeilig, höchstlänge};
+    Textfeld tbPLZ{*this, "tbPLZ"_t, Einzeilig, höchstlänge};
+    Textfeld tbOrt{*this, "tbOrt"_t, Einzeilig, höchstlänge};
+    Auswahlfeld comboGeschlecht{*this, "comboGeschlecht"_t};
+    Datumsfeld DTPickerGeburtsdatum{*this, "DTPickerGeburtsdatum"_t};
+    Schaltfläche cmdGebUnbekannt{*this, "cmdGebUnbekannt"_t, "<Unbekannt> (Datum ?)"_t, Schaltfläche::Rolle::Decke};
+    Schaltfläche cmdGebUnbekanntEintragen{*this, "cmdGebUnbekanntEintragen"_t, "<unbekannt> eintragen"_t};
+    Schaltfläche cmdMemo{*this, "cmdMemo"_t, "&Memo"_t};
+    Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
     // set by the main menu before it shows the form
     std::int32_t kernID = 0;

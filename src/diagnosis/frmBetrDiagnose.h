@@ -14,6 +14,7 @@
 /// The scroll bar of the listing is its stop on the keyboard: beside scrolling, Space walks through the rows.
 class Listungsleiste : public Bildlaufleiste {
 public:
+    using Bildlaufleiste::Bildlaufleiste;
     bool taste(const Taste& taste) override;
 
     std::function<void()> beiLeertaste;
@@ -27,39 +28,48 @@ public:
 /// is dropped: the memo and the chooser open without collecting, only the dialogue is preceded by it.
 class frmBetrDiagnose : public Bildschirm {
 public:
-    Beschriftung lblHeader, lblName, lblBetrBeg, lblBetrEnd;
+    Beschriftung lblHeader{*this, "lblHeader"_t};
+    Beschriftung lblName{*this, "lblName"_t};
+    Beschriftung lblBetrBeg{*this, "lblBetrBeg"_t};
+    Beschriftung lblBetrEnd{*this, "lblBetrEnd"_t};
 
     // The listing: row 0 is the main diagnosis, rows 1 to 30 are the others.
-    Elementreihe<Beschriftung> lblProblem{0, letzteZeile};
-    Elementreihe<Beschriftung> lblKonsumart{0, letzteZeile};
-    Elementreihe<Beschriftung> lblKonsumtageBeg{0, letzteZeile};
-    Elementreihe<Beschriftung> lblKonsumtageEnd{0, letzteZeile};
-    Elementreihe<Beschriftung> lblICDxxx4{0, letzteZeile};
-    Elementreihe<Beschriftung> lblAlterStörungsbeginn{0, letzteZeile};
-    Elementreihe<Beschriftung> lblRiskanterKonsum{0, letzteZeile};
-    Elementreihe<Beschriftung> lblAlterErstkonsum{0, letzteZeile};
-    Fläche frameVorne, frameHinten;
-    Listungsleiste VScroll1;
+    Elementreihe<Beschriftung> lblProblem{*this, "lblProblem"_t, 0, letzteZeile};
+    Elementreihe<Beschriftung> lblKonsumart{*this, "lblKonsumart"_t, 0, letzteZeile};
+    Elementreihe<Beschriftung> lblKonsumtageBeg{*this, "lblKonsumtageBeg"_t, 0, letzteZeile};
+    Elementreihe<Beschriftung> lblKonsumtageEnd{*this, "lblKonsumtageEnd"_t, 0, letzteZeile};
+    Elementreihe<Beschriftung> lblICDxxx4{*this, "lblICDxxx4"_t, 0, letzteZeile};
+    Elementreihe<Beschriftung> lblAlterStörungsbeginn{*this, "lblAlterStörungsbeginn"_t, 0, letzteZeile};
+    Elementreihe<Beschriftung> lblRiskanterKonsum{*this, "lblRiskanterKonsum"_t, 0, letzteZeile};
+    Elementreihe<Beschriftung> lblAlterErstkonsum{*this, "lblAlterErstkonsum"_t, 0, letzteZeile};
+    Fläche frameVorne{*this, "frameVorne"_t};
+    Fläche frameHinten{*this, "frameHinten"_t};
+    Listungsleiste VScroll1{*this, "VScroll1"_t};
 
-    Schaltfläche cmdNeueDiagnose{"neuer Problembereich"_t};
-    Schaltfläche cmdDiagnoseBearbeiten{"Problembereich bearbeiten"_t};
-    Schaltfläche cmdDiagnoseLöschen{"Problembereich löschen"_t, Schaltfläche::Rolle::Gefahr};
+    Schaltfläche cmdNeueDiagnose{*this, "cmdNeueDiagnose"_t, "neuer Problembereich"_t};
+    Schaltfläche cmdDiagnoseBearbeiten{*this, "cmdDiagnoseBearbeiten"_t, "Problembereich bearbeiten"_t};
+    Schaltfläche cmdDiagnoseLöschen{*this, "cmdDiagnoseLöschen"_t, "Problembereich löschen"_t,
+                                    Schaltfläche::Rolle::Gefahr};
 
-    Beschriftung frameHDohne{"Grund, warum keine Hauptdiagnose gestellt wurde"_t};
-    Elementreihe<Optionsfeld> optHDohne{0, 5};
+    Beschriftung frameHDohne{*this, "frameHDohne"_t, "Grund, warum keine Hauptdiagnose gestellt wurde"_t};
+    Elementreihe<Optionsfeld> optHDohne{*this, "optHDohne"_t, 0, 5};
     /// Lies over the options while there is a main diagnosis; has no action.
-    Schaltfläche cmdIsHDGestellt{"eine Hauptdiagnose wurde gestellt"_t, Schaltfläche::Rolle::Decke};
+    Schaltfläche cmdIsHDGestellt{*this, "cmdIsHDGestellt"_t, "eine Hauptdiagnose wurde gestellt"_t,
+                                 Schaltfläche::Rolle::Decke};
 
-    Elementreihe<Textfeld> tbandereDiagnose{1, 12};
-    Beschriftung lblWeitereICD{"Weitere ICD-10-Diagnosen"_t};
-    Beschriftung lblICDPoly{"Politoxikomanie"_t};
-    Auswahlfeld comboICDPoly, comboHIVInfekt, comboHepatB, comboHepatC;
-    Beschriftung frameivKonsum{"I.v. Konsum"_t};
-    Elementreihe<Optionsfeld> optIVKonsum{0, 3};
+    Elementreihe<Textfeld> tbandereDiagnose{*this, "tbandereDiagnose"_t, 1, 12};
+    Beschriftung lblWeitereICD{*this, "lblWeitereICD"_t, "Weitere ICD-10-Diagnosen"_t};
+    Beschriftung lblICDPoly{*this, "lblICDPoly"_t, "Politoxikomanie"_t};
+    Auswahlfeld comboICDPoly{*this, "comboICDPoly"_t};
+    Auswahlfeld comboHIVInfekt{*this, "comboHIVInfekt"_t};
+    Auswahlfeld comboHepatB{*this, "comboHepatB"_t};
+    Auswahlfeld comboHepatC{*this, "comboHepatC"_t};
+    Beschriftung frameivKonsum{*this, "frameivKonsum"_t, "I.v. Konsum"_t};
+    Elementreihe<Optionsfeld> optIVKonsum{*this, "optIVKonsum"_t, 0, 3};
 
-    Schaltfläche cmdMemo{"&Memo"_t};
-    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt};
-    Schaltfläche cmdExit{"&Exit"_t};
+    Schaltfläche cmdMemo{*this, "cmdMemo"_t, "&Memo"_t};
+    Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
     /// The group in hand, -1 for none; the chooser hands its choice back here.
     std::int16_t gruppeAktuell = -1;
@@ -87,7 +97,6 @@ private:
     void beiEntladen() override;
 
     // captions and arrangement (frmBetrDiagnose_Aufbau.cpp)
-    void benenneElemente();
     void ordneAn();
     Anordnung listungskarte();
     Anordnung antwortkarten();

@@ -32,11 +32,6 @@ frmBetrDiagnoseCodeAuswahl::frmBetrDiagnoseCodeAuswahl(frmBetrDiagnose& seite)
     beiEingabe = &cmdOK;
     beiEscape = &cmdExit;
 
-    benenne("lblName"_t, lblName);
-    benenne("lvwDiagCodes"_t, lvwDiagCodes);
-    benenne("cmdOK"_t, cmdOK);
-    benenne("cmdExit"_t, cmdExit);
-
     lvwDiagCodes.beiDoppelklick = [this] { beiOK(); };
     cmdOK.beiKlick = [this] { beiOK(); };
     cmdExit.beiKlick = [this] { beiExit(); };

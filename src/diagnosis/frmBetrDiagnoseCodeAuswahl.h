@@ -7,11 +7,11 @@ class frmBetrDiagnose;
 /// Lets the user pick one of the 29 problem areas; the choice is handed back in the page's `gruppeAktuell`.
 class frmBetrDiagnoseCodeAuswahl : public Bildschirm {
 public:
-    Beschriftung lblName{"Problembereiche"_t};
+    Beschriftung lblName{*this, "lblName"_t, "Problembereiche"_t};
     /// Row g is group g.
-    Liste lvwDiagCodes{{"Code", "Name"}};
-    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt};
-    Schaltfläche cmdExit{"&Exit"_t};
+    Liste lvwDiagCodes{*this, "lvwDiagCodes"_t, {"Code", "Name"}};
+    Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
     explicit frmBetrDiagnoseCodeAuswahl(frmBetrDiagnose& seite);
 

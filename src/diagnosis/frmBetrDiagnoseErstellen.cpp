@@ -75,13 +75,6 @@ frmBetrDiagnoseErstellen::frmBetrDiagnoseErstellen(frmBetrDiagnose& seite)
     }
     bestimmeAufbau();
 
-    benenne("lblFrage"_t, lblFrage);
-    benenne("lblAntwort"_t, lblAntwort);
-    benenne("comboAntwort"_t, comboAntwort);
-    benenne("cbHD"_t, cbHD);
-    benenne("cmdOK"_t, cmdOK);
-    benenne("cmdExit"_t, cmdExit);
-
     cbHD.beiÄnderung = [this] { prüfeHDWechsel(); };
     cmdOK.beiKlick = [this] { beiOK(); };
     cmdExit.beiKlick = [this] { beiExit(); };

@@ -13,12 +13,12 @@ class frmBetrDiagnose;
 class frmBetrDiagnoseErstellen : public Bildschirm {
 public:
     /// Questions 1 to 7 go into the block field of the same number; 0 is the head.
-    Elementreihe<Beschriftung> lblFrage{0, 7};
-    Beschriftung lblAntwort;
-    Elementreihe<Auswahlfeld> comboAntwort{1, 7};
-    Ankreuzfeld cbHD{"Hauptdiagnose"_t};
-    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt};
-    Schaltfläche cmdExit{"&Exit"_t};
+    Elementreihe<Beschriftung> lblFrage{*this, "lblFrage"_t, 0, 7};
+    Beschriftung lblAntwort{*this, "lblAntwort"_t};
+    Elementreihe<Auswahlfeld> comboAntwort{*this, "comboAntwort"_t, 1, 7};
+    Ankreuzfeld cbHD{*this, "cbHD"_t, "Hauptdiagnose"_t};
+    Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
     /// The group, 1 to 29; set by the page before the dialogue opens.
     std::int16_t gruppeAktuell = -1;

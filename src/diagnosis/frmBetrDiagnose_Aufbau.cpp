@@ -85,46 +85,8 @@ frmBetrDiagnose::frmBetrDiagnose(Bildschirm& betreuung) : Bildschirm("frmBetrDia
     frameVorne.setzeHöhe(zeilenhöhe * letzteZeile);
     frameHinten.setzeHöhe(zeilenhöhe * sichtbareZeilen);
     cmdIsHDGestellt.verberge();
-    benenneElemente();
     ordneAn();
     bestimmeRegeln();
-}
-
-void frmBetrDiagnose::benenneElemente()
-{
-    benenne("lblHeader"_t, lblHeader);
-    benenne("lblName"_t, lblName);
-    benenne("lblBetrBeg"_t, lblBetrBeg);
-    benenne("lblBetrEnd"_t, lblBetrEnd);
-    benenne("lblProblem"_t, lblProblem);
-    benenne("lblKonsumart"_t, lblKonsumart);
-    benenne("lblKonsumtageBeg"_t, lblKonsumtageBeg);
-    benenne("lblKonsumtageEnd"_t, lblKonsumtageEnd);
-    benenne("lblICDxxx4"_t, lblICDxxx4);
-    benenne("lblAlterStörungsbeginn"_t, lblAlterStörungsbeginn);
-    benenne("lblRiskanterKonsum"_t, lblRiskanterKonsum);
-    benenne("lblAlterErstkonsum"_t, lblAlterErstkonsum);
-    benenne("frameVorne"_t, frameVorne);
-    benenne("frameHinten"_t, frameHinten);
-    benenne("VScroll1"_t, VScroll1);
-    benenne("cmdNeueDiagnose"_t, cmdNeueDiagnose);
-    benenne("cmdDiagnoseBearbeiten"_t, cmdDiagnoseBearbeiten);
-    benenne("cmdDiagnoseLöschen"_t, cmdDiagnoseLöschen);
-    benenne("frameHDohne"_t, frameHDohne);
-    benenne("optHDohne"_t, optHDohne);
-    benenne("cmdIsHDGestellt"_t, cmdIsHDGestellt);
-    benenne("frameivKonsum"_t, frameivKonsum);
-    benenne("optIVKonsum"_t, optIVKonsum);
-    benenne("lblWeitereICD"_t, lblWeitereICD);
-    benenne("tbandereDiagnose"_t, tbandereDiagnose);
-    benenne("lblICDPoly"_t, lblICDPoly);
-    benenne("comboICDPoly"_t, comboICDPoly);
-    benenne("comboHIVInfekt"_t, comboHIVInfekt);
-    benenne("comboHepatB"_t, comboHepatB);
-    benenne("comboHepatC"_t, comboHepatC);
-    benenne("cmdMemo"_t, cmdMemo);
-    benenne("cmdOK"_t, cmdOK);
-    benenne("cmdExit"_t, cmdExit);
 }
 
 void frmBetrDiagnose::ordneAn()

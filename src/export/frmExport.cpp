@@ -51,13 +51,6 @@ frmExport::frmExport(Bildschirm& hauptmenü) : Bildschirm("frmExport"_t), m_haup
     setzeTitel("Export"_t);
     istKindfenster = true;
     breiteEm = 30;
-    benenne("lblHeader"_t, lblHeader);
-    benenne("Label1"_t, Label1);
-    benenne("comboJahr"_t, comboJahr);
-    benenne("lblMeldung"_t, lblMeldung);
-    benenne("ProgressBar1"_t, ProgressBar1);
-    benenne("cmdOK"_t, cmdOK);
-    benenne("cmdExit"_t, cmdExit);
     kopfband.titel = &lblHeader;
     aufbau =
         spalte({formular({feld(Label1, comboJahr, 10)}), element(lblMeldung), platzhaltend(element(ProgressBar1))});

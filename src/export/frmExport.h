@@ -9,13 +9,13 @@
 /// child window over the main menu, which is disabled meanwhile.
 class frmExport : public Bildschirm {
 public:
-    Beschriftung lblHeader{"Export"_t};
-    Beschriftung Label1{"Bitte Exportjahr eingeben:"_t};
-    Auswahlfeld comboJahr{Auswahlfeld::Art::Tippbar};
-    Beschriftung lblMeldung{"Bereit"_t};
-    Fortschrittsbalken ProgressBar1;
-    Schaltfläche cmdOK{"Exportieren"_t, Schaltfläche::Rolle::Haupt};
-    Schaltfläche cmdExit{"&Exit"_t};
+    Beschriftung lblHeader{*this, "lblHeader"_t, "Export"_t};
+    Beschriftung Label1{*this, "Label1"_t, "Bitte Exportjahr eingeben:"_t};
+    Auswahlfeld comboJahr{*this, "comboJahr"_t, Auswahlfeld::Art::Tippbar};
+    Beschriftung lblMeldung{*this, "lblMeldung"_t, "Bereit"_t};
+    Fortschrittsbalken ProgressBar1{*this, "ProgressBar1"_t};
+    Schaltfläche cmdOK{*this, "cmdOK"_t, "Exportieren"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
     explicit frmExport(Bildschirm& hauptmenü);
 

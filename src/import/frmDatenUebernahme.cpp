@@ -24,16 +24,6 @@ frmDatenÜbernahme::frmDatenÜbernahme(Bildschirm& hauptmenü) : Bildschirm("frm
 {
     using namespace anordnung;
     setzeTitel("Datenübernahme"_t);
-    benenne("lblHeader"_t, lblHeader);
-    benenne("tbKernDatAlt"_t, tbKernDatAlt);
-    benenne("cmdGetKernDat"_t, cmdGetKernDat);
-    benenne("tbBetrDatAlt"_t, tbBetrDatAlt);
-    benenne("cmdGetBetreuungenDat"_t, cmdGetBetreuungenDat);
-    benenne("cmdBeiDerArbeit"_t, cmdBeiDerArbeit);
-    benenne("lblStatus"_t, lblStatus);
-    benenne("ProgressBar1"_t, ProgressBar1);
-    benenne("cmdOK"_t, cmdOK);
-    benenne("cmdExit"_t, cmdExit);
     kopfband.titel = &lblHeader;
     aufbau = breit(karte({}, spalte({
                                  zeile({füllend(element(tbKernDatAlt)), element(cmdGetKernDat, 9)}),

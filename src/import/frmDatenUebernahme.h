@@ -9,17 +9,18 @@
 /// meanwhile, and only while no client exists.
 class frmDatenÜbernahme : public Bildschirm {
 public:
-    Beschriftung lblHeader{"Datenübernahme"_t};
-    Textfeld tbKernDatAlt;
-    Schaltfläche cmdGetKernDat{"kernDat"_t};
-    Textfeld tbBetrDatAlt;
-    Schaltfläche cmdGetBetreuungenDat{"betreuungenDat"_t};
+    Beschriftung lblHeader{*this, "lblHeader"_t, "Datenübernahme"_t};
+    Textfeld tbKernDatAlt{*this, "tbKernDatAlt"_t};
+    Schaltfläche cmdGetKernDat{*this, "cmdGetKernDat"_t, "kernDat"_t};
+    Textfeld tbBetrDatAlt{*this, "tbBetrDatAlt"_t};
+    Schaltfläche cmdGetBetreuungenDat{*this, "cmdGetBetreuungenDat"_t, "betreuungenDat"_t};
     /// No function; a notice.
-    Schaltfläche cmdBeiDerArbeit{"... bitte warten, der Import läuft ..."_t, Schaltfläche::Rolle::Decke};
-    Beschriftung lblStatus{"Bereit"_t};
-    Fortschrittsbalken ProgressBar1;
-    Schaltfläche cmdOK{"Import starten"_t, Schaltfläche::Rolle::Haupt};
-    Schaltfläche cmdExit{"&Exit"_t};
+    Schaltfläche cmdBeiDerArbeit{*this, "cmdBeiDerArbeit"_t, "... bitte warten, der Import läuft ..."_t,
+                                 Schaltfläche::Rolle::Decke};
+    Beschriftung lblStatus{*this, "lblStatus"_t, "Bereit"_t};
+    Fortschrittsbalken ProgressBar1{*this, "ProgressBar1"_t};
+    Schaltfläche cmdOK{*this, "cmdOK"_t, "Import starten"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
     explicit frmDatenÜbernahme(Bildschirm& hauptmenü);
 

@@ -4,11 +4,6 @@
 
 frmMergeDB::frmMergeDB() : Bildschirm("frmMergeDB"_t)
 {
-    benenne("lblHeader"_t, lblHeader);
-    benenne("lblName"_t, lblName);
-    benenne("cmdMemo"_t, cmdMemo);
-    benenne("cmdOK"_t, cmdOK);
-    benenne("cmdExit"_t, cmdExit);
     kopfband.titel = &lblHeader;
     kopfband.name = &lblName;
     leiste.links = {&cmdMemo};

@@ -23,11 +23,6 @@ constexpr double zeitanteilÜbergabe = 0.03;
 
 frmZuExcel::frmZuExcel(Bildschirm& hauptmenü) : Bildschirm("frmZuExcel"_t), m_hauptmenü(hauptmenü)
 {
-    benenne("lblHeader"_t, lblHeader);
-    benenne("lblText"_t, lblText);
-    benenne("lblStatus"_t, lblStatus);
-    benenne("ProgressBar1"_t, ProgressBar1);
-    benenne("cmdFertig"_t, cmdFertig);
 
     setzeTitel(zustand().titel);
     istKindfenster = true;

@@ -12,11 +12,11 @@ class Arbeitsmappe;
 /// drawn follows the work within them. It changes no data.
 class frmZuExcel : public Bildschirm {
 public:
-    Beschriftung lblHeader{"Datenmenge > Excel"_t};
-    Beschriftung lblText;
-    Beschriftung lblStatus;
-    Fortschrittsbalken ProgressBar1;
-    Schaltfläche cmdFertig;
+    Beschriftung lblHeader{*this, "lblHeader"_t, "Datenmenge > Excel"_t};
+    Beschriftung lblText{*this, "lblText"_t};
+    Beschriftung lblStatus{*this, "lblStatus"_t};
+    Fortschrittsbalken ProgressBar1{*this, "ProgressBar1"_t};
+    Schaltfläche cmdFertig{*this, "cmdFertig"_t};
 
     /// `hauptmenü` is shown again at the end.
     explicit frmZuExcel(Bildschirm& hauptmenü);

@@ -54,8 +54,6 @@ bool prüfeComboWert(Auswahlfeld& feld)
     feld.setzeHintergrund(farbe::rot);
     zeigeMeldung("Der Wert im markierten Feld ist falsch und muß vor dem Speichern korrigiert werden."_t);
     feld.setzeHintergrund(farbe::weiß);
-    if (feld.bildschirm() != nullptr) {
-        feld.bildschirm()->setzeFokus(&feld);
-    }
+    feld.bildschirm().setzeFokus(&feld);
     return false;
 }

@@ -1,6 +1,7 @@
 #include "care/Seitenfelder.h"
 
 #include "hilfen/Testumgebung.h"
+#include "platform/bildschirm/Bildschirm.h"
 #include "platform/text/Text.h"
 
 #include <gtest/gtest.h>
@@ -8,16 +9,16 @@
 namespace {
 
 /// A page with one field of each kind.
-struct Probeseite {
-    Auswahlfeld wahl;
-    Auswahlfeld zahl{Auswahlfeld::Art::Tippbar};
-    Auswahlfeld zahlMitVorgabe{Auswahlfeld::Art::Tippbar};
-    Elementreihe<triCtlJaNein> antworten{1, 2};
-    Elementreihe<Optionsfeld> optionen{1, 12};
+struct Probeseite : Bildschirm {
+    Auswahlfeld wahl{*this, "wahl"};
+    Auswahlfeld zahl{*this, "zahl", Auswahlfeld::Art::Tippbar};
+    Auswahlfeld zahlMitVorgabe{*this, "zahlMitVorgabe", Auswahlfeld::Art::Tippbar};
+    Elementreihe<triCtlJaNein> antworten{*this, "antworten", 1, 2};
+    Elementreihe<Optionsfeld> optionen{*this, "optionen", 1, 12};
     Optionsgruppe gruppe;
     Seitenfelder felder;
 
-    Probeseite()
+    Probeseite() : Bildschirm("frmProbe")
     {
         for (Optionsfeld& option : optionen) {
             option.trittBei(gruppe);
@@ -120,7 +121,8 @@ TEST(Seitenfelder, GetippteZiffernErgänzenAusDerListe)
 
 TEST(Schnellfüller, LässtGegebeneAntworten)
 {
-    Elementreihe<triCtlJaNein> reihe{1, 3};
+    Bildschirm schirm("frmProbe");
+    Elementreihe<triCtlJaNein> reihe(schirm, "reihe", 1, 3);
     reihe(1).setzeText("ja");
     reihe(2).setzeText("nein");
     int änderungen = 0;

@@ -35,7 +35,7 @@ public:
 private:
     static std::string name(const Element& element)
     {
-        return alsUtf8(verbinde(element.bildschirm()->name(), '.', element.name()));
+        return alsUtf8(verbinde(element.bildschirm().name(), '.', element.name()));
     }
 
     void sage(const std::string& wort, const Element& element, const std::string& argument = {})

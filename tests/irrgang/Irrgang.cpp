@@ -148,7 +148,7 @@ void Irrgang::handle()
         element = wähleElement();
         handlung = wähleHandlung(*element, m_lauf.oberfläche(), m_zufall, m_heute);
     }
-    const Urheber urheber = urheberVon(*element->bildschirm());
+    const Urheber urheber = urheberVon(element->bildschirm());
     m_element = element->name();
     const bool istTotgeweiht = m_zufall.trifft(10);
     if (istTotgeweiht) {
@@ -197,7 +197,7 @@ bool Irrgang::meidet(const Element& element)
     const auto& name = element.name();
     const bool endet = name == "cmdExit" || name == "mnBeenden";
     const bool wirftWeg = name == "cmdRollback" || name == "cmdKlientenLöschen"_t || name == "cmdBetreuungLöschen"_t;
-    const bool imHauptmenü = element.bildschirm()->name() == "frmHauptmenü"_t;
+    const bool imHauptmenü = element.bildschirm().name() == "frmHauptmenü"_t;
     return (endet && m_zufall.trifft(imHauptmenü ? 85 : 50)) || (wirftWeg && m_zufall.trifft(60));
 }
 

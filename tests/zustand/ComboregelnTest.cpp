@@ -15,7 +15,8 @@ protected:
     }
 
     Testlauf lauf;
-    Auswahlfeld feld{Auswahlfeld::Art::Tippbar};
+    Bildschirm schirm{"frmProbe"};
+    Auswahlfeld feld{schirm, "feld", Auswahlfeld::Art::Tippbar};
 };
 
 TEST_F(ComboTest, ErgänztUndSchlucktDieTaste)
@@ -98,14 +99,10 @@ TEST_F(ComboTest, RichtigerWertZeigtNichts)
 
 class Testbildschirm : public Bildschirm {
 public:
-    Auswahlfeld erstes;
-    Auswahlfeld zweites;
+    Auswahlfeld erstes{*this, "erstes"};
+    Auswahlfeld zweites{*this, "zweites"};
 
-    Testbildschirm() : Bildschirm("frmTest")
-    {
-        benenne("erstes", erstes);
-        benenne("zweites", zweites);
-    }
+    Testbildschirm() : Bildschirm("frmTest") {}
 };
 
 TEST(PrüfeComboWert, FalschesFeldBekommtDenFokus)

@@ -4,7 +4,7 @@
 
 namespace {
 
-void nimmAuf(Element* element, std::vector<Element*>& folge)
+void sammle(Element* element, std::vector<Element*>& folge)
 {
     if (element != nullptr && element->nimmtFokus()) {
         folge.push_back(element);
@@ -19,12 +19,10 @@ void Bildschirm::setzeTitel(std::string_view titel)
     titelGeändert.melde();
 }
 
-void Bildschirm::benenne(std::string_view name, Element& element)
+void Bildschirm::nimmAuf(Element& element)
 {
-    element.m_name = name;
-    element.m_bildschirm = this;
     m_elemente.push_back(&element);
-    m_nachName.emplace(name, &element);
+    m_nachName.emplace(element.name(), &element);
 }
 
 Element* Bildschirm::finde(std::string_view name) const
@@ -36,21 +34,21 @@ Element* Bildschirm::finde(std::string_view name) const
 void Bildschirm::sammleTabFolge(const Anordnung& a, std::vector<Element*>& folge) const
 {
     for (auto* kopf : a.köpfe) {
-        nimmAuf(kopf, folge);
+        sammle(kopf, folge);
     }
     for (const auto& spalte : a.spalten) {
-        nimmAuf(spalte.füller, folge);
+        sammle(spalte.füller, folge);
     }
     const bool istListung = a.wort == Anordnung::Wort::Listung;
     if (!istListung) {
-        nimmAuf(a.element, folge);
+        sammle(a.element, folge);
     }
     // a cover is read out where the covered fields would be
     for (const auto& teil : a.teile) {
         sammleTabFolge(teil, folge);
     }
     if (istListung) {
-        nimmAuf(a.element, folge);
+        sammle(a.element, folge);
     }
 }
 
@@ -59,12 +57,12 @@ std::vector<Element*> Bildschirm::tabFolge() const
     std::vector<Element*> folge;
     sammleTabFolge(aufbau, folge);
     // the button in the band belongs to the page, so it comes before the bar that ends the page
-    nimmAuf(kopfband.knopf, folge);
+    sammle(kopfband.knopf, folge);
     for (auto* element : leiste.links) {
-        nimmAuf(element, folge);
+        sammle(element, folge);
     }
     for (auto* element : leiste.rechts) {
-        nimmAuf(element, folge);
+        sammle(element, folge);
     }
     return folge;
 }

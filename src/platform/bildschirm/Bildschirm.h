@@ -35,9 +35,8 @@ struct Menü {
     std::vector<Menüeintrag*> einträge;
 };
 
-/// A screen: a class `frm…` whose public members are its elements, under their own names. Its constructor
-/// gives captions, lists and arrangement and registers the elements; its methods are its rules. It knows no
-/// toolkit.
+/// A screen: a class `frm…` whose public members are its elements, under their own names, in the order in which
+/// they are declared. Its constructor gives lists and arrangement; its methods are its rules. It knows no toolkit.
 ///
 /// A screen object lives from one loading to its unloading: whoever opens a screen makes a new object
 /// (Bildschirmplatz), so that every opening starts with the elements as they were laid out.
@@ -112,17 +111,11 @@ public:
     Melder<> fokusGeändert;
     Melder<> lageGeändert;
 
-protected:
-    /// Registers the element under its name; the constructor calls it for each.
-    void benenne(std::string_view name, Element& element);
-    template <class E> void benenne(std::string_view name, Elementreihe<E>& reihe)
-    {
-        for (int i = reihe.von(); i <= reihe.bis(); ++i) {
-            benenne(verbinde(name, '(', std::to_string(i), ')'), reihe(i));
-        }
-    }
-
 private:
+    friend class Element;
+    /// The element's own constructor registers it.
+    void nimmAuf(Element& element);
+
     void sammleTabFolge(const Anordnung& a, std::vector<Element*>& folge) const;
     bool istUnterDecke(const Anordnung& a, const Element& element, bool verdeckt) const;
 

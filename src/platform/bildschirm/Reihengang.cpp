@@ -49,7 +49,7 @@ bool geheInReihe(Element& element, const Taste& taste)
     if (taste.istKombination() || !gehtMit(element, taste)) {
         return false;
     }
-    auto& bildschirm = *element.bildschirm();
+    auto& bildschirm = element.bildschirm();
     auto* ziel = nachbar(bildschirm, element, taste.art == Taste::Art::Ab || taste.art == Taste::Art::Rechts);
     if (ziel != nullptr && bildschirm.fokussiere(ziel)) {
         if (auto* option = dynamic_cast<Optionsfeld*>(ziel); option != nullptr && option->pfeileMarkieren()) {

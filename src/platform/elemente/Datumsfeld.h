@@ -20,6 +20,8 @@
 /// F4 and Alt+Down open the calendar; its keys come here too, so that every surface has the same calendar.
 class Datumsfeld : public Element {
 public:
+    using Element::Element;
+
     Datum datum() const { return m_datum; }
     std::string text() const override { return alsDatumstext(m_datum); }
     void setzeDatum(const Datum& datum);

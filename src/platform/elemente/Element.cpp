@@ -2,6 +2,11 @@
 
 #include "platform/bildschirm/Bildschirm.h"
 
+Element::Element(Bildschirm& bildschirm, std::string_view name) : m_bildschirm(bildschirm), m_name(name)
+{
+    m_bildschirm.nimmAuf(*this);
+}
+
 void Element::zeige(bool sichtbar)
 {
     if (m_sichtbar != sichtbar) {
@@ -32,7 +37,7 @@ void Element::setzeHintergrund(Farbe farbe)
 
 bool Element::hatFokus() const
 {
-    return m_bildschirm != nullptr && m_bildschirm->fokus() == this;
+    return m_bildschirm.fokus() == this;
 }
 
 bool Element::taste(const Taste& /*taste*/)

@@ -21,14 +21,14 @@ class Elementbesucher;
 /// they do not move the focus (Bildschirm::fokussiere does). All texts are code page.
 class Element {
 public:
-    Element() = default;
+    /// Registers with the screen under the name ("cmdOK", "optHDohne(2)"), in the order of declaration.
+    Element(Bildschirm& bildschirm, std::string_view name);
     Element(const Element&) = delete;
     Element& operator=(const Element&) = delete;
     virtual ~Element() = default;
 
-    /// The element's own name on its screen, as "cmdOK" or "optHDohne(2)"; set by the screen.
     const std::string& name() const { return m_name; }
-    Bildschirm* bildschirm() const { return m_bildschirm; }
+    Bildschirm& bildschirm() const { return m_bildschirm; }
 
     bool istSichtbar() const { return m_sichtbar; }
     void zeige(bool sichtbar = true);
@@ -88,10 +88,8 @@ protected:
     }
 
 private:
-    friend class Bildschirm;
-
+    Bildschirm& m_bildschirm;
     std::string m_name;
-    Bildschirm* m_bildschirm = nullptr;
     bool m_sichtbar = true;
     bool m_frei = true;
     std::string m_hinweis;

@@ -7,15 +7,17 @@
 #include "platform/text/Text.h"
 
 #include <cstddef>
+#include <initializer_list>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 /// A label. Clickable where a screen gives it a rule (the rows of the diagnosis listing).
 class Beschriftung : public Element {
 public:
-    explicit Beschriftung(std::string_view text = {}) : m_text(text) {}
+    Beschriftung(Bildschirm& bildschirm, std::string_view name, std::string_view text = {})
+        : Element(bildschirm, name), m_text(text)
+    {}
 
     std::string text() const override { return m_text; }
     void setzeText(std::string_view text);
@@ -37,7 +39,10 @@ class Schaltfläche : public Element {
 public:
     enum class Rolle { Gewöhnlich, Haupt, Gefahr, Füller, Weg, Decke, Gedrückt };
 
-    explicit Schaltfläche(std::string_view text = {}, Rolle rolle = Rolle::Gewöhnlich) : m_text(text), m_rolle(rolle) {}
+    Schaltfläche(Bildschirm& bildschirm, std::string_view name, std::string_view text = {},
+                 Rolle rolle = Rolle::Gewöhnlich)
+        : Element(bildschirm, name), m_text(text), m_rolle(rolle)
+    {}
 
     std::string text() const override { return m_text; }
     void setzeText(std::string_view text);
@@ -59,8 +64,8 @@ inline constexpr Zeilenzahl Einzeilig = Zeilenzahl::Einzeilig;
 /// A text box. In one of several lines a line break is carriage return and line feed.
 class Textfeld : public Element {
 public:
-    explicit Textfeld(Zeilenzahl zeilen = Einzeilig, std::size_t höchstlänge = 0)
-        : m_zeilen(zeilen), m_höchstlänge(höchstlänge)
+    Textfeld(Bildschirm& bildschirm, std::string_view name, Zeilenzahl zeilen = Einzeilig, std::size_t höchstlänge = 0)
+        : Element(bildschirm, name), m_zeilen(zeilen), m_höchstlänge(höchstlänge)
     {}
 
     std::string text() const override { return m_text; }
@@ -109,7 +114,9 @@ class Auswahlfeld : public Element {
 public:
     enum class Art { NurWahl, Tippbar };
 
-    explicit Auswahlfeld(Art art = Art::NurWahl) : m_art(art) {}
+    Auswahlfeld(Bildschirm& bildschirm, std::string_view name, Art art = Art::NurWahl)
+        : Element(bildschirm, name), m_art(art)
+    {}
 
     std::string text() const override { return m_text; }
     /// Shows the text; cursor to its start. Tells no rule.
@@ -176,7 +183,9 @@ private:
 /// well, unless the group was told that a mark has consequences (`pfeileMarkieren` = false).
 class Optionsfeld : public Element {
 public:
-    explicit Optionsfeld(std::string_view text = {}) : m_text(text) {}
+    Optionsfeld(Bildschirm& bildschirm, std::string_view name, std::string_view text = {})
+        : Element(bildschirm, name), m_text(text)
+    {}
 
     std::string text() const override { return m_text; }
     void setzeText(std::string_view text);
@@ -205,7 +214,9 @@ private:
 /// A check box. `beiÄnderung` is told of every change, the program's own too.
 class Ankreuzfeld : public Element {
 public:
-    explicit Ankreuzfeld(std::string_view text = {}) : m_text(text) {}
+    Ankreuzfeld(Bildschirm& bildschirm, std::string_view name, std::string_view text = {})
+        : Element(bildschirm, name), m_text(text)
+    {}
 
     std::string text() const override { return m_text; }
     bool istAn() const { return m_an; }
@@ -223,6 +234,8 @@ private:
 
 class Fortschrittsbalken : public Element {
 public:
+    using Element::Element;
+
     int kleinstes() const { return m_kleinstes; }
     int größtes() const { return m_größtes; }
     int wert() const { return m_wert; }
@@ -246,6 +259,8 @@ private:
 
 class Bildlaufleiste : public Element {
 public:
+    using Element::Element;
+
     int kleinstes() const { return m_kleinstes; }
     int größtes() const { return m_größtes; }
     int wert() const { return m_wert; }
@@ -271,6 +286,8 @@ private:
 /// A frame that holds others (`frameVorne`); heights and place in twips, for the scrolled listing.
 class Fläche : public Element {
 public:
+    using Element::Element;
+
     double höhe() const { return m_höhe; }
     void setzeHöhe(double höhe);
     double oben() const { return m_oben; }
@@ -289,7 +306,9 @@ private:
 /// `trenner`, so that ten thousand clients are ten thousand small texts and no object per cell.
 class Liste : public Element {
 public:
-    explicit Liste(std::vector<std::string> spalten = {}) : m_spalten(std::move(spalten)) {}
+    Liste(Bildschirm& bildschirm, std::string_view name, std::initializer_list<std::string_view> spalten = {})
+        : Element(bildschirm, name), m_spalten(spalten.begin(), spalten.end())
+    {}
 
     const std::vector<std::string>& spalten() const { return m_spalten; }
     std::size_t anzahl() const { return m_zeilen.size(); }
@@ -341,7 +360,9 @@ private:
 
 class Menüeintrag : public Element {
 public:
-    explicit Menüeintrag(std::string_view text = {}) : m_text(text) {}
+    Menüeintrag(Bildschirm& bildschirm, std::string_view name, std::string_view text = {})
+        : Element(bildschirm, name), m_text(text)
+    {}
     std::string text() const override { return m_text; }
     bool nimmtFokus() const override { return false; }
     void besuche(Elementbesucher& besucher) override;
@@ -353,7 +374,9 @@ private:
 /// A picture of the program's own, by the name of its file among the program's resources.
 class Bild : public Element {
 public:
-    explicit Bild(std::string_view quelle = {}) : m_quelle(quelle) {}
+    Bild(Bildschirm& bildschirm, std::string_view name, std::string_view quelle = {})
+        : Element(bildschirm, name), m_quelle(quelle)
+    {}
     const std::string& quelle() const { return m_quelle; }
     bool nimmtFokus() const override { return false; }
     void besuche(Elementbesucher& besucher) override;

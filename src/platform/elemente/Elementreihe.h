@@ -1,15 +1,23 @@
 #pragma once
 
+#include "platform/text/Text.h"
+
 #include <cstddef>
 #include <deque>
+#include <string>
+#include <string_view>
 
-/// An array of elements with the index range of its design: `triJaNeinKosten(1)` to `(9)`.
+class Bildschirm;
+
+/// An array of elements with the index range of its design: `triJaNeinKosten(1)` to `(9)`. Each is registered
+/// with the screen under its own index.
 template <class E> class Elementreihe {
 public:
-    template <class... A> Elementreihe(int von, int bis, const A&... werte) : m_von(von)
+    template <class... A>
+    Elementreihe(Bildschirm& bildschirm, std::string_view name, int von, int bis, const A&... werte) : m_von(von)
     {
         for (int i = von; i <= bis; ++i) {
-            m_felder.emplace_back(werte...);
+            m_felder.emplace_back(bildschirm, verbinde(name, '(', std::to_string(i), ')'), werte...);
         }
     }
 

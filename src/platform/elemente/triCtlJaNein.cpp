@@ -23,7 +23,8 @@ constexpr Farbe randOhneFokus = 4325412;
 
 } // namespace
 
-triCtlJaNein::triCtlJaNein() : m_randfarbe(randOhneFokus)
+triCtlJaNein::triCtlJaNein(Bildschirm& bildschirm, std::string_view name)
+    : Element(bildschirm, name), m_randfarbe(randOhneFokus)
 {
     färbe();
 }

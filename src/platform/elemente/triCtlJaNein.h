@@ -11,7 +11,7 @@
 /// its background: k.A. red, ja white, nein grey.
 class triCtlJaNein : public Element {
 public:
-    triCtlJaNein();
+    triCtlJaNein(Bildschirm& bildschirm, std::string_view name);
 
     /// The value. Writing "ja", "nein" or "k.A." takes it, any other text gives "k.A."; the comparison is
     /// exact. A write that changes nothing tells no `beiÄnderung`.

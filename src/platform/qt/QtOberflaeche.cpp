@@ -20,13 +20,13 @@ QMainWindow* QtOberfläche::rahmenfenster() const
 
 QWidget* QtOberfläche::widgetVon(const Element& element) const
 {
-    const auto* platz = m_wart->platzVon(element.bildschirm());
+    const auto* platz = m_wart->platzVon(&element.bildschirm());
     return platz == nullptr ? nullptr : platz->ansicht->widgetVon(element);
 }
 
 QAction* QtOberfläche::aktionVon(const Menüeintrag& eintrag) const
 {
-    const auto* platz = m_wart->platzVon(eintrag.bildschirm());
+    const auto* platz = m_wart->platzVon(&eintrag.bildschirm());
     return platz == nullptr ? nullptr : platz->ansicht->aktionVon(eintrag);
 }
 

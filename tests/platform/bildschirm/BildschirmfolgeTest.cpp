@@ -11,10 +11,6 @@ public:
         aufbau = anordnung::spalte({anordnung::element(feld), anordnung::decke(anordnung::element(unten), decke)});
         leiste.rechts = {&ok};
         beiEscape = &ok;
-        benenne("feld"_t, feld);
-        benenne("unten"_t, unten);
-        benenne("decke"_t, decke);
-        benenne("ok"_t, ok);
     }
     void beiAktivierung() override
     {
@@ -25,10 +21,10 @@ public:
     }
     void beiEntladen() override { ++entladungen; }
 
-    Textfeld feld;
-    Textfeld unten;
-    Schaltfläche decke;
-    Schaltfläche ok;
+    Textfeld feld{*this, "feld"_t};
+    Textfeld unten{*this, "unten"_t};
+    Schaltfläche decke{*this, "decke"_t};
+    Schaltfläche ok{*this, "ok"_t};
     int aktivierungen = 0;
     int entladungen = 0;
     std::function<void()> danach;
@@ -143,5 +139,5 @@ TEST(Bildschirm, ElementeWerdenUnterIhremNamenGefunden)
     EXPECT_EQ(a.finde("feld"), &a.feld);
     EXPECT_EQ(a.finde("fehlt"), nullptr);
     EXPECT_EQ(a.feld.name(), "feld");
-    EXPECT_EQ(a.feld.bildschirm(), &a);
+    EXPECT_EQ(&a.feld.bildschirm(), &a);
 }

@@ -18,7 +18,8 @@ Taste zeichen(char z)
 
 TEST(Antwortfeld, DreiKlickeFührenZurückUndMeldenDreimal)
 {
-    triCtlJaNein feld;
+    Bildschirm schirm("frmProbe");
+    triCtlJaNein feld(schirm, "feld");
     int änderungen = 0;
     feld.beiÄnderung = [&] { ++änderungen; };
     EXPECT_EQ(feld.text(), "k.A."_t);
@@ -36,7 +37,8 @@ TEST(Antwortfeld, DreiKlickeFührenZurückUndMeldenDreimal)
 
 TEST(Antwortfeld, SchreibenVergleichtGenauUndMeldetNurÄnderungen)
 {
-    triCtlJaNein feld;
+    Bildschirm schirm("frmProbe");
+    triCtlJaNein feld(schirm, "feld");
     int änderungen = 0;
     feld.setzeText("ja"_t);
     feld.beiÄnderung = [&] { ++änderungen; };
@@ -49,7 +51,8 @@ TEST(Antwortfeld, SchreibenVergleichtGenauUndMeldetNurÄnderungen)
 
 TEST(Antwortfeld, PfeileGehenImKreis)
 {
-    triCtlJaNein feld;
+    Bildschirm schirm("frmProbe");
+    triCtlJaNein feld(schirm, "feld");
     EXPECT_TRUE(feld.taste(taste(Taste::Art::Links)));
     EXPECT_EQ(feld.text(), "nein"_t);
     EXPECT_TRUE(feld.taste(taste(Taste::Art::Rechts)));
@@ -60,7 +63,8 @@ TEST(Antwortfeld, PfeileGehenImKreis)
 
 TEST(Auswahl, PfeileWählenNachbarnUndMelden)
 {
-    Auswahlfeld feld;
+    Bildschirm schirm("frmProbe");
+    Auswahlfeld feld(schirm, "feld");
     feld.fülle({"eins", "zwei", "drei"}, "eins");
     int wahlen = 0;
     feld.beiWahl = [&] { ++wahlen; };
@@ -76,7 +80,8 @@ TEST(Auswahl, PfeileWählenNachbarnUndMelden)
 
 TEST(Auswahl, BuchstabeSpringtZumNächstenEintrag)
 {
-    Auswahlfeld feld;
+    Bildschirm schirm("frmProbe");
+    Auswahlfeld feld(schirm, "feld");
     feld.fülle({"Anna", "Bert", "arg"}, "Anna");
     feld.taste(zeichen('a'));
     EXPECT_EQ(feld.text(), "arg");
@@ -88,7 +93,8 @@ TEST(Auswahl, BuchstabeSpringtZumNächstenEintrag)
 
 TEST(Auswahl, ZeigtAuchFremdeTexte)
 {
-    Auswahlfeld feld;
+    Bildschirm schirm("frmProbe");
+    Auswahlfeld feld(schirm, "feld");
     feld.fülle({"a", "b"}, "fremd");
     EXPECT_EQ(feld.text(), "fremd");
     feld.taste(taste(Taste::Art::Ab));
@@ -97,9 +103,10 @@ TEST(Auswahl, ZeigtAuchFremdeTexte)
 
 TEST(Optionen, HöchstensEineIstMarkiert)
 {
+    Bildschirm schirm("frmProbe");
     Optionsgruppe gruppe;
-    Optionsfeld a;
-    Optionsfeld b;
+    Optionsfeld a(schirm, "a");
+    Optionsfeld b(schirm, "b");
     a.trittBei(gruppe);
     b.trittBei(gruppe);
     a.klicke();
@@ -114,7 +121,8 @@ TEST(Optionen, HöchstensEineIstMarkiert)
 
 TEST(Listen, SortiertOhneGroßUndMitGrundbuchstabenStabil)
 {
-    Liste liste({"Name", "Nr"});
+    Bildschirm schirm("frmProbe");
+    Liste liste(schirm, "liste", {"Name", "Nr"});
     liste.setzeZeilen({verbinde("Zoe"_t, trenner, '1'), verbinde("Ärmel"_t, trenner, '2'),
                        verbinde("arm"_t, trenner, '3'), verbinde("Arm"_t, trenner, '4')});
     liste.wähle(1);
@@ -130,7 +138,8 @@ TEST(Listen, SortiertOhneGroßUndMitGrundbuchstabenStabil)
 
 TEST(Listen, ZellenJenseitsDerZeileSindLeer)
 {
-    Liste liste({"a", "b", "c"});
+    Bildschirm schirm("frmProbe");
+    Liste liste(schirm, "liste", {"a", "b", "c"});
     liste.setzeZeilen({verbinde("x"_t, trenner, 'y')});
     EXPECT_EQ(liste.zelle(1, 2), "y");
     EXPECT_EQ(liste.zelle(1, 3), "");
@@ -138,7 +147,8 @@ TEST(Listen, ZellenJenseitsDerZeileSindLeer)
 
 TEST(Textfelder, TastenÄndernDenTextAmCursor)
 {
-    Textfeld feld;
+    Bildschirm schirm("frmProbe");
+    Textfeld feld(schirm, "feld");
     feld.fokusGewechselt(true);
     for (const char z : "Muster"_t) {
         feld.taste(zeichen(z));
@@ -154,7 +164,8 @@ TEST(Textfelder, TastenÄndernDenTextAmCursor)
 
 TEST(Textfelder, UmbruchIstEinSchritt)
 {
-    Textfeld feld(Mehrzeilig);
+    Bildschirm schirm("frmProbe");
+    Textfeld feld(schirm, "feld", Mehrzeilig);
     feld.gibEin("ab", 1);
     feld.taste(taste(Taste::Art::Eingabe));
     EXPECT_EQ(feld.text(), "a\r\nb");
@@ -164,7 +175,8 @@ TEST(Textfelder, UmbruchIstEinSchritt)
 
 TEST(Textfelder, HöchstlängeGiltBeimTippen)
 {
-    Textfeld feld(Einzeilig, 2);
+    Bildschirm schirm("frmProbe");
+    Textfeld feld(schirm, "feld", Einzeilig, 2);
     for (const char z : {'a', 'b', 'c'}) {
         feld.taste(zeichen(z));
     }

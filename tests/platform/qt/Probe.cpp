@@ -43,25 +43,6 @@ void stelleAnwendungBereit()
 
 Probebildschirm::Probebildschirm() : Bildschirm("frmProbe"_t)
 {
-    benenne("lblHeader"_t, lblHeader);
-    benenne("lblName"_t, lblName);
-    benenne("lblFrage"_t, lblFrage);
-    benenne("lblZeile"_t, lblZeile);
-    benenne("triJaNein"_t, triJaNein);
-    benenne("comboZahl"_t, comboZahl);
-    benenne("optWas"_t, optWas);
-    benenne("tbName"_t, tbName);
-    benenne("tbMemo"_t, tbMemo);
-    benenne("comboArt"_t, comboArt);
-    benenne("DTPicker"_t, DTPicker);
-    benenne("cbHaken"_t, cbHaken);
-    benenne("lvw"_t, lvw);
-    benenne("cmdFüller"_t, cmdFüller);
-    benenne("cmdDecke"_t, cmdDecke);
-    benenne("cmdOK"_t, cmdOK);
-    benenne("cmdExit"_t, cmdExit);
-    benenne("mnDatei"_t, mnDatei);
-    benenne("mnEnde"_t, mnEnde);
     ordneAn();
     for (int i = 1; i <= 14; ++i) {
         lblZeile(i).setzeText(verbinde("Zeile "_t, std::to_string(i)));

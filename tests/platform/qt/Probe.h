@@ -22,20 +22,26 @@ void stelleAnwendungBereit();
 /// A screen with an element of every kind, as the tests of the windows need it.
 class Probebildschirm : public Bildschirm {
 public:
-    Beschriftung lblHeader{"Probe"_t}, lblName, lblFrage{"Wie oft"_t};
-    Elementreihe<Beschriftung> lblZeile{1, 14};
-    Elementreihe<triCtlJaNein> triJaNein{1, 14};
-    Elementreihe<Auswahlfeld> comboZahl{1, 14, Auswahlfeld::Art::Tippbar};
-    Elementreihe<Optionsfeld> optWas{1, 3};
+    Beschriftung lblHeader{*this, "lblHeader"_t, "Probe"_t};
+    Beschriftung lblName{*this, "lblName"_t};
+    Beschriftung lblFrage{*this, "lblFrage"_t, "Wie oft"_t};
+    Elementreihe<Beschriftung> lblZeile{*this, "lblZeile"_t, 1, 14};
+    Elementreihe<triCtlJaNein> triJaNein{*this, "triJaNein"_t, 1, 14};
+    Elementreihe<Auswahlfeld> comboZahl{*this, "comboZahl"_t, 1, 14, Auswahlfeld::Art::Tippbar};
+    Elementreihe<Optionsfeld> optWas{*this, "optWas"_t, 1, 3};
     Optionsgruppe gruppe;
-    Textfeld tbName{Einzeilig, 20}, tbMemo{Mehrzeilig};
-    Auswahlfeld comboArt;
-    Datumsfeld DTPicker;
-    Ankreuzfeld cbHaken{"Haken"_t};
-    Liste lvw{{std::string("Nummer"), std::string("Name")}};
-    Schaltfläche cmdFüller{"!"_t, Schaltfläche::Rolle::Füller}, cmdDecke{"verdeckt"_t, Schaltfläche::Rolle::Decke};
-    Schaltfläche cmdOK{"&OK"_t, Schaltfläche::Rolle::Haupt}, cmdExit{"&Exit"_t};
-    Menüeintrag mnDatei{"Datei"_t}, mnEnde{"Ende"_t};
+    Textfeld tbName{*this, "tbName"_t, Einzeilig, 20};
+    Textfeld tbMemo{*this, "tbMemo"_t, Mehrzeilig};
+    Auswahlfeld comboArt{*this, "comboArt"_t};
+    Datumsfeld DTPicker{*this, "DTPicker"_t};
+    Ankreuzfeld cbHaken{*this, "cbHaken"_t, "Haken"_t};
+    Liste lvw{*this, "lvw"_t, {"Nummer", "Name"}};
+    Schaltfläche cmdFüller{*this, "cmdFüller"_t, "!"_t, Schaltfläche::Rolle::Füller};
+    Schaltfläche cmdDecke{*this, "cmdDecke"_t, "verdeckt"_t, Schaltfläche::Rolle::Decke};
+    Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
+    Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
+    Menüeintrag mnDatei{*this, "mnDatei"_t, "Datei"_t};
+    Menüeintrag mnEnde{*this, "mnEnde"_t, "Ende"_t};
 
     Probebildschirm();
 

@@ -82,8 +82,8 @@ void OberflächeOhne::handle(Element& element, const std::function<void()>& akti
 {
     m_zustand->ablauf.ereignis([&] {
         m_offeneListe.schließe();
-        m_tastaturbildschirm = element.bildschirm();
-        const bool darf = !element.nimmtFokus() || element.bildschirm()->fokussiere(&element);
+        m_tastaturbildschirm = &element.bildschirm();
+        const bool darf = !element.nimmtFokus() || element.bildschirm().fokussiere(&element);
         if (darf && istErreichbar(element)) {
             aktion();
         }
@@ -231,7 +231,7 @@ void OberflächeOhne::dreheRad(Element& element, int schritte)
 {
     constexpr int zeilenJeSchritt = 3; // as desktops are set
     m_zustand->ablauf.ereignis([&] {
-        if (auto* leiste = rollendeLeiste(element.bildschirm()->aufbau, element, nullptr)) {
+        if (auto* leiste = rollendeLeiste(element.bildschirm().aufbau, element, nullptr)) {
             const int weite = std::min(zeilenJeSchritt * leiste->kleinerSchritt(), leiste->großerSchritt());
             leiste->setzeWert(leiste->wert() + schritte * weite);
         }
@@ -258,7 +258,7 @@ void OberflächeOhne::verlasse(Element& element)
 {
     m_zustand->ablauf.ereignis([&] {
         if (element.hatFokus()) {
-            element.bildschirm()->fokussiere(nullptr);
+            element.bildschirm().fokussiere(nullptr);
         }
     });
 }
@@ -280,7 +280,7 @@ void OberflächeOhne::maximiereRahmen(bool maximiert)
 
 bool OberflächeOhne::istZuSehen(const Element& element) const
 {
-    const auto& bildschirm = *element.bildschirm();
+    const auto& bildschirm = element.bildschirm();
     const auto& folge = m_zustand->folge;
     const bool vorne = bildschirm.istKindfenster || obersteSeite(folge) == &bildschirm;
     return vorne && folge.istSichtbar(bildschirm) && bildschirm.istZuSehen(element);
@@ -288,12 +288,12 @@ bool OberflächeOhne::istZuSehen(const Element& element) const
 
 bool OberflächeOhne::istFrei(const Element& element) const
 {
-    return element.istFrei() && m_zustand->folge.istFrei(*element.bildschirm());
+    return element.istFrei() && m_zustand->folge.istFrei(element.bildschirm());
 }
 
 bool OberflächeOhne::hatFokus(const Element& element) const
 {
-    return element.hatFokus() && m_zustand->folge.istSichtbar(*element.bildschirm());
+    return element.hatFokus() && m_zustand->folge.istSichtbar(element.bildschirm());
 }
 
 std::vector<std::string> OberflächeOhne::zeilen(const Liste& liste) const

@@ -222,7 +222,7 @@ void OberflächeQt::klickeKopf(Liste& liste, std::size_t spalte)
 void OberflächeQt::fokussiere(Element& element)
 {
     QWidget& ziel = greife(element);
-    const auto& bildschirm = *element.bildschirm();
+    const auto& bildschirm = element.bildschirm();
     auto folge = bildschirm.tabFolge();
     std::erase_if(folge, [&](const Element* e) { return e != bildschirm.fokus() && !bildschirm.istErreichbar(*e); });
     const auto ort = [&](const Element* e) { return std::find(folge.begin(), folge.end(), e) - folge.begin(); };
@@ -278,7 +278,7 @@ void OberflächeQt::tippe(Element& element, const std::vector<Tastendruck>& tast
     if (!hatteFokus && istEingabezeile(element)) {
         qthand::drücke(widget(element), Qt::Key_End);
     }
-    const auto* const hier = element.bildschirm(); // the keys may unload it
+    const auto* const hier = &element.bildschirm(); // the keys may unload it
     for (const auto& druck : tasten) {
         const auto* bildschirm = tastaturbildschirm(m_zustand->folge, hier);
         auto* fenster = bildschirm == nullptr ? nullptr : m_qt->fensterVon(*bildschirm);
@@ -336,7 +336,7 @@ void OberflächeQt::maximiereRahmen(bool maximiert)
 bool OberflächeQt::istZuSehen(const Element& element) const
 {
     if (const auto* eintrag = aktion(element)) {
-        const auto* fenster = m_qt->fensterVon(*element.bildschirm());
+        const auto* fenster = m_qt->fensterVon(element.bildschirm());
         return eintrag->isVisible() && fenster != nullptr && fenster->isVisible() &&
                m_qt->rahmenfenster()->menuBar()->isVisible();
     }
