@@ -78,11 +78,10 @@ namespace {
 /// Better a clear word now than a lost entry later.
 void prüfeSchreibbarkeit(Dateien& dateien, const Pfade& pfade)
 {
-    const auto probe = pfade.programm / "Tolvek7.probe";
     try {
-        dateien.entferne(probe);
-        dateien.legeLeerAn(probe);
-        dateien.lösche(probe);
+        dateien.entferne(pfade.probe);
+        dateien.legeLeerAn(pfade.probe);
+        dateien.lösche(pfade.probe);
     } catch (const Laufzeitfehler& fehler) {
         throw Laufzeitfehler(verbinde("Der Programmordner ist nicht beschreibbar. "_t, fehler.text()));
     }

@@ -15,17 +15,12 @@ Dateien& dateien()
     return zustand().umgebung.dateien();
 }
 
-std::filesystem::path arbeitsordner()
-{
-    return zustand().pfade.programm / "importDummyVerz";
-}
-
 } // namespace
 
 Importlauf::Importlauf(std::filesystem::path kernAlt, std::filesystem::path betreuungenAlt)
     : m_kernAlt(std::move(kernAlt)), m_betreuungenAlt(std::move(betreuungenAlt)),
-      m_ordner(arbeitsordner()), m_tabellen{datei("KernDat.txt"), datei("BetrDat.txt"), datei("DiagDat.txt"),
-                                            datei("dummyDat.txt")}
+      m_ordner(zustand().pfade.importordner), m_tabellen{datei("KernDat.txt"), datei("BetrDat.txt"),
+                                                         datei("DiagDat.txt"), datei("dummyDat.txt")}
 {}
 
 Importzahlen Importlauf::führeAus()
@@ -45,8 +40,8 @@ Importzahlen Importlauf::führeAus()
 void Importlauf::entferneReste()
 {
     try {
-        if (dateien().istOrdner(arbeitsordner())) {
-            dateien().entferneOrdner(arbeitsordner());
+        if (dateien().istOrdner(zustand().pfade.importordner)) {
+            dateien().entferneOrdner(zustand().pfade.importordner);
         }
     } catch (const Laufzeitfehler&) {
         // whoever broke off has been told; the next run or start tries again

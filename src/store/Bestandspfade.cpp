@@ -31,5 +31,7 @@ Bestandspfade bildeBestandspfade(const std::filesystem::path& programmordner)
             .diagBak = daten / "diagDat.bak",
             .vorgang = daten / "Vorgang.txt",
             .sicherungen = daten / "Sicherungen",
-            .dummyDatei = programmordner / "dummyFile.txt"};
+            .dummyDatei = programmordner / "dummyFile.txt",
+            .probe = programmordner / "Tolvek7.probe",
+            .importordner = programmordner / "importDummyVerz"};
 }

@@ -23,6 +23,8 @@ struct Bestandspfade {
     std::filesystem::path vorgang;     ///< Daten/Vorgang.txt, the commit record; there only while an action is finished
     std::filesystem::path sicherungen; ///< Daten/Sicherungen, the backups of earlier sessions
     std::filesystem::path dummyDatei;  ///< dummyFile.txt, through which older versions rewrote a table
+    std::filesystem::path probe;       ///< Tolvek7.probe, by which a start sees that it may write; gone at once
+    std::filesystem::path importordner; ///< importDummyVerz, the work folder of an import; there only while it runs
 
     const std::filesystem::path& von(Tabelle tabelle) const;
 };

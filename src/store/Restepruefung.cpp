@@ -38,7 +38,7 @@ void prüfeArbeitsdateien(Dateien& dateien, const Bestandspfade& pfade, const fs
                           gehörtDazu ? "kommt beim nächsten Start an ihre Stelle"_t : std::string_view());
         }
     }
-    for (const auto& pfad : {neuNeben(dateien, pfade.vorgang), wurzel / "Tolvek7.probe"}) {
+    for (const auto& pfad : {neuNeben(dateien, pfade.vorgang), pfade.probe}) {
         if (dateien.istDatei(pfad)) {
             befunde.melde(Befundart::Arbeitsdatei, anDatei(pfad, wurzel));
         }
@@ -71,8 +71,7 @@ void prüfeReste(Dateien& dateien, const Bestandspfade& pfade, Befundliste& befu
     const auto wurzel = pfade.dummyDatei.parent_path();
     prüfeArbeitsdateien(dateien, pfade, wurzel, befunde);
     prüfeSicherungen(dateien, pfade, wurzel, befunde);
-    const auto importordner = wurzel / "importDummyVerz";
-    if (dateien.istOrdner(importordner)) {
-        befunde.melde(Befundart::Importordner, anDatei(importordner, wurzel));
+    if (dateien.istOrdner(pfade.importordner)) {
+        befunde.melde(Befundart::Importordner, anDatei(pfade.importordner, wurzel));
     }
 }
