@@ -34,53 +34,19 @@ constexpr std::array<double, 8> breiten{0, 16, 4.6, 4.6, 24, 4.6, 4.6, 4.6};
 /// The questions whose answer is a number from a list, or not given; they take typing.
 constexpr std::array zahlenfragen{TageBeginn, TageEnde, AlterStörung, AlterErstkonsum};
 
-enum class Gruppenart { Substanz, MissbrauchOderSpiel, Essstörung, Keine };
-
-Gruppenart artVon(int gruppe)
+bool wirdGefragt(const Gruppenreihe* gruppe, int frage)
 {
-    if (gruppe < 1 || gruppe > höchsteGruppe) {
-        return Gruppenart::Keine;
-    }
-    if (gruppe <= 20) {
-        return Gruppenart::Substanz;
-    }
-    return gruppe <= 28 ? Gruppenart::MissbrauchOderSpiel : Gruppenart::Essstörung;
+    return gruppe == nullptr ? frage != Konsumart && frage != Riskant : gruppe->frage(frage).gefragt;
 }
 
-bool wirdGefragt(Gruppenart art, int frage)
+/// The list of the question; its first entry stands for no answer.
+std::vector<std::string> antwortliste(const Blockfrage& frage)
 {
-    switch (art) {
-    case Gruppenart::Substanz:
-        return true;
-    case Gruppenart::MissbrauchOderSpiel:
-    case Gruppenart::Keine:
-        return frage != Konsumart && frage != Riskant;
-    case Gruppenart::Essstörung:
-        return frage == ICDStelle4 || frage == AlterStörung;
+    std::vector<std::string> texte = werte::texte(*frage.werte);
+    if (texte.front() != keineAngabe && texte.front() != keineAngaben) {
+        texte.insert(texte.begin(), std::string(keineAngabe));
     }
-    return false;
-}
-
-std::vector<std::string> mitKeinerAngabe(Werteliste liste)
-{
-    std::vector<std::string> texte = werte::texte(liste);
-    texte.insert(texte.begin(), std::string(keineAngabe));
     return texte;
-}
-
-std::vector<std::string> icdListe(Gruppenart art)
-{
-    switch (art) {
-    case Gruppenart::Substanz:
-        return mitKeinerAngabe(werte::icdZusatz);
-    case Gruppenart::MissbrauchOderSpiel:
-        return werte::texte(werte::kurz);
-    case Gruppenart::Essstörung:
-        return mitKeinerAngabe(werte::essstörung);
-    case Gruppenart::Keine:
-        break;
-    }
-    return {};
 }
 
 bool istKurzeAntwort(std::string_view text)
@@ -142,15 +108,15 @@ void frmBetrDiagnoseErstellen::beiÖffnung()
 
 void frmBetrDiagnoseErstellen::bereiteFragenVor()
 {
-    const Gruppenart art = artVon(gruppeAktuell);
+    const auto* gruppe = gruppenreihe(gruppeAktuell);
     lblAntwort.setzeText(gruppenname(gruppeAktuell));
     for (int i = 1; i <= comboAntwort.bis(); ++i) {
-        lblFrage(i).zeige(wirdGefragt(art, i));
-        comboAntwort(i).zeige(wirdGefragt(art, i));
-    }
-    if (art == Gruppenart::Substanz) {
-        comboAntwort(Konsumart).fülle(werte::texte(werte::konsumart), keineAngaben);
-        comboAntwort(Riskant).fülle(werte::texte(werte::kurz), keineAngabe);
+        lblFrage(i).zeige(wirdGefragt(gruppe, i));
+        comboAntwort(i).zeige(wirdGefragt(gruppe, i));
+        if (gruppe != nullptr && gruppe->frage(i).art == Feldart::option) {
+            const auto liste = antwortliste(gruppe->frage(i));
+            comboAntwort(i).fülle(liste, liste.front());
+        }
     }
     for (const int i : {TageBeginn, TageEnde}) {
         comboAntwort(i).fülle(werte::zahlen(keineAngabe, werte::konsumtage), keineAngabe);
@@ -158,8 +124,6 @@ void frmBetrDiagnoseErstellen::bereiteFragenVor()
     for (const int i : {AlterStörung, AlterErstkonsum}) {
         comboAntwort(i).fülle(werte::zahlen(keineAngabe, werte::alter), keineAngabe);
     }
-    const auto icd = icdListe(art);
-    comboAntwort(ICDStelle4).fülle(icd, icd.empty() ? std::string_view() : keineAngabe);
 }
 
 void frmBetrDiagnoseErstellen::fülleAntworten()

@@ -49,7 +49,7 @@ TEST_F(Start, FülltDenZustandDesLaufs)
     EXPECT_EQ(zustand.anzahlKernFelder, 11);
     EXPECT_EQ(zustand.anzahlBetrFelder, 192);
     for (const int nummer : {1000, 4000, 6000}) {
-        EXPECT_NE(zustand.ressourcen.finde(nummer), nullptr) << nummer;
+        EXPECT_TRUE(zustand.ressourcen.finde(nummer)) << nummer;
     }
 }
 

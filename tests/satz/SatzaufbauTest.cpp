@@ -1,6 +1,9 @@
 #include "satz/Satzaufbau.h"
 #include "hilfen/Testumgebung.h"
 #include "hilfen/Textdatei.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 
 #include <map>
@@ -49,6 +52,12 @@ const std::map<std::string, Werteliste>& wertelisten()
     return listen;
 }
 
+/// "K16", "D124"; empty for a field that is not exported.
+std::string quelle(const Satzfeld& feld)
+{
+    return feld.blatt == 0 ? std::string() : feld.blatt + std::to_string(feld.spalte);
+}
+
 /// The data files hold one line for each field: number;name;source;kind;list;default.
 void prüfeGegenListe(const std::vector<Satzfeld>& felder, const std::string& datei)
 {
@@ -60,7 +69,7 @@ void prüfeGegenListe(const std::vector<Satzfeld>& felder, const std::string& da
         const auto& feld = felder[i];
         EXPECT_EQ(std::to_string(i + 1), soll(1)) << ort << ": number";
         EXPECT_EQ(feld.name, soll(2)) << ort << ": name";
-        EXPECT_EQ(feld.quelle, soll(3)) << ort << ": source";
+        EXPECT_EQ(quelle(feld), soll(3)) << ort << ": source";
         EXPECT_EQ(feld.art, feldarten().at(soll(4))) << ort << ": kind";
         const auto liste = soll(5).empty() ? Werteliste{} : wertelisten().at(soll(5));
         EXPECT_EQ(feld.werte.data(), liste.data()) << ort << ": list";
@@ -108,11 +117,11 @@ TEST(Wertelisten, RegelnAllerListen)
         std::set<std::string_view> codes;
         for (const auto& paar : liste) {
             EXPECT_TRUE(texte.insert(paar.text).second) << name << ": text twice: " << paar.text;
-            EXPECT_TRUE(codes.insert(paar.code).second) << name << ": code twice: " << paar.code;
+            EXPECT_EQ(codes.insert(paar.code).second, !paar.frühere) << name << ": code twice: " << paar.code;
             EXPECT_EQ(paar.text.find(trenner), std::string_view::npos) << name << ": delimiter in: " << paar.text;
             EXPECT_EQ(paar.text, getrimmt(paar.text)) << name << ": blanks around: " << paar.text;
             EXPECT_EQ(*werte::codeZu(liste, paar.text), paar.code) << name;
-            EXPECT_EQ(*werte::textZu(liste, paar.code), paar.text) << name;
+            EXPECT_EQ(*werte::textZu(liste, paar.code) == paar.text, !paar.frühere) << name;
         }
         EXPECT_EQ(werte::codeZu(liste, "gibt es nicht"_t), nullptr) << name;
         EXPECT_EQ(werte::textZu(liste, "77"_t), nullptr) << name;
@@ -158,6 +167,38 @@ TEST(Satzaufbau, NamenFindenFelder)
     EXPECT_EQ(betreuungsfeld(""_t), 0);
 }
 
+/// The names of positions and the table are one thing; these are what the records of a facility hold.
+TEST(Satzaufbau, StellenHeißenWieImSatz)
+{
+    EXPECT_EQ(feld::kern::kernID, 2);
+    EXPECT_EQ(feld::kern::geburtsdatum, 10);
+    EXPECT_EQ(feld::kern::anzahl, 11);
+    EXPECT_EQ(feld::betr::beginn, 3);
+    EXPECT_EQ(feld::betr::ende, 4);
+    EXPECT_EQ(feld::betr::migrant + 1, betreuungsfeld("Migrant2"_t));
+    EXPECT_EQ(feld::betr::kontakte, 164);
+    EXPECT_EQ(feld::betr::memo, 192);
+    EXPECT_EQ(feld::betr::anzahl, static_cast<int>(betreuungsfelder().size()));
+    EXPECT_EQ(feld::diag::weitere(12), 246);
+    EXPECT_EQ(feld::diag::bitfeld, 247);
+    EXPECT_EQ(feld::diag::anzahl, static_cast<int>(diagnosefelder().size()));
+    for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
+        EXPECT_EQ(feld::diag::gruppeVon(feld::diag::antwort(gruppe, HDMarke)), gruppe);
+        EXPECT_EQ(feld::diag::platzVon(feld::diag::antwort(gruppe, HDMarke)), HDMarke);
+    }
+}
+
+/// An older spelling is one row of its list: records that hold it are read and exported, nothing new gets it.
+TEST(Wertelisten, FrühereSchreibweiseWirdGelesenUndNichtAngeboten)
+{
+    constexpr std::array liste{Wertepaar{"keine Angaben"_t, "0"_t}, Wertepaar{"Führerschein"_t, "1"_t},
+                               Wertepaar{"Fuehrerschein"_t, "1"_t, true}};
+    EXPECT_EQ(*werte::codeZu(liste, "Fuehrerschein"_t), "1");
+    EXPECT_EQ(*werte::codeZu(liste, "Führerschein"_t), "1");
+    EXPECT_EQ(*werte::textZu(liste, "1"_t), "Führerschein"_t);
+    EXPECT_EQ(werte::texte(liste), (std::vector<std::string>{"keine Angaben", std::string("Führerschein"_t)}));
+}
+
 TEST(Satzaufbau, KlientenfelderInIhrerOrdnung)
 {
     const std::vector<std::string> namen{"",    "kernID", "betrao",     "Nachname",     "Vorname", "Strasse",
@@ -195,10 +236,10 @@ TEST(Vorgaben, DiagnoseHatNurTrenner)
 
 TEST(Satzaufbau, DiagnosefeldRechnetDieGruppen)
 {
-    EXPECT_EQ(diagnosefeld(1, 1), 3);
-    EXPECT_EQ(diagnosefeld(1, 8), 10);
-    EXPECT_EQ(diagnosefeld(24, 4), 190);
-    EXPECT_EQ(diagnosefeld(29, 8), 234);
+    EXPECT_EQ(feld::diag::antwort(1, 1), 3);
+    EXPECT_EQ(feld::diag::antwort(1, 8), 10);
+    EXPECT_EQ(feld::diag::antwort(24, 4), 190);
+    EXPECT_EQ(feld::diag::antwort(29, 8), 234);
 }
 
 } // namespace
