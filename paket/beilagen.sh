@@ -3,6 +3,7 @@
 # portable archive. Usage: beilagen.sh VERSION TARGET-FOLDER, with SOURCE_DATE_EPOCH set.
 set -euo pipefail
 paket=$(cd "$(dirname "$0")" && pwd)
+. "$paket/herkunft.sh"
 quelle=$(dirname "$paket")
 version=$1
 ziel=$2
@@ -15,7 +16,7 @@ mkdir -p "$unterlagen" "$teilen/applications" "$teilen/metainfo" "$teilen/man/de
 
 # Fills in what is known only here.
 fuelle() {
-    sed -e "s/@VERSION@/$version/g" -e "s/@DATUM@/$tag/g" "$1"
+    sed -e "s/@VERSION@/$version/g" -e "s/@DATUM@/$tag/g" -e "s|@HEIMSEITE@|$heimseite|g" "$1"
 }
 
 # Icons: one drawing, in the sizes that desktops ask for.
@@ -40,7 +41,7 @@ gzip -9n < "$quelle/CHANGELOG.md" > "$unterlagen/changelog.gz"
     echo
     echo "  * See changelog.gz."
     echo
-    echo " -- The Tolvek7 maintainers <tolvek7@example.org>  $(date -u -R -d "@$SOURCE_DATE_EPOCH")"
+    echo " -- $kontakt  $(date -u -R -d "@$SOURCE_DATE_EPOCH")"
 } | gzip -9n > "$unterlagen/changelog.Debian.gz"
 
 # The handbook as a page that every browser shows, beside its pictures.

@@ -8,8 +8,8 @@ umfang=${1:-alles}
 pakete=(g++ cmake ninja-build make pkg-config qt6-base-dev qt6-translations-l10n libxlsxwriter-dev)
 if [ "$umfang" = alles ]; then
     pakete+=(
-        # building more than once
-        ccache clang
+        # building more than once, and linking many programs
+        ccache clang lld
         # tests and benchmarks
         libgtest-dev libgmock-dev libbenchmark-dev libclang-rt-14-dev g++-mingw-w64-x86-64-win32 locales
         # opening workbooks, windows without a display, pictures

@@ -1,6 +1,5 @@
 #include "diagnosis/frmBetrDiagnoseErstellen.h"
 
-#include "diagnosis/frmBetrDiagnose.h"
 #include "platform/text/Zahl.h"
 #include "satz/Diagnosesatz.h"
 #include "satz/Wertelisten.h"
@@ -35,53 +34,19 @@ constexpr std::array<double, 8> breiten{0, 16, 4.6, 4.6, 24, 4.6, 4.6, 4.6};
 /// The questions whose answer is a number from a list, or not given; they take typing.
 constexpr std::array zahlenfragen{TageBeginn, TageEnde, AlterStörung, AlterErstkonsum};
 
-enum class Gruppenart { Substanz, MissbrauchOderSpiel, Essstörung, Keine };
-
-Gruppenart artVon(int gruppe)
+bool wirdGefragt(const Gruppenreihe* gruppe, int frage)
 {
-    if (gruppe < 1 || gruppe > höchsteGruppe) {
-        return Gruppenart::Keine;
-    }
-    if (gruppe <= 20) {
-        return Gruppenart::Substanz;
-    }
-    return gruppe <= 28 ? Gruppenart::MissbrauchOderSpiel : Gruppenart::Essstörung;
+    return gruppe == nullptr ? frage != Konsumart && frage != Riskant : gruppe->frage(frage).gefragt;
 }
 
-bool wirdGefragt(Gruppenart art, int frage)
+/// The list of the question; its first entry stands for no answer.
+std::vector<std::string> antwortliste(const Blockfrage& frage)
 {
-    switch (art) {
-    case Gruppenart::Substanz:
-        return true;
-    case Gruppenart::MissbrauchOderSpiel:
-    case Gruppenart::Keine:
-        return frage != Konsumart && frage != Riskant;
-    case Gruppenart::Essstörung:
-        return frage == ICDStelle4 || frage == AlterStörung;
+    std::vector<std::string> texte = werte::texte(*frage.werte);
+    if (texte.front() != keineAngabe && texte.front() != keineAngaben) {
+        texte.insert(texte.begin(), std::string(keineAngabe));
     }
-    return false;
-}
-
-std::vector<std::string> mitKeinerAngabe(Werteliste liste)
-{
-    std::vector<std::string> texte = werte::texte(liste);
-    texte.insert(texte.begin(), std::string(keineAngabe));
     return texte;
-}
-
-std::vector<std::string> icdListe(Gruppenart art)
-{
-    switch (art) {
-    case Gruppenart::Substanz:
-        return mitKeinerAngabe(werte::icdZusatz);
-    case Gruppenart::MissbrauchOderSpiel:
-        return werte::texte(werte::kurz);
-    case Gruppenart::Essstörung:
-        return mitKeinerAngabe(werte::essstörung);
-    case Gruppenart::Keine:
-        break;
-    }
-    return {};
 }
 
 bool istKurzeAntwort(std::string_view text)
@@ -96,8 +61,8 @@ bool beginntMitZiffer(std::string_view text)
 
 } // namespace
 
-frmBetrDiagnoseErstellen::frmBetrDiagnoseErstellen(frmBetrDiagnose& seite)
-    : Bildschirm("frmBetrDiagnoseErstellen"_t), m_seite(seite)
+frmBetrDiagnoseErstellen::frmBetrDiagnoseErstellen(std::int16_t gruppe)
+    : Bildschirm("frmBetrDiagnoseErstellen"_t), gruppeAktuell(gruppe)
 {
     for (int i = 0; i <= lblFrage.bis(); ++i) {
         lblFrage(i).setzeText(fragen[static_cast<std::size_t>(i)]);
@@ -131,32 +96,27 @@ void frmBetrDiagnoseErstellen::bestimmeAufbau()
     beiEscape = &cmdExit;
 }
 
-void frmBetrDiagnoseErstellen::beiAktivierung()
+void frmBetrDiagnoseErstellen::beiÖffnung()
 {
-    zustand().wechsel->holeFensterlage(*this);
     setzeTitel(verbinde(zustand().titel, " - Diagnose erstellen"_t));
-    m_hdGruppeAlt = m_seite.getHDGruppenNr();
-    m_block = zerlegeDSDiag(zustand().arbeitskopie.DSDiag, gruppeAktuell).block;
+    const std::string& dsDiag = zustand().arbeitskopie.DSDiag;
+    m_hdGruppeAlt = getHDGruppenNr(dsDiag);
+    m_block = zerlegeDSDiag(dsDiag, gruppeAktuell).block;
     bereiteFragenVor();
     fülleAntworten();
 }
 
-void frmBetrDiagnoseErstellen::beiEntladen()
-{
-    zustand().wechsel->speichereFensterlage(*this);
-}
-
 void frmBetrDiagnoseErstellen::bereiteFragenVor()
 {
-    const Gruppenart art = artVon(gruppeAktuell);
+    const auto* gruppe = gruppenreihe(gruppeAktuell);
     lblAntwort.setzeText(gruppenname(gruppeAktuell));
     for (int i = 1; i <= comboAntwort.bis(); ++i) {
-        lblFrage(i).zeige(wirdGefragt(art, i));
-        comboAntwort(i).zeige(wirdGefragt(art, i));
-    }
-    if (art == Gruppenart::Substanz) {
-        comboAntwort(Konsumart).fülle(werte::texte(werte::konsumart), keineAngaben);
-        comboAntwort(Riskant).fülle(werte::texte(werte::kurz), keineAngabe);
+        lblFrage(i).zeige(wirdGefragt(gruppe, i));
+        comboAntwort(i).zeige(wirdGefragt(gruppe, i));
+        if (gruppe != nullptr && gruppe->frage(i).art == Feldart::option) {
+            const auto liste = antwortliste(gruppe->frage(i));
+            comboAntwort(i).fülle(liste, liste.front());
+        }
     }
     for (const int i : {TageBeginn, TageEnde}) {
         comboAntwort(i).fülle(werte::zahlen(keineAngabe, werte::konsumtage), keineAngabe);
@@ -164,8 +124,6 @@ void frmBetrDiagnoseErstellen::bereiteFragenVor()
     for (const int i : {AlterStörung, AlterErstkonsum}) {
         comboAntwort(i).fülle(werte::zahlen(keineAngabe, werte::alter), keineAngabe);
     }
-    const auto icd = icdListe(art);
-    comboAntwort(ICDStelle4).fülle(icd, icd.empty() ? std::string_view() : keineAngabe);
 }
 
 void frmBetrDiagnoseErstellen::fülleAntworten()
@@ -266,13 +224,13 @@ void frmBetrDiagnoseErstellen::beiOK()
     if (!prüfeAntworten()) {
         return;
     }
-    m_seite.schreibeGruppeInDSDiag(gruppeAktuell, sammleAntworten());
     std::string& dsDiag = zustand().arbeitskopie.DSDiag;
+    schreibeGruppeInDSDiag(dsDiag, gruppeAktuell, sammleAntworten());
     if (cbHD.istAn() && m_hdGruppeAlt > 0 && m_hdGruppeAlt != gruppeAktuell) {
         nimmHDMarke(dsDiag, m_hdGruppeAlt);
     }
     trageGruppeEin(dsDiag, gruppeAktuell);
-    schließe();
+    zustand().folge.schließe(*this);
 }
 
 void frmBetrDiagnoseErstellen::beiExit()
@@ -282,11 +240,5 @@ void frmBetrDiagnoseErstellen::beiExit()
         zeigeMeldung("Níchts wurde verändert"_t, Symbol::Info);
         return;
     }
-    schließe();
-}
-
-void frmBetrDiagnoseErstellen::schließe()
-{
-    zustand().folge.entlade(*this);
-    m_seite.zeigeWieder();
+    zustand().folge.schließe(*this);
 }

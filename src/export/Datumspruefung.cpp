@@ -3,6 +3,7 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Betreuungsfelder.h"
 
 #include <algorithm>
 
@@ -23,8 +24,8 @@ int jahrVon(std::string_view datum, int feld, std::string_view bezeichnung)
 
 bool berührtJahr(std::string_view beginn, std::string_view ende, int jahr, std::string_view bezeichnung)
 {
-    if (jahr < jahrVon(beginn, 3, bezeichnung)) {
+    if (jahr < jahrVon(beginn, feld::betr::beginn, bezeichnung)) {
         return false;
     }
-    return klein(ende) == "offen"_t || jahr <= jahrVon(ende, 4, bezeichnung);
+    return klein(ende) == "offen"_t || jahr <= jahrVon(ende, feld::betr::ende, bezeichnung);
 }

@@ -2,22 +2,21 @@
 
 #include "export/Spaltentabelle.h"
 #include "export/Zeilenbauer.h"
+#include "satz/Diagnosefelder.h"
+
+#include <algorithm>
 
 namespace {
-
-constexpr std::size_t spaltenzahl = 177;
-constexpr int substanzgruppen = 20;
 
 /// What an empty number gives: 0 for an age, 99 for days of consumption; behind the substances the 99 has a
 /// blank in front, which the receiving side knows.
 std::string_view ersatzFürLeereZahl(int nummer)
 {
-    constexpr int platzAlterStörung = 5;
-    const int gruppe = (nummer - 3) / felderJeGruppe + 1;
-    if (nummer == diagnosefeld(gruppe, platzAlterStörung)) {
+    using namespace feld::diag;
+    if (platzVon(nummer) == AlterStörung) {
         return "0"_t;
     }
-    return gruppe <= substanzgruppen ? "99"_t : " 99"_t;
+    return istGruppe(gruppeVon(nummer), Gruppenart::Substanz) ? "99"_t : " 99"_t;
 }
 
 Exportspalte optionAus(const Satzfeld& feld, int nummer)
@@ -48,7 +47,7 @@ Exportspalte diagnosespalteAus(const Satzfeld& feld, int nummer)
     case Feldart::icdPsy:
     case Feldart::icdNeu:
         spalte.kodierung = Kodierung::MitBuchstabe;
-        spalte.ersatz = feld.art == Feldart::icdPsy ? "F"_t : "G"_t;
+        spalte.ersatz = diagnoseartVon(nummer - feld::diag::weitere(0)).buchstabe;
         return spalte;
     case Feldart::icd0000:
         spalte.kodierung = Kodierung::Hauptdiagnose;
@@ -66,7 +65,7 @@ Exportspalte betreuungsspalteAus(const Satzfeld& feld, int nummer)
     Exportspalte spalte{.kodierung = Kodierung::Tabelle, .feld = nummer, .werte = feld.werte};
     if (feld.art == Feldart::hdOhne || feld.art == Feldart::ivKonsum) {
         spalte.kodierung = Kodierung::Flaggenplatz;
-        spalte.anzahl = feld.art == Feldart::hdOhne ? 6 : 4;
+        spalte.anzahl = static_cast<int>(std::ranges::count(betreuungsfelder(), feld.art, &Satzfeld::art));
     } else if (feld.werte.data() != werte::lang.data()) {
         spalte.leer = "0"_t; // infections admit an empty text; addiction to several substances does not
     }
@@ -75,12 +74,11 @@ Exportspalte betreuungsspalteAus(const Satzfeld& feld, int nummer)
 
 std::vector<Exportspalte> baueSpalten()
 {
-    std::vector<Exportspalte> spalten(spaltenzahl);
-    spalten[0] = {.kodierung = Kodierung::Tsnr};
-    spalten[1] = {.satz = Satzart::Diagnose, .feld = 1};
-    spalten[2] = {.satz = Satzart::Diagnose, .feld = 2};
+    std::vector<Exportspalte> spalten;
     trageFelderEin(spalten, 'D', diagnosefelder(), diagnosespalteAus);
     trageFelderEin(spalten, 'D', betreuungsfelder(), betreuungsspalteAus);
+    trageAnfangEin(spalten, {.satz = Satzart::Diagnose, .feld = feld::diag::kernID},
+                   {.satz = Satzart::Diagnose, .feld = feld::diag::betrID});
     return spalten;
 }
 

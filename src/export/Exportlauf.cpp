@@ -5,6 +5,9 @@
 #include "export/Kernzeile.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 #include "store/Lesestand.h"
 #include "zustand/Zustand.h"
@@ -48,8 +51,8 @@ std::optional<std::string_view> Diagnosesuche::finde(std::int32_t kernID, std::i
         return ort->second;
     }
     while (const auto zeile = m_zeilen.nächste()) {
-        const auto gelesen = schlüssel(leseSchlüssel(*zeile, 1, bits, m_pfad, m_zeilen.nummer()),
-                                       leseSchlüssel(*zeile, 2, bits, m_pfad, m_zeilen.nummer()));
+        const auto gelesen = schlüssel(leseSchlüssel(*zeile, feld::diag::kernID, bits, m_pfad, m_zeilen.nummer()),
+                                       leseSchlüssel(*zeile, feld::diag::betrID, bits, m_pfad, m_zeilen.nummer()));
         m_gelesene.try_emplace(gelesen, *zeile);
         if (gelesen == gesucht) {
             return zeile;
@@ -107,7 +110,7 @@ void Exportlauf::behalteGeschriebenes()
 
 void Exportlauf::exportiereKlient(std::string_view zeile, std::size_t nummer)
 {
-    const auto kernID = leseSchlüssel(zeile, 2, bits, zustand().pfade.kernDat, nummer);
+    const auto kernID = leseSchlüssel(zeile, feld::kern::kernID, bits, zustand().pfade.kernDat, nummer);
     m_klient.lies(zeile);
     if (!m_betreuungen) {
         sucheBetreuungen(kernID);
@@ -124,7 +127,7 @@ void Exportlauf::sucheBetreuungen(std::int32_t erster)
     m_betreuungen = dateien().lies(pfad);
     Zeilen zeilen(m_betreuungen->text());
     while (const auto zeile = zeilen.nächste()) {
-        const auto kernID = leseSchlüssel(*zeile, 1, bits, pfad, zeilen.nummer());
+        const auto kernID = leseSchlüssel(*zeile, feld::betr::kernID, bits, pfad, zeilen.nummer());
         if (!berührtJahrDesExports(*zeile, zeilen.nummer())) {
             continue;
         }
@@ -138,8 +141,9 @@ void Exportlauf::sucheBetreuungen(std::int32_t erster)
 bool Exportlauf::berührtJahrDesExports(std::string_view betrDS, std::size_t nummer) const
 {
     try {
-        const auto bezeichnung = verbinde(getFeld(betrDS, 1), '-', getFeld(betrDS, 2));
-        return berührtJahr(getFeld(betrDS, 3), getFeld(betrDS, 4), m_jahr, bezeichnung);
+        const auto bezeichnung =
+            verbinde(getFeld(betrDS, feld::betr::kernID), '-', getFeld(betrDS, feld::betr::betrID));
+        return berührtJahr(getFeld(betrDS, feld::betr::beginn), getFeld(betrDS, feld::betr::ende), m_jahr, bezeichnung);
     } catch (const Laufzeitfehler& fehler) {
         throw Laufzeitfehler(verbinde(ortsangabe(zustand().pfade.betrDat, nummer), ", "_t, fehler.text()));
     }
@@ -148,7 +152,7 @@ bool Exportlauf::berührtJahrDesExports(std::string_view betrDS, std::size_t num
 void Exportlauf::exportiere(std::int32_t kernID, std::string_view betrDS, std::size_t nummer)
 {
     ++m_exportierte;
-    const auto betrID = leseSchlüssel(betrDS, 2, bits, zustand().pfade.betrDat, nummer);
+    const auto betrID = leseSchlüssel(betrDS, feld::betr::betrID, bits, zustand().pfade.betrDat, nummer);
     if (!m_diagnosen) {
         m_diagnosen.emplace(zustand().pfade.diagDat);
     }

@@ -2,17 +2,27 @@
 
 #include "export/Spaltentabelle.h"
 #include "export/Zeilenbauer.h"
-
-#include <array>
+#include "satz/Betreuungsfelder.h"
+#include "satz/Exportspalten.h"
+#include "satz/Klientenfelder.h"
 
 namespace {
 
-constexpr std::size_t spaltenzahl = 181;
+/// The box of these columns lacks the word "hier": the short yes/no, language and migration.
+std::string_view meldungZu(const Satzfeld& feld, int nummer)
+{
+    const bool istSpracheOderMigration = nummer >= feld::betr::sprache && nummer <= feld::betr::migrant + 1;
+    return istSpracheOderMigration || feld.werte.data() == werte::kurz.data() ? "Fehler"_t : Exportspalte{}.meldung;
+}
 
-Exportspalte spalteAus(const Satzfeld& feld, int nummer)
+Exportspalte betreuungsspalteAus(const Satzfeld& feld, int nummer)
 {
     const auto mit = [&](Kodierung kodierung, std::string_view ersatz = {}) {
-        return Exportspalte{.kodierung = kodierung, .feld = nummer, .werte = feld.werte, .ersatz = ersatz};
+        return Exportspalte{.kodierung = kodierung,
+                            .feld = nummer,
+                            .werte = feld.werte,
+                            .ersatz = ersatz,
+                            .meldung = meldungZu(feld, nummer)};
     };
     switch (feld.art) {
     case Feldart::option:
@@ -29,37 +39,21 @@ Exportspalte spalteAus(const Satzfeld& feld, int nummer)
     }
 }
 
-/// Columns that don't come from one field of the care record alone.
-void trageÜbrigeEin(std::vector<Exportspalte>& spalten)
+Exportspalte klientenspalteAus(const Satzfeld& feld, int nummer)
 {
-    spalten[0] = {.kodierung = Kodierung::Tsnr};
-    spalten[1] = {.feld = 1};
-    spalten[2] = {.feld = 2};
-    spalten[5] = {.kodierung = Kodierung::Dauer};
-    spalten[6] = {.kodierung = Kodierung::Alter, .satz = Satzart::Klient, .feld = 10};
-    spalten[7] = {.kodierung = Kodierung::Tabelle, .satz = Satzart::Klient, .feld = 9, .werte = werte::geschlecht};
-}
-
-/// The box of these columns lacks the word "hier": the short yes/no, language and migration.
-void kürzeMeldungen(std::vector<Exportspalte>& spalten)
-{
-    constexpr std::array<std::size_t, 3> spracheUndMigration{55, 56, 57};
-    for (auto& spalte : spalten) {
-        if (spalte.kodierung == Kodierung::KurzJaNein) {
-            spalte.meldung = "Fehler"_t;
-        }
-    }
-    for (const auto nummer : spracheUndMigration) {
-        spalten[nummer - 1].meldung = "Fehler"_t;
-    }
+    const auto kodierung = nummer == feld::kern::geburtsdatum ? Kodierung::Alter
+                           : feld.werte.empty()               ? Kodierung::Gespeichert
+                                                              : Kodierung::Tabelle;
+    return {.kodierung = kodierung, .satz = Satzart::Klient, .feld = nummer, .werte = feld.werte};
 }
 
 std::vector<Exportspalte> baueSpalten()
 {
-    std::vector<Exportspalte> spalten(spaltenzahl);
-    trageÜbrigeEin(spalten);
-    trageFelderEin(spalten, 'K', betreuungsfelder(), spalteAus);
-    kürzeMeldungen(spalten);
+    std::vector<Exportspalte> spalten;
+    trageFelderEin(spalten, 'K', betreuungsfelder(), betreuungsspalteAus);
+    trageFelderEin(spalten, 'K', klientenfelder(), klientenspalteAus);
+    trageAnfangEin(spalten, {.feld = feld::betr::kernID}, {.feld = feld::betr::betrID});
+    spaltenplatz(spalten, exportspalte::kern::dauer) = {.kodierung = Kodierung::Dauer};
     return spalten;
 }
 

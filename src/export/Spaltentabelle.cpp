@@ -1,29 +1,37 @@
 #include "export/Spaltentabelle.h"
 
-#include "platform/text/Zahl.h"
+#include "satz/Exportspalten.h"
 
-namespace {
-
-/// Number of the column on the sheet, 0 if the field is not on it.
-std::size_t spaltennummer(const Satzfeld& feld, char blatt)
-{
-    if (feld.quelle.empty() || feld.quelle.front() != blatt) {
-        return 0;
-    }
-    return static_cast<std::size_t>(leseGanzzahl16(std::string_view(feld.quelle).substr(1)).value_or(0));
-}
-
-} // namespace
+#include <algorithm>
 
 void trageFelderEin(std::vector<Exportspalte>& spalten, char blatt, const std::vector<Satzfeld>& satzfelder,
                     const std::function<Exportspalte(const Satzfeld& feld, int nummer)>& kodierung)
 {
-    std::vector<bool> belegt(spalten.size() + 1);
-    for (std::size_t i = 0; i < satzfelder.size(); ++i) {
-        const auto spalte = spaltennummer(satzfelder[i], blatt);
-        if (spalte != 0 && !belegt.at(spalte)) {
-            spalten.at(spalte - 1) = kodierung(satzfelder[i], static_cast<int>(i) + 1);
-            belegt[spalte] = true;
+    std::vector<bool> belegt;
+    int nummer = 0;
+    for (const auto& feld : satzfelder) {
+        ++nummer;
+        if (feld.blatt != blatt) {
+            continue;
+        }
+        const auto ort = static_cast<std::size_t>(feld.spalte - 1);
+        spalten.resize(std::max(spalten.size(), ort + 1));
+        belegt.resize(spalten.size());
+        if (!belegt[ort]) {
+            spalten[ort] = kodierung(feld, nummer);
+            belegt[ort] = true;
         }
     }
+}
+
+Exportspalte& spaltenplatz(std::vector<Exportspalte>& spalten, int nummer)
+{
+    return spalten.at(static_cast<std::size_t>(nummer - 1));
+}
+
+void trageAnfangEin(std::vector<Exportspalte>& spalten, const Exportspalte& kernID, const Exportspalte& betrID)
+{
+    spaltenplatz(spalten, exportspalte::tsnr) = {.kodierung = Kodierung::Tsnr};
+    spaltenplatz(spalten, exportspalte::kernID) = kernID;
+    spaltenplatz(spalten, exportspalte::betrID) = betrID;
 }

@@ -2,8 +2,8 @@
 
 #include "platform/text/Datum.h"
 #include "platform/text/Zahl.h"
-#include "satz/Satzaufbau.h"
-#include "satz/moData.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
 #include "satz/moNationen.h"
 #include "zustand/Zustand.h"
 
@@ -17,13 +17,6 @@ namespace {
 constexpr auto kA = "k.A."_t;
 constexpr auto offen = "offen"_t;
 constexpr auto unbekannt = "unbekannt"_t;
-
-// places in the records
-constexpr int feldBeginn = 3;
-constexpr int feldEnde = 4;
-constexpr int platzZusatz = 4;
-constexpr int platzAlterErstkonsum = 7;
-constexpr int platzHauptdiagnose = 8;
 
 bool istGleichOhneGroß(std::string_view text, std::string_view kleinesWort)
 {
@@ -48,7 +41,7 @@ int altersjahre(const Datum& geburt, const Datum& beginn)
 
 bool istHauptdiagnose(const Satzsicht& diagnose, int gruppe)
 {
-    return diagnose.feld(diagnosefeld(gruppe, platzHauptdiagnose)) == "1";
+    return diagnose.feld(feld::diag::antwort(gruppe, HDMarke)) == "1";
 }
 
 /// "10" of F10, "55" of F55.1.
@@ -152,12 +145,12 @@ void Zeilenbauer::schreibeFehlgriff(const Exportspalte& spalte)
 
 void Zeilenbauer::dauer(const Exportspalte& spalte)
 {
-    const auto ende = m_sätze.betreuung->feld(feldEnde);
+    const auto ende = m_sätze.betreuung->feld(feld::betr::ende);
     if (ende == offen) {
         m_ziel.append(offen);
         return;
     }
-    const auto von = leseDatum(m_sätze.betreuung->feld(feldBeginn));
+    const auto von = leseDatum(m_sätze.betreuung->feld(feld::betr::beginn));
     const auto bis = leseDatum(ende);
     if (!von || !bis) {
         zeigeMeldung(spalte.meldung);
@@ -172,7 +165,7 @@ void Zeilenbauer::alter(const Exportspalte& spalte, std::string_view geburtsdatu
         return;
     }
     const auto geburt = leseDatum(geburtsdatum);
-    const auto beginn = leseDatum(m_sätze.betreuung->feld(feldBeginn));
+    const auto beginn = leseDatum(m_sätze.betreuung->feld(feld::betr::beginn));
     if (!geburt || !beginn) {
         zeigeMeldung(spalte.meldung);
         return;
@@ -245,15 +238,15 @@ void Zeilenbauer::hauptdiagnose()
 {
     const auto& diagnose = *m_sätze.diagnose;
     int gruppe = 1;
-    while (gruppe <= diagnosegruppen && !istHauptdiagnose(diagnose, gruppe)) {
+    while (gruppe <= höchsteGruppe && !istHauptdiagnose(diagnose, gruppe)) {
         ++gruppe;
     }
-    if (gruppe > diagnosegruppen) {
+    if (gruppe > höchsteGruppe) {
         m_ziel.append("0"_t);
         return;
     }
     const auto klasse = klasseVon(gruppe);
-    const auto zusatz = diagnose.feld(diagnosefeld(gruppe, platzZusatz));
+    const auto zusatz = diagnose.feld(feld::diag::antwort(gruppe, ICDStelle4));
     if (klasse == "55") {
         m_ziel.append(klasse).push_back(aryICD.at(static_cast<std::size_t>(gruppe)).back());
     } else if (klasse == "63") {
@@ -268,9 +261,9 @@ void Zeilenbauer::hauptdiagnose()
 void Zeilenbauer::alterHauptdiagnose()
 {
     std::string_view alter = "0"_t;
-    for (int gruppe = 1; gruppe <= diagnosegruppen; ++gruppe) {
+    for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
         if (istHauptdiagnose(*m_sätze.diagnose, gruppe)) {
-            const auto text = m_sätze.diagnose->feld(diagnosefeld(gruppe, platzAlterErstkonsum));
+            const auto text = m_sätze.diagnose->feld(feld::diag::antwort(gruppe, AlterErstkonsum));
             alter = (text == kA || getrimmt(text).empty()) ? "0"_t : text;
         }
     }

@@ -1,6 +1,9 @@
 #include "import/Abschluss.h"
 
+#include "import/Altfelder.h"
 #include "import/Eingabedatei.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 #include "store/Vorgang.h"
 
@@ -42,18 +45,15 @@ std::string_view ganzeZeile(std::string_view zeile)
 
 std::string_view kernID(std::string_view zeile)
 {
-    return getFeld(zeile, 2);
+    return getFeld(zeile, feld::kern::kernID);
 }
 
 /// The care line with its first 191 fields and the mark in place of the last.
 std::string markiert(std::string_view zeile, bool istDeutsch)
 {
-    constexpr int feldBetrGru = 6;
-    constexpr int feldNation = 9;
-    constexpr int feldMemo = 192;
-    std::string neu(istDeutsch ? ersetzeFeld(zeile, feldNation, "Deutschland"_t) : std::string(zeile));
-    neu = ersetzeFeld(neu, feldBetrGru, "Eigene Problematik"_t);
-    return verbinde(felder(neu, 1, feldMemo - 1), "Importierter Datensatz"_t);
+    std::string neu(istDeutsch ? ersetzeFeld(zeile, feld::betr::nation, "Deutschland"_t) : std::string(zeile));
+    neu = ersetzeFeld(neu, feld::betr::betrGru, "Eigene Problematik"_t);
+    return verbinde(felder(neu, feld::betr::kernID, feld::betr::memo - 1), "Importierter Datensatz"_t);
 }
 
 /// Numbers of the clients that are "Deutsche(r)", by the first line with the number.
@@ -62,8 +62,8 @@ std::unordered_set<std::string_view> deutsche(const Eingabedatei& kernAlt)
     std::unordered_set<std::string_view> gesehene;
     std::unordered_set<std::string_view> nummern;
     kernAlt.fürJedenSatz([&](std::string_view zeile) {
-        const auto nummer = getFeld(zeile, 1);
-        if (gesehene.insert(nummer).second && getFeld(zeile, 9) == "Deutsche(r)"_t) {
+        const auto nummer = getFeld(zeile, altfeld::klient::nummer);
+        if (gesehene.insert(nummer).second && getFeld(zeile, altfeld::klient::nationalität) == "Deutsche(r)"_t) {
             nummern.insert(nummer);
         }
     });
@@ -76,8 +76,8 @@ std::unordered_map<std::string_view, std::string_view> statusAller(const Eingabe
 {
     std::unordered_map<std::string_view, std::string_view> status;
     betrDat.fürJedeZeile([&](std::string_view zeile) {
-        const bool offen = getFeld(zeile, 4) == "offen"_t;
-        const auto [ort, neu] = status.try_emplace(getFeld(zeile, 1), offen ? "o"_t : "a"_t);
+        const bool offen = getFeld(zeile, feld::betr::ende) == "offen"_t;
+        const auto [ort, neu] = status.try_emplace(getFeld(zeile, feld::betr::kernID), offen ? "o"_t : "a"_t);
         if (!neu && offen) {
             ort->second = "o"_t;
         }
@@ -99,7 +99,7 @@ void markiereBetreuungen(const NeueTabellen& tabellen, const std::filesystem::pa
     const Eingabedatei klienten(kernAlt);
     const auto nummern = deutsche(klienten);
     schreibeUm(tabellen.betrDat, tabellen.dummyDat, [&](std::string_view zeile, Schreiber& aus) {
-        aus.zeile(markiert(zeile, nummern.contains(getFeld(zeile, 1))));
+        aus.zeile(markiert(zeile, nummern.contains(getFeld(zeile, feld::betr::kernID))));
     });
 }
 
@@ -109,7 +109,7 @@ void fülleStatus(const NeueTabellen& tabellen)
     const auto status = statusAller(betreuungen);
     schreibeUm(tabellen.kernDat, tabellen.dummyDat, [&](std::string_view zeile, Schreiber& aus) {
         const auto ort = status.find(kernID(zeile));
-        aus.zeile(ersetzeFeld(zeile, 3, ort == status.end() ? std::string_view{} : ort->second));
+        aus.zeile(ersetzeFeld(zeile, feld::kern::betrao, ort == status.end() ? std::string_view{} : ort->second));
     });
 }
 
@@ -127,11 +127,11 @@ Importzahlen schreibeImportListe(const NeueTabellen& tabellen, const std::filesy
     aus->zeile("kernID\tbetrID\tNachname\tVorname"_t);
     betreuungen.fürJedeZeile([&](std::string_view zeile) {
         ++zahlen.betreuungen;
-        const auto klient = klientenzeilen.find(getFeld(zeile, 1));
-        const auto name = klient == klientenzeilen.end()
-                              ? std::string()
-                              : verbinde(getFeld(klient->second, 4), '\t', getFeld(klient->second, 5));
-        aus->zeile(verbinde(getFeld(zeile, 1), '\t', getFeld(zeile, 2), '\t', name));
+        const auto klient = klientenzeilen.find(getFeld(zeile, feld::betr::kernID));
+        const auto name = klient == klientenzeilen.end() ? std::string()
+                                                         : verbinde(getFeld(klient->second, feld::kern::nachname), '\t',
+                                                                    getFeld(klient->second, feld::kern::vorname));
+        aus->zeile(verbinde(getFeld(zeile, feld::betr::kernID), '\t', getFeld(zeile, feld::betr::betrID), '\t', name));
     });
     aus->schließe();
     return zahlen;

@@ -1,13 +1,12 @@
 #include "import/AltKDSRegeln.h"
 
+#include "export/Diagnosezeile.h"
+#include "export/Kernzeile.h"
 #include "platform/text/Text.h"
 
 #include <array>
 
 namespace {
-
-constexpr std::size_t kernspalten = 181;
-constexpr std::size_t diagnosespalten = 177;
 
 constexpr auto null = "0"_t;
 constexpr auto fehler = "FEHLER"_t;
@@ -97,7 +96,7 @@ void trageKopienEin(std::vector<Altregel>& regeln, int von, int bis, int spalte,
 
 std::vector<Altregel> baueKernregeln()
 {
-    std::vector<Altregel> regeln(kernspalten, fest(null)); // what the older layout does not know is 0
+    std::vector<Altregel> regeln(kernspalten().size(), fest(null)); // what the older layout does not know is 0
     trageKopienEin(regeln, 1, 5, 1);
     trageEin(regeln, {
                          {6, 6, kopie(163)},
@@ -147,7 +146,7 @@ std::vector<Altregel> baueDiagnoseregeln()
 {
     constexpr std::array ersteSpalten{19, 25, 32, 39,  46,  53,  59,  65,  71,  77,
                                       83, 89, 95, 101, 107, 113, 119, 125, 131, 137};
-    std::vector<Altregel> regeln(diagnosespalten, fest(null));
+    std::vector<Altregel> regeln(diagnosespalten().size(), fest(null));
     trageKopienEin(regeln, 1, 3, 1);
     std::size_t ort = 3;
     for (const int spalte : ersteSpalten) { // kind of consumption, and the digits behind the class

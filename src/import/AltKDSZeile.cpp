@@ -1,9 +1,11 @@
 #include "import/AltKDSZeile.h"
 
+#include "import/Altfelder.h"
 #include "platform/text/Datum.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/WeitereDiagnosen.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>
@@ -13,7 +15,6 @@
 namespace {
 
 constexpr auto offen = "OFFEN"_t;
-constexpr int feldEssstörung = 91;
 
 struct Kostenträger {
     int feld;
@@ -22,8 +23,9 @@ struct Kostenträger {
 
 /// Of several bearers the last one in this order counts.
 constexpr std::array kostenträgerListe{
-    Kostenträger{11, "2"_t},  Kostenträger{14, "45"_t}, Kostenträger{12, "48"_t},
-    Kostenträger{10, "47"_t}, Kostenträger{13, "46"_t}, Kostenträger{9, "1"_t},
+    Kostenträger{altfeld::betreuung::kostenSelbst, "2"_t},  Kostenträger{altfeld::betreuung::kostenSonst, "45"_t},
+    Kostenträger{altfeld::betreuung::kostenSozial, "48"_t}, Kostenträger{altfeld::betreuung::kostenKV, "47"_t},
+    Kostenträger{altfeld::betreuung::kostenRV, "46"_t},     Kostenträger{altfeld::betreuung::kostenPauschal, "1"_t},
 };
 
 struct Lebenssituation {
@@ -41,8 +43,7 @@ constexpr std::array lebenssituationen{
     Lebenssituation{"mit PartnerIn und Kind(ern)"_t, {2, 3}},
 };
 
-/// Codes of the groups 12 to 19; those before depend on further fields.
-constexpr int ersteFesteGruppe = 12;
+/// Codes of the groups from F55.0 on; those before depend on further fields.
 constexpr std::array<std::string_view, 8> festeHauptdiagnosen{"550", "551", "552", "554", "555", "556", "558", "630"};
 
 void meldeFehlendeOption(const Betreuungssatz& satz, std::string_view text, int spalte, int quelle)
@@ -117,10 +118,8 @@ void AltKDSZeile::icdZusatz(std::string_view text, int spalte)
 {
     if (text.empty() || text == ".") {
         wert({});
-    } else if (spalte >= 204 && spalte <= 207) {
-        wert(verbinde('F', text));
-    } else if (spalte >= 208 && spalte <= 211) {
-        wert(verbinde('G', text));
+    } else if (spalte >= altspalte::diag::icdPsy) {
+        wert(verbinde(diagnoseartVon(spalte - altspalte::diag::icdPsy + 1).buchstabe, text));
     } else {
         wert(text);
     }
@@ -162,7 +161,7 @@ void AltKDSZeile::kostenträger()
 std::string AltKDSZeile::klasseMitZusatz(int gruppe) const
 {
     const int klasse = gruppe + 9;
-    const auto zusatz = m_satz.feld(47 + 4 * gruppe);
+    const auto zusatz = m_satz.feld(altfeld::betreuung::gruppe(gruppe));
     if (zusatz.empty()) {
         return alsText(klasse);
     }
@@ -178,13 +177,13 @@ void AltKDSZeile::hauptdiagnose(std::string_view text)
     if (gruppe < std::numeric_limits<std::int16_t>::min() || gruppe > std::numeric_limits<std::int16_t>::max()) {
         throw Laufzeitfehler(verbinde("Die Hauptdiagnose \""_t, text, "\" ist zu groß."_t));
     }
-    const auto fest = gruppe - ersteFesteGruppe;
+    const auto fest = gruppe - altfeld::gruppe::f550;
     if (gruppe == 0) {
         wert("0"_t);
-    } else if (gruppe >= 1 && gruppe <= 10) {
+    } else if (gruppe >= altfeld::gruppe::f10 && gruppe <= altfeld::gruppe::f19) {
         wert(klasseMitZusatz(static_cast<int>(gruppe)));
-    } else if (gruppe == 11) {
-        const auto zusatz = m_satz.feld(feldEssstörung);
+    } else if (gruppe == altfeld::gruppe::f50) {
+        const auto zusatz = m_satz.feld(altfeld::betreuung::gruppe(altfeld::gruppe::f50));
         wert(getrimmt(zusatz).empty() ? std::string("50") : verbinde("50"_t, zusatz));
     } else if (fest >= 0 && fest < static_cast<std::int64_t>(festeHauptdiagnosen.size())) {
         wert(festeHauptdiagnosen.at(static_cast<std::size_t>(fest)));

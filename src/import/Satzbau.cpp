@@ -1,11 +1,10 @@
 #include "import/Satzbau.h"
 
 #include "platform/text/Zahl.h"
+#include "satz/Exportspalten.h"
 #include "satz/moNationen.h"
 
 namespace {
-
-constexpr int spalteAlterHauptdiagnose = 160;
 
 std::string_view wahrWenn(bool ja)
 {
@@ -26,7 +25,7 @@ const std::string& Satzbau::baue(const Episodenzeilen& zeilen)
         } else if (anweisung.blatt == 'D') {
             m_wert = zeilen.diagnose.feld(anweisung.spalte);
         }
-        if (anweisung.art == Feldanweisungsart::Icd0000) {
+        if (anweisung.art == Feldart::icd0000) {
             fügeHauptdiagnose(anweisung, zeilen);
             continue;
         }
@@ -40,44 +39,48 @@ const std::string& Satzbau::baue(const Episodenzeilen& zeilen)
 void Satzbau::füge(const Feldanweisung& anweisung, const Episodenzeilen& zeilen)
 {
     switch (anweisung.art) {
-    case Feldanweisungsart::Option:
+    case Feldart::option:
         m_satz.append(schlageNach(anweisung, m_wert, m_ablage));
         break;
-    case Feldanweisungsart::Zahl:
+    case Feldart::zahl:
         m_satz.append(zahl());
         break;
-    case Feldanweisungsart::Text:
+    case Feldart::text:
         m_satz.append(m_wert);
         break;
-    case Feldanweisungsart::Datum:
+    case Feldart::datum:
         m_satz.append(m_wert.empty() ? "offen"_t : m_wert);
         break;
-    case Feldanweisungsart::IdKern:
+    case Feldart::idKern:
         m_satz.append(alsText(zeilen.kernID));
         break;
-    case Feldanweisungsart::IdBetr:
+    case Feldart::idBetr:
         m_satz.append(alsText(zeilen.betrID));
         break;
-    case Feldanweisungsart::Nation:
+    case Feldart::nation:
         m_satz.append(getNationZuCode(m_wert));
         break;
-    case Feldanweisungsart::OderKA:
+    case Feldart::kinder:
+    case Feldart::zuvor:
+    case Feldart::kontakte:
         m_satz.append(m_wert.empty() ? "k.A."_t : m_wert);
         break;
-    case Feldanweisungsart::HdOhne:
+    case Feldart::hdOhne:
         m_satz.append(wahrWenn(führendeZahl(m_wert) == m_hdOhne++));
         break;
-    case Feldanweisungsart::IvKonsum:
+    case Feldart::ivKonsum:
         m_satz.append(wahrWenn(führendeZahl(m_wert) == m_ivKonsum++));
         break;
-    case Feldanweisungsart::OhneErstesZeichen:
+    case Feldart::icdPsy:
+    case Feldart::icdNeu:
         m_satz.append(m_wert.substr(m_wert.empty() ? 0 : 1));
         break;
-    case Feldanweisungsart::HdAlter: // filled by the Icd0000 behind it
-    case Feldanweisungsart::Icd0000:
-    case Feldanweisungsart::Leer:
+    case Feldart::hdAlter: // filled by the icd0000 behind it
+    case Feldart::icd0000:
+    case Feldart::leer:
         break;
-    case Feldanweisungsart::Unbekannt:
+    case Feldart::memo: // the marking of the imported records fills this field
+    case Feldart::klient:
         m_satz.push_back('?');
         break;
     }
@@ -89,7 +92,7 @@ void Satzbau::fügeHauptdiagnose(const Feldanweisung& anweisung, const Episodenz
     const auto ergebnis = schlageNach(anweisung, m_wert, m_ablage);
     if (ergebnis == "1") {
         m_satz.resize(m_letztesFeld);
-        m_satz.append(zeilen.diagnose.feld(spalteAlterHauptdiagnose)).push_back(trenner);
+        m_satz.append(zeilen.diagnose.feld(exportspalte::diag::alterErstkonsum)).push_back(trenner);
     }
     m_letztesFeld = m_satz.size();
     m_satz.append(ergebnis).push_back(trenner);

@@ -3,8 +3,8 @@
 #include "platform/text/Ressourcen.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
-#include "satz/Satzaufbau.h"
-#include "satz/moData.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
 
 #include <algorithm>
 #include <array>
@@ -14,12 +14,13 @@
 
 namespace {
 
-using Paare = std::vector<Wertepaar>; ///< result text, code
+using Paare = std::vector<Feldanweisung::Paar>;
 
 constexpr auto leer = "<leer>"_t;
 constexpr auto sonst = "<sonst>"_t;
 constexpr auto kA = "k.A."_t;
 
+/// What the kinds are called in the string form.
 struct Typ {
     Feldart art;
     std::string_view name;
@@ -44,32 +45,45 @@ constexpr std::array typen{
     Typ{Feldart::icdNeu, "icdNeu"_t, {"<##.##>"_t, {}}},
     Typ{Feldart::text, "text"_t, {"<?##.##>"_t, {}}},
     Typ{Feldart::leer, leer, {}},
-    Typ{Feldart::memo, {}, {}}, // the marking of the imported records fills this field
+    Typ{Feldart::memo, {}, {}},
 };
 
-const Typ& typVon(const Satzfeld& feld)
+const Typ& typVon(Feldart art)
 {
-    return *std::find_if(typen.begin(), typen.end(), [&](const Typ& typ) { return typ.art == feld.art; });
+    return *std::ranges::find(typen, art, &Typ::art);
 }
 
-/// Fields joined by the delimiter, padded with empty ones. The padding is what an empty value finds.
-std::string anweisung(std::string_view quelle, std::string_view typ, const std::vector<std::string_view>& werte)
+/// Fields joined by the delimiter, padded with empty ones.
+std::string alsZeile(const Feldanweisung& anweisung)
 {
-    auto zeile = verbinde(quelle, trenner, typ);
-    for (const auto wert : werte) {
+    const auto& typ = typVon(anweisung.art);
+    auto zeile = verbinde(anweisung.blatt == 0 ? std::string() : verbinde(anweisung.blatt, alsText(anweisung.spalte)),
+                          trenner, typ.name);
+    std::size_t werte = 0;
+    const auto hänge = [&](std::string_view wert) {
         zeile.append(1, trenner).append(wert);
+        ++werte;
+    };
+    for (const auto& [ergebnis, code] : anweisung.paare) {
+        hänge(ergebnis);
+        hänge(code);
     }
-    const auto fehlende = static_cast<std::size_t>(felderJeAnweisung) - 2 - werte.size();
-    return zeile.append(fehlende, trenner);
+    if (anweisung.paare.empty()) {
+        std::ranges::for_each(typ.anmerkungen, hänge);
+    }
+    return zeile.append(static_cast<std::size_t>(felderJeAnweisung) - 2 - werte, trenner);
 }
 
-std::vector<std::string_view> aneinander(const Paare& paare)
+/// The list's pairs without the older spellings, which nothing new is to be written with.
+Paare paareAus(Werteliste liste)
 {
-    std::vector<std::string_view> werte;
-    for (const auto& [text, code] : paare) {
-        werte.insert(werte.end(), {text, code});
+    Paare paare;
+    for (const auto& paar : liste) {
+        if (!paar.frühere) {
+            paare.push_back({std::string(paar.text), std::string(paar.code)});
+        }
     }
-    return werte;
+    return paare;
 }
 
 bool istListe(const Satzfeld& feld, Werteliste liste)
@@ -80,21 +94,22 @@ bool istListe(const Satzfeld& feld, Werteliste liste)
 /// The pairs of a care field: its value list, and the two lists that differ from it.
 Paare betreuungspaare(const Satzfeld& feld)
 {
-    Paare paare(feld.werte.begin(), feld.werte.end());
+    auto paare = paareAus(feld.werte);
     if (istListe(feld, werte::betrGru)) {
-        paare.insert(paare.begin(), {"keine Angaben"_t, {}}); // an empty column too is "keine Angaben" here
+        paare.insert(paare.begin(),
+                     {std::string("keine Angaben"_t), {}}); // an empty column too is "keine Angaben" here
     }
     if (istListe(feld, werte::schulden)) {
-        const auto zweites = std::find_if(paare.begin(), paare.end(), [](const Wertepaar& p) { return p.code == "2"; });
-        zweites->text = "bis10.000 €"_t; // a slip that stays: no imported row carries the code
+        const auto zweites = std::ranges::find(paare, "2", &Feldanweisung::Paar::code);
+        zweites->ergebnis = "bis10.000 €"_t; // a slip that stays: no imported row carries the code
     }
     return paare;
 }
 
 void hängeCodesAn(Paare& paare, Werteliste liste)
 {
-    for (const auto& [text, code] : liste) {
-        paare.push_back({code, code});
+    for (const auto& paar : liste) {
+        paare.push_back({std::string(paar.code), std::string(paar.code)});
     }
 }
 
@@ -102,20 +117,21 @@ void hängeCodesAn(Paare& paare, Werteliste liste)
 /// "<leer>"; where the stored text is the code, the code stands on both sides.
 Paare diagnosepaare(const Satzfeld& feld, bool istSubstanz)
 {
+    const std::string nichts(leer);
     Paare paare;
     if (istListe(feld, werte::konsumart)) {
-        paare.push_back({leer, "0"_t});
-        paare.insert(paare.end(), feld.werte.begin(), feld.werte.end());
+        paare = paareAus(feld.werte);
+        paare.insert(paare.begin(), {nichts, "0"});
     } else if (istListe(feld, werte::icdZusatz)) {
-        paare = {{leer, leer}, {"0"_t, "0"_t}};
+        paare = {{nichts, nichts}, {"0", "0"}};
         hängeCodesAn(paare, feld.werte);
     } else if (istListe(feld, werte::essstörung)) {
-        paare = {{leer, "9"_t}};
+        paare = {{nichts, "9"}};
         hängeCodesAn(paare, feld.werte);
     } else {
         // risky consumption of a substance is "k.A.", the answer of the other areas stays empty
-        paare.assign(feld.werte.begin(), feld.werte.end());
-        paare.insert(paare.begin() + (istSubstanz ? 1 : 0), {leer, "0"_t});
+        paare = paareAus(feld.werte);
+        paare.insert(paare.begin() + (istSubstanz ? 1 : 0), {nichts, "0"});
     }
     return paare;
 }
@@ -129,23 +145,20 @@ bool nimmtAuf(int gruppe)
 }
 
 /// The codes of column 159 by which an area is the main diagnosis, with the result for each.
-std::vector<std::string> hauptdiagnosewerte(int gruppe)
+Paare hauptdiagnosepaare(int gruppe)
 {
     const std::string& icd = aryICD.at(static_cast<std::size_t>(gruppe));
     const auto klasse = icd.substr(1, 2);
     const std::string ergebnis = nimmtAuf(gruppe) ? "1" : "0";
-    std::vector<std::string> werte;
-    const auto paar = [&](std::string_view code) {
-        werte.push_back(ergebnis);
-        werte.emplace_back(code);
-    };
+    Paare paare;
+    const auto paar = [&](std::string_view code) { paare.push_back({ergebnis, std::string(code)}); };
     if (klasse == "63") {
         paar("630"_t);
     } else if (klasse == "55") {
         paar(verbinde(klasse, icd.back()));
     } else if (klasse == "50") {
-        for (const auto& [text, code] : werte::essstörung) {
-            paar(verbinde(klasse, code));
+        for (const auto& wert : werte::essstörung) {
+            paar(verbinde(klasse, wert.code));
         }
         paar(klasse);
     } else {
@@ -155,50 +168,61 @@ std::vector<std::string> hauptdiagnosewerte(int gruppe)
             paar(klasse);
         }
     }
-    werte.insert(werte.end(), {"0", std::string(sonst)});
-    return werte;
+    paare.push_back({"0", std::string(sonst)});
+    return paare;
 }
 
-std::string mitAnmerkungen(const Satzfeld& feld)
+/// An answer that the export has no column for stays empty.
+Feldanweisung anweisungZu(const Satzfeld& feld, Paare paare)
 {
-    const auto& typ = typVon(feld);
-    return anweisung(feld.quelle, typ.name, {typ.anmerkungen.begin(), typ.anmerkungen.end()});
+    const bool ohneQuelle = feld.art == Feldart::option && feld.blatt == 0;
+    return {.blatt = feld.blatt,
+            .spalte = feld.spalte,
+            .art = ohneQuelle ? Feldart::leer : feld.art,
+            .paare = ohneQuelle ? Paare{} : std::move(paare)};
 }
 
-std::string betreuungsanweisung(const Satzfeld& feld)
+Feldanweisung betreuungsanweisung(int nummer)
 {
+    const auto& feld = feldAus(betreuungsfelder(), nummer);
+    return anweisungZu(feld, feld.art == Feldart::option ? betreuungspaare(feld) : Paare{});
+}
+
+Feldanweisung diagnoseanweisung(int nummer)
+{
+    const auto& feld = feldAus(diagnosefelder(), nummer);
+    const int gruppe = feld::diag::gruppeVon(nummer);
     if (feld.art == Feldart::option) {
-        return anweisung(feld.quelle, typVon(feld).name, aneinander(betreuungspaare(feld)));
+        return anweisungZu(feld, diagnosepaare(feld, istGruppe(gruppe, Gruppenart::Substanz)));
     }
-    return mitAnmerkungen(feld);
+    return anweisungZu(feld, feld.art == Feldart::icd0000 ? hauptdiagnosepaare(gruppe) : Paare{});
 }
 
-std::string diagnoseanweisung(const Satzfeld& feld, int nummer)
+std::vector<Feldanweisung> alle(int anzahl, Feldanweisung (*anweisung)(int nummer))
 {
-    const int gruppe = (nummer - diagnosefeld(1, 1)) / felderJeGruppe + 1;
-    if (feld.art == Feldart::option) {
-        return anweisung(feld.quelle, typVon(feld).name, aneinander(diagnosepaare(feld, gruppe <= 20)));
+    std::vector<Feldanweisung> anweisungen;
+    for (int nummer = 1; nummer <= anzahl; ++nummer) {
+        anweisungen.push_back(anweisung(nummer));
     }
-    if (feld.art == Feldart::icd0000) {
-        const auto werte = hauptdiagnosewerte(gruppe);
-        return anweisung(feld.quelle, typVon(feld).name, {werte.begin(), werte.end()});
-    }
-    return mitAnmerkungen(feld);
+    return anweisungen;
 }
 
 } // namespace
 
+std::vector<Feldanweisung> betreuungsanweisungen()
+{
+    return alle(feld::betr::anzahl, betreuungsanweisung);
+}
+
+std::vector<Feldanweisung> diagnoseanweisungen()
+{
+    return alle(feld::diag::anzahl, diagnoseanweisung);
+}
+
 void registriereAnweisungen(Ressourcen& ressourcen)
 {
-    int nummer = betreuungsanweisungen;
-    ressourcen.setze(nummer, alsText(static_cast<std::int64_t>(betreuungsfelder().size())));
-    for (const auto& feld : betreuungsfelder()) {
-        ressourcen.setze(++nummer, betreuungsanweisung(feld));
-    }
-    nummer = diagnoseanweisungen;
-    ressourcen.setze(nummer, alsText(static_cast<std::int64_t>(diagnosefelder().size())));
-    for (const auto& feld : diagnosefelder()) {
-        ++nummer;
-        ressourcen.setze(nummer, diagnoseanweisung(feld, nummer - diagnoseanweisungen));
-    }
+    ressourcen.nimm({ressourceBetreuungsanweisungen, feld::betr::anzahl,
+                     [](int zeile) { return alsZeile(betreuungsanweisung(zeile)); }});
+    ressourcen.nimm({ressourceDiagnoseanweisungen, feld::diag::anzahl,
+                     [](int zeile) { return alsZeile(diagnoseanweisung(zeile)); }});
 }

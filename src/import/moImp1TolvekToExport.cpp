@@ -1,5 +1,6 @@
 #include "import/moImp1TolvekToExport.h"
 
+#include "import/Altfelder.h"
 #include "import/Altnummer.h"
 #include "import/Eingabedatei.h"
 #include "platform/text/Datum.h"
@@ -12,10 +13,6 @@
 
 namespace {
 
-constexpr int feldNummer = 1;
-constexpr int feldGeburt = 7;
-constexpr int feldBeginn = 3;
-constexpr int klientenfelderAlt = 9;
 constexpr auto unbekannt = "unbekannt"_t;
 
 Datum leseAltdatum(std::string_view text, const std::filesystem::path& datei)
@@ -33,7 +30,7 @@ public:
     explicit Klientenverzeichnis(const Eingabedatei& datei)
     {
         datei.fürJedenSatz([this](std::string_view zeile) {
-            m_zeilen.try_emplace(getFeld(zeile, feldNummer), zeile);
+            m_zeilen.try_emplace(getFeld(zeile, altfeld::klient::nummer), zeile);
             m_letzte = zeile;
         });
     }
@@ -54,16 +51,17 @@ std::string geburtsjahr(std::string_view geburt, const std::filesystem::path& da
     return klein(geburt) == unbekannt ? std::string(unbekannt) : alsText(leseAltdatum(geburt, datei).jahr);
 }
 
-/// Client lines without names; the empty fields 2 to 6 keep the others in their places.
+/// Client lines without names; empty fields keep the others in their places.
 void teileKlienten(const Eingabedatei& klienten, Schreiber& kernExp, Schreiber& extraExp)
 {
-    const std::string leereFelder(6, trenner);
+    const std::string leereFelder(altfeld::klient::geburt - altfeld::klient::nummer, trenner);
     klienten.fürJedenSatz([&](std::string_view zeile) {
-        const auto nummer = getFeld(zeile, feldNummer);
+        const auto nummer = getFeld(zeile, altfeld::klient::nummer);
         leseAltnummer(nummer, klienten.pfad());
-        kernExp.zeile(verbinde(nummer, leereFelder, geburtsjahr(getFeld(zeile, feldGeburt), klienten.pfad()), trenner,
-                               getFeld(zeile, 8), trenner, getFeld(zeile, 9)));
-        extraExp.zeile(felder(zeile, 1, klientenfelderAlt));
+        kernExp.zeile(verbinde(
+            nummer, leereFelder, geburtsjahr(getFeld(zeile, altfeld::klient::geburt), klienten.pfad()), trenner,
+            getFeld(zeile, altfeld::klient::geschlecht), trenner, getFeld(zeile, altfeld::klient::nationalität)));
+        extraExp.zeile(felder(zeile, altfeld::klient::nummer, altfeld::klient::anzahl));
     });
 }
 
@@ -72,12 +70,12 @@ void teileKlienten(const Eingabedatei& klienten, Schreiber& kernExp, Schreiber& 
 std::string alterswert(std::string_view klient, std::string_view betreuung, const Eingabedatei& klienten,
                        const Eingabedatei& betreuungen)
 {
-    const auto geburt = getFeld(klient, feldGeburt);
+    const auto geburt = getFeld(klient, altfeld::klient::geburt);
     if (geburt == unbekannt) {
         return std::string(unbekannt);
     }
     const auto geboren = leseAltdatum(geburt, klienten.pfad());
-    const auto beginn = leseAltdatum(getFeld(betreuung, feldBeginn), betreuungen.pfad());
+    const auto beginn = leseAltdatum(getFeld(betreuung, altfeld::betreuung::beginn), betreuungen.pfad());
     const int jahr = ausTageszahl(alsTageszahl(beginn) - alsTageszahl(geboren)).jahr;
     if (jahr < 100 || jahr > 9999) {
         throw Laufzeitfehler(verbinde("Von \""_t, geburt, "\" bis zum Betreuungsbeginn in \""_t,
@@ -90,7 +88,7 @@ void ergänzeBetreuungen(const Eingabedatei& betreuungen, const Eingabedatei& kl
 {
     const Klientenverzeichnis verzeichnis(klienten);
     betreuungen.fürJedenSatz([&](std::string_view zeile) {
-        const auto nummer = getFeld(zeile, feldNummer);
+        const auto nummer = getFeld(zeile, altfeld::betreuung::nummer);
         leseAltnummer(nummer, betreuungen.pfad());
         const auto klient = verzeichnis.zeile(nummer);
         betreuungenExp.zeile(verbinde(zeile, trenner, alterswert(klient, zeile, klienten, betreuungen)));

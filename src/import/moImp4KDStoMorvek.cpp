@@ -1,9 +1,12 @@
 #include "import/moImp4KDStoMorvek.h"
 
+#include "import/Altfelder.h"
 #include "import/Altnummer.h"
 #include "import/Eingabedatei.h"
 #include "import/Satzbau.h"
 #include "import/moAnweisungen.h"
+#include "satz/Exportspalten.h"
+#include "satz/Klientenfelder.h"
 #include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
 
@@ -15,9 +18,6 @@
 namespace {
 
 constexpr char spaltentrenner = ';';
-constexpr int spalteKernID = 2;
-constexpr int spalteBetrID = 3;
-constexpr int spalteGeschlecht = 8;
 
 std::string_view geschlecht(std::string_view code)
 {
@@ -41,7 +41,7 @@ public:
     explicit Personen(const std::filesystem::path& pfad) : m_datei(pfad)
     {
         m_datei.fürJedeZeile([this](std::string_view zeile) {
-            m_zeilen.try_emplace(leseAltnummer(getFeld(zeile, 1), m_datei.pfad()), zeile);
+            m_zeilen.try_emplace(leseAltnummer(getFeld(zeile, altfeld::klient::nummer), m_datei.pfad()), zeile);
             m_letzte = zeile;
         });
     }
@@ -90,8 +90,10 @@ public:
 
     void schreibeKlient(const Satzsicht& kernzeile, std::string_view person)
     {
-        m_kern->zeile(verbinde(trenner, kernzeile.feld(spalteKernID), trenner, trenner, felder(person, 2, 6),
-                               geschlecht(kernzeile.feld(spalteGeschlecht)), trenner, getFeld(person, 7), trenner));
+        m_kern->zeile(verbinde(trenner, kernzeile.feld(exportspalte::kernID), trenner, trenner,
+                               felder(person, altfeld::klient::nachname, altfeld::klient::ort),
+                               geschlecht(kernzeile.feld(feldAus(klientenfelder(), feld::kern::geschlecht).spalte)),
+                               trenner, getFeld(person, altfeld::klient::geburt), trenner));
     }
 
     void schreibeEpisode(const Episodenzeilen& zeilen)
@@ -113,8 +115,8 @@ private:
     std::unique_ptr<Schreiber> m_kern;
     std::unique_ptr<Schreiber> m_betreuung;
     std::unique_ptr<Schreiber> m_diagnose;
-    Satzbau m_betreuungssatz{Satzbau::Art::Betreuung, ladeAnweisungen(betreuungsanweisungen)};
-    Satzbau m_diagnosesatz{Satzbau::Art::Diagnose, ladeAnweisungen(diagnoseanweisungen)};
+    Satzbau m_betreuungssatz{Satzbau::Art::Betreuung, betreuungsanweisungen()};
+    Satzbau m_diagnosesatz{Satzbau::Art::Diagnose, diagnoseanweisungen()};
 };
 
 } // namespace
@@ -135,13 +137,13 @@ void moImp4KDStoMorvek(const std::filesystem::path& kdsKern, const std::filesyst
     Satzsicht diagnose;
     kernzeilen.fürJedeZeile([&](std::string_view zeile) {
         kern.lies(zeile, spaltentrenner);
-        const auto kernID = leseAltnummer(kern.feld(spalteKernID), kdsKern);
+        const auto kernID = leseAltnummer(kern.feld(exportspalte::kernID), kdsKern);
         if (bekannte.insert(kernID).second) {
             kernGeschrieben = false;
             person = personen.zeile(kernID);
         }
         for (const auto diagnosezeile : diagnosen.zu(zeile)) {
-            const auto betrID = leseAltnummer(kern.feld(spalteBetrID), kdsKern);
+            const auto betrID = leseAltnummer(kern.feld(exportspalte::betrID), kdsKern);
             diagnose.lies(diagnosezeile, spaltentrenner);
             if (!kernGeschrieben) {
                 ausgabe.schreibeKlient(kern, person);

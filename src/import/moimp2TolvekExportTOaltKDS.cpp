@@ -1,6 +1,7 @@
 #include "import/moimp2TolvekExportTOaltKDS.h"
 
 #include "import/AltKDSZeile.h"
+#include "import/Altfelder.h"
 #include "import/Altnummer.h"
 #include "import/Eingabedatei.h"
 #include "import/Instruktionsdatei.h"
@@ -17,14 +18,8 @@
 
 namespace {
 
-constexpr int kernspalten = 163;
-constexpr int diagnosespalten = 215;
-
 constexpr auto null = "0"_t;
 constexpr auto zwei = "2"_t;
-
-constexpr int feldBeginn = 3;
-constexpr int feldAlter = 152; ///< the value that stage 1 added
 
 /// The client's values that the core row needs; empty for a client that is missing.
 struct Klientenwerte {
@@ -52,8 +47,9 @@ public:
     explicit Klientenverzeichnis(const std::filesystem::path& pfad) : m_datei(pfad)
     {
         m_datei.fürJedeZeile([this](std::string_view zeile) {
-            m_werte.try_emplace(führendeZahl(zeile),
-                                Klientenwerte{getFeld(zeile, 7), getFeld(zeile, 8), getFeld(zeile, 9)});
+            m_werte.try_emplace(führendeZahl(zeile), Klientenwerte{getFeld(zeile, altfeld::klient::geburt),
+                                                                   getFeld(zeile, altfeld::klient::geschlecht),
+                                                                   getFeld(zeile, altfeld::klient::nationalität)});
         });
     }
 
@@ -89,27 +85,27 @@ std::optional<Datum> leseDatumDesAltKDS(std::string_view text)
 std::string_view alter(const Klientenwerte& klient, const Betreuungssatz& satz)
 {
     const bool ohneJahr = klein(klient.gebJahr) == "unbekannt"_t || klient.gebJahr.empty() || klient.gebJahr == " ";
-    if (ohneJahr || !istNichtNach(verbinde("01.07."_t, klient.gebJahr), satz.feld(feldBeginn))) {
+    if (ohneJahr || !istNichtNach(verbinde("01.07."_t, klient.gebJahr), satz.feld(altfeld::betreuung::beginn))) {
         return {};
     }
-    return satz.feld(feldAlter);
+    return satz.feld(altfeld::betreuung::alter);
 }
 
 void baueKernzeile(AltKDSZeile& zeile, const Klientenwerte& klient, const Betreuungssatz& satz,
                    const std::vector<Instruktion>& instruktionen)
 {
-    for (int spalte = 1; spalte <= kernspalten; ++spalte) {
+    for (int spalte = 1; spalte <= altspalte::kern::anzahl; ++spalte) {
         switch (spalte) {
-        case 1:
+        case altspalte::tsnr:
             zeile.wert(zwei);
             break;
-        case 6:
+        case altspalte::kern::geschlecht:
             zeile.wert(codeVon(geschlechter, klient.geschl));
             break;
-        case 7:
+        case altspalte::kern::alter:
             zeile.wert(alter(klient, satz));
             break;
-        case 9:
+        case altspalte::kern::nationalität:
             zeile.wert(codeVon(nationalitäten, klient.natio));
             break;
         default:
@@ -118,11 +114,11 @@ void baueKernzeile(AltKDSZeile& zeile, const Klientenwerte& klient, const Betreu
     }
 }
 
-/// Whether any field from `von` to `bis`, every fourth one, holds something.
-bool istEinesBelegt(const Betreuungssatz& satz, int von, int bis)
+/// Whether the digits of any group from `von` to `bis` hold something.
+bool istEineBelegt(const Betreuungssatz& satz, int von, int bis)
 {
-    for (int feld = von; feld <= bis; feld += 4) {
-        if (!satz.istLeer(feld)) {
+    for (int gruppe = von; gruppe <= bis; ++gruppe) {
+        if (!satz.istLeer(altfeld::betreuung::gruppe(gruppe))) {
             return true;
         }
     }
@@ -131,7 +127,7 @@ bool istEinesBelegt(const Betreuungssatz& satz, int von, int bis)
 
 std::string_view klassencode(const Betreuungssatz& satz, int spalte)
 {
-    const int feld = 51 + 4 * (spalte - 5);
+    const int feld = altfeld::betreuung::gruppe(altfeld::gruppe::f10 + spalte - altspalte::diag::f10);
     if (satz.istLeer(feld)) {
         return null;
     }
@@ -141,20 +137,19 @@ std::string_view klassencode(const Betreuungssatz& satz, int spalte)
 /// The columns of the diagnosis row that no instruction fills; nothing for the others.
 std::optional<std::string_view> festeDiagnosespalte(const Betreuungssatz& satz, int spalte)
 {
-    const auto belegt = [](bool ja) { return ja ? zwei : null; };
-    if (spalte == 1) {
-        return zwei;
-    }
-    if (spalte >= 5 && spalte <= 14) { // F10 to F19
+    const auto belegt = [&](int von, int bis) { return istEineBelegt(satz, von, bis) ? zwei : null; };
+    if (spalte >= altspalte::diag::f10 && spalte <= altspalte::diag::f19) {
         return klassencode(satz, spalte);
     }
     switch (spalte) {
-    case 15: // F50
-        return belegt(!satz.istLeer(91));
-    case 16: // F55
-        return belegt(istEinesBelegt(satz, 95, 119));
-    case 17: // F63
-        return belegt(!satz.istLeer(123));
+    case altspalte::tsnr:
+        return zwei;
+    case altspalte::diag::f50:
+        return belegt(altfeld::gruppe::f50, altfeld::gruppe::f50);
+    case altspalte::diag::f55:
+        return belegt(altfeld::gruppe::f550, altfeld::gruppe::f558);
+    case altspalte::diag::f63:
+        return belegt(altfeld::gruppe::f630, altfeld::gruppe::f630);
     default:
         return std::nullopt;
     }
@@ -162,7 +157,7 @@ std::optional<std::string_view> festeDiagnosespalte(const Betreuungssatz& satz, 
 
 void baueDiagnosezeile(AltKDSZeile& zeile, const Betreuungssatz& satz, const std::vector<Instruktion>& instruktionen)
 {
-    for (int spalte = 1; spalte <= diagnosespalten; ++spalte) {
+    for (int spalte = 1; spalte <= altspalte::diag::anzahl; ++spalte) {
         if (const auto wert = festeDiagnosespalte(satz, spalte)) {
             zeile.wert(*wert);
         } else {
@@ -215,13 +210,14 @@ void moimp2TolvekExportTOaltKDS(const std::filesystem::path& kernExp, const std:
     const Klientenverzeichnis klienten(kernExp);
     const Eingabedatei betreuungen(betreuungenExp);
 
-    const auto kern = leseInstruktionen(anweisungsdatei("eKernAnweisung.txt"), kernspalten);
-    const Zeitraumfelder zeitraum{kern[3].quelle, kern[4].quelle};
+    const auto kern = leseInstruktionen(anweisungsdatei("eKernAnweisung.txt"), altspalte::kern::anzahl);
+    const Zeitraumfelder zeitraum{kern[altspalte::kern::beginn - 1].quelle, kern[altspalte::kern::ende - 1].quelle};
     fürJedenSatz(betreuungen, aKDSKern, zeitraum, [&](AltKDSZeile& zeile, const Betreuungssatz& satz) {
-        baueKernzeile(zeile, klienten.werte(leseAltnummer(satz.feld(1), betreuungenExp)), satz, kern);
+        baueKernzeile(zeile, klienten.werte(leseAltnummer(satz.feld(altfeld::betreuung::nummer), betreuungenExp)), satz,
+                      kern);
     });
 
-    const auto diagnose = leseInstruktionen(anweisungsdatei("eDiagAnweisung.txt"), diagnosespalten);
+    const auto diagnose = leseInstruktionen(anweisungsdatei("eDiagAnweisung.txt"), altspalte::diag::anzahl);
     fürJedenSatz(betreuungen, aKDSDiagnose, zeitraum,
                  [&](AltKDSZeile& zeile, const Betreuungssatz& satz) { baueDiagnosezeile(zeile, satz, diagnose); });
 }

@@ -7,9 +7,6 @@
 
 #include <cstddef>
 
-static_assert(höchsteGruppe == diagnosegruppen, "catalogue and record layout count the same groups");
-static_assert(blockposition(1, 1) + 2 == diagnosefeld(1, 1), "DSDiag is the record without its two ids");
-
 namespace {
 
 /// Where the text goes on behind its delimiter number `anzahl`; its end if it has fewer.
@@ -35,10 +32,10 @@ bool istLeerwert(int gruppe, int platz, std::string_view wert)
     if (wert.empty()) {
         return true;
     }
-    if (platz == ICDStelle4 && gruppe == 29) {
+    if (platz == ICDStelle4 && istGruppe(gruppe, Gruppenart::Essstörung)) {
         return wert == "9"_t;
     }
-    if (platz == ICDStelle4 && gruppe == 24) {
+    if (platz == ICDStelle4 && gruppe == geldspielautomaten) {
         return wert == "99"_t;
     }
     return wert == "0"_t || (platz == Riskant && wert == "k.A."_t);

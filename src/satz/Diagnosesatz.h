@@ -1,7 +1,6 @@
 #pragma once
 
-#include "satz/Satzaufbau.h"
-#include "satz/moData.h"
+#include "satz/Diagnosefelder.h"
 
 #include <cstdint>
 #include <string>
@@ -14,22 +13,17 @@
 //
 // Bits are computed in 64 bits and may come out negative; they are tested in two's complement.
 
-/// Answers of a block, as DSDiag orders them.
-enum Blockfeld { Konsumart = 1, TageBeginn, TageEnde, ICDStelle4, AlterStörung, Riskant, AlterErstkonsum, HDMarke };
-
-inline constexpr int anzahlWeitereDiagnosen = 12;
-
 /// Position in DSDiag of answer `platz` (1 to 8) of the group (1 to 29).
 constexpr int blockposition(int gruppe, int platz)
 {
-    return felderJeGruppe * (gruppe - 1) + platz;
+    return feld::diag::antwort(gruppe, platz) - feld::diag::betrID;
 }
 /// Position of the further diagnosis `nummer` (1 to 12).
 constexpr int weitereDiagnose(int nummer)
 {
-    return felderJeGruppe * höchsteGruppe + nummer;
+    return feld::diag::weitere(nummer) - feld::diag::betrID;
 }
-inline constexpr int bitfeldposition = weitereDiagnose(anzahlWeitereDiagnosen) + 1;
+inline constexpr int bitfeldposition = feld::diag::bitfeld - feld::diag::betrID;
 
 /// The bit of the group; none for a number that can't be one.
 constexpr std::int64_t gruppenbit(int gruppe)

@@ -2,6 +2,8 @@
 
 #include "satz/Satzaufbau.h"
 
+#include <span>
+#include <stdexcept>
 #include <string_view>
 #include <vector>
 
@@ -13,8 +15,8 @@ struct Nummern {
 /// A field that stands alone, its name without a number.
 inline constexpr Nummern einzeln{0, -1};
 
-/// Where a run of fields stands in the export: `Blatt` is 'K' (core row) or 'D' (diagnosis row), the columns
-/// follow one another. Fields that share one column (options of which one is marked) have `gemeinsam`.
+/// Where a run of fields stands in the export: the columns follow one another. Fields that share one column (options
+/// of which one is marked) have `gemeinsam`.
 struct Spalten {
     char blatt = 0;
     int erste = 0;
@@ -28,14 +30,37 @@ struct Feldreihe {
     Nummern nummern = einzeln;
     Spalten spalten;
     Feldart art = Feldart::text;
-    Werteliste werte;
+    const Werteliste* werte = nullptr;
     std::string_view vorgabe;
+
+    constexpr int anzahl() const { return nummern.bis < nummern.von ? 1 : nummern.bis - nummern.von + 1; }
 };
 
-std::vector<Feldreihe> klientenreihen();
-std::vector<Feldreihe> betreuungsreihen();
+/// Number of fields in the runs.
+constexpr int feldzahl(std::span<const Feldreihe> reihen)
+{
+    int anzahl = 0;
+    for (const auto& reihe : reihen) {
+        anzahl += reihe.anzahl();
+    }
+    return anzahl;
+}
+
+/// The position of the first field of the run; a name that the table lacks does not compile.
+consteval int stelleIn(std::span<const Feldreihe> reihen, std::string_view stamm)
+{
+    int stelle = 1;
+    for (const auto& reihe : reihen) {
+        if (reihe.stamm == stamm) {
+            return stelle;
+        }
+        stelle += reihe.anzahl();
+    }
+    throw std::logic_error("no field has this name");
+}
+
+/// The runs of the diagnosis record, made of the kinds of its groups (Problemgruppen.h).
 std::vector<Feldreihe> diagnosereihen();
 
-/// The fields of the runs, one by one. `anzahl` is the number that must come out; another one is a mistake
-/// in the tables (std::logic_error).
-std::vector<Satzfeld> entfalte(const std::vector<Feldreihe>& reihen, std::size_t anzahl);
+/// The fields of the runs, one by one.
+std::vector<Satzfeld> entfalte(std::span<const Feldreihe> reihen);

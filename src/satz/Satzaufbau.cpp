@@ -1,15 +1,13 @@
 #include "satz/Satzaufbau.h"
 
 #include "platform/text/Text.h"
-#include "satz/Feldreihe.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
+#include "satz/Klientenfelder.h"
 
 #include <algorithm>
 
 namespace {
-
-constexpr std::size_t kernfelder = 11;
-constexpr std::size_t betrfelder = 192;
-constexpr std::size_t diagfelder = 247;
 
 std::string verbindeVorgaben(const std::vector<Satzfeld>& felder)
 {
@@ -27,19 +25,19 @@ std::string verbindeVorgaben(const std::vector<Satzfeld>& felder)
 
 const std::vector<Satzfeld>& klientenfelder()
 {
-    static const std::vector<Satzfeld> felder = entfalte(klientenreihen(), kernfelder);
+    static const std::vector<Satzfeld> felder = entfalte(kliententabelle::reihen);
     return felder;
 }
 
 const std::vector<Satzfeld>& betreuungsfelder()
 {
-    static const std::vector<Satzfeld> felder = entfalte(betreuungsreihen(), betrfelder);
+    static const std::vector<Satzfeld> felder = entfalte(betreuungstabelle::reihen);
     return felder;
 }
 
 const std::vector<Satzfeld>& diagnosefelder()
 {
-    static const std::vector<Satzfeld> felder = entfalte(diagnosereihen(), diagfelder);
+    static const std::vector<Satzfeld> felder = entfalte(diagnosereihen());
     return felder;
 }
 

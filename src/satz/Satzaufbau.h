@@ -2,6 +2,7 @@
 
 #include "satz/Wertelisten.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -34,26 +35,27 @@ enum class Feldart {
 struct Satzfeld {
     std::string name; ///< "Kosten2"; empty where the field has none
     Feldart art = Feldart::text;
-    std::string quelle;  ///< "K16": column 16 of the core row; "D124": of the diagnosis row; empty: none
+    char blatt = 0;      ///< 'K': it stands in the core row of the export, 'D': in the diagnosis row, 0: in neither
+    int spalte = 0;      ///< there, from 1
     Werteliste werte;    ///< for Feldart::option
     std::string vorgabe; ///< value in a new record
 };
 
-const std::vector<Satzfeld>& klientenfelder();   ///< 11
-const std::vector<Satzfeld>& betreuungsfelder(); ///< 192
-const std::vector<Satzfeld>& diagnosefelder();   ///< 247
+const std::vector<Satzfeld>& klientenfelder();   ///< 11, named in Klientenfelder.h
+const std::vector<Satzfeld>& betreuungsfelder(); ///< 192, named in Betreuungsfelder.h
+const std::vector<Satzfeld>& diagnosefelder();   ///< 247, named in Diagnosefelder.h
+
+/// Field `feld`, from 1.
+inline const Satzfeld& feldAus(const std::vector<Satzfeld>& felder, int feld)
+{
+    return felder.at(static_cast<std::size_t>(feld - 1));
+}
 
 /// The number of the care field with the name (exact), 0 for none.
 int betreuungsfeld(std::string_view name);
 
-/// A diagnosis block: 29 groups of 8 fields from field 3 on.
-inline constexpr int diagnosegruppen = 29;
+/// Fields of a block of the diagnosis record.
 inline constexpr int felderJeGruppe = 8;
-/// The record field of slot 1 to 8 of group 1 to 29.
-constexpr int diagnosefeld(int gruppe, int platz)
-{
-    return 2 + felderJeGruppe * (gruppe - 1) + platz;
-}
 
 /// The default records: all fields' values joined by the delimiter.
 std::string erstelleDefaultKernDS(); ///< with its 11 delimiters: reads as 12 fields

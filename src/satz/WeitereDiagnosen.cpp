@@ -8,24 +8,7 @@
 
 namespace {
 
-/// Four fields of each kind, in their order on the page.
-struct Diagnoseart {
-    bool mitBuchstabe; ///< typed with its letter; else `zusatz` tells which one is added on output
-    std::string_view form;
-    std::string_view zusatz;
-};
-
-constexpr std::array<Diagnoseart, 3> arten{{
-    {false, "##.##"_t, "(Das 'F' wird automatisch hinzugefügt)\r\n"_t},
-    {false, "##.##"_t, "(Das 'G' wird automatisch hinzugefügt)\r\n"_t},
-    {true, "A11.11"_t, ""_t},
-}};
-
-const Diagnoseart& artVon(int nummer)
-{
-    return arten.at(static_cast<std::size_t>((nummer - 1) / 4));
-}
-
+/// What can be typed; the last one is shown as the form.
 constexpr std::array<std::string_view, 3> muster{"##"_t, "##.#"_t, "##.##"_t};
 
 bool istZiffer(char zeichen)
@@ -50,13 +33,17 @@ bool istWeitereDiagnose(int nummer, std::string_view text)
     if (text.find(trenner) != std::string_view::npos) {
         return false;
     }
-    const std::string_view ziffern = artVon(nummer).mitBuchstabe ? text.substr(1) : text;
+    const std::string_view ziffern = diagnoseartVon(nummer).buchstabe.empty() ? text.substr(1) : text;
     return std::ranges::any_of(muster, [ziffern](std::string_view form) { return passt(ziffern, form); });
 }
 
 std::string meldungZuWeitererDiagnose(int nummer)
 {
-    const Diagnoseart& art = artVon(nummer);
-    return verbinde("In diesem Feld ist nur folgendes Format erlaubt: "_t, art.form, "\r\n"_t, art.zusatz,
+    const auto buchstabe = diagnoseartVon(nummer).buchstabe;
+    const bool wirdGetippt = buchstabe.empty();
+    const auto form = wirdGetippt ? verbinde('A', ersetzt(muster.back(), "#"_t, "1"_t)) : std::string(muster.back());
+    const auto zusatz =
+        wirdGetippt ? std::string() : verbinde("(Das '"_t, buchstabe, "' wird automatisch hinzugefügt)\r\n"_t);
+    return verbinde("In diesem Feld ist nur folgendes Format erlaubt: "_t, form, "\r\n"_t, zusatz,
                     "Eingabe wird zurückgesetzt"_t);
 }

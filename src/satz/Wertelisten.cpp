@@ -273,7 +273,9 @@ std::vector<std::string> texte(Werteliste liste)
     std::vector<std::string> ergebnis;
     ergebnis.reserve(liste.size());
     for (const auto& paar : liste) {
-        ergebnis.emplace_back(paar.text);
+        if (!paar.frühere) {
+            ergebnis.emplace_back(paar.text);
+        }
     }
     return ergebnis;
 }
@@ -295,7 +297,8 @@ const std::string_view* codeZu(Werteliste liste, std::string_view text)
 
 const std::string_view* textZu(Werteliste liste, std::string_view code)
 {
-    const auto ort = std::ranges::find(liste, code, &Wertepaar::code);
+    const auto ort =
+        std::ranges::find_if(liste, [&](const Wertepaar& paar) { return paar.code == code && !paar.frühere; });
     return ort == liste.end() ? nullptr : &ort->text;
 }
 

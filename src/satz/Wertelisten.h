@@ -11,6 +11,8 @@
 struct Wertepaar {
     std::string_view text;
     std::string_view code;
+    bool frühere = false; ///< an older spelling: records may hold it and the export knows its code, but it is neither
+                          ///< offered nor written any more; it stands behind the spelling of today
 };
 
 using Werteliste = std::span<const Wertepaar>;
@@ -57,13 +59,13 @@ inline constexpr Zahlenbereich unterhalt{0, 12};  ///< main livelihood, 0 for no
 inline constexpr Zahlenbereich konsumtage{0, 30}; ///< of the last thirty
 inline constexpr Zahlenbereich alter{1, 99};
 
-/// The texts in order, for the list of a combo box.
+/// The texts in order, for the list of a combo box; without older spellings.
 std::vector<std::string> texte(Werteliste liste);
 /// `vorne`, then the whole numbers of the range: the lists of the number combos.
 std::vector<std::string> zahlen(std::string_view vorne, Zahlenbereich bereich);
 /// The code of the text (exact comparison), or nullptr.
 const std::string_view* codeZu(Werteliste liste, std::string_view text);
-/// The text of the code (exact comparison), or nullptr.
+/// The text of the code (exact comparison), or nullptr; never an older spelling.
 const std::string_view* textZu(Werteliste liste, std::string_view code);
 
 } // namespace werte

@@ -3,7 +3,7 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/Diagnosesatz.h"
-#include "satz/WeitereDiagnosen.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moNationen.h"
 
 #include <algorithm>
@@ -13,9 +13,6 @@
 namespace {
 
 constexpr auto keineAngabe = "k.A."_t;
-constexpr int letztesBlockfeld = diagnosefeld(höchsteGruppe, felderJeGruppe);
-constexpr int ersteWeitereDiagnose = letztesBlockfeld + 1;
-constexpr int bitfeld = letztesBlockfeld + anzahlWeitereDiagnosen + 1;
 
 bool istIn(Werteliste liste, std::string_view wert)
 {
@@ -39,11 +36,6 @@ bool istFlagge(std::string_view wert)
 bool hat(const std::vector<Satzfeld>& felder, int feld)
 {
     return feld >= 1 && static_cast<std::size_t>(feld) <= felder.size();
-}
-
-const Satzfeld& von(const std::vector<Satzfeld>& felder, int feld)
-{
-    return felder[static_cast<std::size_t>(feld - 1)];
 }
 
 /// The digits of an ICD code are stored without their text.
@@ -84,8 +76,8 @@ bool istKlientenwert(int feld, std::string_view wert)
     if (!hat(klientenfelder(), feld)) {
         return true;
     }
-    const auto& satzfeld = von(klientenfelder(), feld);
-    return feld == 1 ? wert.empty() : satzfeld.werte.empty() || istIn(satzfeld.werte, wert);
+    const auto& satzfeld = feldAus(klientenfelder(), feld);
+    return feld == feld::kern::leer ? wert.empty() : satzfeld.werte.empty() || istIn(satzfeld.werte, wert);
 }
 
 bool istBetreuungswert(int feld, std::string_view wert)
@@ -93,7 +85,7 @@ bool istBetreuungswert(int feld, std::string_view wert)
     if (!hat(betreuungsfelder(), feld)) {
         return true;
     }
-    const auto& satzfeld = von(betreuungsfelder(), feld);
+    const auto& satzfeld = feldAus(betreuungsfelder(), feld);
     const auto istZahl = [&](werte::Zahlenbereich bereich) {
         return wert == satzfeld.vorgabe || istZahlIn(bereich, wert);
     };
@@ -120,34 +112,32 @@ bool istBetreuungswert(int feld, std::string_view wert)
 
 bool istDiagnosewert(int feld, std::string_view wert)
 {
-    if (feld < diagnosefeld(1, 1) || feld >= bitfeld) {
-        return true;
+    using namespace feld::diag;
+    if (istAntwort(feld)) {
+        return istBlockwert(gruppeVon(feld), platzVon(feld), feldAus(diagnosefelder(), feld), wert);
     }
-    if (feld >= ersteWeitereDiagnose) {
-        return istWeitereDiagnose(feld - letztesBlockfeld, wert);
-    }
-    const int ort = feld - diagnosefeld(1, 1);
-    return istBlockwert(ort / felderJeGruppe + 1, ort % felderJeGruppe + 1, von(diagnosefelder(), feld), wert);
+    return feld < ersteAntwort || feld >= bitfeld || istWeitereDiagnose(feld - weitere(0), wert);
 }
 
 Feldart betreuungsfeldart(int feld)
 {
-    return hat(betreuungsfelder(), feld) ? von(betreuungsfelder(), feld).art : Feldart::klient;
+    return hat(betreuungsfelder(), feld) ? feldAus(betreuungsfelder(), feld).art : Feldart::klient;
 }
 
 Feldart diagnosefeldart(int feld)
 {
-    return hat(diagnosefelder(), feld) ? von(diagnosefelder(), feld).art : Feldart::klient;
+    return hat(diagnosefelder(), feld) ? feldAus(diagnosefelder(), feld).art : Feldart::klient;
 }
 
 std::string_view klientenfeldname(int feld)
 {
-    return hat(klientenfelder(), feld) ? std::string_view(von(klientenfelder(), feld).name) : std::string_view();
+    return hat(klientenfelder(), feld) ? std::string_view(feldAus(klientenfelder(), feld).name) : std::string_view();
 }
 
 std::string_view betreuungsfeldname(int feld)
 {
-    return hat(betreuungsfelder(), feld) ? std::string_view(von(betreuungsfelder(), feld).name) : std::string_view();
+    return hat(betreuungsfelder(), feld) ? std::string_view(feldAus(betreuungsfelder(), feld).name)
+                                         : std::string_view();
 }
 
 Diagnosefeldname diagnosefeldname(int feld)
@@ -155,15 +145,15 @@ Diagnosefeldname diagnosefeldname(int feld)
     constexpr std::array<std::string_view, felderJeGruppe> fragen{
         "Konsumart"_t,        "Konsumtage vor Beginn"_t, "Konsumtage vor Ende"_t, "ICD Stelle 4+5"_t,
         "Alter bei Beginn"_t, "Riskanter Konsum"_t,      "Alter Erstkonsum"_t,    "Hauptdiagnose"_t};
+    using namespace feld::diag;
     if (feld == bitfeld) {
         return {"Bitfeld"_t, {}};
     }
     if (!hat(diagnosefelder(), feld)) {
         return {};
     }
-    if (feld < diagnosefeld(1, 1) || feld > letztesBlockfeld) {
-        return {von(diagnosefelder(), feld).name, {}};
+    if (!istAntwort(feld)) {
+        return {feldAus(diagnosefelder(), feld).name, {}};
     }
-    const int ort = feld - diagnosefeld(1, 1);
-    return {gruppenname(ort / felderJeGruppe + 1), fragen.at(static_cast<std::size_t>(ort % felderJeGruppe))};
+    return {gruppenname(gruppeVon(feld)), fragen.at(static_cast<std::size_t>(platzVon(feld) - 1))};
 }

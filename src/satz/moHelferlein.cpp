@@ -3,23 +3,17 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Klientenfelder.h"
 
 #include <algorithm>
 #include <array>
+#include <climits>
 #include <filesystem>
 #include <limits>
 
 namespace {
 
 constexpr std::size_t höchsteZeilenlänge = std::numeric_limits<std::int16_t>::max();
-
-void prüfeZeilenlänge(std::string_view zeile)
-{
-    if (zeile.size() > höchsteZeilenlänge) {
-        throw Laufzeitfehler(verbinde("Überlauf: Eine Zeile ist "_t, std::to_string(zeile.size()),
-                                      " Zeichen lang, erlaubt sind "_t, std::to_string(höchsteZeilenlänge)));
-    }
-}
 
 /// What is left of the line from field `nummer` on, without a value when there is no such field.
 std::optional<std::string_view> abFeld(std::string_view zeile, int nummer, char trennzeichen)
@@ -74,6 +68,14 @@ Datumsteile zerlegeDatum(std::string_view datum)
 }
 
 } // namespace
+
+void prüfeZeilenlänge(std::string_view zeile)
+{
+    if (zeile.size() > höchsteZeilenlänge) {
+        throw Laufzeitfehler(verbinde("Überlauf: Eine Zeile ist "_t, std::to_string(zeile.size()),
+                                      " Zeichen lang, erlaubt sind "_t, std::to_string(höchsteZeilenlänge)));
+    }
+}
 
 std::string_view getFeld(std::string_view zeile, int nummer)
 {
@@ -131,11 +133,19 @@ std::string felder(std::string_view zeile, int von, int bis)
     return ergebnis;
 }
 
+std::string_view feldbereich(std::string_view zeile, int von, int bis)
+{
+    const auto bereich = abFeld(zeile, von, trenner).value_or(std::string_view{});
+    if (bis == INT_MAX) {
+        return bereich;
+    }
+    const auto dahinter = abFeld(bereich, bis - von + 2, trenner);
+    return dahinter ? bereich.substr(0, bereich.size() - dahinter->size() - 1) : bereich;
+}
+
 std::string klientenname(std::string_view kernDS)
 {
-    constexpr int feldNachname = 4;
-    constexpr int feldVorname = 5;
-    return verbinde(getFeld(kernDS, feldNachname), ", "_t, getFeld(kernDS, feldVorname));
+    return verbinde(getFeld(kernDS, feld::kern::nachname), ", "_t, getFeld(kernDS, feld::kern::vorname));
 }
 
 bool vergleicheDatum(std::string_view a, std::string_view op, std::string_view b)

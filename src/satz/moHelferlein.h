@@ -23,6 +23,10 @@ std::int16_t anzahlFelder(std::string_view zeile);
 std::string maskiereTrenner(std::string_view text);
 /// Fields 1 to n of the line, each followed by the delimiter, from `von` to `bis`.
 std::string felder(std::string_view zeile, int von, int bis);
+/// Fields `von` to `bis` of the line as they stand there, with the delimiters between them; empty without any.
+std::string_view feldbereich(std::string_view zeile, int von, int bis);
+/// A line of more than 32,767 characters is a Laufzeitfehler.
+void prüfeZeilenlänge(std::string_view zeile);
 /// Surname and given name of a client record, as the screens of an episode show them.
 std::string klientenname(std::string_view kernDS);
 

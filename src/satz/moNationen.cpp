@@ -2,22 +2,16 @@
 
 #include "platform/text/Ressourcen.h"
 #include "platform/text/Text.h"
-#include "platform/text/Zahl.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 namespace {
 
-struct Nation {
-    std::string_view code;
-    std::string_view name;
-};
+constexpr int ressource = 1000;
 
-constexpr int anzahlEintrag = 1000;
-
-/// In the order of the list on the care page. The names are what the records hold, letter for letter.
-constexpr std::array<Nation, 165> nationen{{
+/// Names letter for letter as the records hold them.
+constexpr Nation alle[]{
     {"EGY"_t, "Aegypten"_t},
     {"GNQ"_t, "Aequatorial Guinea"_t},
     {"ETH"_t, "Aethiopien"_t},
@@ -183,17 +177,27 @@ constexpr std::array<Nation, 165> nationen{{
     {"CYP"_t, "Zypern"_t},
     {"XXX"_t, "andere Staaten"_t},
     {"YYY"_t, "staatenlos"_t},
-}};
+};
+
+const Nation* finde(std::string_view Nation::*teil, std::string_view wert)
+{
+    const auto ort = std::ranges::find(alle, wert, teil);
+    return ort == std::end(alle) ? nullptr : ort;
+}
 
 } // namespace
 
+std::span<const Nation> nationen()
+{
+    return alle;
+}
+
 void registriereNationen(Ressourcen& ressourcen)
 {
-    int nummer = anzahlEintrag;
-    ressourcen.setze(nummer, alsText(nationen.size()));
-    for (const auto& nation : nationen) {
-        ressourcen.setze(++nummer, verbinde(nation.code, trenner, nation.name));
-    }
+    ressourcen.nimm({ressource, static_cast<int>(std::size(alle)), [](int zeile) {
+                         const auto& nation = alle[zeile - 1];
+                         return verbinde(nation.code, trenner, nation.name);
+                     }});
 }
 
 std::string getNationZuCode(std::string_view code)
@@ -201,21 +205,18 @@ std::string getNationZuCode(std::string_view code)
     if (code.empty()) {
         return std::string("keine Angaben"_t);
     }
-    const auto ort = std::find_if(nationen.begin(), nationen.end(), [&](const Nation& n) { return n.code == code; });
-    if (ort == nationen.end()) {
-        return verbinde("konnte Nationencode "_t, code, " nicht zuordnen"_t);
-    }
-    return std::string(ort->name);
+    const auto* nation = finde(&Nation::code, code);
+    return nation == nullptr ? verbinde("konnte Nationencode "_t, code, " nicht zuordnen"_t)
+                             : std::string(nation->name);
 }
 
 std::string_view getCodeZuNation(std::string_view name)
 {
-    const auto ort = std::find_if(nationen.begin(), nationen.end(), [&](const Nation& n) { return n.name == name; });
-    return ort == nationen.end() ? std::string_view{} : ort->code;
+    const auto* nation = finde(&Nation::name, name);
+    return nation == nullptr ? std::string_view{} : nation->code;
 }
 
 bool istNation(std::string_view name)
 {
-    return std::find_if(nationen.begin(), nationen.end(), [&](const Nation& n) { return n.name == name; }) !=
-           nationen.end();
+    return finde(&Nation::name, name) != nullptr;
 }

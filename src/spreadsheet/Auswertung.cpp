@@ -5,36 +5,30 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "satz/Satzaufbau.h"
-#include "satz/moData.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
+#include <array>
+#include <climits>
 #include <cstdint>
+#include <vector>
 
 namespace {
 
 constexpr int spalteFall = 1;
 constexpr int spalteBetreuungsnummer = 2;
+constexpr int spalteKlient = 3;
 constexpr int spalteErsteHD = 10;
-constexpr int spalteHDName = 17;
 constexpr int spalteBetreuung = 18;
-constexpr int spalteMemo = 207;
-/// Care field c stands in column c + 15.
-constexpr int versatzBetreuung = 15;
-constexpr int erstesBetreuungsfeld = 3;
 constexpr int höchsteZeile = INT16_MAX;
 
-struct Klientenspalte {
-    int spalte;
-    std::string_view kopf;
-    int feld;
-};
-
-constexpr Klientenspalte klientenspalten[]{
-    {3, "v_Nachname"_t, 4}, {4, "v_Vorname"_t, 5},    {5, "v_Strasse"_t, 6},       {6, "v_PLZ"_t, 7},
-    {7, "v_Ort"_t, 8},      {8, "v_Geschlecht"_t, 9}, {9, "v_Geburtsdatum"_t, 10},
-};
+/// From column 3 on, in the order of the client record.
+constexpr std::array klientenköpfe{"v_Nachname"_t, "v_Vorname"_t,    "v_Strasse"_t,     "v_PLZ"_t,
+                                   "v_Ort"_t,      "v_Geschlecht"_t, "v_Geburtsdatum"_t};
+static_assert(klientenköpfe.size() == feld::kern::geburtsdatum - feld::kern::nachname + 1);
 
 struct HDSpalte {
     std::string_view kopf;
@@ -55,12 +49,19 @@ constexpr HDSpalte hdSpalten[]{
 
 std::string klientenschlüssel(std::string_view zeile)
 {
-    return std::string(getFeld(zeile, 2));
+    return std::string(getFeld(zeile, feld::kern::kernID));
 }
 
 std::string betreuungsschlüssel(std::string_view zeile)
 {
-    return verbinde(getFeld(zeile, 1), trenner, getFeld(zeile, 2));
+    return verbinde(getFeld(zeile, feld::betr::kernID), trenner, getFeld(zeile, feld::betr::betrID));
+}
+
+/// A care record from its begin on.
+Feldplan planFür(Zelltyp typ, bool ohneMemo)
+{
+    return {.typ = typ,
+            .ohneZelle = ohneMemo ? std::vector{feld::betr::memo - feld::betr::betrID} : std::vector<int>{}};
 }
 
 [[noreturn]] void meldeÜberlauf(int zeile)
@@ -71,25 +72,16 @@ std::string betreuungsschlüssel(std::string_view zeile)
 
 } // namespace
 
-HDBlock sucheHDBlock(std::string_view zeile)
+HDBlock sucheHDBlock(std::string_view satz)
 {
-    getFeld(zeile, 1); // refuses a line that is too long to be counted
-    HDBlock block;
-    for (int feld = 1; feld <= diagnosefeld(diagnosegruppen, felderJeGruppe); ++feld) {
-        const std::size_t ende = zeile.find(trenner);
-        const std::string_view text = zeile.substr(0, ende);
-        const int platz = (feld + 5) % felderJeGruppe;
-        if (feld > 2 && platz == felderJeGruppe - 1 && text == "1"_t) {
-            block.gruppe = (feld - 2) / felderJeGruppe;
-            return block;
+    prüfeZeilenlänge(satz);
+    std::string_view blöcke = feldbereich(satz, feld::diag::ersteAntwort, INT_MAX);
+    for (int gruppe = 1; gruppe <= höchsteGruppe && !blöcke.empty(); ++gruppe) {
+        const auto antworten = feldbereich(blöcke, Konsumart, AlterErstkonsum);
+        if (feldbereich(blöcke, HDMarke, HDMarke) == "1"_t) {
+            return {gruppe, antworten};
         }
-        if (feld > 2 && platz < felderJeGruppe - 1) {
-            block.felder[platz] = text;
-        }
-        if (ende == std::string_view::npos) {
-            break;
-        }
-        zeile.remove_prefix(ende + 1);
+        blöcke = feldbereich(blöcke, HDMarke + 1, INT_MAX);
     }
     return {};
 }
@@ -112,8 +104,7 @@ void Auswertung::schreibeHauptdiagnosen()
             meldeÜberlauf(zeile);
         }
         ++zeile;
-        m_blatt.verweise(zeile, spalteFall, getFeld(*satz, 1));
-        m_blatt.verweise(zeile, spalteBetreuungsnummer, getFeld(*satz, 2));
+        m_blatt.verweiseFelder(zeile, spalteFall, feldbereich(*satz, feld::diag::kernID, feld::diag::betrID));
         schreibeHD(zeile, sucheHDBlock(*satz));
     }
 }
@@ -135,48 +126,36 @@ void Auswertung::schreibeHD(int zeile, const HDBlock& block)
     if (block.gruppe == 0) {
         return;
     }
-    int spalte = spalteErsteHD;
-    for (const std::string_view feld : block.felder) {
-        m_blatt.verweise(zeile, spalte++, feld);
-    }
-    m_blatt.setze(zeile, spalteHDName, aryProblem[static_cast<std::size_t>(block.gruppe)]);
+    m_blatt.verweiseFelder(zeile, spalteErsteHD, block.antworten);
+    m_blatt.verweise(zeile, spalteErsteHD + AlterErstkonsum, gruppenname(block.gruppe));
 }
 
 void Auswertung::schreibeKlienten()
 {
-    for (const Klientenspalte& spalte : klientenspalten) {
-        m_blatt.setze(1, spalte.spalte, spalte.kopf);
+    for (int spalte = spalteKlient; const auto kopf : klientenköpfe) {
+        m_blatt.setze(1, spalte++, kopf);
     }
     for (int zeile = 2; istBelegt(zeile); ++zeile) {
-        const std::string_view satz = m_klienten.finde(schlüssel(zeile, spalteFall));
-        for (const Klientenspalte& spalte : klientenspalten) {
-            m_blatt.verweise(zeile, spalte.spalte, getFeld(satz, spalte.feld));
-        }
+        const auto satz = m_klienten.finde(schlüssel(zeile, spalteFall));
+        m_blatt.verweiseFelder(zeile, spalteKlient, feldbereich(satz, feld::kern::nachname, feld::kern::geburtsdatum));
     }
 }
 
 void Auswertung::schreibeBetreuungen(std::string_view kopf, const std::function<void(int)>& beiDatensatz)
 {
-    const int felder = anzahlFelder(kopf);
-    for (int feld = erstesBetreuungsfeld; feld <= felder; ++feld) {
-        m_blatt.setze(1, feld + versatzBetreuung, getFeld(kopf, feld));
-    }
-    int zeile = 2;
-    for (; istBelegt(zeile); ++zeile) {
+    const bool ohneSatz = !istBelegt(2);
+    // Without a record the header stands two columns further left and keeps the memo: splitting and deleting worked on
+    // ranges, which turned round and took it in. Users know it so.
+    const auto& kopfplan = m_blatt.merke(planFür(Zelltyp::Allgemein, !ohneSatz));
+    m_blatt.setzeFelder(1, spalteBetreuung,
+                        feldbereich(kopf, ohneSatz ? feld::betr::wieder : feld::betr::beginn, INT_MAX), kopfplan);
+    const auto& plan = m_blatt.merke(planFür(Zelltyp::AllgemeinMinusHinten, true));
+    for (int zeile = 2; istBelegt(zeile); ++zeile) {
         beiDatensatz(zeile - 1);
         const std::string id =
             verbinde(schlüssel(zeile, spalteFall), trenner, schlüssel(zeile, spalteBetreuungsnummer));
-        m_blatt.verweise(zeile, spalteBetreuung, m_betreuungen.finde(id));
+        m_blatt.verweiseFelder(zeile, spalteBetreuung,
+                               feldbereich(m_betreuungen.finde(id), feld::betr::beginn, INT_MAX), plan);
     }
-    trenneBetreuungen(zeile - 1);
-}
-
-/// The care lines become columns, the two ids in front of them and the memo at their end go. Without any record
-/// the ranges turn round and take in the header row, as a spreadsheet's ranges do.
-void Auswertung::trenneBetreuungen(int letzteZeile)
-{
-    m_blatt.textInSpalten(2, letzteZeile, spalteBetreuung, trenner);
-    m_blatt.löscheBereich(2, spalteBetreuung, letzteZeile, spalteBetreuung + 1);
-    m_blatt.löscheSpalte(spalteMemo);
     m_blatt.setzeFett(1);
 }

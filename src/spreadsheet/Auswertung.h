@@ -17,12 +17,12 @@ struct Tabellen {
 /// The main diagnosis of a diagnosis record.
 struct HDBlock {
     int gruppe = 0;             ///< 1 to 29, 0 for none
-    std::string_view felder[7]; ///< the fields of its block before the flag
+    std::string_view antworten; ///< the fields of its block before the mark
 };
 
 /// The block of the first group whose main-diagnosis flag is "1". Throws Laufzeitfehler for a line of more than
 /// 32,767 characters.
-HDBlock sucheHDBlock(std::string_view zeile);
+HDBlock sucheHDBlock(std::string_view satz);
 
 /// The evaluation sheet: one row per diagnosis record with client data, main diagnosis and the care record.
 /// Every column shows what its header says except the comments of the columns 11 to 15, which stand one off
@@ -45,7 +45,6 @@ private:
     std::string schlüssel(int zeile, int spalte) const { return alsAnzeigetext(m_blatt.zelle(zeile, spalte)); }
     void schreibeHDKopf();
     void schreibeHD(int zeile, const HDBlock& block);
-    void trenneBetreuungen(int letzteZeile);
 
     Blatt& m_blatt;
     std::string_view m_diag;

@@ -3,104 +3,89 @@
 #include "platform/dateien/Dateien.h"
 #include "platform/dateien/Zeilen.h"
 #include "platform/text/Text.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
-#include <algorithm>
+#include <climits>
 #include <memory>
 #include <utility>
 #include <vector>
 
 namespace {
 
-constexpr int kopfspalten = 255;
 constexpr int namenszeile = 3;
-constexpr int ersteDatenzeile = 4;
 constexpr std::size_t gewünschteBlätter = 3;
-
-constexpr int kernSpalteMemo = 11;
-constexpr int kernSpalteLeer = 1;
-constexpr int betrSpalteMemo = 192;
-
-// The further diagnoses stay text, so that 32.10 keeps its last digit.
-constexpr std::size_t diagTypen = 257;
-constexpr std::size_t ersteZusatzspalte = 235;
-constexpr std::size_t letzteZusatzspalte = 246;
-
-/// The chapter letter of the ICD-10 that the records of some columns leave out.
-struct Buchstabe {
-    int von;
-    int bis;
-    std::string_view zeichen;
-};
-constexpr Buchstabe buchstaben[]{{235, 238, "F"_t}, {239, 242, "G"_t}};
 
 bool istBlank(std::string_view tabelle)
 {
     return Zeilen(tabelle).nächste().value_or(std::string_view{}).empty();
 }
 
-void schreibeKopf(Blatt& blatt, const Kopfzeilen& kopf)
+/// Header rows and table on a blank sheet; `schreibeZeile(zeile, satz, plan)` puts a record into its row.
+template <class F>
+void schreibe(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf, std::vector<int> ohneSpalte,
+              F schreibeZeile)
 {
+    if (istBlank(tabelle)) {
+        return;
+    }
+    const auto& plan = blatt.merke({.ohneZelle = std::move(ohneSpalte)});
     for (int zeile = 1; zeile <= namenszeile; ++zeile) {
-        const std::string& spalten = kopf[static_cast<std::size_t>(zeile)];
-        for (int spalte = 1; spalte <= kopfspalten; ++spalte) {
-            blatt.setze(zeile, spalte, getFeld(spalten, spalte));
-        }
+        blatt.setzeFelder(zeile, 1, kopf[static_cast<std::size_t>(zeile)], plan);
     }
-}
-
-std::vector<Zelltyp> diagSpaltentypen()
-{
-    std::vector<Zelltyp> typen(diagTypen, Zelltyp::Allgemein);
-    std::fill(typen.begin() + (ersteZusatzspalte - 1), typen.begin() + letzteZusatzspalte, Zelltyp::Text);
-    return typen;
-}
-
-std::string_view buchstabeFür(int spalte)
-{
-    for (const Buchstabe& buchstabe : buchstaben) {
-        if (spalte >= buchstabe.von && spalte <= buchstabe.bis) {
-            return buchstabe.zeichen;
-        }
+    Zeilen zeilen(tabelle);
+    while (const auto satz = zeilen.nächste()) {
+        schreibeZeile(namenszeile + static_cast<int>(zeilen.nummer()), *satz, plan);
     }
-    return {};
-}
-
-void ergänzeBuchstabenIn(Blatt& blatt, int zeile)
-{
-    std::vector<std::pair<int, std::string>> neu;
-    blatt.fürJedeZelle(zeile, [&](int spalte, const Zellwert& wert) {
-        if (const auto zeichen = buchstabeFür(spalte); !zeichen.empty()) {
-            neu.emplace_back(spalte, verbinde(zeichen, alsText(wert)));
-        }
-    });
-    for (const auto& [spalte, text] : neu) {
-        blatt.setze(zeile, spalte, text, Zelltyp::Text);
-    }
-}
-
-/// From the first record down to the first row without an id.
-void ergänzeBuchstaben(Blatt& blatt)
-{
-    for (int zeile = ersteDatenzeile; blatt.zelle(zeile, 1).art != Zellart::Leer; ++zeile) {
-        ergänzeBuchstabenIn(blatt, zeile);
-    }
-}
-
-void löscheUngenutzte(Blatt& blatt, int spalten)
-{
-    for (int spalte = spalten; spalte >= 1; --spalte) {
-        if (blatt.zelle(namenszeile, spalte).text == "VOID"_t) {
-            blatt.löscheSpalte(spalte);
-        }
-    }
-}
-
-void schmücke(Blatt& blatt)
-{
     blatt.passeSpaltenbreitenAn();
     blatt.setzeFett(namenszeile);
+}
+
+void schreibeSätze(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf, std::vector<int> ohneSpalte)
+{
+    schreibe(blatt, tabelle, kopf, std::move(ohneSpalte), [&](int zeile, std::string_view satz, const Feldplan& plan) {
+        blatt.verweiseFelder(zeile, 1, satz, plan);
+    });
+}
+
+/// The fields that no group fills, and what stands behind the last name.
+std::vector<int> ungenutzte(std::string_view spaltennamen)
+{
+    std::vector<int> felder;
+    const int anzahl = anzahlFelder(spaltennamen);
+    for (int feld = 1; feld <= anzahl; ++feld) {
+        if (feld == anzahl || getFeld(spaltennamen, feld) == "VOID"_t) {
+            felder.push_back(feld);
+        }
+    }
+    return felder;
+}
+
+/// A further diagnosis stays text, so that 32.10 keeps its last digit; `buchstabe` is the letter of its chapter, which
+/// the records leave out.
+void schreibeWeitereDiagnose(Blatt& blatt, int zeile, int spalte, std::string_view text, std::string_view buchstabe)
+{
+    const auto wert = leseZelle(text, Zelltyp::Text);
+    if (buchstabe.empty() || wert.art == Zellart::Leer) {
+        blatt.verweise(zeile, spalte, text, Zelltyp::Text);
+    } else {
+        blatt.setze(zeile, spalte, verbinde(buchstabe, alsText(wert)), Zelltyp::Text);
+    }
+}
+
+void schreibeDiagnosesatz(Blatt& blatt, int zeile, std::string_view satz, const Feldplan& plan, bool mitBuchstaben)
+{
+    using namespace feld::diag;
+    blatt.verweiseFelder(zeile, 1, feldbereich(satz, kernID, weitere(0)), plan);
+    const auto diagnosen = feldbereich(satz, weitere(1), weitere(anzahlWeitereDiagnosen));
+    for (int nummer = 1; nummer <= anzahlWeitereDiagnosen; ++nummer) {
+        schreibeWeitereDiagnose(blatt, zeile, plan.zelleVon(weitere(nummer)), feldbereich(diagnosen, nummer, nummer),
+                                mitBuchstaben ? diagnoseartVon(nummer).buchstabe : std::string_view{});
+    }
+    blatt.verweiseFelder(zeile, plan.zelleVon(anzahl + 1), feldbereich(satz, anzahl + 1, INT_MAX));
 }
 
 } // namespace
@@ -125,37 +110,21 @@ std::string_view liesTabelle(Arbeitsmappe& mappe, const std::filesystem::path& p
 
 void schreibeKernDat(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf)
 {
-    if (istBlank(tabelle)) {
-        return;
-    }
-    schreibeKopf(blatt, kopf);
-    blatt.importiereText(ersteDatenzeile, 1, tabelle, {trenner, {}});
-    blatt.löscheSpalte(kernSpalteMemo); // the later one first, while the number still means the imported column
-    blatt.löscheSpalte(kernSpalteLeer);
-    schmücke(blatt);
+    schreibeSätze(blatt, tabelle, kopf, {feld::kern::leer, feld::kern::memo});
 }
 
 void schreibeBetrDat(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf)
 {
-    if (istBlank(tabelle)) {
-        return;
-    }
-    schreibeKopf(blatt, kopf);
-    blatt.importiereText(ersteDatenzeile, 1, tabelle, {trenner, {}});
-    blatt.löscheSpalte(betrSpalteMemo);
-    schmücke(blatt);
+    schreibeSätze(blatt, tabelle, kopf, {feld::betr::memo});
 }
 
 void schreibeDiagDat(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf)
 {
-    if (istBlank(tabelle)) {
-        return;
-    }
-    schreibeKopf(blatt, kopf);
-    blatt.importiereText(ersteDatenzeile, 1, tabelle, {trenner, diagSpaltentypen()});
-    ergänzeBuchstaben(blatt);
-    schmücke(blatt);
-    const int spalten = anzahlFelder(kopf[namenszeile]);
-    blatt.löscheSpalte(spalten);
-    löscheUngenutzte(blatt, spalten);
+    bool mitBuchstaben = true; // down to the first record without an id, as they have always been added
+    schreibe(blatt, tabelle, kopf, ungenutzte(kopf[namenszeile]),
+             [&](int zeile, std::string_view satz, const Feldplan& plan) {
+                 const auto id = feldbereich(satz, feld::diag::kernID, feld::diag::kernID);
+                 mitBuchstaben = mitBuchstaben && leseZelle(id, Zelltyp::Allgemein).art != Zellart::Leer;
+                 schreibeDiagnosesatz(blatt, zeile, satz, plan, mitBuchstaben);
+             });
 }

@@ -2,14 +2,14 @@
 
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
+#include "satz/Diagnosefelder.h"
 #include "satz/Satzaufbau.h"
 #include "satz/moData.h"
 #include "satz/moHelferlein.h"
 #include "spreadsheet/moVariablen.h"
-#include "zustand/Zustand.h"
 
+#include <algorithm>
 #include <cstddef>
-#include <map>
 #include <string_view>
 #include <utility>
 
@@ -31,27 +31,6 @@ constexpr std::array<std::string_view, felderJeGruppe> gruppenendungen{
     "1"_t, "2"_t, "3"_t, "4"_t, "5"_t, "6"_t, "_alterErstkonsum"_t, "_HD"_t,
 };
 
-/// The groups from one to another, with a digit for each field that they use and a blank for one they don't.
-struct Gruppennutzung {
-    int von;
-    int bis;
-    std::string_view genutzt;
-};
-
-constexpr std::array<Gruppennutzung, 3> gruppennutzung{{
-    {1, 20, "12345678"_t},
-    {21, 28, " 2345 78"_t},
-    {29, 29, "   45  8"_t},
-}};
-
-struct Zusatzreihe {
-    std::string_view stamm;
-    int anzahl;
-};
-
-constexpr std::array<Zusatzreihe, 3> zusatzreihen{{{"icdpsy"_t, 4}, {"icdneu"_t, 4}, {"icdand"_t, 4}}};
-constexpr int zusatzdiagnosen = 12;
-
 void hängeAn(std::string& zeile, std::string_view spalte)
 {
     zeile.append(spalte);
@@ -60,12 +39,8 @@ void hängeAn(std::string& zeile, std::string_view spalte)
 
 bool nutzt(int gruppe, int platz)
 {
-    for (const Gruppennutzung& nutzung : gruppennutzung) {
-        if (gruppe >= nutzung.von && gruppe <= nutzung.bis) {
-            return nutzung.genutzt[static_cast<std::size_t>(platz - 1)] != ' ';
-        }
-    }
-    return false;
+    const auto* reihe = gruppenreihe(gruppe);
+    return reihe != nullptr && reihe->frage(platz).gefragt;
 }
 
 std::string spaltenname(int gruppe, int platz)
@@ -81,12 +56,12 @@ std::string diagnoseBezeichnungen()
     std::string zeile;
     hängeAn(zeile, "KernID"_t);
     hängeAn(zeile, "betrID"_t);
-    for (int gruppe = 1; gruppe <= diagnosegruppen; ++gruppe) {
+    for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
         for (const std::string_view label : gruppenlabels) {
             hängeAn(zeile, label);
         }
     }
-    for (int i = 1; i <= zusatzdiagnosen; ++i) {
+    for (int i = 1; i <= anzahlWeitereDiagnosen; ++i) {
         hängeAn(zeile, verbinde("ZusatzDiagnose "_t, alsText(i)));
     }
     return zeile;
@@ -97,12 +72,12 @@ std::string diagnoseSpaltennamen()
     std::string zeile;
     hängeAn(zeile, "fallnr"_t);
     hängeAn(zeile, "betrnr"_t);
-    for (int gruppe = 1; gruppe <= diagnosegruppen; ++gruppe) {
+    for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
         for (int platz = 1; platz <= felderJeGruppe; ++platz) {
             hängeAn(zeile, spaltenname(gruppe, platz));
         }
     }
-    for (const Zusatzreihe& reihe : zusatzreihen) {
+    for (const Diagnoseart& reihe : diagnosearten) {
         for (int i = 1; i <= reihe.anzahl; ++i) {
             hängeAn(zeile, verbinde(reihe.stamm, alsText(i)));
         }
@@ -122,19 +97,11 @@ std::string betreuungsSpaltennamen()
     return zeile;
 }
 
-using Variablentabelle = std::map<std::string, std::string>;
-
-/// The rows by their name in lower case; of two rows with one name the first counts.
-Variablentabelle ladeVariablen(int basis)
+/// By the name in lower case; of two rows with one name the first counts.
+const Variable* findeVariable(std::string_view name)
 {
-    Variablentabelle tabelle;
-    const auto anzahl = static_cast<int>(führendeZahl(ladeResText(basis)));
-    for (int nummer = 1; nummer <= anzahl; ++nummer) {
-        std::string zeile = ladeResText(basis + nummer);
-        std::string name = klein(getFeld(zeile, 1));
-        tabelle.try_emplace(std::move(name), std::move(zeile));
-    }
-    return tabelle;
+    const auto ort = std::ranges::find_if(variablen(), [&](const Variable& v) { return klein(v.name) == name; });
+    return ort == variablen().end() ? nullptr : &*ort;
 }
 
 } // namespace
@@ -152,11 +119,11 @@ Kopfzeilen erstelleBetrHeader(std::string_view modus)
     Kopfzeilen zeilen;
     zeilen[3] = betreuungsSpaltennamen();
     if (klein(modus) == "excel"_t) {
-        auto bezeichnungen = sucheBezeichnungen(zeilen[3], basisVariablen);
+        auto bezeichnungen = sucheBezeichnungen(zeilen[3]);
         zeilen[1] = std::move(bezeichnungen.erste);
         zeilen[2] = std::move(bezeichnungen.zweite);
     } else if (klein(modus) == "word"_t) {
-        auto bezeichnungen = sucheBezeichnungen(zeilen[1], basisVariablenOhneWiederholung);
+        auto bezeichnungen = sucheBezeichnungen(zeilen[1], true);
         zeilen[2] = std::move(bezeichnungen.erste);
         zeilen[3] = std::move(bezeichnungen.zweite);
     }
@@ -178,17 +145,19 @@ Kopfzeilen erstelleDiagHeader()
     return zeilen;
 }
 
-Bezeichnungen sucheBezeichnungen(std::string_view spaltennamen, int basis)
+Bezeichnungen sucheBezeichnungen(std::string_view spaltennamen, bool ohneWiederholung)
 {
-    const Variablentabelle tabelle = ladeVariablen(basis);
     Bezeichnungen bezeichnungen;
     const int anzahl = anzahlFelder(spaltennamen);
     for (int spalte = 1; spalte <= anzahl; ++spalte) {
         const std::string name = klein(getFeld(spaltennamen, spalte));
-        const auto zeile = tabelle.find(name);
-        const bool gefunden = zeile != tabelle.end();
-        hängeAn(bezeichnungen.erste, gefunden ? getFeld(zeile->second, 2) : std::string_view(name));
-        hängeAn(bezeichnungen.zweite, gefunden ? getFeld(zeile->second, 3) : std::string_view{});
+        if (const auto* variable = findeVariable(name)) {
+            hängeAn(bezeichnungen.erste, ohneWiederholung ? variable->ersteOhneWiederholung() : variable->erste);
+            hängeAn(bezeichnungen.zweite, variable->zweite);
+        } else {
+            hängeAn(bezeichnungen.erste, name);
+            hängeAn(bezeichnungen.zweite, {});
+        }
     }
     return bezeichnungen;
 }

@@ -20,6 +20,5 @@ struct Bezeichnungen {
     std::string zweite;
 };
 
-/// Looks the columns up in the variable table whose row count is the string resource `basis`; a column that
-/// the table lacks stands as its own name in lower case.
-Bezeichnungen sucheBezeichnungen(std::string_view spaltennamen, int basis);
+/// Looks the columns up among the variables; a column that is none stands as its own name in lower case.
+Bezeichnungen sucheBezeichnungen(std::string_view spaltennamen, bool ohneWiederholung = false);

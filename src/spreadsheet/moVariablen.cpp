@@ -1,10 +1,10 @@
 #include "spreadsheet/moVariablen.h"
 
+#include "platform/text/Ressourcen.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 
 #include <array>
-#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -164,7 +164,7 @@ constexpr std::array nationencode{"Internationaler Code"_t};
 constexpr std::array wocheVorher{"in der Woche vor Betreuungsbeginn"_t};
 constexpr std::array wocheNachher{"in der Woche nach Betreuungsende"_t};
 
-constexpr Variablengruppe variablen[]{
+constexpr Variablengruppe gruppen[]{
     {"tsnr"_t, 0, "Teilstellennummer"_t, ohne},
     {"fallnr"_t, 0, "Fallnummer"_t, ohne},
     {"betrnr"_t, 0, "Betreuungsnummer"_t, ohne},
@@ -219,17 +219,10 @@ constexpr Variablengruppe variablen[]{
     {"hivcode"_t, 0, "HIV-Code"_t, ohne},
 };
 
-struct Variable {
-    std::string name;
-    std::string_view erste;
-    std::string_view zweite;
-    bool wiederholtÜberschrift; ///< the first label is that of the row before and goes from the second table
-};
-
-std::vector<Variable> alleVariablen()
+std::vector<Variable> baueVariablen()
 {
     std::vector<Variable> zeilen;
-    for (const Variablengruppe& gruppe : variablen) {
+    for (const Variablengruppe& gruppe : gruppen) {
         int nummer = gruppe.ersteNummer;
         for (const std::string_view zweite : gruppe.zweite) {
             const bool wiederholt = !zeilen.empty() && zeilen.back().erste == gruppe.erste && !gruppe.überschriftBleibt;
@@ -241,19 +234,26 @@ std::vector<Variable> alleVariablen()
     return zeilen;
 }
 
+std::string alsZeile(const Variable& variable, std::string_view überschrift)
+{
+    return verbinde(variable.name, trenner, überschrift, trenner, variable.zweite);
+}
+
 } // namespace
+
+const std::vector<Variable>& variablen()
+{
+    static const auto zeilen = baueVariablen();
+    return zeilen;
+}
 
 void registriereVariablen(Ressourcen& ressourcen)
 {
-    const auto zeilen = alleVariablen();
-    ressourcen.setze(basisVariablen, alsText(static_cast<std::int64_t>(zeilen.size())));
-    ressourcen.setze(basisVariablenOhneWiederholung, alsText(static_cast<std::int64_t>(zeilen.size())));
-    int nummer = 0;
-    for (const Variable& zeile : zeilen) {
-        ++nummer;
-        const std::string_view überschrift = zeile.wiederholtÜberschrift ? ""_t : zeile.erste;
-        ressourcen.setze(basisVariablen + nummer, verbinde(zeile.name, trenner, zeile.erste, trenner, zeile.zweite));
-        ressourcen.setze(basisVariablenOhneWiederholung + nummer,
-                         verbinde(zeile.name, trenner, überschrift, trenner, zeile.zweite));
-    }
+    const int zeilen = static_cast<int>(variablen().size());
+    const auto variable = [](int zeile) -> const Variable& { return variablen()[static_cast<std::size_t>(zeile - 1)]; };
+    ressourcen.nimm({ressourceVariablen, zeilen,
+                     [variable](int zeile) { return alsZeile(variable(zeile), variable(zeile).erste); }});
+    ressourcen.nimm({ressourceVariablenOhneWiederholung, zeilen, [variable](int zeile) {
+                         return alsZeile(variable(zeile), variable(zeile).ersteOhneWiederholung());
+                     }});
 }

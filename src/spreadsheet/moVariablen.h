@@ -1,13 +1,27 @@
 #pragma once
 
-#include "platform/text/Ressourcen.h"
+#include <string>
+#include <string_view>
+#include <vector>
 
-/// The variables of the annual export with the words that the core data set gives them, as string resources:
-/// name, first label and second label joined by the delimiter. 6000 and 7000 hold the number of rows, the rows
-/// follow behind them. The second table leaves out a first label that repeats the row before, so that a
-/// repeating group carries its heading once.
-inline constexpr int basisVariablen = 6000;
-inline constexpr int basisVariablenOhneWiederholung = 7000;
+class Ressourcen;
 
-/// Puts both tables into the resources.
+/// A variable of the annual export with the words that the core data set gives it.
+struct Variable {
+    std::string name;
+    std::string_view erste; ///< first label
+    std::string_view zweite;
+    bool wiederholtÜberschrift = false; ///< the first label is that of the row before
+
+    /// The first label, left out where it repeats the row before: a repeating group carries its heading once.
+    std::string_view ersteOhneWiederholung() const { return wiederholtÜberschrift ? std::string_view{} : erste; }
+};
+
+const std::vector<Variable>& variablen();
+
+/// The same as two tables of string resources, without and with headings left out: name, first label and second label
+/// joined by the delimiter, made when they are asked for.
+inline constexpr int ressourceVariablen = 6000;
+inline constexpr int ressourceVariablenOhneWiederholung = 7000;
+
 void registriereVariablen(Ressourcen& ressourcen);

@@ -2,6 +2,8 @@
 
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Klientenfelder.h"
 
 #include <algorithm>
 #include <limits>
@@ -24,9 +26,6 @@ std::string siehe(std::string_view nummer, std::size_t zeile)
     return verbinde(nummer, ", siehe Zeile "_t, std::to_string(zeile));
 }
 
-constexpr int feldStatus = 3;
-constexpr int feldEnde = 4;
-
 } // namespace
 
 void Bezugsprüfung::nimmKlienten(std::size_t zeile, std::int32_t kernID, std::string_view status)
@@ -34,7 +33,8 @@ void Bezugsprüfung::nimmKlienten(std::size_t zeile, std::int32_t kernID, std::s
     const bool istOderA = status == "o" || status == "a";
     const bool leer = status.empty() || status == std::string_view("\0", 1);
     if (!istOderA && !leer) {
-        m_befunde.melde(Befundart::StatusUnbekannt, anZeile(Tabelle::Kern, zeile, feldStatus), alsZitat(status));
+        m_befunde.melde(Befundart::StatusUnbekannt, anZeile(Tabelle::Kern, zeile, feld::kern::betrao),
+                        alsZitat(status));
     }
     // an unknown status is told already
     const char gelesen = istOderA ? status.front() : leer ? '\0' : '?';
@@ -53,7 +53,7 @@ void Bezugsprüfung::nimmBetreuung(std::size_t zeile, std::int32_t kernID, std::
                         siehe(alsNummer(ort->first), ort->second.zeile));
     }
     if (zeitraum.von && zeitraum.bis && *zeitraum.von > *zeitraum.bis) {
-        m_befunde.melde(Befundart::EndeVorBeginn, anZeile(Tabelle::Betr, zeile, feldEnde));
+        m_befunde.melde(Befundart::EndeVorBeginn, anZeile(Tabelle::Betr, zeile, feld::betr::ende));
     }
     m_betreute.insert(kernID);
 }
@@ -80,7 +80,7 @@ void Bezugsprüfung::prüfeKlienten(std::int32_t kernID, const Klient& klient)
     const bool offen = std::any_of(anfang, ende, [](const auto& b) { return b.second.zeitraum.offen; });
     const char richtig = offen ? 'o' : anfang == ende ? '\0' : 'a';
     if (klient.status != '?' && klient.status != richtig) {
-        m_befunde.melde(Befundart::StatusVeraltet, anZeile(Tabelle::Kern, klient.zeile, feldStatus));
+        m_befunde.melde(Befundart::StatusVeraltet, anZeile(Tabelle::Kern, klient.zeile, feld::kern::betrao));
     }
 }
 
@@ -98,7 +98,7 @@ void Bezugsprüfung::prüfeZeiträume(std::int32_t kernID)
     const Betreuung* offene = nullptr;
     for (const auto& [schlüssel, betreuung] : reihe) {
         if (betreuung.zeitraum.offen && offene != nullptr) {
-            m_befunde.melde(Befundart::MehrereOffen, anZeile(Tabelle::Betr, betreuung.zeile, feldEnde),
+            m_befunde.melde(Befundart::MehrereOffen, anZeile(Tabelle::Betr, betreuung.zeile, feld::betr::ende),
                             siehe(alsNummer(schlüssel), offene->zeile));
         }
         if (weiteste != nullptr && (weiteste->zeitraum.offen || *weiteste->zeitraum.bis >= *betreuung.zeitraum.von)) {

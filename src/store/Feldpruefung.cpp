@@ -3,7 +3,7 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/Diagnosesatz.h"
-#include "satz/Satzaufbau.h"
+#include "satz/Klientenfelder.h"
 #include "satz/Wertpruefung.h"
 
 #include <algorithm>
@@ -11,8 +11,6 @@
 #include <span>
 
 namespace {
-
-constexpr int bitfeld = diagnosefeld(diagnosegruppen, felderJeGruppe) + anzahlWeitereDiagnosen + 1;
 
 bool istWert(Tabelle tabelle, int feld, std::string_view wert)
 {
@@ -29,7 +27,7 @@ bool istWert(Tabelle tabelle, int feld, std::string_view wert)
 bool istBelegt(const Satzzeile& satz, int gruppe)
 {
     for (int platz = 1; platz <= felderJeGruppe; ++platz) {
-        if (!istLeerwert(gruppe, platz, satz.feld(diagnosefeld(gruppe, platz)))) {
+        if (!istLeerwert(gruppe, platz, satz.feld(feld::diag::antwort(gruppe, platz)))) {
             return true;
         }
     }
@@ -47,7 +45,7 @@ void prüfeFehlendeBits(const Satzzeile& satz, std::int64_t bits, Befundliste& b
 {
     for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
         if (!hatBit(bits, gruppe) && istBelegt(satz, gruppe)) {
-            befunde.melde(Befundart::BitFehlt, satz.ort(bitfeld), gruppenname(gruppe));
+            befunde.melde(Befundart::BitFehlt, satz.ort(feld::diag::bitfeld), gruppenname(gruppe));
         }
     }
 }
@@ -95,7 +93,7 @@ std::string_view folgeFürWert(Tabelle tabelle, int feld)
     case Tabelle::Diag:
         return finde(diagnosefolgen, diagnosefeldart(feld));
     default:
-        return feld == 1 ? "wird nicht gelesen, ein OK leert das Feld"_t : wirdGemeldet;
+        return feld == feld::kern::leer ? "wird nicht gelesen, ein OK leert das Feld"_t : wirdGemeldet;
     }
 }
 
@@ -121,20 +119,20 @@ void prüfeWerte(const Satzzeile& satz, Befundliste& befunde)
 
 void prüfeBitfeld(const Satzzeile& satz, Befundliste& befunde)
 {
-    const auto text = getrimmt(satz.feld(bitfeld));
+    const auto text = getrimmt(satz.feld(feld::diag::bitfeld));
     if (text.empty()) {
         return;
     }
     const auto bits = leseGanzzahl64(text);
     if (!bits) {
-        befunde.melde(Befundart::BitfeldKeineZahl, satz.ort(bitfeld), alsZitat(text));
+        befunde.melde(Befundart::BitfeldKeineZahl, satz.ort(feld::diag::bitfeld), alsZitat(text));
         return;
     }
     if (hatFremdeBits(*bits)) {
-        befunde.melde(Befundart::BitfeldFremd, satz.ort(bitfeld), alsZitat(text));
+        befunde.melde(Befundart::BitfeldFremd, satz.ort(feld::diag::bitfeld), alsZitat(text));
     }
     if (*bits < 0) {
-        befunde.melde(Befundart::BitfeldNegativ, satz.ort(bitfeld), alsZitat(text));
+        befunde.melde(Befundart::BitfeldNegativ, satz.ort(feld::diag::bitfeld), alsZitat(text));
     }
     prüfeFehlendeBits(satz, *bits, befunde);
 }

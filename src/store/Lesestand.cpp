@@ -4,6 +4,9 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 
 #include <algorithm>
@@ -59,10 +62,11 @@ std::int32_t leseSchlüssel(std::string_view zeile, int feld, int bits, const fs
 Zeilenschlüssel leseSchlüsselDerZeile(Tabelle tabelle, std::string_view zeile, const fs::path& pfad, std::size_t nummer)
 {
     if (tabelle == Tabelle::Kern) {
-        return {leseSchlüssel(zeile, 2, 16, pfad, nummer), 0};
+        return {leseSchlüssel(zeile, feld::kern::kernID, 16, pfad, nummer), 0};
     }
-    const auto kernID = leseSchlüssel(zeile, 1, 16, pfad, nummer);
-    return {kernID, leseSchlüssel(zeile, 2, 16, pfad, nummer)};
+    static_assert(feld::betr::kernID == feld::diag::kernID && feld::betr::betrID == feld::diag::betrID);
+    const auto kernID = leseSchlüssel(zeile, feld::betr::kernID, 16, pfad, nummer);
+    return {kernID, leseSchlüssel(zeile, feld::betr::betrID, 16, pfad, nummer)};
 }
 
 std::string Lesestand::get(Tabelle tabelle, const Satzschlüssel& schlüssel) const
@@ -100,7 +104,7 @@ std::int32_t Lesestand::höchsteKernID() const
 {
     std::int32_t höchste = 0;
     fürJedeZeile(Tabelle::Kern, [&](std::string_view zeile, std::size_t nummer) {
-        höchste = std::max(höchste, leseSchlüssel(zeile, 2, 32, m_pfade.kernDat, nummer));
+        höchste = std::max(höchste, leseSchlüssel(zeile, feld::kern::kernID, 32, m_pfade.kernDat, nummer));
     });
     return höchste;
 }
@@ -109,8 +113,8 @@ std::int32_t Lesestand::höchsteBetrID(std::int32_t kernID) const
 {
     std::int32_t höchste = 0;
     fürJedeZeile(Tabelle::Betr, [&](std::string_view zeile, std::size_t nummer) {
-        if (leseSchlüssel(zeile, 1, 16, m_pfade.betrDat, nummer) == kernID) {
-            höchste = std::max(höchste, leseSchlüssel(zeile, 2, 32, m_pfade.betrDat, nummer));
+        if (leseSchlüssel(zeile, feld::betr::kernID, 16, m_pfade.betrDat, nummer) == kernID) {
+            höchste = std::max(höchste, leseSchlüssel(zeile, feld::betr::betrID, 32, m_pfade.betrDat, nummer));
         }
     });
     return höchste;
@@ -120,8 +124,8 @@ std::string Lesestand::betrStatusVon(std::string_view kernID) const
 {
     std::string status;
     laufe(Tabelle::Betr, [&](std::string_view zeile, std::size_t) {
-        if (getFeld(zeile, 1) == kernID) {
-            status = getFeld(zeile, 4) == "offen"_t ? "o" : "a";
+        if (getFeld(zeile, feld::betr::kernID) == kernID) {
+            status = getFeld(zeile, feld::betr::ende) == "offen"_t ? "o" : "a";
         }
         return status != "o";
     });

@@ -4,6 +4,9 @@
 #include "platform/text/Eingabe.h"
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
+#include "satz/Klientenfelder.h"
 #include "store/Bezugspruefung.h"
 #include "store/Feldpruefung.h"
 #include "store/Restepruefung.h"
@@ -42,29 +45,29 @@ std::size_t prüfeTabelle(Dateien& dateien, const Bestandspfade& pfade, Tabelle 
 
 void prüfeKlientensatz(const Satzzeile& satz, Bezugsprüfung& bezüge, Befundliste& befunde)
 {
-    prüfeDatum(satz, 10, "unbekannt"_t, befunde);
-    if (const auto kernID = prüfeSchlüssel(satz, 2, befunde)) {
-        bezüge.nimmKlienten(satz.nummer, *kernID, satz.feld(3));
+    prüfeDatum(satz, feld::kern::geburtsdatum, "unbekannt"_t, befunde);
+    if (const auto kernID = prüfeSchlüssel(satz, feld::kern::kernID, befunde)) {
+        bezüge.nimmKlienten(satz.nummer, *kernID, satz.feld(feld::kern::betrao));
     }
 }
 
 void prüfeBetreuungssatz(const Satzzeile& satz, Bezugsprüfung& bezüge, Befundliste& befunde)
 {
     constexpr auto offen = "offen"_t;
-    const auto von = prüfeDatum(satz, 3, {}, befunde);
-    const auto bis = prüfeDatum(satz, 4, offen, befunde);
-    const auto kernID = prüfeSchlüssel(satz, 1, befunde);
-    const auto betrID = prüfeSchlüssel(satz, 2, befunde);
+    const auto von = prüfeDatum(satz, feld::betr::beginn, {}, befunde);
+    const auto bis = prüfeDatum(satz, feld::betr::ende, offen, befunde);
+    const auto kernID = prüfeSchlüssel(satz, feld::betr::kernID, befunde);
+    const auto betrID = prüfeSchlüssel(satz, feld::betr::betrID, befunde);
     if (kernID && betrID) {
-        bezüge.nimmBetreuung(satz.nummer, *kernID, *betrID, {von, bis, satz.feld(4) == offen});
+        bezüge.nimmBetreuung(satz.nummer, *kernID, *betrID, {von, bis, satz.feld(feld::betr::ende) == offen});
     }
 }
 
 void prüfeDiagnosesatz(const Satzzeile& satz, Bezugsprüfung& bezüge, Befundliste& befunde)
 {
     prüfeBitfeld(satz, befunde);
-    const auto kernID = prüfeSchlüssel(satz, 1, befunde);
-    const auto betrID = prüfeSchlüssel(satz, 2, befunde);
+    const auto kernID = prüfeSchlüssel(satz, feld::diag::kernID, befunde);
+    const auto betrID = prüfeSchlüssel(satz, feld::diag::betrID, befunde);
     if (kernID && betrID) {
         bezüge.nimmDiagnose(satz.nummer, *kernID, *betrID);
     }

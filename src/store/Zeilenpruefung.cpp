@@ -3,7 +3,9 @@
 #include "platform/dateien/Zeilen.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
-#include "satz/Satzaufbau.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
+#include "satz/Klientenfelder.h"
 #include "store/Bruchstuecke.h"
 
 #include <algorithm>
@@ -24,11 +26,11 @@ Zeilenform formVon(Tabelle tabelle)
 {
     switch (tabelle) {
     case Tabelle::Betr:
-        return {betreuungsfelder().size(), 192};
+        return {feld::betr::anzahl, feld::betr::memo};
     case Tabelle::Diag:
-        return {diagnosefelder().size(), 0};
+        return {feld::diag::anzahl, 0};
     default:
-        return {klientenfelder().size(), 11};
+        return {feld::kern::anzahl, feld::kern::memo};
     }
 }
 
@@ -64,7 +66,8 @@ Zeichenart artVon(char zeichen)
 bool istErlaubt(const Satzzeile& satz, int feld, char zeichen)
 {
     return (zeichen == '\t' && feld == formVon(satz.tabelle).memofeld) ||
-           (zeichen == '\0' && satz.tabelle == Tabelle::Kern && feld == 3 && satz.feld(feld).size() == 1);
+           (zeichen == '\0' && satz.tabelle == Tabelle::Kern && feld == feld::kern::betrao &&
+            satz.feld(feld).size() == 1);
 }
 
 /// Each field is told once, by its first character that is not in order.

@@ -4,6 +4,8 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 #include "store/Vorgang.h"
 
@@ -11,7 +13,6 @@
 
 namespace {
 
-constexpr int statusfeld = 3;
 constexpr char offen = 'o';
 constexpr char abgeschlossen = 'a';
 constexpr char ohneBetreuung = '\0';
@@ -33,13 +34,13 @@ Statustafel statusAusBetreuungen(std::string_view betreuungen)
     Statustafel tafel;
     Zeilen zeilen(betreuungen);
     while (const auto zeile = zeilen.nächste()) {
-        const auto kernID = nummerIn(*zeile, 1);
+        const auto kernID = nummerIn(*zeile, feld::betr::kernID);
         if (!kernID) {
             continue;
         }
         auto& status = tafel[*kernID];
         if (status != offen) {
-            status = getFeld(*zeile, 4) == "offen"_t ? offen : abgeschlossen;
+            status = getFeld(*zeile, feld::betr::ende) == "offen"_t ? offen : abgeschlossen;
         }
     }
     return tafel;
@@ -47,12 +48,12 @@ Statustafel statusAusBetreuungen(std::string_view betreuungen)
 
 std::string mitStatus(std::string_view zeile, const Statustafel& tafel)
 {
-    const auto kernID = nummerIn(zeile, 2);
-    if (!kernID || anzahlFelder(zeile) < statusfeld) {
+    const auto kernID = nummerIn(zeile, feld::kern::kernID);
+    if (!kernID || anzahlFelder(zeile) < feld::kern::betrao) {
         return std::string(zeile);
     }
     const auto ort = tafel.find(*kernID);
-    return ersetzeFeld(zeile, statusfeld, verbinde(ort == tafel.end() ? ohneBetreuung : ort->second));
+    return ersetzeFeld(zeile, feld::kern::betrao, verbinde(ort == tafel.end() ? ohneBetreuung : ort->second));
 }
 
 std::string mitStatusAller(std::string_view klienten, const Statustafel& tafel)

@@ -3,6 +3,8 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 #include "store/Vorgang.h"
 
@@ -18,9 +20,9 @@ struct Datumsfeldstelle {
     std::string_view ausnahme;
 };
 
-constexpr Datumsfeldstelle klientendaten[] = {{10, "unbekannt"_t}};
+constexpr Datumsfeldstelle klientendaten[] = {{feld::kern::geburtsdatum, "unbekannt"_t}};
 /// The begin of an episode has no text that stands for no date.
-constexpr Datumsfeldstelle betreuungsdaten[] = {{3, {}}, {4, "offen"_t}};
+constexpr Datumsfeldstelle betreuungsdaten[] = {{feld::betr::beginn, {}}, {feld::betr::ende, "offen"_t}};
 
 /// Where the year begins: behind the last point, at the start without one.
 std::size_t jahresanfang(std::string_view datum)

@@ -2,6 +2,7 @@
 
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Betreuungsfelder.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
@@ -29,18 +30,16 @@ struct Fundstelle {
 /// The first date of the client's episodes that can't be read.
 std::optional<Fundstelle> unlesbaresDatum(std::int32_t kernID)
 {
-    constexpr int feldBeginn = 3;
-    constexpr int feldEnde = 4;
     const auto& bestand = zustand().bestand;
     const auto& pfad = bestand.pfade().betrDat;
     std::optional<Fundstelle> gefunden;
     bestand.laufe(Tabelle::Betr, [&](std::string_view zeile, std::size_t nummer) {
-        if (leseSchlüssel(zeile, 1, 16, pfad, nummer) != kernID) {
+        if (leseSchlüssel(zeile, feld::betr::kernID, 16, pfad, nummer) != kernID) {
             return true;
         }
-        for (const int feld : {feldBeginn, feldEnde}) {
+        for (const int feld : {feld::betr::beginn, feld::betr::ende}) {
             const auto datum = getFeld(zeile, feld);
-            const bool istOffen = feld == feldEnde && datum == "offen"_t;
+            const bool istOffen = feld == feld::betr::ende && datum == "offen"_t;
             if (!gefunden && !istOffen && !istLesbaresDatum(datum)) {
                 gefunden = Fundstelle{ortsangabe(pfad, nummer), feld};
             }

@@ -56,6 +56,5 @@ Antwort zeigeMeldung(std::string_view text, Symbol symbol, Knöpfe knöpfe, Antw
 
 std::string ladeResText(int nummer)
 {
-    const auto* text = zustand().ressourcen.finde(nummer);
-    return text == nullptr ? std::string("<leer>") : *text;
+    return zustand().ressourcen.finde(nummer).value_or("<leer>");
 }

@@ -2,6 +2,7 @@
 #include "export/Exportsaetze.h"
 #include "hilfen/Testumgebung.h"
 
+#include "satz/Diagnosefelder.h"
 #include "satz/moData.h"
 
 #include <algorithm>
@@ -51,38 +52,40 @@ TEST_F(DiagnosezeileTest, LeererSatz)
 
 TEST_F(DiagnosezeileTest, LeerePolytoxikomanieIstEinFehlgriff)
 {
-    const auto text = zeile({{diagnosefeld(20, riskant), "ja"}}, {{156, ""}});
+    const auto text = zeile({{feld::diag::antwort(20, riskant), "ja"}}, {{156, ""}});
     EXPECT_EQ(spalte(text, 124), "2");
     EXPECT_EQ(meldungen(), Texte{fehlerHier});
 }
 
 TEST_F(DiagnosezeileTest, AntwortKenntNurEineSchreibung)
 {
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(1, riskant), "k.A."}}), 9), "0");
+    EXPECT_EQ(spalte(zeile({{feld::diag::antwort(1, riskant), "k.A."}}), 9), "0");
     EXPECT_EQ(meldungen(), Texte{});
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(1, zusatz), "21"}, {diagnosefeld(1, riskant), "K.A."}}), 9), "21");
+    EXPECT_EQ(spalte(zeile({{feld::diag::antwort(1, zusatz), "21"}, {feld::diag::antwort(1, riskant), "K.A."}}), 9),
+              "21");
     EXPECT_EQ(meldungen(), Texte{fehlerHier});
 }
 
 TEST_F(DiagnosezeileTest, Zusatzziffern)
 {
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(1, zusatz), "21 (Abstinent)"}}), 7), "21");
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(1, zusatz), "k.A."}}), 7), "0");
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(1, zusatz), "0"}}), 7), "0");
+    EXPECT_EQ(spalte(zeile({{feld::diag::antwort(1, zusatz), "21 (Abstinent)"}}), 7), "21");
+    EXPECT_EQ(spalte(zeile({{feld::diag::antwort(1, zusatz), "k.A."}}), 7), "0");
+    EXPECT_EQ(spalte(zeile({{feld::diag::antwort(1, zusatz), "0"}}), 7), "0");
     EXPECT_EQ(meldungen(), Texte{});
-    const auto text = zeile({{diagnosefeld(1, konsumart), "Injektion"}, {4, "5"}, {diagnosefeld(1, zusatz), "12"}});
+    const auto text =
+        zeile({{feld::diag::antwort(1, konsumart), "Injektion"}, {4, "5"}, {feld::diag::antwort(1, zusatz), "12"}});
     EXPECT_EQ(spalte(text, 7), "1") << "days of consumption passed on are no working value";
     EXPECT_EQ(meldungen(), Texte{fehlerHier});
 }
 
 TEST_F(DiagnosezeileTest, Essstörung)
 {
-    const int feld = diagnosefeld(29, zusatz);
+    const int feld = feld::diag::antwort(29, zusatz);
     EXPECT_EQ(spalte(zeile({{feld, "0 (Anorexia nervosa)"}}), 157), "0");
     EXPECT_EQ(spalte(zeile({{feld, "k.A."}}), 157), "9");
     EXPECT_EQ(spalte(zeile({{feld, "8"}}), 157), "8");
     EXPECT_EQ(meldungen(), Texte{});
-    EXPECT_EQ(spalte(zeile({{feld, "6"}, {diagnosefeld(28, zusatz), "nein"}}), 157), "1");
+    EXPECT_EQ(spalte(zeile({{feld, "6"}, {feld::diag::antwort(28, zusatz), "nein"}}), 157), "1");
     EXPECT_EQ(meldungen(), Texte{fehlerHier});
 }
 
@@ -100,43 +103,54 @@ TEST_F(DiagnosezeileTest, Infektionen)
     EXPECT_EQ(spalte(zeile({}, {{158, "Getestet, positiv"}}), 175), "2");
     EXPECT_EQ(spalte(zeile({}, {{159, "Getestet, chronisch"}}), 176), "3");
     EXPECT_EQ(meldungen(), Texte{});
-    const auto text = zeile({{diagnosefeld(29, zusatz), "3"}, {235, "12.3"}}, {{157, "getestet"}});
+    const auto text = zeile({{feld::diag::antwort(29, zusatz), "3"}, {235, "12.3"}}, {{157, "getestet"}});
     EXPECT_EQ(spalte(text, 174), "3") << "the columns 158 to 173 don't count";
     EXPECT_EQ(meldungen(), Texte{fehlerHier});
 }
 
 TEST_F(DiagnosezeileTest, CodeDerHauptdiagnose)
 {
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(1, zusatz), "21"}, {diagnosefeld(1, haupt), "1"}}), 159), "102");
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(1, haupt), "1"}}), 159), "10");
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(1, zusatz), "k.A."}, {diagnosefeld(1, haupt), "1"}}), 159), "0");
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(22, zusatz), "k.A."}, {diagnosefeld(22, haupt), "1"}}), 159), "551");
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(29, zusatz), "5 (Erbrechen bei sonstigen psychischen Störungen)"_t},
-                            {diagnosefeld(29, haupt), "1"}}),
+    EXPECT_EQ(spalte(zeile({{feld::diag::antwort(1, zusatz), "21"}, {feld::diag::antwort(1, haupt), "1"}}), 159),
+              "102");
+    EXPECT_EQ(spalte(zeile({{feld::diag::antwort(1, haupt), "1"}}), 159), "10");
+    EXPECT_EQ(spalte(zeile({{feld::diag::antwort(1, zusatz), "k.A."}, {feld::diag::antwort(1, haupt), "1"}}), 159),
+              "0");
+    EXPECT_EQ(spalte(zeile({{feld::diag::antwort(22, zusatz), "k.A."}, {feld::diag::antwort(22, haupt), "1"}}), 159),
+              "551");
+    EXPECT_EQ(spalte(zeile({{feld::diag::antwort(29, zusatz), "5 (Erbrechen bei sonstigen psychischen Störungen)"_t},
+                            {feld::diag::antwort(29, haupt), "1"}}),
                      159),
               "505");
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(1, haupt), "ja"}}), 159), "0");
+    EXPECT_EQ(spalte(zeile({{feld::diag::antwort(1, haupt), "ja"}}), 159), "0");
     for (int gruppe = 24; gruppe <= 28; ++gruppe) {
-        EXPECT_EQ(spalte(zeile({{diagnosefeld(gruppe, zusatz), "k.A."}, {diagnosefeld(gruppe, haupt), "1"}}), 159),
-                  "630");
+        EXPECT_EQ(
+            spalte(zeile({{feld::diag::antwort(gruppe, zusatz), "k.A."}, {feld::diag::antwort(gruppe, haupt), "1"}}),
+                   159),
+            "630");
     }
 }
 
 TEST_F(DiagnosezeileTest, AlterBeimErstkonsumDerHauptdiagnose)
 {
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(3, alterErstkonsum), "14"}, {diagnosefeld(3, haupt), "1"}}), 160), "14");
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(3, alterErstkonsum), "k.A."}, {diagnosefeld(3, haupt), "1"}}), 160), "0");
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(3, alterErstkonsum), "  "}, {diagnosefeld(3, haupt), "1"}}), 160), "0");
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(3, alterErstkonsum), "14"}}), 160), "0");
+    EXPECT_EQ(
+        spalte(zeile({{feld::diag::antwort(3, alterErstkonsum), "14"}, {feld::diag::antwort(3, haupt), "1"}}), 160),
+        "14");
+    EXPECT_EQ(
+        spalte(zeile({{feld::diag::antwort(3, alterErstkonsum), "k.A."}, {feld::diag::antwort(3, haupt), "1"}}), 160),
+        "0");
+    EXPECT_EQ(
+        spalte(zeile({{feld::diag::antwort(3, alterErstkonsum), "  "}, {feld::diag::antwort(3, haupt), "1"}}), 160),
+        "0");
+    EXPECT_EQ(spalte(zeile({{feld::diag::antwort(3, alterErstkonsum), "14"}}), 160), "0");
 }
 
 TEST_F(DiagnosezeileTest, ZweiHauptdiagnosenCodeDerErstenAlterDerLetzten)
 {
-    const auto text = zeile({{diagnosefeld(2, haupt), "1"},
-                             {diagnosefeld(2, zusatz), "10"},
-                             {diagnosefeld(2, alterErstkonsum), "14"},
-                             {diagnosefeld(18, haupt), "1"},
-                             {diagnosefeld(18, alterErstkonsum), "20"}});
+    const auto text = zeile({{feld::diag::antwort(2, haupt), "1"},
+                             {feld::diag::antwort(2, zusatz), "10"},
+                             {feld::diag::antwort(2, alterErstkonsum), "14"},
+                             {feld::diag::antwort(18, haupt), "1"},
+                             {feld::diag::antwort(18, alterErstkonsum), "20"}});
     EXPECT_EQ(spalte(text, 159), "111");
     EXPECT_EQ(spalte(text, 160), "20");
 }
@@ -154,7 +168,7 @@ TEST_F(DiagnosezeileTest, WeitereDiagnosen)
 
 TEST_F(DiagnosezeileTest, ErsterFehlgriffTrägtNichts)
 {
-    EXPECT_EQ(spalte(zeile({{diagnosefeld(1, konsumart), "Trinken"}}), 4), "");
+    EXPECT_EQ(spalte(zeile({{feld::diag::antwort(1, konsumart), "Trinken"}}), 4), "");
     EXPECT_EQ(meldungen(), Texte{fehlerHier});
 }
 

@@ -46,14 +46,13 @@ std::string mitNeuenTexten(std::string satz, const std::array<std::string, 2>& a
 {
     for (std::size_t n = 0; n < betreuungsfelder().size(); ++n) {
         const auto& feld = betreuungsfelder()[n];
-        if (feld.werte.empty() || feld.quelle.empty()) {
+        if (feld.werte.empty() || feld.blatt == 0) {
             continue;
         }
-        const std::size_t zeile = feld.quelle.front() == 'K' ? 0 : 1;
-        const int nummer = std::stoi(feld.quelle.substr(1));
-        const std::string code = spalte(abgenommen[zeile], nummer);
+        const std::size_t zeile = feld.blatt == 'K' ? 0 : 1;
+        const std::string code = spalte(abgenommen[zeile], feld.spalte);
         const auto* text = werte::textZu(feld.werte, code);
-        if (spalte(neu[zeile], nummer) != code && text != nullptr) {
+        if (spalte(neu[zeile], feld.spalte) != code && text != nullptr) {
             satz = mitFeldern(satz, {{static_cast<int>(n) + 1, *text}});
         }
     }

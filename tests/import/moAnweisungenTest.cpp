@@ -20,10 +20,10 @@ protected:
         registriereAnweisungen(lauf.stand.ressourcen);
     }
 
-    std::string ergebnis(int erste, int zeile, std::string_view wert) const
+    static std::string ergebnis(const std::vector<Feldanweisung>& anweisungen, int zeile, std::string_view wert)
     {
         std::string ablage;
-        return std::string(schlageNach(ladeAnweisungen(erste).at(static_cast<std::size_t>(zeile - 1)), wert, ablage));
+        return std::string(schlageNach(anweisungen.at(static_cast<std::size_t>(zeile - 1)), wert, ablage));
     }
 
     Testlauf lauf;
@@ -31,8 +31,8 @@ protected:
 
 TEST_F(moAnweisungenTest, AlleZeilen)
 {
-    EXPECT_EQ(ladeResText(betreuungsanweisungen), "192");
-    EXPECT_EQ(ladeResText(diagnoseanweisungen), "247");
+    EXPECT_EQ(ladeResText(ressourceBetreuungsanweisungen), "192");
+    EXPECT_EQ(ladeResText(ressourceDiagnoseanweisungen), "247");
     std::string ausgabe;
     const auto drucke = [&](int erste, int anzahl) {
         for (int nummer = erste + 1; nummer <= erste + anzahl; ++nummer) {
@@ -41,8 +41,8 @@ TEST_F(moAnweisungenTest, AlleZeilen)
             ausgabe += std::to_string(nummer) + " " + zeile.substr(0, zeile.find_last_not_of(trenner) + 1) + "\n";
         }
     };
-    drucke(betreuungsanweisungen, 192);
-    drucke(diagnoseanweisungen, 247);
+    drucke(ressourceBetreuungsanweisungen, 192);
+    drucke(ressourceDiagnoseanweisungen, 247);
     vergleicheMitAbnahme("import/anweisungen.txt", ausgabe);
     EXPECT_EQ(ladeResText(4193), "<leer>");
     EXPECT_EQ(ladeResText(5248), "<leer>");
@@ -50,43 +50,43 @@ TEST_F(moAnweisungenTest, AlleZeilen)
 
 TEST_F(moAnweisungenTest, KurzesJaNein)
 {
-    EXPECT_EQ(ergebnis(betreuungsanweisungen, 5, "0"), "k.A.");
-    EXPECT_EQ(ergebnis(betreuungsanweisungen, 5, ""), "");
-    EXPECT_EQ(ergebnis(betreuungsanweisungen, 5, "7"), "'7' nicht gefunden");
+    EXPECT_EQ(ergebnis(betreuungsanweisungen(), 5, "0"), "k.A.");
+    EXPECT_EQ(ergebnis(betreuungsanweisungen(), 5, ""), "");
+    EXPECT_EQ(ergebnis(betreuungsanweisungen(), 5, "7"), "'7' nicht gefunden");
 }
 
 TEST_F(moAnweisungenTest, GrundDerBetreuungKenntDenLeerenCode)
 {
-    EXPECT_EQ(ergebnis(betreuungsanweisungen, 6, ""), "keine Angaben");
-    EXPECT_EQ(ergebnis(betreuungsanweisungen, 6, "0"), "keine Angaben");
-    EXPECT_EQ(ergebnis(betreuungsanweisungen, 6, "3"), "Sonstiges");
+    EXPECT_EQ(ergebnis(betreuungsanweisungen(), 6, ""), "keine Angaben");
+    EXPECT_EQ(ergebnis(betreuungsanweisungen(), 6, "0"), "keine Angaben");
+    EXPECT_EQ(ergebnis(betreuungsanweisungen(), 6, "3"), "Sonstiges");
 }
 
 TEST_F(moAnweisungenTest, SchuldenBehaltenIhrenVerschreiber)
 {
-    EXPECT_EQ(ergebnis(betreuungsanweisungen, 149, "2"), "bis10.000 €"_t);
-    EXPECT_EQ(ergebnis(betreuungsanweisungen, 149, "3"), "bis 25.000 €"_t);
+    EXPECT_EQ(ergebnis(betreuungsanweisungen(), 149, "2"), "bis10.000 €"_t);
+    EXPECT_EQ(ergebnis(betreuungsanweisungen(), 149, "3"), "bis 25.000 €"_t);
 }
 
 TEST_F(moAnweisungenTest, Infektionen)
 {
-    EXPECT_EQ(ergebnis(betreuungsanweisungen, 157, "0"), "keine Angaben");
-    EXPECT_EQ(ergebnis(betreuungsanweisungen, 159, "4"), "Status unbekannt");
+    EXPECT_EQ(ergebnis(betreuungsanweisungen(), 157, "0"), "keine Angaben");
+    EXPECT_EQ(ergebnis(betreuungsanweisungen(), 159, "4"), "Status unbekannt");
 }
 
 TEST_F(moAnweisungenTest, Substanzgruppe)
 {
-    EXPECT_EQ(ergebnis(diagnoseanweisungen, 3, "0"), "");
-    EXPECT_EQ(ergebnis(diagnoseanweisungen, 3, "5"), "Andere Arten");
-    EXPECT_EQ(ergebnis(diagnoseanweisungen, 6, ""), "");
-    EXPECT_EQ(ergebnis(diagnoseanweisungen, 6, "21"), "21");
-    EXPECT_EQ(ergebnis(diagnoseanweisungen, 6, "0"), "0");
-    EXPECT_EQ(ergebnis(diagnoseanweisungen, 8, "0"), "k.A.");
+    EXPECT_EQ(ergebnis(diagnoseanweisungen(), 3, "0"), "");
+    EXPECT_EQ(ergebnis(diagnoseanweisungen(), 3, "5"), "Andere Arten");
+    EXPECT_EQ(ergebnis(diagnoseanweisungen(), 6, ""), "");
+    EXPECT_EQ(ergebnis(diagnoseanweisungen(), 6, "21"), "21");
+    EXPECT_EQ(ergebnis(diagnoseanweisungen(), 6, "0"), "0");
+    EXPECT_EQ(ergebnis(diagnoseanweisungen(), 8, "0"), "k.A.");
 }
 
 TEST_F(moAnweisungenTest, Hauptdiagnose)
 {
-    const auto tabelle = ladeAnweisungen(diagnoseanweisungen);
+    const auto tabelle = diagnoseanweisungen();
     const auto gruppenMit = [&](std::string_view code) {
         std::vector<int> gruppen;
         for (int gruppe = 1; gruppe <= 29; ++gruppe) {
@@ -115,7 +115,7 @@ TEST_F(moAnweisungenTest, Hauptdiagnose)
 
 TEST_F(moAnweisungenTest, SonstUndText)
 {
-    const Feldanweisung anweisung{'K', 1, Feldanweisungsart::Option, {{"a", "1"}, {"<text>", "<sonst>"}, {"b", "2"}}};
+    const Feldanweisung anweisung{'K', 1, Feldart::option, {{"a", "1"}, {"<text>", "<sonst>"}, {"b", "2"}}};
     std::string ablage;
     EXPECT_EQ(schlageNach(anweisung, "1", ablage), "a");
     EXPECT_EQ(schlageNach(anweisung, "2", ablage), "2") << "<sonst> closes the list";

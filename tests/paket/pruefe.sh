@@ -32,6 +32,12 @@ metadaten() {
     local teilen=$werk/wurzel/usr/share
     erwarte "the desktop entry is valid" desktop-file-validate "$teilen/applications/tolvek7.desktop"
     erwarte "the AppStream data are valid" appstreamcli validate --no-net "$teilen"/metainfo/*.xml
+    local bilder
+    bilder=$(sed -nE 's|.*<image type="source">https://[^<]*/bilder/([^<]*)</image>.*|\1|p' "$teilen"/metainfo/*.xml)
+    erwarte "the AppStream data show pictures" test -n "$bilder"
+    for bild in $bilder; do
+        erwarte "the picture $bild is one of the handbook's" test -f "$teilen/tolvek7/Handbuch/bilder/$bild"
+    done
     for groesse in 16 22 24 32 48 64 128 256 512; do
         erwarte "the icon has $groesse pixels" \
             grep -q "PNG image data, $groesse x $groesse," <(file "$teilen/icons/hicolor/${groesse}x$groesse/apps/tolvek7.png")

@@ -1,6 +1,9 @@
 #include "satz/Satzaufbau.h"
 #include "hilfen/Abnahme.h"
 #include "hilfen/Testumgebung.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 
 #include <map>
@@ -49,6 +52,12 @@ const std::map<std::string, Werteliste>& wertelisten()
     return listen;
 }
 
+/// "K16", "D124"; empty for a field that is not exported.
+std::string quelle(const Satzfeld& feld)
+{
+    return feld.blatt == 0 ? std::string() : feld.blatt + std::to_string(feld.spalte);
+}
+
 template <class Wert, class Gleich>
 std::string nameVon(const std::map<std::string, Wert>& namen, const Gleich& istGemeint)
 {
@@ -68,7 +77,7 @@ void prüfeGegenListe(const std::vector<Satzfeld>& felder, const std::string& da
         EXPECT_FALSE(art.empty()) << datei << ": the test has no name for the kind of field " << i + 1;
         EXPECT_EQ(liste.empty(), feld.werte.empty())
             << datei << ": the test has no name for the list of field " << i + 1;
-        text += verbinde(std::to_string(i + 1), ';', feld.name, ';', feld.quelle, ';', art, ';', liste, ';',
+        text += verbinde(std::to_string(i + 1), ';', feld.name, ';', quelle(feld), ';', art, ';', liste, ';',
                          feld.vorgabe, '\n');
     }
     vergleicheMitAbnahme("satz/" + datei, text);
@@ -105,11 +114,11 @@ TEST(Wertelisten, RegelnAllerListen)
         std::set<std::string_view> codes;
         for (const auto& paar : liste) {
             EXPECT_TRUE(texte.insert(paar.text).second) << name << ": text twice: " << paar.text;
-            EXPECT_TRUE(codes.insert(paar.code).second) << name << ": code twice: " << paar.code;
+            EXPECT_EQ(codes.insert(paar.code).second, !paar.frühere) << name << ": code twice: " << paar.code;
             EXPECT_EQ(paar.text.find(trenner), std::string_view::npos) << name << ": delimiter in: " << paar.text;
             EXPECT_EQ(paar.text, getrimmt(paar.text)) << name << ": blanks around: " << paar.text;
             EXPECT_EQ(*werte::codeZu(liste, paar.text), paar.code) << name;
-            EXPECT_EQ(*werte::textZu(liste, paar.code), paar.text) << name;
+            EXPECT_EQ(*werte::textZu(liste, paar.code) == paar.text, !paar.frühere) << name;
         }
         EXPECT_EQ(werte::codeZu(liste, "gibt es nicht"_t), nullptr) << name;
         EXPECT_EQ(werte::textZu(liste, "77"_t), nullptr) << name;
@@ -155,6 +164,38 @@ TEST(Satzaufbau, NamenFindenFelder)
     EXPECT_EQ(betreuungsfeld(""_t), 0);
 }
 
+/// The names of positions and the table are one thing; these are what the records of a facility hold.
+TEST(Satzaufbau, StellenHeißenWieImSatz)
+{
+    EXPECT_EQ(feld::kern::kernID, 2);
+    EXPECT_EQ(feld::kern::geburtsdatum, 10);
+    EXPECT_EQ(feld::kern::anzahl, 11);
+    EXPECT_EQ(feld::betr::beginn, 3);
+    EXPECT_EQ(feld::betr::ende, 4);
+    EXPECT_EQ(feld::betr::migrant + 1, betreuungsfeld("Migrant2"_t));
+    EXPECT_EQ(feld::betr::kontakte, 164);
+    EXPECT_EQ(feld::betr::memo, 192);
+    EXPECT_EQ(feld::betr::anzahl, static_cast<int>(betreuungsfelder().size()));
+    EXPECT_EQ(feld::diag::weitere(12), 246);
+    EXPECT_EQ(feld::diag::bitfeld, 247);
+    EXPECT_EQ(feld::diag::anzahl, static_cast<int>(diagnosefelder().size()));
+    for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
+        EXPECT_EQ(feld::diag::gruppeVon(feld::diag::antwort(gruppe, HDMarke)), gruppe);
+        EXPECT_EQ(feld::diag::platzVon(feld::diag::antwort(gruppe, HDMarke)), HDMarke);
+    }
+}
+
+/// An older spelling is one row of its list: records that hold it are read and exported, nothing new gets it.
+TEST(Wertelisten, FrühereSchreibweiseWirdGelesenUndNichtAngeboten)
+{
+    constexpr std::array liste{Wertepaar{"keine Angaben"_t, "0"_t}, Wertepaar{"Führerschein"_t, "1"_t},
+                               Wertepaar{"Fuehrerschein"_t, "1"_t, true}};
+    EXPECT_EQ(*werte::codeZu(liste, "Fuehrerschein"_t), "1");
+    EXPECT_EQ(*werte::codeZu(liste, "Führerschein"_t), "1");
+    EXPECT_EQ(*werte::textZu(liste, "1"_t), "Führerschein"_t);
+    EXPECT_EQ(werte::texte(liste), (std::vector<std::string>{"keine Angaben", std::string("Führerschein"_t)}));
+}
+
 TEST(Satzaufbau, KlientenfelderInIhrerOrdnung)
 {
     const std::vector<std::string> namen{"",    "kernID", "betrao",     "Nachname",     "Vorname", "Strasse",
@@ -191,10 +232,10 @@ TEST(Vorgaben, DiagnoseHatNurTrenner)
 
 TEST(Satzaufbau, DiagnosefeldRechnetDieGruppen)
 {
-    EXPECT_EQ(diagnosefeld(1, 1), 3);
-    EXPECT_EQ(diagnosefeld(1, 8), 10);
-    EXPECT_EQ(diagnosefeld(24, 4), 190);
-    EXPECT_EQ(diagnosefeld(29, 8), 234);
+    EXPECT_EQ(feld::diag::antwort(1, 1), 3);
+    EXPECT_EQ(feld::diag::antwort(1, 8), 10);
+    EXPECT_EQ(feld::diag::antwort(24, 4), 190);
+    EXPECT_EQ(feld::diag::antwort(29, 8), 234);
 }
 
 } // namespace

@@ -19,7 +19,7 @@ TEST_F(Katalog, HatNeunundzwanzigGruppenUndEinenLeerenPlatz)
     EXPECT_EQ(aryProblem.size(), 30U);
     EXPECT_EQ(aryICD[0], "");
     EXPECT_EQ(aryProblem[0], "");
-    EXPECT_EQ(aryProblem.size() - 1, static_cast<std::size_t>(diagnosegruppen));
+    EXPECT_EQ(aryProblem.size() - 1, static_cast<std::size_t>(höchsteGruppe));
 }
 
 TEST_F(Katalog, GrenzenDerBereicheStehenFest)

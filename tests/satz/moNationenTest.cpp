@@ -16,7 +16,8 @@ TEST(moNationenTest, TabelleInDenRessourcen)
     EXPECT_EQ(*ressourcen.finde(1001), satz({"EGY", "Aegypten"}));
     EXPECT_EQ(*ressourcen.finde(1099), satz({"NPL", "Nepal"}));
     EXPECT_EQ(*ressourcen.finde(1165), satz({"YYY", "staatenlos"}));
-    EXPECT_EQ(ressourcen.finde(1166), nullptr);
+    EXPECT_EQ(ressourcen.finde(999), std::nullopt);
+    EXPECT_EQ(ressourcen.finde(1166), std::nullopt);
 }
 
 TEST(moNationenTest, JedeZeileGehtHinUndZurück)

@@ -1,4 +1,5 @@
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/moHelferlein.h"
 #include "spreadsheet/Mappenlauf.h"
 
 namespace {
@@ -162,9 +163,10 @@ TEST(SucheHDBlock, dieErsteGruppeMitEinsGilt)
         satzMit(247, {{10, "0"}, {18, "2"}, {19, "a"}, {20, "b"}, {25, "g"}, {26, "1"}, {34, "1"}});
     const HDBlock block = sucheHDBlock(zeile);
     EXPECT_EQ(block.gruppe, 3);
-    EXPECT_EQ(block.felder[0], "a");
-    EXPECT_EQ(block.felder[1], "b");
-    EXPECT_EQ(block.felder[6], "g");
+    EXPECT_EQ(getFeld(block.antworten, 1), "a");
+    EXPECT_EQ(getFeld(block.antworten, 2), "b");
+    EXPECT_EQ(getFeld(block.antworten, 7), "g");
+    EXPECT_EQ(anzahlFelder(block.antworten), 7);
 }
 
 TEST(SucheHDBlock, ersteUndLetzteGruppe)

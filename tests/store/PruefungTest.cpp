@@ -5,6 +5,7 @@
 #include "hilfen/Testumgebung.h"
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Diagnosefelder.h"
 #include "satz/Diagnosesatz.h"
 #include "satz/Satzaufbau.h"
 #include "satz/moHelferlein.h"
@@ -365,7 +366,7 @@ TEST_F(PruefungTest, WerteDerDiagnose)
           Fall{2, AlterStörung, "100"_t, false}, Fall{3, Riskant, "ja"_t, true}, Fall{3, Riskant, "2"_t, false},
           Fall{3, AlterErstkonsum, "x"_t, false}, Fall{3, HDMarke, "1"_t, true}, Fall{3, HDMarke, "2"_t, false},
           Fall{21, Konsumart, "Injektion"_t, false}, Fall{1, TageBeginn, "0"_t, true}}) {
-        const int feld = diagnosefeld(gruppe, platz);
+        const int feld = feld::diag::antwort(gruppe, platz);
         legeTabellen();
         diagnosen({mitDiagnose("1", {{feld, wert}})});
         erwarte(gut ? std::vector<Erwartet>{} : std::vector<Erwartet>{{WertUnbekannt, Tabelle::Diag, 1, feld}});
@@ -381,7 +382,7 @@ TEST_F(PruefungTest, WerteDerDiagnose)
 TEST_F(PruefungTest, Bitfeld)
 {
     constexpr int bitfeld = 247;
-    const auto belegt = diagnosefeld(3, TageBeginn);
+    const auto belegt = feld::diag::antwort(3, TageBeginn);
     legeTabellen();
     diagnosen({mitDiagnose("1", {{bitfeld, "viele"}})});
     erwarte({{BitfeldKeineZahl, Tabelle::Diag, 1, bitfeld}});

@@ -118,8 +118,10 @@ TEST(PrüfeComboWert, FalschesFeldBekommtDenFokus)
 TEST(LadeResText, FehlendeNummerIstLeerInKlammern)
 {
     Testlauf lauf;
-    lauf.stand.ressourcen.setze(1000, "165");
-    EXPECT_EQ(ladeResText(1000), "165");
+    lauf.stand.ressourcen.nimm({1000, 2, [](int zeile) { return "Zeile " + std::to_string(zeile); }});
+    EXPECT_EQ(ladeResText(1000), "2");
+    EXPECT_EQ(ladeResText(1002), "Zeile 2");
+    EXPECT_EQ(ladeResText(1003), "<leer>");
     EXPECT_EQ(ladeResText(999), "<leer>");
 }
 

@@ -6,7 +6,8 @@
 #include "platform/text/Datum.h"
 #include "platform/text/Ressourcen.h"
 #include "platform/text/Text.h"
-#include "satz/Satzaufbau.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
 #include "satz/moNationen.h"
 
 #include <array>
@@ -44,20 +45,9 @@ std::string datumstext(int tage)
     return alsDatumstext(ausTageszahl(tage));
 }
 
-std::vector<std::string> nationen()
-{
-    Ressourcen ressourcen;
-    registriereNationen(ressourcen);
-    std::vector<std::string> namen;
-    for (int i = 1001; const auto* zeile = ressourcen.finde(i); ++i) {
-        namen.push_back(zeile->substr(4));
-    }
-    return namen;
-}
-
 class Werkstatt {
 public:
-    explicit Werkstatt(std::uint64_t saat) : m_zufall(saat), m_nationen(nationen()) {}
+    explicit Werkstatt(std::uint64_t saat) : m_zufall(saat) {}
 
     Mustertabellen baue(const Mustervorgabe& vorgabe)
     {
@@ -68,7 +58,7 @@ public:
             int betreuung = 0;
             for (const auto& zeitraum : zeiträume) {
                 ++betreuung;
-                const int hauptdiagnose = m_zufall.trifft(80) ? m_zufall.zahl(1, diagnosegruppen) : 0;
+                const int hauptdiagnose = m_zufall.trifft(80) ? m_zufall.zahl(1, höchsteGruppe) : 0;
                 tabellen.betr.append(betreuungssatz(klient, betreuung, zeitraum, hauptdiagnose)).append("\r\n");
                 tabellen.diag.append(diagnosesatz(klient, betreuung, hauptdiagnose)).append("\r\n");
             }
@@ -113,7 +103,7 @@ private:
             verbinde(std::to_string(klient), trenner, std::to_string(betreuung), trenner, datumstext(zeitraum.von),
                      trenner, zeitraum.bis == 0 ? std::string("offen"_t) : datumstext(zeitraum.bis));
         const auto& alle = betreuungsfelder();
-        for (std::size_t i = 4; i < alle.size(); ++i) {
+        for (std::size_t i = feld::betr::ende; i < alle.size(); ++i) {
             satz.push_back(trenner);
             satz.append(wert(alle[i], zeitraum.bis != 0));
         }
@@ -134,7 +124,7 @@ private:
         case Feldart::zahl:
             return std::to_string(m_zufall.zahl(0, 12));
         case Feldart::nation:
-            return m_zufall.trifft(70) ? std::string("Deutschland"_t) : m_zufall.aus(m_nationen);
+            return m_zufall.trifft(70) ? std::string("Deutschland"_t) : std::string(m_zufall.aus(nationen()).name);
         case Feldart::hdOhne:
             return flagge(m_stelleHdOhne++ == m_hdOhne);
         case Feldart::ivKonsum:
@@ -157,22 +147,23 @@ private:
     std::string diagnosesatz(int klient, int betreuung, int hauptdiagnose)
     {
         std::vector<std::string> felder(diagnosefelder().size());
-        felder[0] = std::to_string(klient);
-        felder[1] = std::to_string(betreuung);
+        felder[feld::diag::kernID - 1] = std::to_string(klient);
+        felder[feld::diag::betrID - 1] = std::to_string(betreuung);
         std::int64_t bits = 0;
         const auto trageEin = [&](int gruppe) {
             füllePlätze(felder, gruppe);
             bits |= std::int64_t{1} << gruppe;
         };
         for (int i = m_zufall.zahl(0, 3); i > 0; --i) {
-            trageEin(m_zufall.zahl(1, diagnosegruppen));
+            trageEin(m_zufall.zahl(1, höchsteGruppe));
         }
         if (hauptdiagnose > 0) {
             trageEin(hauptdiagnose);
-            feldIn(felder, hauptdiagnose, 8) = "1";
+            feldIn(felder, hauptdiagnose, HDMarke) = "1";
         }
         if (m_zufall.trifft(20)) {
-            felder[234] = verbinde(std::to_string(m_zufall.zahl(20, 69)), '.', std::to_string(m_zufall.zahl(0, 9)));
+            felder[feld::diag::weitere(1) - 1] =
+                verbinde(std::to_string(m_zufall.zahl(20, 69)), '.', std::to_string(m_zufall.zahl(0, 9)));
         }
         felder.back() = bits == 0 ? std::string() : std::to_string(bits);
         std::string satz;
@@ -184,32 +175,31 @@ private:
 
     static std::string& feldIn(std::vector<std::string>& felder, int gruppe, int platz)
     {
-        return felder[static_cast<std::size_t>(diagnosefeld(gruppe, platz)) - 1];
+        return felder[static_cast<std::size_t>(feld::diag::antwort(gruppe, platz)) - 1];
     }
 
     /// Answers as the dialogue would have written them: what a group does not ask stays empty.
     void füllePlätze(std::vector<std::string>& felder, int gruppe)
     {
-        const bool substanz = gruppe <= 20;
-        const bool essstörung = gruppe == diagnosegruppen;
+        const bool substanz = istGruppe(gruppe, Gruppenart::Substanz);
+        const bool essstörung = istGruppe(gruppe, Gruppenart::Essstörung);
         const auto zahl = [&](int von, int bis) { return std::to_string(m_zufall.zahl(von, bis)); };
         if (substanz) {
-            feldIn(felder, gruppe, 1) = werte::konsumart[static_cast<std::size_t>(m_zufall.zahl(1, 5))].text;
-            feldIn(felder, gruppe, 6) = m_zufall.aus(janein);
+            feldIn(felder, gruppe, Konsumart) = werte::konsumart[static_cast<std::size_t>(m_zufall.zahl(1, 5))].text;
+            feldIn(felder, gruppe, Riskant) = m_zufall.aus(janein);
         }
         if (!essstörung) {
-            feldIn(felder, gruppe, 2) = zahl(0, 30);
-            feldIn(felder, gruppe, 3) = zahl(0, 30);
-            feldIn(felder, gruppe, 7) = zahl(10, 40);
+            feldIn(felder, gruppe, TageBeginn) = zahl(0, 30);
+            feldIn(felder, gruppe, TageEnde) = zahl(0, 30);
+            feldIn(felder, gruppe, AlterErstkonsum) = zahl(10, 40);
         }
-        feldIn(felder, gruppe, 4) = substanz     ? m_zufall.aus(icdGruppen1bis20)
-                                    : essstörung ? m_zufall.aus(icdGruppe29)
-                                                 : m_zufall.aus(janein);
-        feldIn(felder, gruppe, 5) = zahl(12, 60);
+        feldIn(felder, gruppe, ICDStelle4) = substanz     ? m_zufall.aus(icdGruppen1bis20)
+                                             : essstörung ? m_zufall.aus(icdGruppe29)
+                                                          : m_zufall.aus(janein);
+        feldIn(felder, gruppe, AlterStörung) = zahl(12, 60);
     }
 
     Zufall m_zufall;
-    std::vector<std::string> m_nationen;
     int m_hdOhne = 0;
     int m_ivKonsum = 0;
     int m_stelleHdOhne = 0;

@@ -1,35 +1,42 @@
 #pragma once
 
-#include "platform/mappe/Spaltenkarte.h"
 #include "platform/mappe/Zellwert.h"
 
+#include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <deque>
 #include <map>
-#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-/// How a text import takes the fields of a line.
-struct Importregeln {
+/// How the fields of a line become cells: one field a cell, except those that have none. No quoting rule.
+struct Feldplan {
     char trennzeichen = '\xB7';
-    std::vector<Zelltyp> spaltentypen; ///< by field; Allgemein behind the last one
+    Zelltyp typ = Zelltyp::Allgemein;
+    std::vector<int> ohneZelle; ///< fields from 1, ascending; what follows them moves left
+
+    /// The cell of the field, from 1, for a field that has one.
+    int zelleVon(int feld) const
+    {
+        return feld - static_cast<int>(std::ranges::lower_bound(ohneZelle, feld) - ohneZelle.begin());
+    }
 };
+
+/// One field a cell, of the general type.
+extern const Feldplan alleFelder;
 
 /// A sheet of the workbook. Rows and columns count from 1.
 ///
-/// Ten thousand care records are six million cells, so a cell is no object. A row holds the line of the
-/// table that was imported into it as one view, and single cells for what was written one by one; a field of
-/// the line is found when it is asked for, and becomes a number or a date only then. Deleting columns and
-/// ranges changes a map from columns to stored places (Spaltenkarte) and moves nothing; rows that were shifted
-/// alike share a map. A view must stay valid as long as the sheet: see Arbeitsmappe::halte.
+/// Ten thousand care records are six million cells, so a cell is no object. A row holds pieces: single cells, and
+/// parts of table lines as one view each, with a plan that tells which field stands where; a field is found when it
+/// is asked for, and becomes a number or a date only then. A view must stay valid as long as the sheet: see
+/// Arbeitsmappe::halte.
 class Blatt {
 public:
-    explicit Blatt(std::string_view name) : m_name(name), m_bänder(1) {}
+    explicit Blatt(std::string_view name) : m_name(name) {}
     Blatt(const Blatt&) = delete;
     Blatt& operator=(const Blatt&) = delete;
 
@@ -40,16 +47,15 @@ public:
     void setze(int zeile, int spalte, std::string_view text, Zelltyp typ = Zelltyp::Allgemein);
     /// Puts the text into the cell without copying it.
     void verweise(int zeile, int spalte, std::string_view text, Zelltyp typ = Zelltyp::Allgemein);
-    /// Puts each line of the text into a row, from the cell on, one field a cell. No quoting rule.
-    void importiereText(int zeile, int spalte, std::string_view inhalt, Importregeln regeln);
-    /// Splits the texts of the column, in the rows between the two, into columns from there on.
-    void textInSpalten(int vonZeile, int bisZeile, int spalte, char trennzeichen);
+    /// Keeps the plan for as long as the sheet lives.
+    const Feldplan& merke(Feldplan plan) { return m_pläne.emplace_back(std::move(plan)); }
+    /// Puts the fields of the line into the row, from the cell on, without copying them. The columns that it takes
+    /// belong to it: no single cell stands there.
+    void verweiseFelder(int zeile, int spalte, std::string_view text, const Feldplan& plan = alleFelder);
+    /// The same with a copy of the line.
+    void setzeFelder(int zeile, int spalte, std::string_view text, const Feldplan& plan);
 
-    void löscheSpalte(int spalte);
-    /// Deletes the cells of the range; what stands at its right moves left. The corners may come in any order.
-    void löscheBereich(int zeileA, int spalteA, int zeileB, int spalteB);
-
-    void kommentiere(int zeile, int spalte, std::string_view text);
+    void kommentiere(int zeile, int spalte, std::string_view text) { m_kommentare[{zeile, spalte}] = text; }
     void setzeFett(int zeile) { m_fett.insert(zeile); }
     /// Every column becomes as wide as its content.
     void passeSpaltenbreitenAn() { m_breitenAngepasst = true; }
@@ -71,119 +77,75 @@ public:
     int letzteKommentarzeile() const { return m_kommentare.empty() ? 0 : m_kommentare.rbegin()->first.first; }
 
 private:
-    struct Einzelzelle {
+    /// A single cell, or the fields of a line from a column on.
+    struct Stück {
         std::string_view text;
-        int ort = 0;
+        const Feldplan* plan = nullptr; ///< nullptr: a single cell
+        int spalte = 0;
         Zelltyp typ = Zelltyp::Allgemein;
     };
+    using Zeile = std::vector<Stück>; ///< by column
 
-    /// How the line of a row is split; shared by the rows of one import or one splitting.
-    struct Teilung {
-        Importregeln regeln;
-        Zelltyp sonst = Zelltyp::Allgemein;
-
-        Zelltyp typ(std::size_t feld) const
-        {
-            return feld < regeln.spaltentypen.size() ? regeln.spaltentypen[feld] : sonst;
-        }
-    };
-
-    struct Zeile {
-        std::string_view text;           ///< the line, split at its delimiter
-        std::vector<Einzelzelle> zellen; ///< by ort; they stand before the line's fields
-        int ort = 0;                     ///< stored place of the line's first field
-        std::uint32_t teilung = 0;
-    };
-
-    /// Rows from `vonZeile` to the next band, which share their map of columns.
-    struct Band {
-        int vonZeile = 1;
-        Spaltenkarte karte;
-    };
-
-    struct Fund {
-        std::string_view text;
-        Zelltyp typ = Zelltyp::Allgemein;
-    };
-
-    const Zeile* zeileWennDa(int zeile) const;
     Zeile& zeileFür(int zeile);
-    const Spaltenkarte& karte(int zeile) const;
-    void beginneBand(int zeile);
-    Fund suche(int zeile, int spalte) const;
-    Fund sucheFeld(const Zeile& z, int ort) const;
-    void teile(int zeile, int spalte, std::string_view text, std::uint32_t teilung);
-    void löseAuf(Zeile& z);
-    static void setzeEinzeln(Zeile& z, const Einzelzelle& zelle);
-    std::optional<int> spalteVon(int zeile, int ort) const;
-
-    /// Calls `tue(ort, text, typ)` for each stored cell of the row with a text, from left to right.
-    template <class F> void fürJedenOrt(const Zeile& z, F&& tue) const;
+    std::string_view kopie(std::string_view text) { return text.empty() ? text : m_eigeneTexte.emplace_back(text); }
+    static void füge(Zeile& z, const Stück& stück);
+    /// Calls `tue(spalte, text, typ)` for each cell of the piece.
+    template <class F> static void fürJedesFeld(const Stück& stück, F&& tue);
 
     std::string m_name;
     std::vector<Zeile> m_zeilen;
-    std::vector<Band> m_bänder;
-    std::vector<Teilung> m_teilungen;
+    std::deque<Feldplan> m_pläne;
     std::deque<std::string> m_eigeneTexte;
-    std::map<std::pair<int, int>, std::string> m_kommentare; ///< by row and stored place
+    std::map<std::pair<int, int>, std::string> m_kommentare; ///< by row and column
     std::set<int> m_fett;
     bool m_breitenAngepasst = false;
 };
 
-template <class F> void Blatt::fürJedenOrt(const Zeile& z, F&& tue) const
+template <class F> void Blatt::fürJedesFeld(const Stück& stück, F&& tue)
 {
-    auto einzeln = z.zellen.begin();
-    const auto gibEinzelneVor = [&](int ort) {
-        for (; einzeln != z.zellen.end() && einzeln->ort < ort; ++einzeln) {
-            tue(einzeln->ort, einzeln->text, einzeln->typ);
-        }
-    };
-    std::string_view rest = z.text;
-    const Teilung* teilung = rest.empty() ? nullptr : &m_teilungen[z.teilung];
-    for (std::size_t feld = 0; teilung != nullptr; ++feld) {
-        const std::size_t ende = rest.find(teilung->regeln.trennzeichen);
-        const int ort = z.ort + static_cast<int>(feld);
-        gibEinzelneVor(ort);
-        const bool ersetzt = einzeln != z.zellen.end() && einzeln->ort == ort;
-        if (!ersetzt && ende != 0 && !rest.empty()) {
-            tue(ort, rest.substr(0, ende), teilung->typ(feld));
+    if (stück.plan == nullptr) {
+        tue(stück.spalte, stück.text, stück.typ);
+        return;
+    }
+    auto ohne = stück.plan->ohneZelle.begin();
+    std::string_view rest = stück.text;
+    int spalte = stück.spalte;
+    for (int feld = 1;; ++feld) {
+        const auto ende = rest.find(stück.plan->trennzeichen);
+        if (ohne != stück.plan->ohneZelle.end() && *ohne == feld) {
+            ++ohne;
+        } else {
+            tue(spalte++, rest.substr(0, ende), stück.plan->typ);
         }
         if (ende == std::string_view::npos) {
-            break;
+            return;
         }
         rest.remove_prefix(ende + 1);
     }
-    gibEinzelneVor(INT32_MAX);
 }
 
 template <class F> void Blatt::fürJedeZelle(int zeile, F&& tue) const
 {
-    const Zeile* z = zeileWennDa(zeile);
-    if (z == nullptr) {
+    if (static_cast<std::size_t>(zeile - 1) >= m_zeilen.size()) {
         return;
     }
-    const Spaltenkarte& k = karte(zeile);
-    int spalte = 1;
-    fürJedenOrt(*z, [&](int ort, std::string_view text, Zelltyp typ) {
-        while (k.ort(spalte) < ort) {
-            ++spalte;
-        }
-        if (k.ort(spalte) != ort) {
-            return;
-        }
-        const Zellwert wert = leseZelle(text, typ);
-        if (wert.art != Zellart::Leer) {
-            tue(spalte, wert);
-        }
-    });
+    for (const auto& stück : m_zeilen[static_cast<std::size_t>(zeile - 1)]) {
+        fürJedesFeld(stück, [&](int spalte, std::string_view text, Zelltyp typ) {
+            if (text.empty()) {
+                return;
+            }
+            const Zellwert wert = leseZelle(text, typ);
+            if (wert.art != Zellart::Leer) {
+                tue(spalte, wert);
+            }
+        });
+    }
 }
 
 template <class F> void Blatt::fürJedenKommentar(int zeile, F&& tue) const
 {
     for (auto ort = m_kommentare.lower_bound({zeile, 0}); ort != m_kommentare.end() && ort->first.first == zeile;
          ++ort) {
-        if (const auto spalte = spalteVon(zeile, ort->first.second)) {
-            tue(*spalte, ort->second);
-        }
+        tue(ort->first.second, ort->second);
     }
 }

@@ -1,21 +1,37 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
-#include <unordered_map>
+#include <utility>
+#include <vector>
 
-/// The program's string resources: constant texts by number (code page). The subsystems put their tables
-/// in at start.
+/// Rows that have a text each: entry `erste` of the string resources is their number, row n (from 1) the n-th behind
+/// it.
+struct Texttabelle {
+    int erste = 0;
+    int zeilen = 0;
+    std::function<std::string(int zeile)> text;
+};
+
+/// The program's string resources: texts by number (code page). The subsystems put their tables in at start; the rows
+/// stay what they are, and a text is made of them when somebody asks for it.
 class Ressourcen {
 public:
-    void setze(int nummer, std::string text) { m_texte.insert_or_assign(nummer, std::move(text)); }
+    void nimm(Texttabelle tabelle) { m_tabellen.push_back(std::move(tabelle)); }
 
-    /// The text with the number, or nothing (nullptr) when there is none.
-    const std::string* finde(int nummer) const
+    /// The text with the number, or nothing when there is none.
+    std::optional<std::string> finde(int nummer) const
     {
-        const auto ort = m_texte.find(nummer);
-        return ort == m_texte.end() ? nullptr : &ort->second;
+        for (const auto& tabelle : m_tabellen) {
+            const int zeile = nummer - tabelle.erste;
+            if (zeile >= 0 && zeile <= tabelle.zeilen) {
+                return zeile == 0 ? std::to_string(tabelle.zeilen) : tabelle.text(zeile);
+            }
+        }
+        return std::nullopt;
     }
 
 private:
-    std::unordered_map<int, std::string> m_texte;
+    std::vector<Texttabelle> m_tabellen;
 };

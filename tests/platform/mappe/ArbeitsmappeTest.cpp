@@ -53,7 +53,7 @@ TEST(Arbeitsmappe, hältWasIhreZellenBrauchen)
         Arbeitsmappe mappe;
         const auto inhalt = std::make_shared<std::string>("a;b");
         beobachtet = inhalt;
-        mappe.blatt(1).importiereText(1, 1, *inhalt, {';', {}});
+        mappe.blatt(1).verweiseFelder(1, 1, *inhalt);
         mappe.halte(inhalt);
     }
     EXPECT_TRUE(beobachtet.expired());

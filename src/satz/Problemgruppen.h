@@ -1,0 +1,104 @@
+#pragma once
+
+#include "satz/Satzaufbau.h"
+#include "satz/moData.h"
+
+#include <array>
+#include <cstddef>
+
+// The kinds of problem areas: which groups of the catalogue ask what, and where it goes in the export. Dialogue, record
+// table, export, import and workbook read it here.
+
+enum class Gruppenart { Substanz, MissbrauchOderSpiel, Essstörung };
+
+/// Answers of a block, as the record orders them.
+enum Blockfeld { Konsumart = 1, TageBeginn, TageEnde, ICDStelle4, AlterStörung, Riskant, AlterErstkonsum, HDMarke };
+
+/// One of the eight fields of a block.
+struct Blockfrage {
+    Feldart art = Feldart::leer;
+    const Werteliste* werte = nullptr;
+    bool gefragt = false; ///< a person can answer it
+    bool eigeneSpalte = false;
+};
+
+namespace problemgruppen {
+
+/// A question with a column of its own in each group.
+constexpr Blockfrage option(const Werteliste& werte)
+{
+    return {Feldart::option, &werte, true, true};
+}
+inline constexpr Blockfrage zahl{Feldart::zahl, nullptr, true, true};
+inline constexpr Blockfrage nichts{};
+/// One column for all groups: they are answers of the main diagnosis.
+inline constexpr Blockfrage erstkonsum{Feldart::hdAlter, nullptr, true, false};
+/// The import fills it, nobody is asked.
+inline constexpr Blockfrage erstkonsumUngefragt{Feldart::hdAlter, nullptr, false, false};
+inline constexpr Blockfrage marke{Feldart::icd0000, nullptr, true, false};
+
+} // namespace problemgruppen
+
+/// The groups from one to another, which ask the same.
+struct Gruppenreihe {
+    Gruppenart art;
+    int von;
+    int bis;
+    int ersteSpalte; ///< in the diagnosis row; group by group each question with a column of its own takes one
+    std::array<Blockfrage, felderJeGruppe> fragen;
+
+    constexpr const Blockfrage& frage(int platz) const { return fragen[static_cast<std::size_t>(platz - 1)]; }
+    constexpr int spaltenJeGruppe() const
+    {
+        int anzahl = 0;
+        for (const auto& frage : fragen) {
+            anzahl += frage.eigeneSpalte ? 1 : 0;
+        }
+        return anzahl;
+    }
+};
+
+inline constexpr std::array<Gruppenreihe, 3> gruppenreihen{{
+    {Gruppenart::Substanz,
+     1,
+     20,
+     4,
+     {problemgruppen::option(werte::konsumart), problemgruppen::zahl, problemgruppen::zahl,
+      problemgruppen::option(werte::icdZusatz), problemgruppen::zahl, problemgruppen::option(werte::kurz),
+      problemgruppen::erstkonsum, problemgruppen::marke}},
+    {Gruppenart::MissbrauchOderSpiel,
+     21,
+     28,
+     125,
+     {problemgruppen::nichts, problemgruppen::zahl, problemgruppen::zahl, problemgruppen::option(werte::kurz),
+      problemgruppen::zahl, problemgruppen::nichts, problemgruppen::erstkonsum, problemgruppen::marke}},
+    {Gruppenart::Essstörung,
+     29,
+     29,
+     157,
+     {problemgruppen::nichts, problemgruppen::nichts, problemgruppen::nichts, problemgruppen::option(werte::essstörung),
+      problemgruppen::zahl, problemgruppen::nichts, problemgruppen::erstkonsumUngefragt, problemgruppen::marke}},
+}};
+static_assert(gruppenreihen.front().von == 1 && gruppenreihen.back().bis == höchsteGruppe,
+              "the kinds cover the groups of the catalogue");
+
+/// The kind of the group with what it asks; nullptr for a number that is no group.
+constexpr const Gruppenreihe* gruppenreihe(int gruppe)
+{
+    for (const auto& reihe : gruppenreihen) {
+        if (gruppe >= reihe.von && gruppe <= reihe.bis) {
+            return &reihe;
+        }
+    }
+    return nullptr;
+}
+
+/// Whether the group is of the kind.
+constexpr bool istGruppe(int gruppe, Gruppenart art)
+{
+    const auto* reihe = gruppenreihe(gruppe);
+    return reihe != nullptr && reihe->art == art;
+}
+
+/// Gaming machines: the only group whose import knows a number of its own for an answer that is not given.
+inline constexpr int geldspielautomaten = 24;
