@@ -36,7 +36,6 @@ protected:
     FrmZuExcel()
     {
         baueProblemKatalog();
-        registriereVariablen(lauf.stand.ressourcen);
         lauf.stand.wechsel = &wechsel;
         lauf.legeTabellenAn();
         lauf.umgebung.beiMappe = [this](Arbeitsmappe& mappe) {
