@@ -102,6 +102,11 @@ class Gegenprobe(unittest.TestCase):
         self.erwarte(regeln.pfeile, "there is no src/Boden.h", "named from src/ on",
                      src__oben__a_PUNKT_cpp='#include "Boden.h"\n')
 
+    def test_positionen(self):
+        for zeile in ("getFeld(satz, 4);", "getFeld(f(g(x), y), 4);", "felder(satz, 5, bis);", "zeile.feld(3);", "antwort(gruppe, 4);",
+                      "constexpr int feldEnde = 4;"):
+            self.erwarte(regeln.positionen, "src/oben/a.cpp:1: name the position", src__oben__a_PUNKT_cpp=zeile + "\n")
+
     def test_allein(self):
         self.erwarte(regeln.allein, "src/oben/a.h does not compile alone", "include in it what it uses",
                      src__oben__a_PUNKT_h="Boden f();\n")

@@ -8,7 +8,8 @@ import leitfaden
 import regeln
 from haus import Haus
 
-REGELN = {regel.__name__: regel for regel in (regeln.toolkit, regeln.system, regeln.dateien, regeln.pfeile, regeln.sauber,
+REGELN = {regel.__name__: regel for regel in (regeln.toolkit, regeln.system, regeln.dateien, regeln.pfeile,
+                                              regeln.positionen, regeln.sauber,
                                               regeln.namen, leitfaden.bild, leitfaden.wege, leitfaden.glossar)}
 
 

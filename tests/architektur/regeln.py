@@ -181,6 +181,27 @@ def allein(baum, compiler="g++"):
         return funde + [fund for fund in hand.map(uebersetze, koepfe) if fund]
 
 
+_KLAMMER = r"\((?:[^()]|\((?:[^()]|\([^()]*\))*\))*\)"
+_TEXT = rf"(?:[^(),]|{_KLAMMER})*"
+_ZWEITE = "getFeld|ersetzeFeld|leseSchlüssel|prüfeDatum|prüfeSchlüssel|nummerIn|jahrVon|feldAus"
+BLANKE_POSITION = [re.compile(muster) for muster in (
+    rf"\b(?:{_ZWEITE})\({_TEXT},\s*\d+\s*[,)]",
+    rf"\b(?:felder|feldbereich)\({_TEXT},\s*(?:\d+\s*,|{_TEXT},\s*\d+\s*\))",
+    r"(?:\.|->)(?:feld|istLeer|feldOhneLeerzeichen)\(\s*\d+\s*\)",
+    rf"\b(?:antwort|blockfeld|blockposition)\({_TEXT},(?:{_TEXT},)?\s*[1-8]\s*\)",
+    r"\bconstexpr\s+(?:int|std::size_t|auto)\s+(?:feld|platz|statusfeld|memofeld)(?!er|zahl)\w*\s*=\s*\d+\s*;")]
+
+
+def positionen(baum):
+    """A field of a record is called by its name. A number is right on the day it is written and wrong on the day a field
+    comes in before it; found are the ones handed to a function that takes a position, and constants that give one a private
+    name. The tables themselves count from 1 in `satz` and, for the older system's files, in import/Altfelder.h."""
+    return [f"src/{datei}:{nummer}: name the position (feld::kern, feld::betr, feld::diag; older files: altfeld, altspalte): "
+            f"{zeile.strip()}"
+            for datei in baum.quellen() if not datei.startswith("platform/")
+            for nummer, zeile in baum.zeilen("src/" + datei) if any(muster.search(zeile) for muster in BLANKE_POSITION)]
+
+
 def sauber(baum):
     """What people read: no tab, no blank at the end of a line, a line end at the end."""
     funde = []
