@@ -53,42 +53,42 @@ void AltKDSZeile::wert(std::string_view wert)
     m_zeile.append(wert).push_back(',');
 }
 
-void AltKDSZeile::führeAus(const Instruktion& instruktion, int spalte)
+void AltKDSZeile::führeAus(const Spaltenanweisung& anweisung, int spalte)
 {
-    if (instruktion.quelle == 0) {
+    if (anweisung.quelle == 0) {
         wert({});
         return;
     }
-    switch (instruktion.art) {
-    case Instruktionsart::Wert:
-        wert(m_satz.feld(instruktion.quelle));
+    switch (anweisung.art) {
+    case Spaltenanweisungsart::Wert:
+        wert(m_satz.feld(anweisung.quelle));
         break;
-    case Instruktionsart::Option:
-        option(instruktion, spalte);
+    case Spaltenanweisungsart::Option:
+        option(anweisung, spalte);
         break;
-    case Instruktionsart::Betreuungsende: {
-        const auto text = m_satz.feld(instruktion.quelle);
+    case Spaltenanweisungsart::Betreuungsende: {
+        const auto text = m_satz.feld(anweisung.quelle);
         wert(text == offen ? std::string_view{} : text);
         break;
     }
-    case Instruktionsart::IcdZusatz:
-        icdZusatz(m_satz.feld(instruktion.quelle), spalte);
+    case Spaltenanweisungsart::IcdZusatz:
+        icdZusatz(m_satz.feld(anweisung.quelle), spalte);
         break;
-    case Instruktionsart::LebSit:
-        lebensSituation(m_satz.feldOhneLeerzeichen(instruktion.quelle));
+    case Spaltenanweisungsart::LebSit:
+        lebensSituation(m_satz.feldOhneLeerzeichen(anweisung.quelle));
         break;
-    case Instruktionsart::LebSitLeer:
+    case Spaltenanweisungsart::LebSitLeer:
         break; // the columns were written with `lebSit`
-    case Instruktionsart::Kostenträger:
+    case Spaltenanweisungsart::Kostenträger:
         kostenträger();
         break;
-    case Instruktionsart::Icd0000:
-        hauptdiagnose(m_satz.feld(instruktion.quelle));
+    case Spaltenanweisungsart::Icd0000:
+        hauptdiagnose(m_satz.feld(anweisung.quelle));
         break;
-    case Instruktionsart::Dauer:
+    case Spaltenanweisungsart::Dauer:
         dauer();
         break;
-    case Instruktionsart::Unbekannt:
+    case Spaltenanweisungsart::Unbekannt:
         wert("ANWEISUNGSDATENFEHLER!"_t);
         break;
     }
@@ -101,13 +101,13 @@ void AltKDSZeile::meldeFehlendeOption(std::string_view text, int spalte, int que
                    alsText(quelle), "\rTolvek: '"_t, text, "' nicht gefunden"_t));
 }
 
-void AltKDSZeile::option(const Instruktion& instruktion, int spalte)
+void AltKDSZeile::option(const Spaltenanweisung& anweisung, int spalte)
 {
-    const auto text = m_satz.feldOhneLeerzeichen(instruktion.quelle);
-    const auto ort = std::find_if(instruktion.paare.begin(), instruktion.paare.end(),
+    const auto text = m_satz.feldOhneLeerzeichen(anweisung.quelle);
+    const auto ort = std::find_if(anweisung.paare.begin(), anweisung.paare.end(),
                                   [&](const auto& paar) { return paar.first == text; });
-    if (ort == instruktion.paare.end()) {
-        meldeFehlendeOption(text, spalte, instruktion.quelle);
+    if (ort == anweisung.paare.end()) {
+        meldeFehlendeOption(text, spalte, anweisung.quelle);
         return;
     }
     wert(ort->second);

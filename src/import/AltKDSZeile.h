@@ -1,7 +1,7 @@
 #pragma once
 
+#include "import/Anweisungsdatei.h"
 #include "import/Betreuungssatz.h"
-#include "import/Instruktionsdatei.h"
 #include "store/Lesestand.h"
 
 #include <string>
@@ -28,12 +28,12 @@ public:
     /// A column with this value.
     void wert(std::string_view wert);
     /// The column as its instruction says.
-    void führeAus(const Instruktion& instruktion, int spalte);
+    void führeAus(const Spaltenanweisung& anweisung, int spalte);
 
 private:
     void melde(std::string_view text) const { m_meldung(text, Symbol::Keins); }
     void meldeFehlendeOption(std::string_view text, int spalte, int quelle) const;
-    void option(const Instruktion& instruktion, int spalte);
+    void option(const Spaltenanweisung& anweisung, int spalte);
     void icdZusatz(std::string_view text, int spalte);
     void lebensSituation(std::string_view text);
     void kostenträger();

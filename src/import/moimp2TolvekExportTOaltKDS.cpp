@@ -3,8 +3,8 @@
 #include "import/AltKDSZeile.h"
 #include "import/Altfelder.h"
 #include "import/Altnummer.h"
+#include "import/Anweisungsdatei.h"
 #include "import/Eingabedatei.h"
-#include "import/Instruktionsdatei.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Datum.h"
 #include "platform/text/Text.h"
@@ -93,7 +93,7 @@ std::string_view alter(const Klientenwerte& klient, const Betreuungssatz& satz)
 }
 
 void baueKernzeile(AltKDSZeile& zeile, const Klientenwerte& klient, const Betreuungssatz& satz,
-                   const std::vector<Instruktion>& instruktionen)
+                   const std::vector<Spaltenanweisung>& anweisungen)
 {
     for (int spalte = 1; spalte <= altspalte::kern::anzahl; ++spalte) {
         switch (spalte) {
@@ -110,7 +110,7 @@ void baueKernzeile(AltKDSZeile& zeile, const Klientenwerte& klient, const Betreu
             zeile.wert(codeVon(nationalitäten, klient.natio));
             break;
         default:
-            zeile.führeAus(instruktionen[static_cast<std::size_t>(spalte - 1)], spalte);
+            zeile.führeAus(anweisungen[static_cast<std::size_t>(spalte - 1)], spalte);
         }
     }
 }
@@ -156,13 +156,13 @@ std::optional<std::string_view> festeDiagnosespalte(const Betreuungssatz& satz, 
     }
 }
 
-void baueDiagnosezeile(AltKDSZeile& zeile, const Betreuungssatz& satz, const std::vector<Instruktion>& instruktionen)
+void baueDiagnosezeile(AltKDSZeile& zeile, const Betreuungssatz& satz, const std::vector<Spaltenanweisung>& anweisungen)
 {
     for (int spalte = 1; spalte <= altspalte::diag::anzahl; ++spalte) {
         if (const auto wert = festeDiagnosespalte(satz, spalte)) {
             zeile.wert(*wert);
         } else {
-            zeile.führeAus(instruktionen[static_cast<std::size_t>(spalte - 1)], spalte);
+            zeile.führeAus(anweisungen[static_cast<std::size_t>(spalte - 1)], spalte);
         }
     }
 }
@@ -213,7 +213,8 @@ void moimp2TolvekExportTOaltKDS(const Importort& ort, const std::filesystem::pat
     const Klientenverzeichnis klienten(dateien, kernExp);
     const Eingabedatei betreuungen(dateien, betreuungenExp);
 
-    const auto kern = leseInstruktionen(dateien, anweisungsdatei(ort, "eKernAnweisung.txt"), altspalte::kern::anzahl);
+    const auto kern =
+        leseSpaltenanweisungen(dateien, anweisungsdatei(ort, "eKernAnweisung.txt"), altspalte::kern::anzahl);
     const Zeitraumfelder zeitraum{kern[altspalte::kern::beginn - 1].quelle, kern[altspalte::kern::ende - 1].quelle};
     fürJedenSatz(ort.bestand, betreuungen, aKDSKern, zeitraum, [&](AltKDSZeile& zeile, const Betreuungssatz& satz) {
         baueKernzeile(zeile, klienten.werte(leseAltnummer(satz.feld(altfeld::betreuung::nummer), betreuungenExp)), satz,
@@ -221,7 +222,7 @@ void moimp2TolvekExportTOaltKDS(const Importort& ort, const std::filesystem::pat
     });
 
     const auto diagnose =
-        leseInstruktionen(dateien, anweisungsdatei(ort, "eDiagAnweisung.txt"), altspalte::diag::anzahl);
+        leseSpaltenanweisungen(dateien, anweisungsdatei(ort, "eDiagAnweisung.txt"), altspalte::diag::anzahl);
     fürJedenSatz(ort.bestand, betreuungen, aKDSDiagnose, zeitraum,
                  [&](AltKDSZeile& zeile, const Betreuungssatz& satz) { baueDiagnosezeile(zeile, satz, diagnose); });
 }

@@ -1,5 +1,5 @@
+#include "import/Anweisungsdatei.h"
 #include "import/Importfall.h"
-#include "import/Instruktionsdatei.h"
 #include "import/Satzbau.h"
 #include "import/moImp1TolvekToExport.h"
 #include "import/moImp3AltKDStoKDS.h"
@@ -304,20 +304,20 @@ TEST(istNichtNachTest, Datumsvergleich)
 
 // ---- instruction files
 
-class InstruktionsdateiTest : public Importfall {
+class AnweisungsdateiTest : public Importfall {
 protected:
-    std::vector<Instruktion> lies(std::string_view inhalt, std::size_t anzahl = 1) const
+    std::vector<Spaltenanweisung> lies(std::string_view inhalt, std::size_t anzahl = 1) const
     {
         Testlauf::schreibe(datei("x.txt"), inhalt);
-        return leseInstruktionen(lauf.stand.bestand.dateien(), datei("x.txt"), anzahl);
+        return leseSpaltenanweisungen(lauf.stand.bestand.dateien(), datei("x.txt"), anzahl);
     }
 };
 
-TEST_F(InstruktionsdateiTest, AnführungenUndZeilenenden)
+TEST_F(AnweisungsdateiTest, AnführungenUndZeilenenden)
 {
     const auto eine = lies(" 7 ,\"option\",\"a \"\"b\"\", c\",\"\"\r\n x ,y\n,1\r" + std::string(21, ','));
     EXPECT_EQ(eine[0].quelle, 7);
-    EXPECT_EQ(eine[0].art, Instruktionsart::Option);
+    EXPECT_EQ(eine[0].art, Spaltenanweisungsart::Option);
     EXPECT_EQ(eine[0].paare[0].first, "a \"b\", c");
     EXPECT_EQ(eine[0].paare[0].second, "");
     EXPECT_EQ(eine[0].paare[1], (std::pair<std::string, std::string>{"x", "y"}));
@@ -325,7 +325,7 @@ TEST_F(InstruktionsdateiTest, AnführungenUndZeilenenden)
     EXPECT_EQ(eine[0].paare[12], (std::pair<std::string, std::string>{"", ""}));
 }
 
-TEST_F(InstruktionsdateiTest, ZuWenigeWerteScheitern)
+TEST_F(AnweisungsdateiTest, ZuWenigeWerteScheitern)
 {
     EXPECT_NO_THROW(lies("0" + std::string(27, ',')));
     EXPECT_THROW(lies("0" + std::string(26, ',')), Laufzeitfehler);
@@ -335,9 +335,9 @@ TEST_F(InstruktionsdateiTest, ZuWenigeWerteScheitern)
     EXPECT_THROW(lies("0,\"a\"b" + std::string(26, ',')), Laufzeitfehler);
 }
 
-TEST_F(InstruktionsdateiTest, UnbekannteArtSchreibtEinenFehlertext)
+TEST_F(AnweisungsdateiTest, UnbekannteArtSchreibtEinenFehlertext)
 {
-    EXPECT_EQ(lies("3,\"wort\"" + std::string(26, ','))[0].art, Instruktionsart::Unbekannt);
+    EXPECT_EQ(lies("3,\"wort\"" + std::string(26, ','))[0].art, Spaltenanweisungsart::Unbekannt);
     const auto alt = Testlauf::lies(datei("eKernAnweisung.txt"));
     Testlauf::schreibe(datei("eKernAnweisung.txt"), ersetzt(alt, "2,\"wert\"", "2,\"wort\""));
     Testlauf::schreibeZeilen(datei("kernExp.txt"), {});
@@ -347,12 +347,14 @@ TEST_F(InstruktionsdateiTest, UnbekannteArtSchreibtEinenFehlertext)
     EXPECT_EQ(spalten(zeilen(datei("a.txt")).at(0), 3, 3, ','), "ANWEISUNGSDATENFEHLER!");
 }
 
-TEST_F(InstruktionsdateiTest, DieBeigelegtenHabenIhreZahl)
+TEST_F(AnweisungsdateiTest, DieBeigelegtenHabenIhreZahl)
 {
-    EXPECT_EQ(leseInstruktionen(lauf.stand.bestand.dateien(), datei("eKernAnweisung.txt"), 163).size(), 163U);
-    EXPECT_EQ(leseInstruktionen(lauf.stand.bestand.dateien(), datei("eDiagAnweisung.txt"), 215).size(), 215U);
-    EXPECT_THROW(leseInstruktionen(lauf.stand.bestand.dateien(), datei("eKernAnweisung.txt"), 164), Laufzeitfehler);
-    EXPECT_THROW(leseInstruktionen(lauf.stand.bestand.dateien(), datei("eDiagAnweisung.txt"), 216), Laufzeitfehler);
+    EXPECT_EQ(leseSpaltenanweisungen(lauf.stand.bestand.dateien(), datei("eKernAnweisung.txt"), 163).size(), 163U);
+    EXPECT_EQ(leseSpaltenanweisungen(lauf.stand.bestand.dateien(), datei("eDiagAnweisung.txt"), 215).size(), 215U);
+    EXPECT_THROW(leseSpaltenanweisungen(lauf.stand.bestand.dateien(), datei("eKernAnweisung.txt"), 164),
+                 Laufzeitfehler);
+    EXPECT_THROW(leseSpaltenanweisungen(lauf.stand.bestand.dateien(), datei("eDiagAnweisung.txt"), 216),
+                 Laufzeitfehler);
 }
 
 // ---- stage 3

@@ -1,4 +1,4 @@
-#include "import/Instruktionsdatei.h"
+#include "import/Anweisungsdatei.h"
 
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
@@ -11,25 +11,25 @@ namespace {
 
 struct Artname {
     std::string_view name;
-    Instruktionsart art;
+    Spaltenanweisungsart art;
 };
 
 constexpr std::array artnamen{
-    Artname{"wert"_t, Instruktionsart::Wert},
-    Artname{"option"_t, Instruktionsart::Option},
-    Artname{"betend"_t, Instruktionsart::Betreuungsende},
-    Artname{"icdpsy"_t, Instruktionsart::IcdZusatz},
-    Artname{"lebSit"_t, Instruktionsart::LebSit},
-    Artname{"lebSitLEER"_t, Instruktionsart::LebSitLeer},
-    Artname{"erstkos"_t, Instruktionsart::Kostenträger},
-    Artname{"icd0000"_t, Instruktionsart::Icd0000},
-    Artname{"betDau"_t, Instruktionsart::Dauer},
+    Artname{"wert"_t, Spaltenanweisungsart::Wert},
+    Artname{"option"_t, Spaltenanweisungsart::Option},
+    Artname{"betend"_t, Spaltenanweisungsart::Betreuungsende},
+    Artname{"icdpsy"_t, Spaltenanweisungsart::IcdZusatz},
+    Artname{"lebSit"_t, Spaltenanweisungsart::LebSit},
+    Artname{"lebSitLEER"_t, Spaltenanweisungsart::LebSitLeer},
+    Artname{"erstkos"_t, Spaltenanweisungsart::Kostenträger},
+    Artname{"icd0000"_t, Spaltenanweisungsart::Icd0000},
+    Artname{"betDau"_t, Spaltenanweisungsart::Dauer},
 };
 
-Instruktionsart artVon(std::string_view name)
+Spaltenanweisungsart artVon(std::string_view name)
 {
     const auto ort = std::find_if(artnamen.begin(), artnamen.end(), [&](const Artname& a) { return a.name == name; });
-    return ort == artnamen.end() ? Instruktionsart::Unbekannt : ort->art;
+    return ort == artnamen.end() ? Spaltenanweisungsart::Unbekannt : ort->art;
 }
 
 /// Takes one value after the other from the text.
@@ -105,31 +105,32 @@ private:
     bool m_zuEnde = false;
 };
 
-Instruktion leseEine(Werteleser& leser)
+Spaltenanweisung leseEine(Werteleser& leser)
 {
-    Instruktion instruktion;
+    Spaltenanweisung anweisung;
     const auto quelle = leseGanzzahl16(leser.nächster());
     if (!quelle) {
         leser.scheitere("die Quelle ist keine Zahl"_t);
     }
-    instruktion.quelle = *quelle;
-    instruktion.art = artVon(leser.nächster());
-    for (auto& [text, ziel] : instruktion.paare) {
+    anweisung.quelle = *quelle;
+    anweisung.art = artVon(leser.nächster());
+    for (auto& [text, ziel] : anweisung.paare) {
         text = leser.nächster();
         ziel = leser.nächster();
     }
-    return instruktion;
+    return anweisung;
 }
 
 } // namespace
 
-std::vector<Instruktion> leseInstruktionen(Dateien& dateien, const std::filesystem::path& pfad, std::size_t anzahl)
+std::vector<Spaltenanweisung> leseSpaltenanweisungen(Dateien& dateien, const std::filesystem::path& pfad,
+                                                     std::size_t anzahl)
 {
     const auto inhalt = dateien.lies(pfad);
     Werteleser leser(inhalt->text(), pfad);
-    std::vector<Instruktion> instruktionen;
+    std::vector<Spaltenanweisung> anweisungen;
     for (std::size_t i = 0; i < anzahl; ++i) {
-        instruktionen.push_back(leseEine(leser));
+        anweisungen.push_back(leseEine(leser));
     }
-    return instruktionen;
+    return anweisungen;
 }
