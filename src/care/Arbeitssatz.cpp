@@ -2,32 +2,29 @@
 
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 
 #include <array>
 
 namespace {
 
-/// A piece of the care record: the fields of one page.
+/// A piece of the care record: the fields of one page, up to the next piece.
 struct Satzstück {
     std::string Arbeitskopie::*text;
     int von;
-    int bis;
 };
 
 constexpr std::array<Satzstück, 6> betreuungsstücke{{
-    {&Arbeitskopie::DSBetrHaupt, 5, 24},
-    {&Arbeitskopie::DSBetrA, 25, 104},
-    {&Arbeitskopie::DSBetrB, 105, 117},
-    {&Arbeitskopie::DSBetrC, 118, 149},
-    {&Arbeitskopie::DSBetrDiag, 150, 163},
-    {&Arbeitskopie::DSBetrE, 164, 191},
+    {&Arbeitskopie::DSBetrHaupt, feld::betr::wieder},
+    {&Arbeitskopie::DSBetrA, feld::betr::substitut},
+    {&Arbeitskopie::DSBetrB, feld::betr::famSta},
+    {&Arbeitskopie::DSBetrC, feld::betr::lebUntV},
+    {&Arbeitskopie::DSBetrDiag, feld::betr::hdOhne},
+    {&Arbeitskopie::DSBetrE, feld::betr::kontakte},
 }};
-
-constexpr int feldMemoB = 192;
-constexpr int ersteDiagnose = 3;
-constexpr int letzteDiagnose = 247;
-constexpr int feldMemoK = 11;
 
 std::string alsSatzanfang(const Betreuungsschlüssel& schlüssel)
 {
@@ -38,20 +35,22 @@ std::string alsSatzanfang(const Betreuungsschlüssel& schlüssel)
 
 void zerlegeBetrDS(Arbeitskopie& kopie)
 {
-    for (const Satzstück& stück : betreuungsstücke) {
-        kopie.*stück.text = felder(kopie.aktBetrDS, stück.von, stück.bis);
+    int dahinter = feld::betr::memo;
+    for (auto stück = betreuungsstücke.rbegin(); stück != betreuungsstücke.rend(); ++stück) {
+        kopie.*stück->text = felder(kopie.aktBetrDS, stück->von, dahinter - 1);
+        dahinter = stück->von;
     }
-    kopie.DSDiag = felder(kopie.aktDiagDS, ersteDiagnose, letzteDiagnose);
+    kopie.DSDiag = felder(kopie.aktDiagDS, feld::diag::ersteAntwort, feld::diag::anzahl);
 }
 
 std::string memoBAus(std::string_view betrDS)
 {
-    return std::string(getFeld(betrDS, feldMemoB));
+    return std::string(getFeld(betrDS, feld::betr::memo));
 }
 
 std::string memoKAus(std::string_view kernDS)
 {
-    return std::string(getFeld(kernDS, feldMemoK));
+    return std::string(getFeld(kernDS, feld::kern::memo));
 }
 
 std::string baueBetrDS(const Betreuungsschlüssel& schlüssel, std::string_view von, std::string_view bis,
@@ -72,5 +71,6 @@ std::string baueDiagDS(const Betreuungsschlüssel& schlüssel, const Arbeitskopi
 
 std::string baueKernDS(std::string_view kernDS, std::string_view betrao, std::string_view memoK)
 {
-    return verbinde(felder(kernDS, 1, 2), betrao, trenner, felder(kernDS, 4, feldMemoK - 1), memoK);
+    return verbinde(felder(kernDS, feld::kern::leer, feld::kern::kernID), betrao, trenner,
+                    felder(kernDS, feld::kern::nachname, feld::kern::geburtsdatum), memoK);
 }

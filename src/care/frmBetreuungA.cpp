@@ -3,8 +3,10 @@
 #include "care/Arbeitssatz.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
-#include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
+#include "satz/moNationen.h"
 #include "store/Vorgang.h"
 #include "zustand/Zustand.h"
 
@@ -26,26 +28,13 @@ constexpr std::array kostenträgerarten{
     "Sonstiges"_t,
 };
 
-constexpr int feldKernID = 2; // of the client record
-constexpr int feldBetrBeg = 3;
-constexpr int feldBetrEnd = 4;
-
-/// The names of the nation table behind "keine Angaben". A record stores the name; the code that stands in
-/// front of it in the table is the export's business.
-std::vector<std::string> nationen()
+/// A record stores the name; the code is the export's business.
+std::vector<std::string> nationenliste()
 {
-    constexpr int tabellenanfang = 1000;
-    constexpr std::size_t codelänge = 4;
-    const std::string anzahltext = ladeResText(tabellenanfang);
-    const auto anzahl = leseGanzzahl16(anzahltext);
-    if (!anzahl) {
-        throw Laufzeitfehler(verbinde("Die Ländertabelle hat keine Anzahl, sondern \""_t, anzahltext, '"'));
-    }
     std::vector<std::string> liste;
     liste.emplace_back("keine Angaben"_t);
-    for (int i = 1; i <= *anzahl; ++i) {
-        const std::string eintrag = ladeResText(tabellenanfang + i);
-        liste.push_back(eintrag.substr(std::min(codelänge, eintrag.size())));
+    for (const auto& nation : nationen()) {
+        liste.emplace_back(nation.name);
     }
     return liste;
 }
@@ -68,7 +57,7 @@ void frmBetreuungA::baueTafel()
     m_tafel.fügeWahl(comboBetrGru, werte::betrGru);
     m_tafel.fügeWahl(comboAngeho, werte::angeho);
     m_tafel.fügeWahl(comboProblem, werte::problem);
-    m_tafel.fügeWahl(comboNation, nationen());
+    m_tafel.fügeWahl(comboNation, nationenliste());
     m_tafel.fügeWahl(comboSprache, werte::lang);
     m_tafel.fügeWahl(comboMigrant1, werte::lang);
     m_tafel.fügeWahl(comboMigrant2, werte::lang);
@@ -81,6 +70,7 @@ void frmBetreuungA::baueTafel()
 void frmBetreuungA::ordneAn()
 {
     using namespace anordnung;
+    using anordnung::feld;
     kopfband.titel = &lblHeader;
     kopfband.name = &lblName;
     kopfband.werte = {{std::string("Beginn"_t), &lblBetrBeg}, {std::string("Ende"_t), &lblBetrEnd}};
@@ -95,6 +85,7 @@ void frmBetreuungA::ordneAn()
 Anordnung frmBetreuungA::angaben()
 {
     using namespace anordnung;
+    using anordnung::feld;
     constexpr double breite = 16.5;
     return karte(
         {}, spalte({formular({feld("Wiederaufnahme in dieser Einrichtung"_t, comboWieder),
@@ -118,6 +109,7 @@ Anordnung frmBetreuungA::angaben()
 Anordnung frmBetreuungA::kostenträger()
 {
     using namespace anordnung;
+    using anordnung::feld;
     std::vector<Anordnung> zeilen;
     for (int i = lblKosten.von(); i <= lblKosten.bis(); ++i) {
         zeilen.push_back(tabellenzeile(lblKosten(i), {&triJaNeinKosten(i)}));
@@ -171,8 +163,8 @@ void frmBetreuungA::ladeArbeitskopie()
     } else {
         kopie.aktBetrDS = zustand().bestand.getBetrDS(kernID, betrID);
         kopie.aktDiagDS = zustand().bestand.getDiagDS(kernID, betrID);
-        kopie.betrBeg = getFeld(kopie.aktBetrDS, feldBetrBeg);
-        kopie.betrEnd = getFeld(kopie.aktBetrDS, feldBetrEnd);
+        kopie.betrBeg = getFeld(kopie.aktBetrDS, feld::betr::beginn);
+        kopie.betrEnd = getFeld(kopie.aktBetrDS, feld::betr::ende);
     }
     zerlegeBetrDS(kopie);
     zustand().memoBText = memoBAus(kopie.aktBetrDS);
@@ -277,7 +269,7 @@ void frmBetreuungA::speichere()
         }
     }
     // the state is read from the care table, so the episode has to lie there by now
-    const auto betrao = vorgang.betrStatusVon(getFeld(kopie.aktKernDS, feldKernID));
+    const auto betrao = vorgang.betrStatusVon(getFeld(kopie.aktKernDS, feld::kern::kernID));
     vorgang.ersetzeKernDS(kernID, baueKernDS(kopie.aktKernDS, betrao, zustand().memoKText));
     vorgang.bestätige();
 }

@@ -1,6 +1,7 @@
 #include "diagnosis/frmBetrDiagnose.h"
 
 #include "platform/text/Zahl.h"
+#include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosesatz.h"
 #include "satz/WeitereDiagnosen.h"
 #include "satz/Wertelisten.h"
@@ -15,12 +16,10 @@
 namespace {
 
 // Positions in DSBetrDiag.
-constexpr int ersterGrund = 1;
-constexpr int platzICDPoly = 7;
-constexpr int platzHIVInfekt = 8;
-constexpr int platzHepatB = 9;
-constexpr int platzHepatC = 10;
-constexpr int ersterIVKonsum = 11;
+constexpr int platz(int feld)
+{
+    return feld - feld::betr::hdOhne + 1;
+}
 
 std::string& DSDiag()
 {
@@ -92,11 +91,10 @@ Element& frmBetrDiagnose::ersteFrage()
 /// A bit field that is no number would come up somewhere in the middle of the page; here its record can be named.
 void frmBetrDiagnose::prüfeBitfeld()
 {
-    constexpr int felderDesSchlüssels = 2;
     const auto& satz = zustand().arbeitskopie.aktDiagDS;
-    const Satzschlüssel schlüssel{static_cast<std::int32_t>(führendeZahl(getFeld(satz, 1))),
-                                  static_cast<std::int32_t>(führendeZahl(getFeld(satz, 2)))};
-    mitSatzort(Tabelle::Diag, schlüssel, bitfeldposition + felderDesSchlüssels, [] { leseBitfeld(DSDiag()); });
+    const Satzschlüssel schlüssel{static_cast<std::int32_t>(führendeZahl(getFeld(satz, feld::diag::kernID))),
+                                  static_cast<std::int32_t>(führendeZahl(getFeld(satz, feld::diag::betrID)))};
+    mitSatzort(Tabelle::Diag, schlüssel, feld::diag::bitfeld, [] { leseBitfeld(DSDiag()); });
 }
 
 void frmBetrDiagnose::richteEin()
@@ -131,12 +129,12 @@ void frmBetrDiagnose::setFrmData()
 
 void frmBetrDiagnose::zeigeBetrDiag()
 {
-    zeigeOptionen(optHDohne, DSBetrDiag(), ersterGrund);
-    comboICDPoly.setzeText(getFeld(DSBetrDiag(), platzICDPoly));
-    comboHIVInfekt.setzeText(getFeld(DSBetrDiag(), platzHIVInfekt));
-    comboHepatB.setzeText(getFeld(DSBetrDiag(), platzHepatB));
-    comboHepatC.setzeText(getFeld(DSBetrDiag(), platzHepatC));
-    zeigeOptionen(optIVKonsum, DSBetrDiag(), ersterIVKonsum);
+    zeigeOptionen(optHDohne, DSBetrDiag(), platz(feld::betr::hdOhne));
+    comboICDPoly.setzeText(getFeld(DSBetrDiag(), platz(feld::betr::icdPoly)));
+    comboHIVInfekt.setzeText(getFeld(DSBetrDiag(), platz(feld::betr::hivInfekt)));
+    comboHepatB.setzeText(getFeld(DSBetrDiag(), platz(feld::betr::hepatB)));
+    comboHepatC.setzeText(getFeld(DSBetrDiag(), platz(feld::betr::hepatC)));
+    zeigeOptionen(optIVKonsum, DSBetrDiag(), platz(feld::betr::ivKonsum));
 }
 
 std::string frmBetrDiagnose::sammleBetrDiag()
@@ -154,7 +152,8 @@ std::string frmBetrDiagnose::sammleDSDiag() const
     for (const Textfeld& feld : tbandereDiagnose) {
         weitere += verbinde(feld.text(), trenner);
     }
-    return verbinde(felder(DSDiag(), 1, weitereDiagnose(1) - 1), weitere, getFeld(DSDiag(), bitfeldposition), trenner);
+    return verbinde(felder(DSDiag(), blockposition(1, Konsumart), weitereDiagnose(0)), weitere,
+                    getFeld(DSDiag(), bitfeldposition), trenner);
 }
 
 void frmBetrDiagnose::sammle()
