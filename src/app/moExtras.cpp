@@ -35,6 +35,32 @@ double randbreite(const Bildschirm& bildschirm)
 
 } // namespace
 
+moExtras::moExtras(Zustand& zustand) : m_zustand(zustand)
+{
+    auto& folge = m_zustand.folge;
+    m_abonnements = {folge.wirdAktiv.abonniere([this](Bildschirm& bildschirm) { platziere(bildschirm); }),
+                     folge.entladen.abonniere([this](const Bildschirm& bildschirm) { merkeLage(bildschirm); })};
+    m_zustand.zeigeMemo = [this](Bildschirm& rufer, bool zeigeMemoB) {
+        m_zustand.folge.öffneÜber(rufer, m_memo.neu(zeigeMemoB));
+    };
+}
+
+void moExtras::platziere(Bildschirm& bildschirm)
+{
+    if (bildschirm.istKindfenster) {
+        setzeLage(bildschirm, leseLage(obenVon(bildschirm)), leseLage(linksVon(bildschirm)));
+    } else {
+        setzeFensterPosition(bildschirm);
+    }
+}
+
+void moExtras::merkeLage(const Bildschirm& bildschirm)
+{
+    const Rahmen& rahmen = m_zustand.rahmen;
+    schreibeLage(obenVon(bildschirm), bildschirm.istKindfenster ? bildschirm.oben : rahmen.oben());
+    schreibeLage(linksVon(bildschirm), bildschirm.istKindfenster ? bildschirm.links : rahmen.links());
+}
+
 void moExtras::setzeFensterPosition(Bildschirm& bildschirm)
 {
     Rahmen& rahmen = m_zustand.rahmen;
@@ -67,82 +93,5 @@ void moExtras::platziereAktiven()
     });
     if (seite != geladene.rend()) {
         setzeFensterPosition(**seite);
-    }
-}
-
-void moExtras::speichereRahmenlage(const Bildschirm& bildschirm)
-{
-    schreibeLage(obenVon(bildschirm), m_zustand.rahmen.oben());
-    schreibeLage(linksVon(bildschirm), m_zustand.rahmen.links());
-}
-
-void moExtras::holeFensterlage(Bildschirm& bildschirm)
-{
-    setzeLage(bildschirm, leseLage(obenVon(bildschirm)), leseLage(linksVon(bildschirm)));
-}
-
-void moExtras::speichereFensterlage(const Bildschirm& bildschirm)
-{
-    schreibeLage(obenVon(bildschirm), bildschirm.oben);
-    schreibeLage(linksVon(bildschirm), bildschirm.links);
-}
-
-void moExtras::zeigeDatenÜbernahme(Bildschirm& rufer, Bildschirm& frmDatenÜbernahme)
-{
-    m_aufrufer = &rufer;
-    m_zustand.folge.verberge(rufer);
-    m_zustand.folge.zeige(frmDatenÜbernahme);
-}
-
-void moExtras::zeigeZeitraum(Bildschirm& rufer, Bildschirm& frmBetreuungZeitraum)
-{
-    öffneÜber(rufer, frmBetreuungZeitraum);
-}
-
-void moExtras::zeigeDiagnoseErstellen(Bildschirm& rufer, Bildschirm& frmBetrDiagnoseErstellen)
-{
-    öffneÜber(rufer, frmBetrDiagnoseErstellen);
-}
-
-void moExtras::zeigeCodeAuswahl(Bildschirm& rufer, Bildschirm& frmBetrDiagnoseCodeAuswahl)
-{
-    öffneÜber(rufer, frmBetrDiagnoseCodeAuswahl);
-}
-
-void moExtras::öffneÜber(Bildschirm& rufer, Bildschirm& dialog)
-{
-    m_aufrufer = &rufer;
-    m_zustand.folge.sperre(rufer);
-    m_zustand.folge.zeige(dialog);
-}
-
-void moExtras::zeigeMemo(Bildschirm& rufer, bool zeigeMemoB)
-{
-    m_memoAufrufer = &rufer;
-    m_zustand.folge.sperre(rufer);
-    auto& memo = m_memo.neu();
-    memo.zeigeMemoB = zeigeMemoB;
-    m_zustand.folge.zeige(memo);
-}
-
-void moExtras::zeigeAufrufer()
-{
-    if (m_aufrufer != nullptr) {
-        m_zustand.folge.gibFrei(*m_aufrufer);
-        setzeFensterPosition(*m_aufrufer);
-    }
-}
-
-void moExtras::aktualisiereAufrufer()
-{
-    if (m_aufrufer != nullptr) {
-        m_aufrufer->aktualisiere();
-    }
-}
-
-void moExtras::zeigeMemoAufrufer()
-{
-    if (m_memoAufrufer != nullptr) {
-        m_zustand.folge.gibFrei(*m_memoAufrufer);
     }
 }

@@ -17,7 +17,6 @@
 Programm::Programm(Umgebung& umgebung)
     : m_zustand(umgebung), m_platz(m_zustand), m_extras(m_zustand), m_rahmen(m_zustand, m_extras)
 {
-    m_zustand.wechsel = &m_extras;
     m_zustand.ablauf.hinweisBeiAbsturz = [this] {
         const auto ort = ortDerSicherung(m_zustand.bestand);
         return ort.empty() ? ort : verbinde("Die letzte Sicherung liegt in "_t, ort, '.');
@@ -40,10 +39,7 @@ void Programm::Main()
     Importlauf::entferneReste(m_zustand.bestand);
     prüfeDateien();
     stelleBruchstückeBeiseite(m_zustand.bestand);
-    if (const auto gefunden = bereinigeDatum(m_zustand.bestand)) {
-        m_zustand.gefundeneKernFelder = gefunden->kern;
-        m_zustand.gefundeneBetrFelder = gefunden->betr;
-    }
+    bereinigeDatum(m_zustand.bestand);
     bereinigeBetrOA(m_zustand.bestand);
     m_rahmen.zeige();
     m_hauptmenü = std::make_unique<frmHauptmenü>([this] { m_rahmen.aufräumen(); });

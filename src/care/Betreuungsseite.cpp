@@ -3,9 +3,8 @@
 #include "platform/text/Text.h"
 #include "satz/moHelferlein.h"
 
-Betreuungsseite::Betreuungsseite(std::string_view name, std::string_view überschrift, Bildschirm& betreuung,
-                                 std::string Arbeitskopie::*stück)
-    : Bildschirm(name), m_betreuung(betreuung), m_stück(stück)
+Betreuungsseite::Betreuungsseite(std::string_view name, std::string_view überschrift, std::string Arbeitskopie::*stück)
+    : Bildschirm(name), m_stück(stück)
 {
     lblHeader.setzeText(überschrift);
     kopfband.titel = &lblHeader;
@@ -15,28 +14,14 @@ Betreuungsseite::Betreuungsseite(std::string_view name, std::string_view übersc
     leiste.rechts = {&cmdOK, &cmdExit};
     beiEscape = &cmdExit;
 
-    cmdMemo.beiKlick = [this] { zustand().wechsel->zeigeMemo(*this); };
+    cmdMemo.beiKlick = [this] { zustand().zeigeMemo(*this, false); };
     cmdOK.beiKlick = [this] { beiOK(); };
     cmdExit.beiKlick = [this] { beiExit(); };
 }
 
-void Betreuungsseite::beiAktivierung()
+void Betreuungsseite::beiÖffnung()
 {
-    zustand().wechsel->setzeFensterPosition(*this);
     setzeTitel(zustand().titel);
-    if (!m_istEingerichtet) { // a return from the memo keeps what is on the screen
-        m_istEingerichtet = true;
-        setFrmData();
-    }
-}
-
-void Betreuungsseite::beiEntladen()
-{
-    zustand().wechsel->speichereRahmenlage(*this);
-}
-
-void Betreuungsseite::setFrmData()
-{
     const Arbeitskopie& kopie = zustand().arbeitskopie;
     lblName.setzeText(klientenname(kopie.aktKernDS));
     lblBetrBeg.setzeText(kopie.betrBeg);
@@ -56,7 +41,7 @@ void Betreuungsseite::beiOK()
 {
     if (tafel.prüfeZahlen()) {
         zustand().arbeitskopie.*m_stück = sammleSeitenDaten();
-        kehreZurück();
+        zustand().folge.schließe(*this);
     }
 }
 
@@ -70,11 +55,5 @@ void Betreuungsseite::beiExit()
             return;
         }
     }
-    kehreZurück();
-}
-
-void Betreuungsseite::kehreZurück()
-{
-    zustand().folge.zeige(m_betreuung);
-    zustand().folge.entlade(*this);
+    zustand().folge.schließe(*this);
 }

@@ -9,7 +9,8 @@
 
 /// What the pages A, B, C and E of a care episode share. A page edits its piece of the working copy and
 /// nothing else: it takes the piece when it opens, gives it back on OK, and on Exit leaves it as it was
-/// (asking first when the screen differs from it). No page writes to a table.
+/// (asking first when the screen differs from it); what is on the screen lives through the memo. No page writes to a
+/// table.
 class Betreuungsseite : public Bildschirm {
 public:
     Beschriftung lblHeader{*this, "lblHeader"_t};
@@ -21,15 +22,13 @@ public:
     Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
 protected:
-    /// `betreuung` is the care main page, which is shown again at the end; `stück` the page's piece.
-    Betreuungsseite(std::string_view name, std::string_view überschrift, Bildschirm& betreuung,
-                    std::string Arbeitskopie::*stück);
+    /// `stück` is the page's piece of the working copy.
+    Betreuungsseite(std::string_view name, std::string_view überschrift, std::string Arbeitskopie::*stück);
 
     /// The page's table of fields; filled by the constructor of the page.
     Seitenfelder tafel;
 
-    void beiAktivierung() override;
-    void beiEntladen() override;
+    void beiÖffnung() override;
 
     /// Rules that follow from what the fields have taken from the piece.
     virtual void nachLaden() {}
@@ -37,13 +36,9 @@ protected:
     virtual void vorSammeln() {}
 
 private:
-    void setFrmData();
     std::string sammleSeitenDaten();
     void beiOK();
     void beiExit();
-    void kehreZurück();
 
-    Bildschirm& m_betreuung;
     std::string Arbeitskopie::*m_stück;
-    bool m_istEingerichtet = false;
 };

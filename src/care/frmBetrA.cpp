@@ -65,8 +65,7 @@ constexpr int zeileSelbsthilfe = 17;
 
 } // namespace
 
-frmBetrA::frmBetrA(Bildschirm& betreuung)
-    : Betreuungsseite("frmBetrA"_t, "Maßnahmen und Interventionen"_t, betreuung, &Arbeitskopie::DSBetrA)
+frmBetrA::frmBetrA() : Betreuungsseite("frmBetrA"_t, "Maßnahmen und Interventionen"_t, &Arbeitskopie::DSBetrA)
 {
     beschrifte(lblZuvor, maßnahmenarten);
     beschrifte(lblKooper, kooperationspartner);

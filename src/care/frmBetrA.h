@@ -16,8 +16,7 @@ public:
     Elementreihe<triCtlJaNein> triJaNeinKooper{*this, "triJaNeinKooper"_t, 1, 26};
     Elementreihe<Schaltfläche> cmdSchnellFüller{*this, "cmdSchnellFüller"_t, 0, 3, "!"_t, Schaltfläche::Rolle::Füller};
 
-    /// `betreuung` is the care main page.
-    explicit frmBetrA(Bildschirm& betreuung);
+    frmBetrA();
 
 private:
     void baueTafel();

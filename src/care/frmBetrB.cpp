@@ -14,8 +14,7 @@ constexpr int alleinlebend = 0;
 
 } // namespace
 
-frmBetrB::frmBetrB(Bildschirm& betreuung)
-    : Betreuungsseite("frmBetrB"_t, "Soziodemografische Daten 1"_t, betreuung, &Arbeitskopie::DSBetrB)
+frmBetrB::frmBetrB() : Betreuungsseite("frmBetrB"_t, "Soziodemografische Daten 1"_t, &Arbeitskopie::DSBetrB)
 {
     beschrifte(lblLebensit, lebenssituationen);
     baueTafel();

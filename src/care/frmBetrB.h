@@ -15,8 +15,7 @@ public:
     Auswahlfeld comboWohnung2{*this, "comboWohnung2"_t};
     Auswahlfeld comboWohnung3{*this, "comboWohnung3"_t};
 
-    /// `betreuung` is the care main page.
-    explicit frmBetrB(Bildschirm& betreuung);
+    frmBetrB();
 
 private:
     void baueTafel();

@@ -42,8 +42,7 @@ void verbindeZeile(Optionsfeld& haupt, triCtlJaNein& antwort, Optionsgruppe& gru
 
 } // namespace
 
-frmBetrC::frmBetrC(Bildschirm& betreuung)
-    : Betreuungsseite("frmBetrC"_t, "Soziodemografische Daten 2"_t, betreuung, &Arbeitskopie::DSBetrC)
+frmBetrC::frmBetrC() : Betreuungsseite("frmBetrC"_t, "Soziodemografische Daten 2"_t, &Arbeitskopie::DSBetrC)
 {
     beschrifte(lblLebUnt, lebensunterhalte);
     baueTafel();

@@ -25,8 +25,7 @@ public:
     Auswahlfeld comboSchulden{*this, "comboSchulden"_t};
     Elementreihe<Schaltfläche> cmdSchnellFüller{*this, "cmdSchnellFüller"_t, 0, 1, "!"_t, Schaltfläche::Rolle::Füller};
 
-    /// `betreuung` is the care main page.
-    explicit frmBetrC(Bildschirm& betreuung);
+    frmBetrC();
 
 private:
     void baueTafel();

@@ -34,8 +34,7 @@ constexpr std::array vermittlungen{
 
 } // namespace
 
-frmBetrE::frmBetrE(Bildschirm& betreuung)
-    : Betreuungsseite("frmBetrE"_t, "Daten zu Bereuungsende"_t, betreuung, &Arbeitskopie::DSBetrE)
+frmBetrE::frmBetrE() : Betreuungsseite("frmBetrE"_t, "Daten zu Bereuungsende"_t, &Arbeitskopie::DSBetrE)
 {
     beschrifte(lblVermitt, vermittlungen);
     baueTafel();

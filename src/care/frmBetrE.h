@@ -15,8 +15,7 @@ public:
     Elementreihe<triCtlJaNein> triJaNeinVermitt{*this, "triJaNeinVermitt"_t, 1, 23};
     Schaltfläche cmdSchnellFüller{*this, "cmdSchnellFüller"_t, "!"_t, Schaltfläche::Rolle::Füller};
 
-    /// `betreuung` is the care main page.
-    explicit frmBetrE(Bildschirm& betreuung);
+    frmBetrE();
 
 private:
     void baueTafel();

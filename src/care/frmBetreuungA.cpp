@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -40,7 +41,8 @@ std::vector<std::string> nationenliste()
 
 } // namespace
 
-frmBetreuungA::frmBetreuungA(Bildschirm& hauptmenü) : Bildschirm("frmBetreuungA"_t), m_hauptmenü(hauptmenü)
+frmBetreuungA::frmBetreuungA(std::int32_t klient, std::int32_t nummer, bool neu)
+    : Bildschirm("frmBetreuungA"_t), kernID(klient), betrID(nummer), istNeu(neu), m_zeitraumGesetzt(!neu)
 {
     beschrifte(lblKosten, kostenträgerarten);
     baueTafel();
@@ -120,54 +122,35 @@ void frmBetreuungA::richteKnöpfeEin()
     beiEscape = &cmdExit;
     comboBetrGru.beiWahl = [this] { zeigeBetrGru(); };
     richteFüllerEin(cmdSchnellFüller, triJaNeinKosten);
-    cmdBearbeiteZeitraum.beiKlick = [this] { bearbeiteZeitraum(); };
+    cmdBearbeiteZeitraum.beiKlick = [this] { zeigeZeitraum(); };
     cmdBetrA.beiKlick = [this] { öffneSeite(m_betrA); };
     cmdBetrB.beiKlick = [this] { öffneSeite(m_betrB); };
     cmdBetrC.beiKlick = [this] { öffneSeite(m_betrC); };
     cmdBetrDiagnose.beiKlick = [this] { öffneSeite(m_betrDiagnose); };
     cmdBetrE.beiKlick = [this] { öffneEnde(); };
-    cmdMemo.beiKlick = [this] { öffneMemo(); };
+    cmdMemo.beiKlick = [this] { zustand().zeigeMemo(*this, false); };
     cmdOK.beiKlick = [this] { beiOK(); };
     cmdExit.beiKlick = [this] { beiExit(); };
 }
 
-void frmBetreuungA::beiAktivierung()
+void frmBetreuungA::beiÖffnung()
 {
-    zustand().wechsel->setzeFensterPosition(*this);
     setzeTitel(zustand().titel);
-    if (startMitZeitraum) {
-        startMitZeitraum = false;
-        bearbeiteZeitraum();
-    } else if (!zeitraumGesetzt) {
-        zeigeMeldung("Es wurde keine Betreuung angelegt, nichts wurde verändert"_t);
-        kehreZurück();
-    } else if (zurückVomMemo) {
-        zurückVomMemo = false;
+    if (istNeu) {
+        zustand().arbeitskopie.betrBeg.clear(); // nothing of the episode edited before
+        zustand().arbeitskopie.betrEnd.clear();
+        zeigeZeitraum();
     } else {
-        if (zurückVomZeitraum) {
-            zeigeZeitraum();
-            zurückVomZeitraum = false;
-        }
         ladeSeite();
     }
 }
 
-void frmBetreuungA::beiEntladen()
-{
-    zustand().wechsel->speichereRahmenlage(*this);
-}
-
 void frmBetreuungA::ladeSeite()
 {
-    lblHeader.setzeText("Betreuung Hauptseite"_t);
-    if (!datenLaden) { // a return from a page changes nothing here
-        return;
-    }
     ladeArbeitskopie();
     m_tafel.fülleListen();
-    zeigeZeitraum();
+    zeigeBeginnUndEnde();
     zeigeDaten();
-    datenLaden = false;
 }
 
 void frmBetreuungA::ladeArbeitskopie()
@@ -188,7 +171,7 @@ void frmBetreuungA::ladeArbeitskopie()
     zustand().memoKText = memoKAus(kopie.aktKernDS);
 }
 
-void frmBetreuungA::zeigeZeitraum()
+void frmBetreuungA::zeigeBeginnUndEnde()
 {
     lblBetrBeg.setzeText(zustand().arbeitskopie.betrBeg);
     lblBetrEnd.setzeText(zustand().arbeitskopie.betrEnd);
@@ -225,8 +208,7 @@ std::string frmBetreuungA::sammleSeitenDaten()
 
 template <class F> void frmBetreuungA::öffneSeite(Bildschirmplatz<F>& platz)
 {
-    zustand().folge.verberge(*this);
-    zustand().folge.zeige(platz.neu(*this));
+    zustand().folge.öffneStatt(*this, platz.neu());
 }
 
 void frmBetreuungA::öffneEnde()
@@ -239,40 +221,34 @@ void frmBetreuungA::öffneEnde()
     öffneSeite(m_betrE);
 }
 
-void frmBetreuungA::öffneMemo()
+void frmBetreuungA::zeigeZeitraum()
 {
-    zurückVomMemo = true;
-    zustand().wechsel->zeigeMemo(*this);
+    const Arbeitskopie& kopie = zustand().arbeitskopie;
+    const std::string heute = alsDatumstext(zustand().umgebung.heute());
+    auto& dialog = m_zeitraum.neu(kernID, istNeu, istNeu ? heute : kopie.betrBeg, istNeu ? heute : kopie.betrEnd);
+    zustand().folge.öffneÜber(*this, dialog, [this, &dialog] { nimmZeitraum(dialog); });
 }
 
-void frmBetreuungA::bearbeiteZeitraum()
+void frmBetreuungA::nimmZeitraum(const frmBetreuungZeitraum& dialog)
 {
-    Arbeitskopie& kopie = zustand().arbeitskopie;
-    const std::string heute = alsDatumstext(zustand().umgebung.heute());
-    if (!zeitraumGesetzt) { // nothing of the episode edited before
-        kopie.betrBeg.clear();
-        kopie.betrEnd.clear();
+    if (dialog.istAngenommen()) {
+        zustand().arbeitskopie.betrBeg = dialog.strVon;
+        zustand().arbeitskopie.betrEnd = dialog.strBis;
+        zeigeBeginnUndEnde();
+        if (!std::exchange(m_zeitraumGesetzt, true)) {
+            ladeSeite();
+        }
+    } else if (!m_zeitraumGesetzt) {
+        zeigeMeldung("Es wurde keine Betreuung angelegt, nichts wurde verändert"_t);
+        zustand().folge.schließe(*this);
     }
-    auto& dialog = m_zeitraum.neu();
-    dialog.istNeu = istNeu;
-    dialog.strVon = istNeu ? heute : kopie.betrBeg;
-    dialog.strBis = istNeu ? heute : kopie.betrEnd;
-    dialog.betrID = betrID;
-    dialog.kernID = kernID;
-    dialog.beiÜbernahme = [this](const std::string& von, const std::string& bis) {
-        zeitraumGesetzt = true;
-        zustand().arbeitskopie.betrBeg = von;
-        zustand().arbeitskopie.betrEnd = bis;
-    };
-    zurückVomZeitraum = true;
-    zustand().wechsel->zeigeZeitraum(*this, dialog);
 }
 
 void frmBetreuungA::beiOK()
 {
     zustand().arbeitskopie.DSBetrHaupt = sammleSeitenDaten();
     speichere();
-    kehreZurück();
+    zustand().folge.schließe(*this);
 }
 
 void frmBetreuungA::speichere()
@@ -304,12 +280,6 @@ void frmBetreuungA::beiExit()
                                          "vorgenommen wurden, verworfen"_t,
                                          Symbol::Frage, Knöpfe::OKAbbrechen);
     if (antwort == Antwort::OK) {
-        kehreZurück();
+        zustand().folge.schließe(*this);
     }
-}
-
-void frmBetreuungA::kehreZurück()
-{
-    zustand().folge.zeige(m_hauptmenü);
-    zustand().folge.entlade(*this);
 }

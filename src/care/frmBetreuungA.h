@@ -50,22 +50,16 @@ public:
     Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
     Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
-    // Set by the main menu before it shows the page. Begin and end in flight stand in the working copy.
-    std::int32_t kernID = 0;
-    std::int32_t betrID = 0;
-    bool istNeu = false;            ///< the episode is not yet in the care table
-    bool datenLaden = true;         ///< the working copy has yet to be loaded
-    bool zeitraumGesetzt = false;   ///< the episode has an accepted period
-    bool startMitZeitraum = false;  ///< the period dialogue comes first
-    bool zurückVomMemo = false;     ///< the memo was opened from this page
-    bool zurückVomZeitraum = false; ///< the period dialogue was opened from this page
+    /// `neu`: the episode is not yet in the care table, and the period dialogue comes first. Begin and end in flight
+    /// stand in the working copy.
+    frmBetreuungA(std::int32_t klient, std::int32_t nummer, bool neu);
 
-    /// `hauptmenü` is shown again when the page closes.
-    explicit frmBetreuungA(Bildschirm& hauptmenü);
+    const std::int32_t kernID;
+    const std::int32_t betrID;
+    const bool istNeu;
 
 private:
-    void beiAktivierung() override;
-    void beiEntladen() override;
+    void beiÖffnung() override;
 
     void baueTafel();
     void ordneAn();
@@ -75,7 +69,7 @@ private:
 
     void ladeSeite();
     void ladeArbeitskopie();
-    void zeigeZeitraum();
+    void zeigeBeginnUndEnde();
     void zeigeDaten();
     void zeigeBetrGru();
     bool hatProblemImUmfeld() const;
@@ -83,14 +77,13 @@ private:
 
     template <class F> void öffneSeite(Bildschirmplatz<F>& platz);
     void öffneEnde();
-    void öffneMemo();
-    void bearbeiteZeitraum();
+    void zeigeZeitraum();
+    void nimmZeitraum(const frmBetreuungZeitraum& dialog);
     void beiOK();
     void speichere();
     void beiExit();
-    void kehreZurück();
 
-    Bildschirm& m_hauptmenü;
+    bool m_zeitraumGesetzt; ///< the episode has an accepted period
     Seitenfelder m_tafel;
     Bildschirmplatz<frmBetreuungZeitraum> m_zeitraum;
     Bildschirmplatz<frmBetrA> m_betrA;

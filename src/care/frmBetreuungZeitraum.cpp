@@ -5,7 +5,11 @@
 #include "zustand/Fehlerort.h"
 #include "zustand/Zustand.h"
 
-frmBetreuungZeitraum::frmBetreuungZeitraum() : Bildschirm("frmBetreuungZeitraum"_t)
+#include <utility>
+
+frmBetreuungZeitraum::frmBetreuungZeitraum(std::int32_t kernID, bool istNeu, std::string von, std::string bis)
+    : Bildschirm("frmBetreuungZeitraum"_t), strVon(std::move(von)), strBis(std::move(bis)), m_kernID(kernID),
+      m_istNeu(istNeu)
 {
     istKindfenster = true;
     breiteEm = 29;
@@ -39,25 +43,19 @@ void frmBetreuungZeitraum::ordneAn()
     leiste.rechts = {&cmdOK, &cmdExit};
 }
 
-void frmBetreuungZeitraum::beiAktivierung()
+void frmBetreuungZeitraum::beiÖffnung()
 {
-    zustand().wechsel->holeFensterlage(*this);
     setzeTitel(zustand().titel);
-    mitDatumsort(kernID, [this] {
-        m_zeitraumListe = leseZeitraumListe(kernID);
+    mitDatumsort(m_kernID, [this] {
+        m_zeitraumListe = leseZeitraumListe(m_kernID);
         setzeStufeEins();
     });
-}
-
-void frmBetreuungZeitraum::beiEntladen()
-{
-    zustand().wechsel->speichereFensterlage(*this);
 }
 
 void frmBetreuungZeitraum::setzeStufeEins()
 {
     m_stufe = Stufe::Beginn;
-    if (istNeu) {
+    if (m_istNeu) {
         strVon = findeFreienTag(m_zeitraumListe, zustand().umgebung.heute());
         strBis = strVon;
     } else {
@@ -102,12 +100,12 @@ void frmBetreuungZeitraum::setzeFokusAufsEnde()
 
 Nachbarn frmBetreuungZeitraum::nachbarn() const
 {
-    return {m_zeitraumListe, istNeu ? std::nullopt : std::optional<std::string_view>(m_altVon)};
+    return {m_zeitraumListe, m_istNeu ? std::nullopt : std::optional<std::string_view>(m_altVon)};
 }
 
 void frmBetreuungZeitraum::beiOK()
 {
-    mitDatumsort(kernID, [this] {
+    mitDatumsort(m_kernID, [this] {
         if (m_stufe == Stufe::Beginn) {
             übernimmVon();
         } else {
@@ -128,7 +126,7 @@ void frmBetreuungZeitraum::übernimmVon()
         return;
     }
     strVon = kandidat;
-    if (istNeu) {
+    if (m_istNeu) {
         strBis = "offen"_t;
     }
     m_stufe = Stufe::Ende;
@@ -147,9 +145,8 @@ void frmBetreuungZeitraum::übernimmBis()
         return;
     }
     strBis = kandidat;
-    zustand().wechsel->zeigeAufrufer();
-    beiÜbernahme(strVon, strBis);
-    zustand().folge.entlade(*this);
+    m_angenommen = true;
+    zustand().folge.schließe(*this);
 }
 
 void frmBetreuungZeitraum::beiIsOffen()
@@ -175,7 +172,5 @@ void frmBetreuungZeitraum::beiVonVerbessern()
 void frmBetreuungZeitraum::beiExit()
 {
     zeigeMeldung("Betreuungszeitraum wurde nicht verändert"_t);
-    zustand().wechsel->zeigeAufrufer();
-    zustand().wechsel->aktualisiereAufrufer();
-    zustand().folge.entlade(*this);
+    zustand().folge.schließe(*this);
 }

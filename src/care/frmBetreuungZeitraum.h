@@ -4,12 +4,11 @@
 #include "platform/bildschirm/Bildschirm.h"
 
 #include <cstdint>
-#include <functional>
 #include <string>
 
 /// The dialogue that fixes begin and end of one care episode: first the begin, then the end. It is the only
-/// guard against two episodes of a client touching each other, and it writes nothing: what was accepted goes
-/// to the caller, which keeps it until its own OK.
+/// guard against two episodes of a client touching each other, and it writes nothing: what was accepted the caller
+/// takes and keeps until its own OK.
 class frmBetreuungZeitraum : public Bildschirm {
 public:
     Beschriftung lblHeader{*this, "lblHeader"_t, "Bitte Zeitraum für Betreuung eingeben"_t};
@@ -24,22 +23,19 @@ public:
     Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
     Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
-    // Set by the caller before it opens the dialogue.
-    bool istNeu = false;     ///< the episode is not yet in the care table
-    std::string strVon;      ///< begin, TT.MM.JJJJ
-    std::string strBis;      ///< end, TT.MM.JJJJ or "offen"
-    std::int32_t kernID = 0; ///< the client whose episodes are to be respected
-    std::int32_t betrID = 0; ///< the episode itself; its stored row is known by its begin alone
-    /// Takes over the accepted begin and end; not called on Exit.
-    std::function<void(const std::string& von, const std::string& bis)> beiÜbernahme;
+    std::string strVon; ///< begin, TT.MM.JJJJ
+    std::string strBis; ///< end, TT.MM.JJJJ or "offen"
+    /// Whether begin and end were accepted; not after Exit.
+    bool istAngenommen() const { return m_angenommen; }
 
-    frmBetreuungZeitraum();
+    /// The client whose episodes are to be respected, whether the episode is not yet in the care table, and its begin
+    /// and end so far. The stored row of the episode itself is known by its begin alone.
+    frmBetreuungZeitraum(std::int32_t kernID, bool istNeu, std::string von, std::string bis);
 
 private:
     enum class Stufe { Beginn, Ende };
 
-    void beiAktivierung() override;
-    void beiEntladen() override;
+    void beiÖffnung() override;
     void ordneAn();
     void setzeStufeEins();
     void zeigeStufe();
@@ -54,6 +50,9 @@ private:
     void beiExit();
     Nachbarn nachbarn() const;
 
+    const std::int32_t m_kernID;
+    const bool m_istNeu;
+    bool m_angenommen = false;
     Zeitraumliste m_zeitraumListe;
     std::string m_altVon; ///< begin and end when stage 1 was last entered
     std::string m_altBis;

@@ -79,7 +79,7 @@ void frmHauptmenü::verbindeRegeln()
     cmdBetreuungBearbeiten.beiKlick = [this] { bearbeiteBetreuung(); };
     cmdBetreuungLöschen.beiKlick = [this] { löscheBetreuung(); };
     cmdRollback.beiKlick = [this] { verwerfeEingaben(); };
-    cmdDatenübernahme.beiKlick = [this] { zustand().wechsel->zeigeDatenÜbernahme(*this, m_datenÜbernahme.neu(*this)); };
+    cmdDatenübernahme.beiKlick = [this] { zustand().folge.öffneStatt(*this, m_datenÜbernahme.neu()); };
     cmdExit.beiKlick = [this] { beende(); };
 
     mnExport.beiKlick = [this] { zeigeExport(); };
@@ -90,18 +90,12 @@ void frmHauptmenü::verbindeRegeln()
 
 void frmHauptmenü::beiAktivierung()
 {
-    zustand().wechsel->setzeFensterPosition(*this);
     if (!zustand().sitzungGesichert) {
         sichereDateien(zustand().bestand);
         zustand().aktKernID = 0;
         zustand().sitzungGesichert = true;
     }
     leseListen();
-}
-
-void frmHauptmenü::beiEntladen()
-{
-    zustand().wechsel->speichereRahmenlage(*this);
 }
 
 void frmHauptmenü::leseListen()

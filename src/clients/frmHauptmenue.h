@@ -48,7 +48,6 @@ public:
 
 private:
     void beiAktivierung() override;
-    void beiEntladen() override;
 
     void baueMenü();
     void ordneAn();

@@ -62,12 +62,7 @@ void frmHauptmenü::bearbeiteKlienten()
 
 void frmHauptmenü::zeigeStammdaten(std::int32_t kernID, bool istNeu)
 {
-    auto& stammdaten = m_stammdaten.neu(*this);
-    stammdaten.kernID = kernID;
-    stammdaten.istNeu = istNeu;
-    stammdaten.istErsterAufruf = true;
-    zustand().folge.verberge(*this);
-    zustand().folge.zeige(stammdaten);
+    zustand().folge.öffneStatt(*this, m_stammdaten.neu(kernID, istNeu));
 }
 
 void frmHauptmenü::löscheKlienten()
@@ -126,15 +121,7 @@ void frmHauptmenü::bearbeiteBetreuung()
 
 void frmHauptmenü::zeigeBetreuung(std::int32_t betrID, bool istNeu)
 {
-    auto& betreuung = m_betreuung.neu(*this);
-    betreuung.kernID = zustand().aktKernID;
-    betreuung.betrID = betrID;
-    betreuung.istNeu = istNeu;
-    betreuung.datenLaden = true;
-    betreuung.zeitraumGesetzt = !istNeu;
-    betreuung.startMitZeitraum = istNeu;
-    zustand().folge.verberge(*this);
-    zustand().folge.zeige(betreuung);
+    zustand().folge.öffneStatt(*this, m_betreuung.neu(zustand().aktKernID, betrID, istNeu));
 }
 
 void frmHauptmenü::löscheBetreuung()
@@ -177,14 +164,13 @@ void frmHauptmenü::verwerfeEingaben()
 
 void frmHauptmenü::zeigeExport()
 {
-    zustand().folge.sperre(*this);
-    zustand().folge.zeige(m_export.neu(*this));
+    zustand().folge.öffneÜber(*this, m_export.neu());
 }
 
 void frmHauptmenü::zeigeExcel()
 {
     zustand().folge.entlade(*this);
-    zustand().folge.zeige(m_excel.neu(*this));
+    zustand().folge.öffneStatt(*this, m_excel.neu());
 }
 
 void frmHauptmenü::zeigeInfo()

@@ -79,13 +79,3 @@ frmInfo::frmInfo() : Bildschirm("frmInfo"_t)
     lblTasten.setzeText(tastenliste());
     cmdOK.beiKlick = [this] { zustand().folge.entlade(*this); };
 }
-
-void frmInfo::beiAktivierung()
-{
-    zustand().wechsel->holeFensterlage(*this);
-}
-
-void frmInfo::beiEntladen()
-{
-    zustand().wechsel->speichereFensterlage(*this);
-}

@@ -13,8 +13,4 @@ public:
     Schaltfläche cmdOK{*this, "cmdOK"_t, "OK"_t, Schaltfläche::Rolle::Haupt};
 
     frmInfo();
-
-private:
-    void beiAktivierung() override;
-    void beiEntladen() override;
 };

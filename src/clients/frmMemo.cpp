@@ -15,7 +15,7 @@ constexpr std::size_t höchstlänge = 10000;
 
 } // namespace
 
-frmMemo::frmMemo() : Bildschirm("frmMemo"_t)
+frmMemo::frmMemo(bool zeigeMemoB) : Bildschirm("frmMemo"_t), m_zeigeMemoB(zeigeMemoB)
 {
     using namespace anordnung;
     kopfband.titel = &lblHeader;
@@ -30,24 +30,21 @@ frmMemo::frmMemo() : Bildschirm("frmMemo"_t)
     cmdExit.beiKlick = [this] { beiExit(); };
 }
 
-void frmMemo::beiAktivierung()
+void frmMemo::beiÖffnung()
 {
-    zustand().wechsel->holeFensterlage(*this);
     setzeTitel(verbinde(zustand().titel, " - Memo"_t));
     tbMemoK.setzeText(alsAnzeigeform(zustand().memoKText));
     tbMemoB.setzeText(alsAnzeigeform(zustand().memoBText));
     const auto& klient = zustand().arbeitskopie.aktKernDS;
     lblHeader.setzeText(
         verbinde("memo: "_t, getFeld(klient, feld::kern::vorname), ' ', getFeld(klient, feld::kern::nachname)));
-    cmdDummy.zeige(zeigeMemoB);
-    tbMemoB.zeige(!zeigeMemoB);
+    cmdDummy.zeige(m_zeigeMemoB);
+    tbMemoB.zeige(!m_zeigeMemoB);
 }
 
 void frmMemo::beiEntladen()
 {
-    zustand().wechsel->speichereFensterlage(*this);
     zustand().umgebung.lasseEreignisseZu();
-    zustand().wechsel->zeigeMemoAufrufer();
 }
 
 void frmMemo::beiOK()
@@ -65,7 +62,7 @@ void frmMemo::beiOK()
     }
     zustand().memoKText = memoK;
     zustand().memoBText = memoB;
-    schließe();
+    zustand().folge.schließe(*this);
 }
 
 void frmMemo::beiExit()
@@ -76,13 +73,7 @@ void frmMemo::beiExit()
         zeigeMeldung("Veränderungen werden verworfen"_t, Symbol::Info, Knöpfe::OKAbbrechen) != Antwort::OK) {
         return;
     }
-    schließe();
-}
-
-void frmMemo::schließe()
-{
-    zeigeMemoB = false;
-    zustand().folge.entlade(*this);
+    zustand().folge.schließe(*this);
 }
 
 std::string alsAnzeigeform(std::string_view gespeichert)

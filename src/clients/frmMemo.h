@@ -16,17 +16,16 @@ public:
     Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
     Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
-    /// Set by a caller that has no care episode: the care-level box is hidden then.
-    bool zeigeMemoB = false;
-
-    frmMemo();
+    /// `zeigeMemoB`: the caller has no care episode, and the care-level box is covered.
+    explicit frmMemo(bool zeigeMemoB);
 
 private:
-    void beiAktivierung() override;
+    void beiÖffnung() override;
     void beiEntladen() override;
     void beiOK();
     void beiExit();
-    void schließe();
+
+    const bool m_zeigeMemoB;
 };
 
 /// Character 182 becomes carriage return and line feed, all others stay.

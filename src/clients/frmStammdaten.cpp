@@ -38,7 +38,7 @@ template <class Form> auto textfelder(Form& form)
 
 } // namespace
 
-frmStammdaten::frmStammdaten(Bildschirm& hauptmenü) : Bildschirm("frmStammdaten"_t), m_hauptmenü(hauptmenü)
+frmStammdaten::frmStammdaten(std::int32_t klient, bool neu) : Bildschirm("frmStammdaten"_t), kernID(klient), istNeu(neu)
 {
     ordneAn();
     DTPickerGeburtsdatum.heute = [] { return zustand().umgebung.heute(); };
@@ -47,7 +47,7 @@ frmStammdaten::frmStammdaten(Bildschirm& hauptmenü) : Bildschirm("frmStammdaten
 
     cmdGebUnbekannt.beiKlick = [this] { setzeGebUnbekannt(false); };
     cmdGebUnbekanntEintragen.beiKlick = [this] { setzeGebUnbekannt(true); };
-    cmdMemo.beiKlick = [this] { zustand().wechsel->zeigeMemo(*this, true); };
+    cmdMemo.beiKlick = [this] { zustand().zeigeMemo(*this, true); };
     cmdOK.beiKlick = [this] { beiOK(); };
     cmdExit.beiKlick = [this] { beiExit(); };
 }
@@ -68,21 +68,7 @@ void frmStammdaten::ordneAn()
     beiEscape = &cmdExit;
 }
 
-void frmStammdaten::beiAktivierung()
-{
-    zustand().wechsel->setzeFensterPosition(*this);
-    if (istErsterAufruf) {
-        istErsterAufruf = false;
-        richteEin();
-    }
-}
-
-void frmStammdaten::beiEntladen()
-{
-    zustand().wechsel->speichereRahmenlage(*this);
-}
-
-void frmStammdaten::richteEin()
+void frmStammdaten::beiÖffnung()
 {
     setzeTitel(verbinde(zustand().titel, " - Stammdaten"_t));
     comboGeschlecht.setzeListe(werte::texte(werte::geschlecht));
@@ -161,7 +147,7 @@ void frmStammdaten::beiOK()
         vorgang.ersetzeKernDS(kernID, satz);
     }
     vorgang.bestätige();
-    schließe();
+    zustand().folge.schließe(*this);
 }
 
 void frmStammdaten::beiExit()
@@ -170,12 +156,5 @@ void frmStammdaten::beiExit()
                                                                Symbol::Frage, Knöpfe::OKAbbrechen) != Antwort::OK) {
         return;
     }
-    schließe();
-}
-
-void frmStammdaten::schließe()
-{
-    istNeu = false;
-    zustand().folge.zeige(m_hauptmenü);
-    zustand().folge.entlade(*this);
+    zustand().folge.schließe(*this);
 }

@@ -22,21 +22,18 @@ public:
     Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
     Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
-    // set by the main menu before it shows the form
-    std::int32_t kernID = 0;
-    bool istNeu = false;
-    bool istErsterAufruf = false;
+    /// `neu`: the client is not yet in the client table.
+    frmStammdaten(std::int32_t klient, bool neu);
 
-    explicit frmStammdaten(Bildschirm& hauptmenü);
+    const std::int32_t kernID;
+    const bool istNeu;
 
 private:
     static constexpr std::size_t höchstlänge = 255;
 
-    void beiAktivierung() override;
-    void beiEntladen() override;
+    void beiÖffnung() override;
     void ordneAn();
 
-    void richteEin();
     void getFrmData();
     std::string erstelleKernDS() const;
     void zeigeGeburtsdatum(std::string_view gespeichert);
@@ -45,9 +42,7 @@ private:
 
     void beiOK();
     void beiExit();
-    void schließe();
 
-    Bildschirm& m_hauptmenü;
     std::string m_kernDSBeimÖffnen;
     std::string m_betrao;
 };

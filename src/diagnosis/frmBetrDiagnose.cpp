@@ -67,23 +67,19 @@ std::vector<std::string> jaVorNein()
 
 } // namespace
 
+void frmBetrDiagnose::beiÖffnung()
+{
+    m_alteDSDiag = DSDiag();
+    m_alteDSBetrDiag = DSBetrDiag();
+    richteEin();
+    beiAktivierung();
+    setzeFokus(&ersteFrage()); // not the scroll bar of the listing above it
+}
+
 void frmBetrDiagnose::beiAktivierung()
 {
-    if (!m_istEingerichtet) {
-        m_alteDSDiag = DSDiag();
-        m_alteDSBetrDiag = DSBetrDiag();
-    }
-    zustand().wechsel->setzeFensterPosition(*this);
-    const bool istErsteAktivierung = !m_istEingerichtet;
-    if (istErsteAktivierung) {
-        richteEin();
-        m_istEingerichtet = true;
-    }
     prüfeBitfeld();
     setFrmData();
-    if (istErsteAktivierung) {
-        setzeFokus(&ersteFrage()); // not the scroll bar of the listing above it
-    }
 }
 
 Element& frmBetrDiagnose::ersteFrage()
@@ -99,11 +95,6 @@ void frmBetrDiagnose::prüfeBitfeld()
     const Satzschlüssel schlüssel{static_cast<std::int32_t>(führendeZahl(getFeld(satz, feld::diag::kernID))),
                                   static_cast<std::int32_t>(führendeZahl(getFeld(satz, feld::diag::betrID)))};
     mitSatzort(Tabelle::Diag, schlüssel, feld::diag::bitfeld, [] { leseBitfeld(DSDiag()); });
-}
-
-void frmBetrDiagnose::beiEntladen()
-{
-    zustand().wechsel->speichereRahmenlage(*this);
 }
 
 void frmBetrDiagnose::richteEin()
@@ -129,7 +120,7 @@ void frmBetrDiagnose::setFrmData()
         tbandereDiagnose(i).setzeText(getFeld(DSDiag(), weitereDiagnose(i)));
     }
     zeigeDiagnosen();
-    const bool hatHauptdiagnose = getHDGruppenNr() != -1;
+    const bool hatHauptdiagnose = getHDGruppenNr(DSDiag()) != -1;
     cmdIsHDGestellt.zeige(hatHauptdiagnose);
     if (hatHauptdiagnose) {
         optHDohne(0).setze(true);
@@ -171,49 +162,35 @@ void frmBetrDiagnose::sammle()
     DSDiag() = sammleDSDiag();
 }
 
-std::int16_t frmBetrDiagnose::getHDGruppenNr() const
-{
-    return ::getHDGruppenNr(DSDiag());
-}
-
-void frmBetrDiagnose::schreibeGruppeInDSDiag(int gruppe, std::string_view block)
-{
-    ::schreibeGruppeInDSDiag(DSDiag(), gruppe, block);
-}
-
-void frmBetrDiagnose::schreibeBitFeldInDSDiag(std::string_view text)
-{
-    ::schreibeBitFeldInDSDiag(DSDiag(), text);
-}
-
 void frmBetrDiagnose::steuereNeueDiagnose(bool neu)
 {
     if (neu) {
         m_gruppeGemerkt = gruppeAktuell;
-        zustand().wechsel->zeigeCodeAuswahl(*this, m_auswahl.neu(*this));
-        zustand().folge.verberge(*this);
+        zeigeCodeAuswahl();
     } else if (gruppeAktuell == -1) {
         gruppeAktuell = m_gruppeGemerkt;
     } else {
         // The page has come up again behind the chooser, which always fills it anew: what is collected now are
         // the working strings, not what stood on the page before.
         setFrmData();
-        bearbeiteGruppe();
+        zeigeDiagnoseErstellen();
     }
 }
 
-void frmBetrDiagnose::zeigeWieder()
+void frmBetrDiagnose::zeigeCodeAuswahl()
 {
-    zustand().wechsel->zeigeAufrufer();
-    zustand().folge.zeige(*this);
+    auto& auswahl = m_auswahl.neu();
+    zustand().folge.öffneÜber(*this, auswahl, [this, &auswahl] {
+        gruppeAktuell = auswahl.gruppe();
+        steuereNeueDiagnose(false);
+    });
+    zustand().folge.verberge(*this);
 }
 
-void frmBetrDiagnose::bearbeiteGruppe()
+void frmBetrDiagnose::zeigeDiagnoseErstellen()
 {
     sammle();
-    frmBetrDiagnoseErstellen& dialog = m_erstellen.neu(*this);
-    dialog.gruppeAktuell = gruppeAktuell;
-    zustand().wechsel->zeigeDiagnoseErstellen(*this, dialog);
+    zustand().folge.öffneÜber(*this, m_erstellen.neu(gruppeAktuell));
     zustand().folge.verberge(*this);
 }
 
@@ -224,7 +201,7 @@ void frmBetrDiagnose::beiBearbeiten()
         return;
     }
     gruppeAktuell = static_cast<std::int16_t>(gruppeZuName(lblProblem(zeile).text()));
-    bearbeiteGruppe();
+    zeigeDiagnoseErstellen();
 }
 
 void frmBetrDiagnose::beiLöschen()
@@ -270,7 +247,7 @@ void frmBetrDiagnose::beiOK()
         return;
     }
     sammle();
-    schließe();
+    zustand().folge.schließe(*this);
 }
 
 void frmBetrDiagnose::beiExit()
@@ -285,11 +262,5 @@ void frmBetrDiagnose::beiExit()
     }
     DSBetrDiag() = m_alteDSBetrDiag;
     DSDiag() = m_alteDSDiag;
-    schließe();
-}
-
-void frmBetrDiagnose::schließe()
-{
-    zustand().folge.zeige(m_betreuung);
-    zustand().folge.entlade(*this);
+    zustand().folge.schließe(*this);
 }

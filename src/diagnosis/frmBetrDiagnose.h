@@ -71,30 +71,21 @@ public:
     Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
     Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
-    /// The group in hand, -1 for none; the chooser hands its choice back here.
+    /// The group in hand, -1 for none.
     std::int16_t gruppeAktuell = -1;
 
-    /// `betreuung` is the care main page, which comes back when this page closes.
-    explicit frmBetrDiagnose(Bildschirm& betreuung);
+    frmBetrDiagnose();
 
-    /// The group of the main diagnosis, the lowest if a record marks several; -1 for none.
-    std::int16_t getHDGruppenNr() const;
-    /// Replaces the group's block in DSDiag by eight fields, each followed by the delimiter.
-    void schreibeGruppeInDSDiag(int gruppe, std::string_view block);
-    /// Replaces the bit field of DSDiag.
-    void schreibeBitFeldInDSDiag(std::string_view text);
     /// The switching point between page, chooser and dialogue: with `neu` the chooser opens; without, it has
     /// closed, and the dialogue opens for the group chosen, or the group in hand is the earlier one again.
     void steuereNeueDiagnose(bool neu);
-    /// Chooser or dialogue have closed: the page comes back into view.
-    void zeigeWieder();
 
 private:
     static constexpr int letzteZeile = 30;
     static constexpr int spaltenzahl = 8;
 
+    void beiÖffnung() override;
     void beiAktivierung() override;
-    void beiEntladen() override;
 
     // captions and arrangement (frmBetrDiagnose_Aufbau.cpp)
     void ordneAn();
@@ -125,7 +116,8 @@ private:
     void beiZeilenklick(int zeile);
     void markiereNächsteZeile();
     void rolleZu(int zeile);
-    void bearbeiteGruppe();
+    void zeigeCodeAuswahl();
+    void zeigeDiagnoseErstellen();
 
     // the further diagnoses
     bool prüfeWeitereDiagnose(int nummer);
@@ -135,9 +127,7 @@ private:
     void beiLöschen();
     void beiOK();
     void beiExit();
-    void schließe();
 
-    Bildschirm& m_betreuung;
     Optionsgruppe m_hdOhne, m_ivKonsum;
     Bildschirmplatz<frmBetrDiagnoseCodeAuswahl> m_auswahl;
     Bildschirmplatz<frmBetrDiagnoseErstellen> m_erstellen;
@@ -148,7 +138,6 @@ private:
         &lblICDxxx4, &lblAlterStörungsbeginn, &lblRiskanterKonsum, &lblAlterErstkonsum};
 
     std::int16_t m_gruppeGemerkt = -1;
-    bool m_istEingerichtet = false;
     /// Both working strings as the page found them; Exit goes back to them.
     std::string m_alteDSDiag, m_alteDSBetrDiag;
     /// The last accepted text of each further diagnosis. Starts empty, whatever the record holds.

@@ -1,6 +1,5 @@
 #include "diagnosis/frmBetrDiagnoseCodeAuswahl.h"
 
-#include "diagnosis/frmBetrDiagnose.h"
 #include "satz/Diagnosesatz.h"
 #include "zustand/Zustand.h"
 
@@ -21,8 +20,7 @@ std::vector<std::string> zeilenDesKatalogs()
 
 } // namespace
 
-frmBetrDiagnoseCodeAuswahl::frmBetrDiagnoseCodeAuswahl(frmBetrDiagnose& seite)
-    : Bildschirm("frmBetrDiagnoseCodeAuswahl"_t), m_seite(seite)
+frmBetrDiagnoseCodeAuswahl::frmBetrDiagnoseCodeAuswahl() : Bildschirm("frmBetrDiagnoseCodeAuswahl"_t)
 {
     istKindfenster = true;
     breiteEm = 34;
@@ -34,20 +32,14 @@ frmBetrDiagnoseCodeAuswahl::frmBetrDiagnoseCodeAuswahl(frmBetrDiagnose& seite)
 
     lvwDiagCodes.beiDoppelklick = [this] { beiOK(); };
     cmdOK.beiKlick = [this] { beiOK(); };
-    cmdExit.beiKlick = [this] { beiExit(); };
+    cmdExit.beiKlick = [this] { zustand().folge.schließe(*this); };
 }
 
-void frmBetrDiagnoseCodeAuswahl::beiAktivierung()
+void frmBetrDiagnoseCodeAuswahl::beiÖffnung()
 {
-    zustand().wechsel->holeFensterlage(*this);
     setzeTitel(verbinde(zustand().titel, " - Diagnose auswählen"_t));
     lvwDiagCodes.setzeZeilen(zeilenDesKatalogs());
     lvwDiagCodes.wähleUndZeige(1);
-}
-
-void frmBetrDiagnoseCodeAuswahl::beiEntladen()
-{
-    zustand().wechsel->speichereFensterlage(*this);
 }
 
 /// Only the stored bit counts: a group that is listed for its answers alone is taken as new.
@@ -71,19 +63,6 @@ void frmBetrDiagnoseCodeAuswahl::beiOK()
         zeigeMeldung("Nichts wurde verändert"_t, Symbol::Info);
         return;
     }
-    m_seite.gruppeAktuell = gruppe;
-    schließe();
-}
-
-void frmBetrDiagnoseCodeAuswahl::beiExit()
-{
-    m_seite.gruppeAktuell = -1;
-    schließe();
-}
-
-void frmBetrDiagnoseCodeAuswahl::schließe()
-{
-    zustand().folge.entlade(*this);
-    m_seite.zeigeWieder();
-    m_seite.steuereNeueDiagnose(false);
+    m_gruppe = gruppe;
+    zustand().folge.schließe(*this);
 }

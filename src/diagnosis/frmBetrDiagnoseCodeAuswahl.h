@@ -2,9 +2,9 @@
 
 #include "platform/bildschirm/Bildschirm.h"
 
-class frmBetrDiagnose;
+#include <cstdint>
 
-/// Lets the user pick one of the 29 problem areas; the choice is handed back in the page's `gruppeAktuell`.
+/// Lets the user pick one of the 29 problem areas.
 class frmBetrDiagnoseCodeAuswahl : public Bildschirm {
 public:
     Beschriftung lblName{*this, "lblName"_t, "Problembereiche"_t};
@@ -13,16 +13,16 @@ public:
     Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
     Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
-    explicit frmBetrDiagnoseCodeAuswahl(frmBetrDiagnose& seite);
+    frmBetrDiagnoseCodeAuswahl();
+
+    /// The group that was chosen, -1 after Exit.
+    std::int16_t gruppe() const { return m_gruppe; }
 
 private:
-    void beiAktivierung() override;
-    void beiEntladen() override;
+    void beiÖffnung() override;
 
     bool willBearbeiten(int gruppe) const;
     void beiOK();
-    void beiExit();
-    void schließe();
 
-    frmBetrDiagnose& m_seite;
+    std::int16_t m_gruppe = -1;
 };

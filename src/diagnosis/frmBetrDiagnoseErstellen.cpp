@@ -1,6 +1,5 @@
 #include "diagnosis/frmBetrDiagnoseErstellen.h"
 
-#include "diagnosis/frmBetrDiagnose.h"
 #include "platform/text/Zahl.h"
 #include "satz/Diagnosesatz.h"
 #include "satz/Wertelisten.h"
@@ -62,8 +61,8 @@ bool beginntMitZiffer(std::string_view text)
 
 } // namespace
 
-frmBetrDiagnoseErstellen::frmBetrDiagnoseErstellen(frmBetrDiagnose& seite)
-    : Bildschirm("frmBetrDiagnoseErstellen"_t), m_seite(seite)
+frmBetrDiagnoseErstellen::frmBetrDiagnoseErstellen(std::int16_t gruppe)
+    : Bildschirm("frmBetrDiagnoseErstellen"_t), gruppeAktuell(gruppe)
 {
     for (int i = 0; i <= lblFrage.bis(); ++i) {
         lblFrage(i).setzeText(fragen[static_cast<std::size_t>(i)]);
@@ -97,19 +96,14 @@ void frmBetrDiagnoseErstellen::bestimmeAufbau()
     beiEscape = &cmdExit;
 }
 
-void frmBetrDiagnoseErstellen::beiAktivierung()
+void frmBetrDiagnoseErstellen::beiÖffnung()
 {
-    zustand().wechsel->holeFensterlage(*this);
     setzeTitel(verbinde(zustand().titel, " - Diagnose erstellen"_t));
-    m_hdGruppeAlt = m_seite.getHDGruppenNr();
-    m_block = zerlegeDSDiag(zustand().arbeitskopie.DSDiag, gruppeAktuell).block;
+    const std::string& dsDiag = zustand().arbeitskopie.DSDiag;
+    m_hdGruppeAlt = getHDGruppenNr(dsDiag);
+    m_block = zerlegeDSDiag(dsDiag, gruppeAktuell).block;
     bereiteFragenVor();
     fülleAntworten();
-}
-
-void frmBetrDiagnoseErstellen::beiEntladen()
-{
-    zustand().wechsel->speichereFensterlage(*this);
 }
 
 void frmBetrDiagnoseErstellen::bereiteFragenVor()
@@ -230,13 +224,13 @@ void frmBetrDiagnoseErstellen::beiOK()
     if (!prüfeAntworten()) {
         return;
     }
-    m_seite.schreibeGruppeInDSDiag(gruppeAktuell, sammleAntworten());
     std::string& dsDiag = zustand().arbeitskopie.DSDiag;
+    schreibeGruppeInDSDiag(dsDiag, gruppeAktuell, sammleAntworten());
     if (cbHD.istAn() && m_hdGruppeAlt > 0 && m_hdGruppeAlt != gruppeAktuell) {
         nimmHDMarke(dsDiag, m_hdGruppeAlt);
     }
     trageGruppeEin(dsDiag, gruppeAktuell);
-    schließe();
+    zustand().folge.schließe(*this);
 }
 
 void frmBetrDiagnoseErstellen::beiExit()
@@ -246,11 +240,5 @@ void frmBetrDiagnoseErstellen::beiExit()
         zeigeMeldung("Níchts wurde verändert"_t, Symbol::Info);
         return;
     }
-    schließe();
-}
-
-void frmBetrDiagnoseErstellen::schließe()
-{
-    zustand().folge.entlade(*this);
-    m_seite.zeigeWieder();
+    zustand().folge.schließe(*this);
 }

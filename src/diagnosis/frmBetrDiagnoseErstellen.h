@@ -6,8 +6,6 @@
 #include <string>
 #include <string_view>
 
-class frmBetrDiagnose;
-
 /// Takes the answers for one problem area: up to seven questions, and whether it is the main diagnosis. Which
 /// questions there are, and which answers, follows from the group alone. Only OK changes DSDiag.
 class frmBetrDiagnoseErstellen : public Bildschirm {
@@ -20,14 +18,13 @@ public:
     Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t, Schaltfläche::Rolle::Haupt};
     Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
-    /// The group, 1 to 29; set by the page before the dialogue opens.
-    std::int16_t gruppeAktuell = -1;
+    /// The group, 1 to 29.
+    const std::int16_t gruppeAktuell;
 
-    explicit frmBetrDiagnoseErstellen(frmBetrDiagnose& seite);
+    explicit frmBetrDiagnoseErstellen(std::int16_t gruppe);
 
 private:
-    void beiAktivierung() override;
-    void beiEntladen() override;
+    void beiÖffnung() override;
 
     void bestimmeAufbau();
     void bereiteFragenVor();
@@ -41,9 +38,7 @@ private:
     std::string sammleAntworten() const;
     void beiOK();
     void beiExit();
-    void schließe();
 
-    frmBetrDiagnose& m_seite;
     /// The main diagnosis on opening, -1 for none.
     std::int16_t m_hdGruppeAlt = -1;
     /// The block of the group on opening.

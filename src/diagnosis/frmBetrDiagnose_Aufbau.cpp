@@ -78,7 +78,7 @@ std::vector<Tabellenspalte> spaltenDerListung()
 
 } // namespace
 
-frmBetrDiagnose::frmBetrDiagnose(Bildschirm& betreuung) : Bildschirm("frmBetrDiagnose"_t), m_betreuung(betreuung)
+frmBetrDiagnose::frmBetrDiagnose() : Bildschirm("frmBetrDiagnose"_t)
 {
     bereiteOptionenVor(optHDohne, m_hdOhne, gründe);
     bereiteOptionenVor(optIVKonsum, m_ivKonsum, ivAntworten);
@@ -154,7 +154,7 @@ void frmBetrDiagnose::bestimmeRegeln()
     cmdNeueDiagnose.beiKlick = [this] { steuereNeueDiagnose(true); };
     cmdDiagnoseBearbeiten.beiKlick = [this] { beiBearbeiten(); };
     cmdDiagnoseLöschen.beiKlick = [this] { beiLöschen(); };
-    cmdMemo.beiKlick = [this] { zustand().wechsel->zeigeMemo(*this); };
+    cmdMemo.beiKlick = [this] { zustand().zeigeMemo(*this, false); };
     cmdOK.beiKlick = [this] { beiOK(); };
     cmdExit.beiKlick = [this] { beiExit(); };
 }

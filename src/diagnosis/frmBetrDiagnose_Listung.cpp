@@ -41,7 +41,7 @@ void frmBetrDiagnose::zeigeDiagnosen()
         schreibeZeile(zeile, verbinde(aryProblem.at(static_cast<std::size_t>(gruppe)), trenner,
                                       zerlegeDSDiag(satz, gruppe).block));
     };
-    const int hauptgruppe = getHDGruppenNr();
+    const int hauptgruppe = getHDGruppenNr(satz);
     if (hauptgruppe < 1) {
         schreibeZeile(0, {});
     } else {

@@ -46,7 +46,7 @@ private:
 
 } // namespace
 
-frmExport::frmExport(Bildschirm& hauptmenü) : Bildschirm("frmExport"_t), m_hauptmenü(hauptmenü)
+frmExport::frmExport() : Bildschirm("frmExport"_t)
 {
     using namespace anordnung;
     setzeTitel("Export"_t);
@@ -62,19 +62,6 @@ frmExport::frmExport(Bildschirm& hauptmenü) : Bildschirm("frmExport"_t), m_haup
     ProgressBar1.verberge();
     cmdOK.beiKlick = [this] { beiOK(); };
     cmdExit.beiKlick = [this] { beiExit(); };
-}
-
-void frmExport::beiAktivierung()
-{
-    if (!m_eingerichtet) {
-        m_eingerichtet = true;
-        zustand().wechsel->holeFensterlage(*this);
-    }
-}
-
-void frmExport::beiEntladen()
-{
-    zustand().wechsel->speichereFensterlage(*this);
 }
 
 void frmExport::beiOK()
@@ -157,6 +144,5 @@ void frmExport::beiExit()
         zeigeMeldung("Abbruch nicht möglich"_t);
         return;
     }
-    zustand().folge.gibFrei(m_hauptmenü);
-    zustand().folge.entlade(*this);
+    zustand().folge.schließe(*this);
 }

@@ -17,11 +17,9 @@ public:
     Schaltfläche cmdOK{*this, "cmdOK"_t, "Exportieren"_t, Schaltfläche::Rolle::Haupt};
     Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
-    explicit frmExport(Bildschirm& hauptmenü);
+    frmExport();
 
 private:
-    void beiAktivierung() override;
-    void beiEntladen() override;
     void beiOK();
     void beiExit();
 
@@ -31,7 +29,5 @@ private:
     std::int32_t führeAus(int jahr, const std::filesystem::path& ordner);
     void zeigeFortschritt(std::int32_t nummer, std::int32_t anzahl);
 
-    Bildschirm& m_hauptmenü;
-    bool m_eingerichtet = false;
     bool m_läuft = false;
 };

@@ -21,7 +21,7 @@ std::filesystem::path pfadAus(std::string_view text)
 
 } // namespace
 
-frmDatenÜbernahme::frmDatenÜbernahme(Bildschirm& hauptmenü) : Bildschirm("frmDatenÜbernahme"_t), m_hauptmenü(hauptmenü)
+frmDatenÜbernahme::frmDatenÜbernahme() : Bildschirm("frmDatenÜbernahme"_t)
 {
     using namespace anordnung;
     setzeTitel("Datenübernahme"_t);
@@ -43,22 +43,7 @@ frmDatenÜbernahme::frmDatenÜbernahme(Bildschirm& hauptmenü) : Bildschirm("frm
     cmdGetKernDat.beiKlick = [this] { wähle(tbKernDatAlt, m_kernDatAlt); };
     cmdGetBetreuungenDat.beiKlick = [this] { wähle(tbBetrDatAlt, m_betrDatAlt); };
     cmdOK.beiKlick = [this] { beiOK(); };
-    cmdExit.beiKlick = [this] { beiExit(); };
-}
-
-void frmDatenÜbernahme::beiAktivierung()
-{
-    if (!m_eingerichtet) {
-        m_eingerichtet = true;
-        zustand().wechsel->setzeFensterPosition(*this);
-    }
-}
-
-void frmDatenÜbernahme::beiEntladen()
-{
-    zustand().importKernPfad = tbKernDatAlt.text();
-    zustand().importBetrPfad = tbBetrDatAlt.text();
-    zustand().wechsel->speichereRahmenlage(*this);
+    cmdExit.beiKlick = [this] { zustand().folge.schließe(*this); };
 }
 
 void frmDatenÜbernahme::wähle(Textfeld& ziel, std::filesystem::path& gewählt)
@@ -130,12 +115,4 @@ void frmDatenÜbernahme::zeigeFehlschlag()
     cmdOK.gibFrei();
     ProgressBar1.setzeWert(höchsterFortschritt);
     lblStatus.setzeText(bereit);
-}
-
-void frmDatenÜbernahme::beiExit()
-{
-    zustand().folge.verberge(*this);
-    zustand().folge.zeige(m_hauptmenü);
-    zustand().folge.gibFrei(m_hauptmenü);
-    zustand().folge.entlade(*this);
 }

@@ -22,13 +22,10 @@ public:
     Schaltfläche cmdOK{*this, "cmdOK"_t, "Import starten"_t, Schaltfläche::Rolle::Haupt};
     Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
-    explicit frmDatenÜbernahme(Bildschirm& hauptmenü);
+    frmDatenÜbernahme();
 
 private:
-    void beiAktivierung() override;
-    void beiEntladen() override;
     void beiOK();
-    void beiExit();
     void wähle(Textfeld& ziel, std::filesystem::path& gewählt);
 
     void importiere(Importlauf& lauf);
@@ -37,8 +34,6 @@ private:
     /// The path in the box: the chosen one while it still stands there, else the typed one.
     std::filesystem::path pfadIn(const Textfeld& feld, const std::filesystem::path& gewählt) const;
 
-    Bildschirm& m_hauptmenü;
-    bool m_eingerichtet = false;
     std::filesystem::path m_ordner; ///< of the file chosen last
     std::filesystem::path m_kernDatAlt;
     std::filesystem::path m_betrDatAlt;

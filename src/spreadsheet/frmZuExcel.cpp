@@ -22,7 +22,7 @@ constexpr double zeitanteilÜbergabe = 0.03;
 
 } // namespace
 
-frmZuExcel::frmZuExcel(Bildschirm& hauptmenü) : Bildschirm("frmZuExcel"_t), m_hauptmenü(hauptmenü)
+frmZuExcel::frmZuExcel() : Bildschirm("frmZuExcel"_t)
 {
 
     setzeTitel(zustand().titel);
@@ -31,7 +31,7 @@ frmZuExcel::frmZuExcel(Bildschirm& hauptmenü) : Bildschirm("frmZuExcel"_t), m_h
     höhe = 3000;
     cmdFertig.setzeText("Fertig\r\n(bitte klicken, um zum Hauptmenü zurückzukehren)"_t);
     cmdFertig.zeige(false);
-    cmdFertig.beiKlick = [this] { beiFertig(); };
+    cmdFertig.beiKlick = [this] { zustand().folge.schließe(*this); };
     beiEscape = &cmdFertig;
     ProgressBar1.setzeBereich(0, schritte);
 
@@ -41,18 +41,14 @@ frmZuExcel::frmZuExcel(Bildschirm& hauptmenü) : Bildschirm("frmZuExcel"_t), m_h
                            anordnung::füllend(anordnung::platzhaltend(anordnung::element(cmdFertig)))});
 }
 
-void frmZuExcel::beiAktivierung()
+void frmZuExcel::beiÖffnung()
 {
-    if (m_begonnen) {
-        return;
-    }
-    m_begonnen = true;
     platziere();
     lblText.setzeText("bei der Arbeit... (bitte warten)"_t);
     zustand().umgebung.zeichne();
     schreibeTabellen();
     if (m_abbruch) {
-        beiFertig();
+        zustand().folge.schließe(*this);
     } else {
         cmdFertig.zeige(true);
         setzeFokus(&cmdFertig);
@@ -64,25 +60,13 @@ void frmZuExcel::beiAktivierung()
 void frmZuExcel::platziere()
 {
     Rahmen& rahmen = zustand().rahmen;
-    zustand().wechsel->holeFensterlage(*this);
     if (!rahmen.istMaximiert()) {
         rahmen.setzeLage(oben, links);
     }
-    istMittig = true; // not before the keys were read: their place is the frame's
+    istMittig = true; // not before now: the place from the keys is the frame's
     oben = rahmen.oben() + (rahmen.höhe() - höhe) / 2;
     links = rahmen.links() + (rahmen.breite() - breite) / 2;
     lageGeändert.melde();
-}
-
-void frmZuExcel::beiEntladen()
-{
-    zustand().wechsel->speichereFensterlage(*this);
-}
-
-void frmZuExcel::beiFertig()
-{
-    zustand().folge.zeige(m_hauptmenü);
-    zustand().folge.entlade(*this);
 }
 
 void frmZuExcel::schreibeTabellen()

@@ -18,22 +18,17 @@ public:
     Fortschrittsbalken ProgressBar1{*this, "ProgressBar1"_t};
     Schaltfläche cmdFertig{*this, "cmdFertig"_t};
 
-    /// `hauptmenü` is shown again at the end.
-    explicit frmZuExcel(Bildschirm& hauptmenü);
+    frmZuExcel();
 
 private:
-    void beiAktivierung() override;
-    void beiEntladen() override;
+    void beiÖffnung() override;
     void platziere();
     void schreibeTabellen();
     void zeigeFortschritt(std::string_view text, bool zurücksetzen = false);
     void zeigeDatensatz(int nummer, int anzahl);
     bool übergib(Arbeitsmappe& mappe);
     void brichAb();
-    void beiFertig();
 
-    Bildschirm& m_hauptmenü;
-    bool m_begonnen = false;
     bool m_abbruch = false;
     int m_fortschritt = 0;
 };

@@ -7,10 +7,10 @@
 #include "platform/text/Text.h"
 #include "platform/umgebung/Umgebung.h"
 #include "store/Bestand.h"
-#include "zustand/Bildschirmwechsel.h"
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -55,8 +55,8 @@ public:
     Rahmen rahmen;
     Ablauf ablauf;
     Ressourcen ressourcen;
-    /// Hand-over from screen to screen; set by the frame before the first screen opens.
-    Bildschirmwechsel* wechsel = nullptr;
+    /// Opens the memo over the caller. Set by the frame, since the memo form stands above the pages that open it.
+    std::function<void(Bildschirm& rufer, bool zeigeMemoB)> zeigeMemo;
 
     /// Title of every message box and of the frame, "Tolvek7 v7.0.0"; empty before initialisation.
     std::string titel;
@@ -69,17 +69,11 @@ public:
     std::string defaultDiagDS;
     std::int16_t anzahlKernFelder = 0;
     std::int16_t anzahlBetrFelder = 0;
-    /// Field counts that the start-up repair found in the files; kept, read by nobody.
-    std::int16_t gefundeneKernFelder = 0;
-    std::int16_t gefundeneBetrFelder = 0;
 
     Arbeitskopie arbeitskopie;
     /// The two memo texts while a memo can be edited; line breaks as character 182.
     std::string memoKText;
     std::string memoBText;
-    /// The two paths of the last import; read by nobody.
-    std::string importKernPfad;
-    std::string importBetrPfad;
 
     /// The selected client and care episode of the main menu (0: none); they outlive its unloading.
     std::int32_t aktKernID = 0;

@@ -138,7 +138,7 @@ TEST_F(Rahmenregeln, IstHöchstensSoGroßWieDerBildschirm)
 
     hauptmenü.breite = 100000;
     hauptmenü.höhe = 100000;
-    programm.zustand().wechsel->setzeFensterPosition(hauptmenü);
+    programm.zustand().folge.wirdAktiv.melde(hauptmenü);
     EXPECT_DOUBLE_EQ(rahmen.breite(), umgebung.bildschirmgröße().breite);
     EXPECT_DOUBLE_EQ(rahmen.höhe(), umgebung.bildschirmgröße().höhe);
 }
@@ -153,7 +153,7 @@ TEST_F(Rahmenregeln, AndereBildschirmeHabenEinenSchmalerenRand)
     anderer.höhe = 2000;
     anderer.oben = 70;
     anderer.links = 80;
-    programm.zustand().wechsel->setzeFensterPosition(anderer);
+    programm.zustand().folge.wirdAktiv.melde(anderer);
     EXPECT_DOUBLE_EQ(rahmen.breite(), 1500);
     EXPECT_DOUBLE_EQ(rahmen.höhe(), 2250);
     EXPECT_DOUBLE_EQ(anderer.oben, 0);
@@ -164,7 +164,7 @@ TEST_F(Rahmenregeln, MaximiertBleibtMaximiert)
 {
     Testlauf::schreibe(pfade.ini, "frmHauptmenü.top = 300\r\nfrmHauptmenü.left = 600\r\n"_t);
     rahmen.benutzerMaximiert(true);
-    programm.zustand().wechsel->setzeFensterPosition(*programm.zustand().folge.inGebrauch());
+    programm.zustand().folge.wirdAktiv.melde(*programm.zustand().folge.inGebrauch());
     EXPECT_TRUE(rahmen.istMaximiert());
     rahmen.benutzerMaximiert(false);
     EXPECT_DOUBLE_EQ(rahmen.oben(), 300);

@@ -28,7 +28,6 @@ protected:
     FrmBetrDiagnose()
     {
         baueProblemKatalog();
-        lauf.stand.wechsel = &wechsel;
         Testlauf::schreibe(lauf.pfade().ini, "");
         kopie().DSDiag = std::string(245, trenner);
         kopie().DSBetrDiag = leereSeite;
@@ -41,7 +40,7 @@ protected:
 
     void zeigeSeite()
     {
-        lauf.stand.folge.zeige(seite);
+        lauf.stand.folge.öffneStatt(betreuung, seite);
         lauf.stand.folge.führeAktivierungenAus();
     }
 
@@ -54,9 +53,9 @@ protected:
     std::string inGebrauch() { return lauf.stand.folge.inGebrauch()->name(); }
 
     Testlauf lauf;
-    moExtras wechsel{lauf.stand};
+    moExtras extras{lauf.stand};
     Bildschirm betreuung{"frmBetreuungA"};
-    frmBetrDiagnose seite{betreuung};
+    frmBetrDiagnose seite;
 };
 
 TEST_F(FrmBetrDiagnose, RollbereichFolgtAusDenHöhen)
@@ -90,7 +89,7 @@ TEST_F(FrmBetrDiagnose, RollenBewegtDieListung)
 
 TEST_F(FrmBetrDiagnose, DieLeertasteRolltDieZeileInSicht)
 {
-    seite.schreibeBitFeldInDSDiag("1073741822");
+    schreibeBitFeldInDSDiag(kopie().DSDiag, "1073741822");
     zeigeSeite();
     for (int zeile = 1; zeile <= 15; ++zeile) {
         seite.VScroll1.taste({Taste::Art::Zeichen, ' '});
@@ -137,8 +136,7 @@ TEST_F(FrmBetrDiagnose, AuswahlGibtIhreGruppeWeiter)
 TEST_F(FrmBetrDiagnose, EineNummerDieKeineGruppeIstZeigtDieFragenOhneListe)
 {
     for (const std::int16_t nummer : {std::int16_t{-1}, std::int16_t{0}, std::int16_t{30}, std::int16_t{32767}}) {
-        frmBetrDiagnoseErstellen dialog(seite);
-        dialog.gruppeAktuell = nummer;
+        frmBetrDiagnoseErstellen dialog(nummer);
         tue([&] { lauf.stand.folge.zeige(dialog); });
         EXPECT_EQ(dialog.lblAntwort.text(), "") << nummer;
         for (int frage = 1; frage <= 7; ++frage) {

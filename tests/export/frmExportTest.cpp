@@ -6,23 +6,6 @@
 
 namespace {
 
-/// Placing and hand-overs are the frame's business and play no part here.
-class KeinWechsel : public Bildschirmwechsel {
-public:
-    void setzeFensterPosition(Bildschirm&) override {}
-    void speichereRahmenlage(const Bildschirm&) override {}
-    void holeFensterlage(Bildschirm&) override {}
-    void speichereFensterlage(const Bildschirm&) override {}
-    void zeigeDatenÜbernahme(Bildschirm&, Bildschirm&) override {}
-    void zeigeZeitraum(Bildschirm&, Bildschirm&) override {}
-    void zeigeDiagnoseErstellen(Bildschirm&, Bildschirm&) override {}
-    void zeigeCodeAuswahl(Bildschirm&, Bildschirm&) override {}
-    void zeigeMemo(Bildschirm&, bool) override {}
-    void zeigeAufrufer() override {}
-    void aktualisiereAufrufer() override {}
-    void zeigeMemoAufrufer() override {}
-};
-
 class Hauptmenü : public Bildschirm {
 public:
     Hauptmenü() : Bildschirm("frmHauptmenü"_t) {}
@@ -34,10 +17,8 @@ protected:
     {
         baueProblemKatalog();
         lauf.legeTabellenAn();
-        lauf.stand.wechsel = &wechsel;
         lauf.stand.folge.zeige(hauptmenü);
-        lauf.stand.folge.sperre(hauptmenü);
-        lauf.stand.folge.zeige(bildschirm);
+        lauf.stand.folge.öffneÜber(hauptmenü, bildschirm);
         Testlauf::schreibeZeilen(lauf.pfade().kernDat, {klientensatz(1), klientensatz(2)});
         Testlauf::schreibeZeilen(lauf.pfade().betrDat, {betreuungssatz(1, 1), betreuungssatz(2, 1)});
         Testlauf::schreibeZeilen(lauf.pfade().diagDat, {diagnosesatz(2, 1)});
@@ -50,9 +31,8 @@ protected:
     }
 
     Testlauf lauf;
-    KeinWechsel wechsel;
     Hauptmenü hauptmenü;
-    frmExport bildschirm{hauptmenü};
+    frmExport bildschirm;
 };
 
 TEST_F(frmExportTest, WährendDesLaufsWederAbbruchNochEinZweiterLauf)

@@ -6,37 +6,11 @@
 
 namespace {
 
-/// Keeps the places of windows in memory.
-class Wechselersatz : public Bildschirmwechsel {
-public:
-    double oben = 0;
-    double links = 0;
-    double gespeichertOben = -1;
-
-    void setzeFensterPosition(Bildschirm&) override {}
-    void speichereRahmenlage(const Bildschirm&) override {}
-    void holeFensterlage(Bildschirm& bildschirm) override
-    {
-        bildschirm.oben = oben;
-        bildschirm.links = links;
-    }
-    void speichereFensterlage(const Bildschirm& bildschirm) override { gespeichertOben = bildschirm.oben; }
-    void zeigeDatenÜbernahme(Bildschirm&, Bildschirm&) override {}
-    void zeigeZeitraum(Bildschirm&, Bildschirm&) override {}
-    void zeigeDiagnoseErstellen(Bildschirm&, Bildschirm&) override {}
-    void zeigeCodeAuswahl(Bildschirm&, Bildschirm&) override {}
-    void zeigeMemo(Bildschirm&, bool) override {}
-    void zeigeAufrufer() override {}
-    void aktualisiereAufrufer() override {}
-    void zeigeMemoAufrufer() override {}
-};
-
 class FrmZuExcel : public testing::Test {
 protected:
     FrmZuExcel()
     {
         baueProblemKatalog();
-        lauf.stand.wechsel = &wechsel;
         lauf.legeTabellenAn();
         lauf.umgebung.beiMappe = [this](Arbeitsmappe& mappe) {
             ++übergaben;
@@ -47,14 +21,13 @@ protected:
 
     void öffne()
     {
-        lauf.stand.folge.zeige(zuExcel);
+        lauf.stand.folge.öffneStatt(hauptmenü, zuExcel);
         lauf.stand.folge.führeAktivierungenAus();
     }
 
     Testlauf lauf;
-    Wechselersatz wechsel;
     Bildschirm hauptmenü{"frmHauptmen\xFC"};
-    frmZuExcel zuExcel{hauptmenü};
+    frmZuExcel zuExcel;
     Arbeitsmappe übergebene;
     int übergaben = 0;
     int standBeiÜbergabe = -1;
@@ -154,21 +127,19 @@ TEST_F(FrmZuExcel, ohneTabellenprogrammGleichZurück)
     EXPECT_FALSE(lauf.stand.folge.istGeladen(zuExcel));
 }
 
-TEST_F(FrmZuExcel, fertigBringtDasHauptmenüUndMerktDenOrt)
+TEST_F(FrmZuExcel, fertigBringtDasHauptmenü)
 {
     öffne();
-    zuExcel.oben = 123;
     zuExcel.cmdFertig.klicke();
     EXPECT_TRUE(lauf.stand.folge.istSichtbar(hauptmenü));
     EXPECT_FALSE(lauf.stand.folge.istGeladen(zuExcel));
-    EXPECT_EQ(wechsel.gespeichertOben, 123);
 }
 
 TEST_F(FrmZuExcel, derRahmenStehtWoDieSchlüsselSagenUndDasFensterInSeinerMitte)
 {
     lauf.stand.rahmen.setzeGröße(20000, 12000);
-    wechsel.oben = 300;
-    wechsel.links = 600;
+    zuExcel.oben = 300; // as they come from the keys
+    zuExcel.links = 600;
     öffne();
     EXPECT_EQ(lauf.stand.rahmen.oben(), 300);
     EXPECT_EQ(lauf.stand.rahmen.links(), 600);

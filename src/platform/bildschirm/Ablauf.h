@@ -9,6 +9,8 @@
 /// The course of a program run. Every action of the user, and the start itself, goes through `ereignis`: it
 /// runs the rules, then lets the screens become active that were handed over to, and it is the one place
 /// where a fatal failure is caught: the message is shown, and the run has ended with status 1.
+///
+///     ablauf.ereignis([&] { schaltfläche.klicke(); });
 class Ablauf {
 public:
     Ablauf(Umgebung& umgebung, Bildschirmfolge& folge) : m_umgebung(umgebung), m_folge(folge) {}

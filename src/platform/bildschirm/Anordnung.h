@@ -21,6 +21,9 @@ struct Tabellenspalte {
 /// Lengths are in em, the height of a line of the system's font; 0 lets the surface choose.
 ///
 /// The order of the words is the reading order, and reading order is tab order.
+///
+///     aufbau = karten({spalte({karte("Kinder:"_t, formular({feld("Anzahl"_t, comboKinder1, 4.6)}))}),
+///                      spalte({karte({}, element(lvwKlienten))})});
 struct Anordnung {
     enum class Wort {
         Element,    ///< one element

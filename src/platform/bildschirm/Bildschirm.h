@@ -38,6 +38,20 @@ struct Menü {
 /// A screen: a class `frm…` whose public members are its elements, under their own names, in the order in which
 /// they are declared. Its constructor gives lists and arrangement; its methods are its rules. It knows no toolkit.
 ///
+///     class frmInfo : public Bildschirm {
+///     public:
+///         Beschriftung lblHeader{*this, "lblHeader"_t, "Über dieses Programm"_t};
+///         Schaltfläche cmdOK{*this, "cmdOK"_t, "OK"_t};
+///
+///         frmInfo() : Bildschirm("frmInfo"_t)
+///         {
+///             kopfband.titel = &lblHeader;
+///             leiste.rechts = {&cmdOK};
+///             beiEscape = &cmdOK;
+///             cmdOK.beiKlick = [this] { zustand().folge.schließe(*this); };
+///         }
+///     };
+///
 /// A screen object lives from one loading to its unloading: whoever opens a screen makes a new object
 /// (Bildschirmplatz), so that every opening starts with the elements as they were laid out.
 class Bildschirm {
@@ -100,12 +114,12 @@ public:
     /// The mnemonic of a button: acts only if the field that has the focus lets go.
     bool drückeKürzel(Schaltfläche& knopf);
 
+    /// The screen has been opened: what is set up once. Unless told otherwise the same as each later time.
+    virtual void beiÖffnung() { beiAktivierung(); }
     /// The screen has been shown or enabled again by the program.
     virtual void beiAktivierung() {}
     /// The screen is being unloaded.
     virtual void beiEntladen() {}
-    /// The caller of a dialogue is asked to refresh itself.
-    virtual void aktualisiere() {}
 
     Melder<> titelGeändert;
     Melder<> fokusGeändert;

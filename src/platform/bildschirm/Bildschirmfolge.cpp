@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 Bildschirmfolge::Stand* Bildschirmfolge::stand(const Bildschirm& bildschirm)
 {
@@ -65,6 +66,44 @@ void Bildschirmfolge::entlade(Bildschirm& bildschirm)
     std::erase_if(m_stände, [&](const Stand& s) { return s.bildschirm == &bildschirm; });
 }
 
+void Bildschirmfolge::öffne(Bildschirm& rufer, Bildschirm& neuer, Antwort antwort)
+{
+    zeige(neuer);
+    auto* s = stand(neuer);
+    s->aufrufer = &rufer;
+    s->antwort = std::move(antwort);
+}
+
+void Bildschirmfolge::öffneStatt(Bildschirm& rufer, Bildschirm& seite)
+{
+    verberge(rufer);
+    öffne(rufer, seite, {});
+}
+
+void Bildschirmfolge::öffneÜber(Bildschirm& rufer, Bildschirm& dialog, Antwort antwort)
+{
+    sperre(rufer);
+    öffne(rufer, dialog, std::move(antwort));
+}
+
+void Bildschirmfolge::schließe(Bildschirm& bildschirm)
+{
+    if (!istGeladen(bildschirm)) {
+        return;
+    }
+    const auto alt = *stand(bildschirm);
+    if (alt.aufrufer != nullptr && !istSichtbar(*alt.aufrufer)) {
+        zeige(*alt.aufrufer); // before the other one goes, so that the frame is never empty
+    }
+    entlade(bildschirm);
+    if (alt.aufrufer != nullptr) {
+        gibFrei(*alt.aufrufer);
+    }
+    if (alt.antwort) {
+        alt.antwort();
+    }
+}
+
 bool Bildschirmfolge::istGeladen(const Bildschirm& bildschirm) const
 {
     return stand(bildschirm) != nullptr;
@@ -114,7 +153,13 @@ void Bildschirmfolge::führeAktivierungenAus()
     while (auto* s = nächster()) {
         auto& bildschirm = *s->bildschirm;
         s->sollAktivWerden = false;
-        bildschirm.beiAktivierung();
+        const bool warAktiv = std::exchange(s->warAktiv, true);
+        wirdAktiv.melde(bildschirm);
+        if (warAktiv) {
+            bildschirm.beiAktivierung();
+        } else {
+            bildschirm.beiÖffnung();
+        }
         const bool ohneFokus = bildschirm.fokus() == nullptr || !bildschirm.istErreichbar(*bildschirm.fokus());
         if (istGeladen(bildschirm) && ohneFokus) {
             bildschirm.fokussiereErstes();

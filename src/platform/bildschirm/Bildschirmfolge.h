@@ -7,10 +7,17 @@
 
 /// The order of screens: which are loaded, shown, enabled, which one is in use, and who becomes active.
 ///
+/// A screen is opened from another one, its caller, either instead of it (a page) or over it (a dialogue), and
+/// `schließe` brings the caller back, whatever the opening has done to it. A dialogue leaves its answer in its own
+/// members; the caller reads them in the function that it gave at the opening:
+///
+///     auto& dialog = m_zeitraum.neu(kernID);
+///     folge.öffneÜber(*this, dialog, [this, &dialog] { nimm(dialog.strVon, dialog.strBis); });
+///
 /// Activation follows the program's own hand-overs: a screen that the program shows or enables again is
-/// noted, and its `beiAktivierung` runs when the action that did so has come to its end (`führeAktivierungenAus`,
-/// called by Ablauf), and only if it can then be used. Neither the end of a message box nor the focus of the
-/// desktop activates anything.
+/// noted, and its `beiÖffnung`, the next times its `beiAktivierung`, runs when the action that did so has come to its
+/// end (`führeAktivierungenAus`, called by Ablauf), and only if it can then be used. Neither the end of a message box
+/// nor the focus of the desktop activates anything.
 class Bildschirmfolge {
 public:
     /// Shows the screen (loading it if need be) on top and notes its activation.
@@ -22,6 +29,14 @@ public:
     void gibFrei(Bildschirm& bildschirm);
     /// Hides it, calls `beiEntladen`, and forgets it.
     void entlade(Bildschirm& bildschirm);
+
+    using Antwort = std::function<void()>;
+    /// Opens the page; the caller is hidden meanwhile.
+    void öffneStatt(Bildschirm& rufer, Bildschirm& seite);
+    /// Opens the dialogue; the caller stays in view and takes no input.
+    void öffneÜber(Bildschirm& rufer, Bildschirm& dialog, Antwort antwort = {});
+    /// Unloads the screen, brings its caller back and runs the caller's answer function.
+    void schließe(Bildschirm& bildschirm);
 
     bool istGeladen(const Bildschirm& bildschirm) const;
     bool istSichtbar(const Bildschirm& bildschirm) const;
@@ -37,8 +52,10 @@ public:
 
     /// For the surface: shown, hidden, enabled, disabled.
     Melder<Bildschirm&> geändert;
-    /// For the surface: the screen is about to be unloaded.
+    /// The screen is about to be unloaded.
     Melder<Bildschirm&> entladen;
+    /// The screen is about to become active: time to place its window.
+    Melder<Bildschirm&> wirdAktiv;
 
 private:
     struct Stand {
@@ -46,8 +63,12 @@ private:
         bool sichtbar = false;
         bool frei = true;
         bool sollAktivWerden = false;
+        bool warAktiv = false;
+        Bildschirm* aufrufer = nullptr; ///< whom closing brings back
+        Antwort antwort;
     };
 
+    void öffne(Bildschirm& rufer, Bildschirm& neuer, Antwort antwort);
     Stand* stand(const Bildschirm& bildschirm);
     const Stand* stand(const Bildschirm& bildschirm) const;
 

@@ -6,7 +6,11 @@
 #include <string>
 #include <string_view>
 
-/// The frame: the one top-level window whose pages the screens are. Lengths in twips.
+/// The frame: the one top-level window whose pages the screens are. Lengths in twips. The program places it, a person
+/// moves it, and either way it knows where it is:
+///
+///     rahmen.setzeLage(300, 600);                        // the program
+///     rahmen.benutzerVerschiebt(450, 600);               // a surface reports a person's move
 class Rahmen {
 public:
     const std::string& titel() const { return m_titel; }

@@ -39,8 +39,7 @@ bool gehtMit(const Element& element, const Taste& taste)
 
 bool gibTaste(Element& element, const Taste& taste)
 {
-    const bool kenntKombinationen =
-        dynamic_cast<const Textfeld*>(&element) != nullptr || dynamic_cast<const Datumsfeld*>(&element) != nullptr;
+    const bool kenntKombinationen = dynamic_cast<const Datumsfeld*>(&element) != nullptr;
     return (kenntKombinationen || !taste.istKombination()) && element.taste(taste);
 }
 

@@ -7,8 +7,6 @@
 namespace {
 
 constexpr int letzterMonat = 12;
-constexpr int erstesJahr = 100; ///< as leseDatumseingabe
-constexpr int letztesJahr = 9999;
 
 bool istDatumszeichen(char zeichen)
 {
@@ -39,20 +37,20 @@ Datum verstellt(const Datum& datum, Teil teil, int schritte)
     case Teil::Jahr:
         break;
     }
-    return imMonat({std::clamp(datum.jahr + schritte, erstesJahr, letztesJahr), datum.monat, datum.tag});
+    return imMonat({std::clamp(datum.jahr + schritte, erstesDatumsjahr, letztesDatumsjahr), datum.monat, datum.tag});
 }
 
 Datum umTage(const Datum& datum, int tage)
 {
     const auto neu = ausTageszahl(alsTageszahl(datum) + tage);
-    return neu.jahr >= erstesJahr && neu.jahr <= letztesJahr ? neu : datum;
+    return neu.jahr >= erstesDatumsjahr && neu.jahr <= letztesDatumsjahr ? neu : datum;
 }
 
 Datum umMonate(const Datum& datum, int monate)
 {
     const int gezählt = datum.jahr * letzterMonat + datum.monat - 1 + monate;
     const Datum neu{gezählt / letzterMonat, gezählt % letzterMonat + 1, datum.tag};
-    return neu.jahr >= erstesJahr && neu.jahr <= letztesJahr ? imMonat(neu) : datum;
+    return neu.jahr >= erstesDatumsjahr && neu.jahr <= letztesDatumsjahr ? imMonat(neu) : datum;
 }
 
 constexpr auto zurück = " Esc holt das alte Datum zurück."_t;

@@ -18,6 +18,10 @@
 /// so that what is typed begins anew.
 ///
 /// F4 and Alt+Down open the calendar; its keys come here too, so that every surface has the same calendar.
+///
+///     Datumsfeld DTPickerVon{*this, "DTPickerVon"_t};
+///     DTPickerVon.heute = [] { return zustand().umgebung.heute(); };
+///     DTPickerVon.setzeDatum({2007, 8, 2});
 class Datumsfeld : public Element {
 public:
     using Element::Element;

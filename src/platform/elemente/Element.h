@@ -17,6 +17,13 @@ class Elementbesucher;
 /// `doppelklicke`, `taste`, and those of the kinds), which tests and scenarios use as well. The screen puts
 /// its rules into the handlers (`beiKlick`, …).
 ///
+/// An element is a member of its screen, to which its constructor makes it known:
+///
+///     Schaltfläche cmdOK{*this, "cmdOK"_t, "&OK"_t};
+///     cmdOK.beiKlick = [this] { beiOK(); };              // the screen's rule
+///     m_bleibt = cmdOK.geändert.abonniere([] { … });     // a surface draws what has changed
+///     cmdOK.klicke();                                    // a surface, a test or a scenario presses
+///
 /// Doors do not test whether a person could reach the element (Bildschirm::istErreichbar tells that), and
 /// they do not move the focus (Bildschirm::fokussiere does). All texts are code page.
 class Element {

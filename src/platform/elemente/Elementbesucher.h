@@ -15,7 +15,11 @@ class Schaltfläche;
 class Textfeld;
 class triCtlJaNein;
 
-/// One method per kind of element: how a surface draws it, how a runner acts on it.
+/// One method per kind of element: how a surface draws it, how a runner acts on it. A new kind does not compile before
+/// every visitor knows it.
+///
+///     class Zeichner : public Elementbesucher { void besuche(Bild& feld) override { … } … };
+///     element.besuche(zeichner);
 class Elementbesucher {
 public:
     virtual ~Elementbesucher() = default;

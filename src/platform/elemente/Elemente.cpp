@@ -35,6 +35,33 @@ bool Schaltfläche::taste(const Taste& taste)
     return true;
 }
 
+void Textfeld::setzeText(std::string_view text)
+{
+    if (m_text != text) {
+        m_text = text;
+        m_schreibmarke = 0;
+        meldeÄnderung();
+    }
+}
+
+void Textfeld::gibEin(std::string_view text, std::size_t schreibmarke)
+{
+    const bool anders = m_text != text;
+    m_text = text;
+    m_schreibmarke = schreibmarke;
+    meldeÄnderung();
+    if (anders) {
+        rufe(beiÄnderung);
+    }
+}
+
+void Textfeld::fokusGewechselt(bool gekommen)
+{
+    if (gekommen) {
+        m_schreibmarke = m_text.size();
+    }
+}
+
 void Optionsgruppe::markiereNur(const Optionsfeld& feld)
 {
     for (auto* anderes : m_felder) {

@@ -1,6 +1,12 @@
 #pragma once
 
-// The kinds of elements; see Element.h for what they share.
+// The kinds of elements; see Element.h for what they share. What the program sets (`setzeText`, `setze`, `fülle`) tells
+// no rule, what a person does (`klicke`, `wähle`, `gibEin`, `taste`) tells one; a check box and an answer field tell
+// `beiÄnderung` either way. Screen and name come first, then what the kind needs:
+//
+//     Auswahlfeld comboJahr{*this, "comboJahr"_t, Auswahlfeld::Art::Tippbar};
+//     comboJahr.fülle({"2006", "2007"}, "2006");         // list and text
+//     comboJahr.beiWahl = [this] { zeigeJahr(); };       // after a person has picked
 
 #include "platform/elemente/Datumsfeld.h"
 #include "platform/elemente/Element.h"
@@ -61,7 +67,8 @@ enum class Zeilenzahl { Einzeilig, Mehrzeilig };
 inline constexpr Zeilenzahl Mehrzeilig = Zeilenzahl::Mehrzeilig;
 inline constexpr Zeilenzahl Einzeilig = Zeilenzahl::Einzeilig;
 
-/// A text box. In one of several lines a line break is carriage return and line feed.
+/// A text box. In one of several lines a line break is carriage return and line feed. Its editing keys are the
+/// surface's own; what they make of the text comes in through `gibEin`.
 class Textfeld : public Element {
 public:
     Textfeld(Bildschirm& bildschirm, std::string_view name, Zeilenzahl zeilen = Einzeilig, std::size_t höchstlänge = 0)
@@ -75,32 +82,18 @@ public:
     /// Cursor as a number of characters to its left.
     std::size_t schreibmarke() const { return m_schreibmarke; }
 
-    /// The other end of what the keys have selected; the cursor's place without a selection.
-    std::size_t anker() const { return m_anker; }
-
     /// The user's text replaces the old one (typed or pasted); the text is code page already (nimmÄnderung).
     void gibEin(std::string_view text, std::size_t schreibmarke);
-    /// Typed or pasted characters take the place of what is selected, as far as they can be stored and have room.
-    void fügeEin(std::u32string_view zeichen);
-    void wähleAlles();
-    bool taste(const Taste& taste) override;
     void besuche(Elementbesucher& besucher) override;
     void fokusGewechselt(bool gekommen) override;
 
     std::function<void()> beiÄnderung;
 
 private:
-    void ersetze(std::size_t von, std::size_t bis);
-    void lösche(bool rückwärts);
-    bool bewege(std::size_t ziel, const Taste& taste);
-    bool bewegeCursor(const Taste& taste);
-    bool tasteMitStrg(const Taste& taste);
-
     std::string m_text;
     Zeilenzahl m_zeilen;
     std::size_t m_höchstlänge;
     std::size_t m_schreibmarke = 0;
-    std::size_t m_anker = 0;
 };
 
 /// A combo box: a list and a text. Choose-only, unless `Tippbar`; it shows any text the program gives it,

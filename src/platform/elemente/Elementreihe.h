@@ -9,8 +9,11 @@
 
 class Bildschirm;
 
-/// An array of elements with the index range of its design: `triJaNeinKosten(1)` to `(9)`. Each is registered
-/// with the screen under its own index.
+/// An array of elements with the index range of its design. Each is registered with the screen under its own index, and
+/// what follows the range goes to each:
+///
+///     Elementreihe<Auswahlfeld> comboZuvor{*this, "comboZuvor"_t, 1, 18, Auswahlfeld::Art::Tippbar};
+///     comboZuvor(18).setzeText("0");                     // "comboZuvor(18)"
 template <class E> class Elementreihe {
 public:
     template <class... A>

@@ -2,7 +2,8 @@
 
 #include <cstdint>
 
-/// A colour as a number: red + 256 × green + 65536 × blue.
+/// A colour as a number: red + 256 × green + 65536 × blue, as `feld.setzeHintergrund(farbe::rot)`. Only colours that
+/// say something stand here; how things look is the surface's.
 using Farbe = std::int32_t;
 
 namespace farbe {

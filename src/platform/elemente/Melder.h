@@ -8,7 +8,12 @@
 /// Keeps a subscription alive; it ends when the handle is destroyed.
 using Abonnement = std::shared_ptr<void>;
 
-/// A change notification that others can subscribe to.
+/// A change notification that others can subscribe to, for as long as they keep the handle. Whoever subscribes or goes
+/// while it is told, is told from the next time on or no more.
+///
+///     Melder<> geändert;
+///     const Abonnement bleibt = geändert.abonniere([] { zeichne(); });
+///     geändert.melde();
 template <class... A> class Melder {
 public:
     using Ruf = std::function<void(A...)>;

@@ -4,6 +4,9 @@
 ///
 /// Few combinations with Ctrl and Alt mean something (copying, words and the like in texts, Alt and a letter to the
 /// buttons); all others never reach an element (gibTaste in Reihengang.h), so most need not look at the flags.
+///
+///     element.taste({.art = Taste::Art::Zeichen, .zeichen = 'a'});
+///     element.taste({.art = Taste::Art::Ab, .alt = true});
 struct Taste {
     enum class Art {
         Zeichen,

@@ -9,6 +9,9 @@
 /// A click goes k.A. → ja → nein → k.A.; left and right arrow go one step back and forward in that circle.
 /// Up and down only move the focus in the column of answers, which is the surface's business. Each value has
 /// its background: k.A. red, ja white, nein grey.
+///
+///     Elementreihe<triCtlJaNein> triJaNeinKosten{*this, "triJaNeinKosten"_t, 1, 9};
+///     triJaNeinKosten(1).setzeText("ja"_t);
 class triCtlJaNein : public Element {
 public:
     triCtlJaNein(Bildschirm& bildschirm, std::string_view name);

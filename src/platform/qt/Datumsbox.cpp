@@ -36,7 +36,7 @@ QCalendarWidget* erzeugeKalender(const QDate& heute, QWidget* eltern)
     auto* kalender = new QCalendarWidget(eltern);
     kalender->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     kalender->setFirstDayOfWeek(eltern->locale().firstDayOfWeek());
-    kalender->setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
+    kalender->setDateRange(QDate(erstesDatumsjahr, 1, 1), QDate(letztesDatumsjahr, 12, 31));
     QTextCharFormat wochenende;
     wochenende.setForeground(farben().fehler);
     kalender->setWeekdayTextFormat(Qt::Saturday, wochenende);

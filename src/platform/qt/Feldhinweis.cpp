@@ -3,7 +3,6 @@
 #include "platform/qt/Stil.h"
 
 #include <QAccessible>
-#include <QAccessibleWidget>
 #include <QLabel>
 #include <QTimer>
 
@@ -19,25 +18,13 @@ class Feldhinweis : public QLabel {
 public:
     Feldhinweis(const QString& text, QWidget& fenster) : QLabel(&fenster)
     {
-        setText(text); // here it is known what it is: a screen reader asks at once
-        setObjectName(QLatin1String(feldhinweis));
+        setObjectName(QLatin1String(feldhinweis)); // first: a screen reader asks at once what it is
+        setText(text);
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setWordWrap(true);
         setAccessibleName(text);
     }
 };
-
-/// A screen reader speaks a notification by itself when it appears.
-class Vorlesehinweis : public QAccessibleWidget {
-public:
-    explicit Vorlesehinweis(Feldhinweis& hinweis) : QAccessibleWidget(&hinweis, QAccessible::Notification) {}
-};
-
-QAccessibleInterface* erzeugeVorlesehinweis(const QString& /*klasse*/, QObject* objekt)
-{
-    auto* hinweis = dynamic_cast<Feldhinweis*>(objekt);
-    return hinweis == nullptr ? nullptr : new Vorlesehinweis(*hinweis);
-}
 
 void legeAn(const QWidget& feld, QLabel& hinweis)
 {
@@ -56,11 +43,6 @@ void legeAn(const QWidget& feld, QLabel& hinweis)
 
 void zeigeFeldhinweis(QWidget& feld, const QString& text)
 {
-    static const bool angemeldet = [] {
-        QAccessible::installFactory(erzeugeVorlesehinweis);
-        return true;
-    }();
-    Q_UNUSED(angemeldet)
     delete feld.window()->findChild<QLabel*>(QLatin1String(feldhinweis), Qt::FindDirectChildrenOnly);
     auto* hinweis = new Feldhinweis(text, *feld.window());
     hinweis->ensurePolished();

@@ -26,18 +26,3 @@ QWidgetList Vorlesebereich::kinder() const
     }
     return alle;
 }
-
-int Vorlesebereich::childCount() const
-{
-    return static_cast<int>(kinder().size());
-}
-
-QAccessibleInterface* Vorlesebereich::child(int stelle) const
-{
-    return QAccessible::queryAccessibleInterface(kinder().value(stelle));
-}
-
-int Vorlesebereich::indexOfChild(const QAccessibleInterface* kind) const
-{
-    return kind == nullptr ? -1 : static_cast<int>(kinder().indexOf(static_cast<QWidget*>(kind->object())));
-}

@@ -1,23 +1,20 @@
 #pragma once
 
+#include "platform/qt/Vorlesekinder.h"
+
 #include <QAccessibleWidget>
 
 /// An area that scrolls, as a screen reader meets it: what stands still in it (the head of a table), then what
-/// scrolls, then the scroll bars that are to be seen. A child that is gone since it was counted is no child; the
-/// toolkit's own areas reach past the end of their list there and end the program.
-class Vorlesebereich : public QAccessibleWidget {
+/// scrolls, then the scroll bars that are to be seen.
+class Vorlesebereich : public Vorlesekinder<QAccessibleWidget> {
 public:
-    explicit Vorlesebereich(QWidget& bereich) : QAccessibleWidget(&bereich, QAccessible::Client) {}
+    explicit Vorlesebereich(QWidget& bereich) : Vorlesekinder(&bereich, QAccessible::Client) {}
 
-    int childCount() const override;
-    QAccessibleInterface* child(int stelle) const override;
-    int indexOfChild(const QAccessibleInterface* kind) const override;
-
-private:
-    QWidgetList kinder() const;
+protected:
+    QWidgetList kinder() const override;
 };
 
-/// A page or a drawn part of it (header band, button bar, hairline). The toolkit calls every frame a window.
+/// A page or a drawn part of it (header band, button bar, hairline), or a hint. The toolkit calls every frame a window.
 class Vorleseteil : public QAccessibleWidget {
 public:
     explicit Vorleseteil(QWidget& teil, QAccessible::Role rolle) : QAccessibleWidget(&teil, rolle) {}

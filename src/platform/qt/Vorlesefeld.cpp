@@ -115,7 +115,7 @@ QString Vorleseantwort::wert() const
     return m_feld.gesprochenerText();
 }
 
-Vorleseauswahl::Vorleseauswahl(Auswahlbox& box, Ansicht& ansicht) : Vorlesewahl(box, ansicht), m_box(box)
+Vorleseauswahl::Vorleseauswahl(Auswahlbox& box, Ansicht& ansicht) : Vorlesekinder(box, ansicht), m_box(box)
 {}
 
 QString Vorleseauswahl::wert() const
@@ -144,21 +144,6 @@ QWidgetList Vorleseauswahl::kinder() const
         alle << liste;
     }
     return alle;
-}
-
-int Vorleseauswahl::childCount() const
-{
-    return static_cast<int>(kinder().size());
-}
-
-QAccessibleInterface* Vorleseauswahl::child(int stelle) const
-{
-    return QAccessible::queryAccessibleInterface(kinder().value(stelle));
-}
-
-int Vorleseauswahl::indexOfChild(const QAccessibleInterface* kind) const
-{
-    return kind == nullptr ? -1 : static_cast<int>(kinder().indexOf(static_cast<QWidget*>(kind->object())));
 }
 
 QStringList Vorleseauswahl::actionNames() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/qt/Vorlesekinder.h"
+
 #include <QAbstractButton>
 #include <QAccessibleWidget>
 #include <QLabel>
@@ -73,22 +75,18 @@ private:
 };
 
 /// The combo box; a number combo has the text in it as a child, an open list is a child too.
-class Vorleseauswahl : public Vorlesewahl {
+class Vorleseauswahl : public Vorlesekinder<Vorlesewahl> {
 public:
     Vorleseauswahl(Auswahlbox& box, Ansicht& ansicht);
 
     QAccessible::State state() const override;
-    int childCount() const override;
-    QAccessibleInterface* child(int stelle) const override;
-    int indexOfChild(const QAccessibleInterface* kind) const override;
     QStringList actionNames() const override;
     void doAction(const QString& aktion) override;
 
 protected:
     QString wert() const override;
+    QWidgetList kinder() const override;
 
 private:
-    QWidgetList kinder() const;
-
     Auswahlbox& m_box;
 };

@@ -3,6 +3,7 @@
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Antwortfeld.h"
 #include "platform/qt/Auswahlbox.h"
+#include "platform/qt/Feldhinweis.h"
 #include "platform/qt/Fenster.h"
 #include "platform/qt/Knoepfe.h"
 #include "platform/qt/Listenansicht.h"
@@ -71,6 +72,9 @@ QAccessibleInterface* erzeuge(const QString& /*klasse*/, QObject* objekt)
         const bool istLinie = widget->property("rolle").toString() == QStringLiteral("linie") ||
                               widget->property("rolle").toString() == QStringLiteral("bandstrich");
         return new Vorleseteil(*widget, istLinie ? QAccessible::Separator : QAccessible::Grouping);
+    }
+    if (widget->objectName() == QLatin1String(feldhinweis)) {
+        return new Vorleseteil(*widget, QAccessible::Notification); // spoken by itself when it appears
     }
     if (dynamic_cast<Kindfenster*>(widget) != nullptr) {
         return new Vorlesefenster(*widget);

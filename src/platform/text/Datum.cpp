@@ -49,7 +49,8 @@ std::optional<std::array<std::string_view, 3>> dreiTeile(std::string_view text)
 
 bool istTagImKalender(const Datum& datum)
 {
-    return datum.jahr >= 1 && datum.jahr <= 9999 && datum.monat >= 1 && datum.tag >= 1 && alsKalendertag(datum).ok();
+    return datum.jahr >= 1 && datum.jahr <= letztesDatumsjahr && datum.monat >= 1 && datum.tag >= 1 &&
+           alsKalendertag(datum).ok();
 }
 
 std::int64_t alsTageszahl(const Datum& datum)
@@ -92,7 +93,6 @@ std::optional<Datum> leseDatum(std::string_view text)
 
 std::optional<Datum> leseDatumseingabe(std::string_view text, const Datum& heute)
 {
-    constexpr int erstesJahr = 100;
     auto mitPunkten = std::string(getrimmt(text));
     const auto punkte = std::count(mitPunkten.begin(), mitPunkten.end(), '.');
     if (punkte == 0 && (mitPunkten.size() == 6 || mitPunkten.size() == 8)) {
@@ -102,5 +102,5 @@ std::optional<Datum> leseDatumseingabe(std::string_view text, const Datum& heute
         mitPunkten += aufgefüllt(heute.jahr, 4);
     }
     const auto datum = leseDatum(mitPunkten);
-    return datum && datum->jahr >= erstesJahr ? datum : std::nullopt;
+    return datum && datum->jahr >= erstesDatumsjahr ? datum : std::nullopt;
 }

@@ -29,6 +29,10 @@ std::string alsDatumstext(const Datum& datum);
 /// around it allowed; anything else is no date.
 std::optional<Datum> leseDatum(std::string_view text);
 
+/// The years that a date input takes: one below is a slip of the keyboard.
+inline constexpr int erstesDatumsjahr = 100;
+inline constexpr int letztesDatumsjahr = 9999;
+
 /// Reads a date as a person types it: as leseDatum does, besides without the year (d.m. or d.m: that of `heute`) and
-/// without points (TTMMJJ, TTMMJJJJ). Years below 100 are slips of the keyboard and no dates.
+/// without points (TTMMJJ, TTMMJJJJ). A year before `erstesDatumsjahr` is no date.
 std::optional<Datum> leseDatumseingabe(std::string_view text, const Datum& heute);

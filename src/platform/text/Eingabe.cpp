@@ -1,5 +1,6 @@
 #include "platform/text/Eingabe.h"
 
+#include "platform/text/Utf8.h"
 #include "platform/text/Zeichensatz.h"
 
 #include <algorithm>
@@ -210,44 +211,6 @@ void kürze(Eingabeergebnis& ergebnis, std::size_t platz)
     }
 }
 
-constexpr char32_t unlesbar = 0xFFFD;
-
-/// Reads one UTF-8 sequence; a broken one yields `unlesbar` and takes one byte.
-std::size_t liesUtf8(std::string_view text, std::size_t ort, char32_t& zeichen)
-{
-    const auto byte = [&](std::size_t i) { return static_cast<std::uint32_t>(static_cast<unsigned char>(text[i])); };
-    const auto b0 = byte(ort);
-    const std::size_t länge = b0 < 0x80 ? 1U : b0 >= 0xF0 ? 4U : b0 >= 0xE0 ? 3U : b0 >= 0xC2 ? 2U : 0U;
-    zeichen = unlesbar;
-    if (länge == 0 || b0 > 0xF4 || ort + länge > text.size()) {
-        return 1;
-    }
-    char32_t wert = länge == 1 ? b0 : b0 & (0xFFU >> (länge + 1));
-    for (std::size_t i = 1; i < länge; ++i) {
-        if ((byte(ort + i) & 0xC0U) != 0x80U) {
-            return 1;
-        }
-        wert = (wert << 6U) | (byte(ort + i) & 0x3FU);
-    }
-    zeichen = wert;
-    return länge;
-}
-
-void hängeUtf8An(std::string& ziel, char32_t zeichen)
-{
-    const auto byte = [&](std::uint32_t wert) { ziel.push_back(static_cast<char>(static_cast<unsigned char>(wert))); };
-    if (zeichen < 0x80) {
-        byte(zeichen);
-    } else if (zeichen < 0x800) {
-        byte(0xC0U | (zeichen >> 6U));
-        byte(0x80U | (zeichen & 0x3FU));
-    } else {
-        byte(0xE0U | (zeichen >> 12U));
-        byte(0x80U | ((zeichen >> 6U) & 0x3FU));
-        byte(0x80U | (zeichen & 0x3FU));
-    }
-}
-
 } // namespace
 
 std::optional<char> nächstesZeichen(char32_t zeichen)
@@ -331,9 +294,9 @@ std::u32string ausUtf8(std::string_view text)
 {
     std::u32string ergebnis;
     for (std::size_t ort = 0; ort < text.size();) {
-        char32_t zeichen = 0;
-        ort += liesUtf8(text, ort, zeichen);
-        ergebnis.push_back(zeichen);
+        const auto zeichen = utf8::lies(text, ort);
+        ergebnis.push_back(zeichen.wert);
+        ort += zeichen.länge;
     }
     return ergebnis;
 }
@@ -342,7 +305,7 @@ std::string alsUtf8(std::string_view text)
 {
     std::string ergebnis;
     for (const char zeichen : text) {
-        hängeUtf8An(ergebnis, zeichensatz::unicodeVon(zeichen));
+        utf8::hängeAn(ergebnis, zeichensatz::unicodeVon(zeichen));
     }
     return ergebnis;
 }

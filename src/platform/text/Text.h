@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/text/Utf8.h"
 #include "platform/text/Zeichensatz.h"
 
 #include <array>
@@ -19,27 +20,6 @@ namespace text_detail {
 inline void zeichenFehltInDerCodepage()
 {}
 
-struct Zeichen {
-    char32_t wert;
-    std::size_t laenge;
-};
-
-constexpr Zeichen liesUtf8(const char* ort)
-{
-    const auto b0 = static_cast<unsigned char>(ort[0]);
-    if (b0 < 0x80) {
-        return {b0, 1};
-    }
-    const auto folge = [&](std::size_t i) { return static_cast<char32_t>(static_cast<unsigned char>(ort[i]) & 0x3FU); };
-    if (b0 < 0xE0) {
-        return {(static_cast<char32_t>(b0 & 0x1FU) << 6U) | folge(1), 2};
-    }
-    if (b0 < 0xF0) {
-        return {(static_cast<char32_t>(b0 & 0x0FU) << 12U) | (folge(1) << 6U) | folge(2), 3};
-    }
-    return {(static_cast<char32_t>(b0 & 0x07U) << 18U) | (folge(1) << 12U) | (folge(2) << 6U) | folge(3), 4};
-}
-
 template <std::size_t N> struct Festtext {
     std::array<char, N> bytes{};
     std::size_t laenge = 0;
@@ -48,13 +28,13 @@ template <std::size_t N> struct Festtext {
     consteval Festtext(const char (&quelle)[N])
     {
         for (std::size_t i = 0; i + 1 < N;) {
-            const Zeichen z = liesUtf8(quelle + i);
+            const auto z = utf8::lies({quelle, N - 1}, i);
             const auto byte = zeichensatz::byteVon(z.wert);
             if (!byte) {
                 zeichenFehltInDerCodepage();
             }
             bytes[laenge++] = *byte;
-            i += z.laenge;
+            i += z.länge;
         }
     }
 };

@@ -19,18 +19,85 @@ public:
             danach();
         }
     }
+    void beiÖffnung() override
+    {
+        ++öffnungen;
+        beiAktivierung();
+    }
     void beiEntladen() override { ++entladungen; }
 
     Textfeld feld{*this, "feld"_t};
     Textfeld unten{*this, "unten"_t};
     Schaltfläche decke{*this, "decke"_t};
     Schaltfläche ok{*this, "ok"_t};
+    int öffnungen = 0;
     int aktivierungen = 0;
     int entladungen = 0;
     std::function<void()> danach;
 };
 
 } // namespace
+
+TEST(Bildschirmfolge, WasGeöffnetWirdRichtetSichEinmalEin)
+{
+    Bildschirmfolge folge;
+    Probeschirm a("a");
+    for (int runde = 1; runde <= 2; ++runde) {
+        folge.zeige(a);
+        folge.führeAktivierungenAus();
+        EXPECT_EQ(a.öffnungen, runde);
+        folge.sperre(a);
+        folge.gibFrei(a);
+        folge.führeAktivierungenAus();
+        EXPECT_EQ(a.öffnungen, runde);
+        EXPECT_EQ(a.aktivierungen, 2 * runde);
+        folge.entlade(a);
+    }
+}
+
+TEST(Bildschirmfolge, EinDialogSperrtSeinenRuferUndAntwortetWennErGeschlossenIst)
+{
+    Bildschirmfolge folge;
+    Probeschirm a("a");
+    Probeschirm b("b");
+    bool warGeschlossen = false;
+    folge.zeige(a);
+    folge.öffneÜber(a, b, [&] { warGeschlossen = !folge.istGeladen(b) && folge.istFrei(a); });
+    EXPECT_TRUE(folge.istSichtbar(a));
+    EXPECT_FALSE(folge.istFrei(a));
+    EXPECT_EQ(folge.inGebrauch(), &b);
+
+    folge.schließe(b);
+    EXPECT_TRUE(warGeschlossen);
+    EXPECT_EQ(folge.inGebrauch(), &a);
+    folge.führeAktivierungenAus();
+    EXPECT_EQ(a.aktivierungen, 1);
+    folge.schließe(b); // is no longer there
+    EXPECT_EQ(b.entladungen, 1);
+}
+
+TEST(Bildschirmfolge, EineSeiteVerbirgtIhrenRuferUndEineAntwortKannWeiterführen)
+{
+    Bildschirmfolge folge;
+    Probeschirm a("a");
+    Probeschirm seite("seite");
+    Probeschirm zweiter("zweiter");
+    folge.zeige(a);
+    folge.öffneStatt(a, seite);
+    EXPECT_FALSE(folge.istSichtbar(a));
+    Probeschirm erster("erster");
+    folge.öffneÜber(seite, erster, [&] { folge.öffneÜber(seite, zweiter); });
+    folge.verberge(seite);
+    folge.schließe(erster);
+    EXPECT_EQ(folge.inGebrauch(), &zweiter);
+    EXPECT_FALSE(folge.istFrei(seite));
+    folge.schließe(zweiter);
+    EXPECT_EQ(folge.inGebrauch(), &seite);
+    folge.schließe(seite);
+    EXPECT_EQ(folge.inGebrauch(), &a);
+    folge.schließe(a);
+    EXPECT_EQ(folge.inGebrauch(), nullptr);
+}
 
 TEST(Bildschirmfolge, AktivierungFolgtNachDerAktionUndNurWenn)
 {

@@ -83,6 +83,9 @@ void OberflächeOhne::handle(Element& element, const std::function<void()>& akti
     m_zustand->ablauf.ereignis([&] {
         m_offeneListe.schließe();
         m_tastaturbildschirm = &element.bildschirm();
+        if (!element.hatFokus()) {
+            m_schreibhand.lass();
+        }
         const bool darf = !element.nimmtFokus() || element.bildschirm().fokussiere(&element);
         if (darf && istErreichbar(element)) {
             aktion();
@@ -161,7 +164,6 @@ void OberflächeOhne::wähleDatum(Datumsfeld& feld, const Datum& datum)
     handle(feld, [&] { feld.wähle(datum); });
 }
 
-/// Typed characters reach a text as they are, since a mark is composed with the letter before it.
 bool OberflächeOhne::gibElement(Element& element, const Tastendruck& druck, const Taste& taste)
 {
     auto* auswahl = dynamic_cast<Auswahlfeld*>(&element);
@@ -171,10 +173,8 @@ bool OberflächeOhne::gibElement(Element& element, const Tastendruck& druck, con
         m_offeneListe.öffne(*auswahl);
         return true;
     }
-    if (auto* text = dynamic_cast<Textfeld*>(&element);
-        text != nullptr && taste.art == Taste::Art::Zeichen && !taste.istKombination()) {
-        text->fügeEin(std::u32string_view(&druck.zeichen, 1));
-        return true;
+    if (auto* text = dynamic_cast<Textfeld*>(&element)) {
+        return m_schreibhand.drücke(*text, druck);
     }
     return gibTaste(element, taste) || geheInReihe(element, taste);
 }
@@ -192,6 +192,9 @@ void OberflächeOhne::gib(Bildschirm& bildschirm, const Tastendruck& druck)
     const bool erreicht = element != nullptr && istErreichbar(*element);
     if (!erreicht || !gibElement(*element, druck, taste)) {
         bildschirm.taste(taste);
+        if (bildschirm.fokus() != element) {
+            m_schreibhand.lass();
+        }
     }
 }
 
@@ -240,10 +243,7 @@ void OberflächeOhne::dreheRad(Element& element, int schritte)
 
 void OberflächeOhne::fügeEin(Textfeld& feld, std::u32string_view text)
 {
-    handle(feld, [&] {
-        feld.wähleAlles();
-        feld.fügeEin(text);
-    });
+    handle(feld, [&] { m_schreibhand.ersetzeAlles(feld, text); });
 }
 
 void OberflächeOhne::fügeEin(Auswahlfeld& feld, std::u32string_view text)

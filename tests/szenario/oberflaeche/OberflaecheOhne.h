@@ -2,6 +2,7 @@
 
 #include "oberflaeche/Oberflaeche.h"
 #include "oberflaeche/OffeneListe.h"
+#include "sprache/Schreibhand.h"
 
 #include "zustand/Zustand.h"
 
@@ -61,6 +62,7 @@ private:
     bool gibElement(Element& element, const Tastendruck& druck, const Taste& taste);
 
     Zustand* m_zustand = nullptr;
+    Schreibhand m_schreibhand;                        ///< in the text box that has the focus
     OffeneListe m_offeneListe;                        ///< of the combo box that has the focus
     const Bildschirm* m_tastaturbildschirm = nullptr; ///< that was acted on last
 };

@@ -1,5 +1,6 @@
-#include "platform/elemente/Elemente.h"
+#include "sprache/Schreibhand.h"
 
+#include "platform/elemente/Elemente.h"
 #include "platform/text/Eingabe.h"
 
 #include <algorithm>
@@ -50,53 +51,36 @@ std::size_t nachbarzeile(std::string_view text, std::size_t ort, bool vor)
 
 } // namespace
 
-void Textfeld::setzeText(std::string_view text)
+void Schreibhand::fasse(Textfeld& feld)
 {
-    if (m_text != text) {
-        m_text = text;
-        m_schreibmarke = 0;
-        m_anker = 0;
-        meldeÄnderung();
+    if (m_feld != &feld || m_text != feld.text()) {
+        m_feld = &feld;
+        merke(feld.schreibmarke(), feld.schreibmarke());
     }
 }
 
-void Textfeld::gibEin(std::string_view text, std::size_t schreibmarke)
+void Schreibhand::merke(std::size_t schreibmarke, std::size_t anker)
 {
-    const bool anders = m_text != text;
-    m_text = text;
+    m_text = m_feld->text();
     m_schreibmarke = schreibmarke;
-    m_anker = schreibmarke;
-    meldeÄnderung();
-    if (anders) {
-        rufe(beiÄnderung);
-    }
+    m_anker = anker;
 }
 
-void Textfeld::wähleAlles()
-{
-    m_anker = 0;
-    m_schreibmarke = m_text.size();
-}
-
-void Textfeld::fügeEin(std::u32string_view zeichen)
+void Schreibhand::fügeEin(std::u32string_view zeichen)
 {
     const auto von = std::min(m_schreibmarke, m_anker);
     const auto bis = std::max(m_schreibmarke, m_anker);
-    auto jetzt = alsFeldtext(std::string_view(m_text).substr(0, von), istMehrzeilig());
+    const bool mehrzeilig = m_feld->istMehrzeilig();
+    auto jetzt = alsFeldtext(std::string_view(m_text).substr(0, von), mehrzeilig);
     jetzt += zeichen;
     const auto marke = jetzt.size();
-    jetzt += alsFeldtext(std::string_view(m_text).substr(bis), istMehrzeilig());
-    const auto änderung = nimmÄnderung(m_text, jetzt, marke, istMehrzeilig(), m_höchstlänge);
-    gibEin(änderung.ergebnis.text, änderung.schreibmarke);
-    m_anker = änderung.anker;
+    jetzt += alsFeldtext(std::string_view(m_text).substr(bis), mehrzeilig);
+    const auto änderung = nimmÄnderung(m_text, jetzt, marke, mehrzeilig, m_feld->höchstlänge());
+    m_feld->gibEin(änderung.ergebnis.text, änderung.schreibmarke);
+    merke(änderung.schreibmarke, änderung.anker);
 }
 
-void Textfeld::ersetze(std::size_t von, std::size_t bis)
-{
-    gibEin(m_text.substr(0, von) + m_text.substr(bis), von);
-}
-
-void Textfeld::lösche(bool rückwärts)
+void Schreibhand::lösche(bool rückwärts)
 {
     auto von = std::min(m_schreibmarke, m_anker);
     auto bis = std::max(m_schreibmarke, m_anker);
@@ -104,82 +88,83 @@ void Textfeld::lösche(bool rückwärts)
         von -= rückwärts ? schrittZurück(m_text, von) : 0;
         bis += rückwärts ? 0 : schrittVor(m_text, bis);
     }
-    ersetze(von, bis);
+    m_feld->gibEin(m_text.substr(0, von) + m_text.substr(bis), von);
+    merke(von, von);
 }
 
-bool Textfeld::bewege(std::size_t ziel, const Taste& taste)
+bool Schreibhand::bewege(std::size_t ziel, const Tastendruck& druck)
 {
-    m_schreibmarke = ziel;
-    m_anker = taste.umschalt ? m_anker : ziel;
+    merke(ziel, druck.umschalt ? m_anker : ziel);
     return true;
 }
 
-bool Textfeld::bewegeCursor(const Taste& taste)
+bool Schreibhand::bewegeCursor(const Tastendruck& druck)
 {
-    const bool gewählt = m_schreibmarke != m_anker && !taste.umschalt;
-    switch (taste.art) {
+    const bool mehrzeilig = m_feld->istMehrzeilig();
+    const bool gewählt = m_schreibmarke != m_anker && !druck.umschalt;
+    switch (druck.art) {
     case Taste::Art::Links:
         return bewege(gewählt ? std::min(m_schreibmarke, m_anker)
                               : m_schreibmarke - schrittZurück(m_text, m_schreibmarke),
-                      taste);
+                      druck);
     case Taste::Art::Rechts:
         return bewege(gewählt ? std::max(m_schreibmarke, m_anker) : m_schreibmarke + schrittVor(m_text, m_schreibmarke),
-                      taste);
+                      druck);
     case Taste::Art::Auf:
     case Taste::Art::Ab:
-        return istMehrzeilig() && bewege(nachbarzeile(m_text, m_schreibmarke, taste.art == Taste::Art::Ab), taste);
+        return mehrzeilig && bewege(nachbarzeile(m_text, m_schreibmarke, druck.art == Taste::Art::Ab), druck);
     case Taste::Art::Pos1:
-        return bewege(istMehrzeilig() ? zeilenanfang(m_text, m_schreibmarke) : 0, taste);
+        return bewege(mehrzeilig ? zeilenanfang(m_text, m_schreibmarke) : 0, druck);
     case Taste::Art::Ende:
-        return bewege(istMehrzeilig() ? zeilenende(m_text, m_schreibmarke) : m_text.size(), taste);
+        return bewege(mehrzeilig ? zeilenende(m_text, m_schreibmarke) : m_text.size(), druck);
     default:
         return false;
     }
 }
 
 /// The combinations that texts have everywhere: all of it, its start, its end.
-bool Textfeld::tasteMitStrg(const Taste& taste)
+bool Schreibhand::drückeMitStrg(const Tastendruck& druck)
 {
-    if (taste.alt) {
+    if (druck.alt) {
         return false;
     }
-    if (taste.art == Taste::Art::Pos1 || taste.art == Taste::Art::Ende) {
-        return bewege(taste.art == Taste::Art::Pos1 ? 0 : m_text.size(), taste);
+    if (druck.art == Taste::Art::Pos1 || druck.art == Taste::Art::Ende) {
+        return bewege(druck.art == Taste::Art::Pos1 ? 0 : m_text.size(), druck);
     }
-    const bool alles = taste.art == Taste::Art::Zeichen && klein(taste.zeichen) == 'a';
+    const bool alles = druck.art == Taste::Art::Zeichen && (druck.zeichen == U'a' || druck.zeichen == U'A');
     if (alles) {
-        wähleAlles();
+        merke(m_text.size(), 0);
     }
     return alles;
 }
 
-bool Textfeld::taste(const Taste& taste)
+bool Schreibhand::drücke(Textfeld& feld, const Tastendruck& druck)
 {
-    if (taste.istKombination()) {
-        return tasteMitStrg(taste);
+    fasse(feld);
+    if (druck.strg || druck.alt) {
+        return drückeMitStrg(druck);
     }
-    switch (taste.art) {
-    case Taste::Art::Zeichen:
-        fügeEin(alsFeldtext(std::string_view(&taste.zeichen, 1), false));
+    switch (druck.art) {
+    case Taste::Art::Zeichen: // as it is, since a mark is composed with the letter before it
+        fügeEin(std::u32string_view(&druck.zeichen, 1));
         return true;
     case Taste::Art::Eingabe:
-        if (istMehrzeilig()) {
+        if (feld.istMehrzeilig()) {
             fügeEin(U"\n");
         }
-        return istMehrzeilig();
+        return feld.istMehrzeilig();
     case Taste::Art::Rück:
     case Taste::Art::Entf:
-        lösche(taste.art == Taste::Art::Rück);
+        lösche(druck.art == Taste::Art::Rück);
         return true;
     default:
-        return bewegeCursor(taste);
+        return bewegeCursor(druck);
     }
 }
 
-void Textfeld::fokusGewechselt(bool gekommen)
+void Schreibhand::ersetzeAlles(Textfeld& feld, std::u32string_view text)
 {
-    if (gekommen) {
-        m_schreibmarke = m_text.size();
-        m_anker = m_schreibmarke;
-    }
+    fasse(feld);
+    merke(m_text.size(), 0);
+    fügeEin(text);
 }
