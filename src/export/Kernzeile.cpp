@@ -3,6 +3,7 @@
 #include "export/Spaltentabelle.h"
 #include "export/Zeilenbauer.h"
 #include "platform/text/Text.h"
+#include "platform/text/Zahl.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Exportspalten.h"
 #include "satz/Klientenfelder.h"
@@ -18,6 +19,7 @@ std::string_view meldungZu(const Satzfeld& feld, int nummer)
 
 Exportspalte betreuungsspalteAus(const Satzfeld& feld, int nummer)
 {
+    static const auto kinderOhneAngabe = alsText(werte::kinderOhneAngabe);
     const auto mit = [&](Kodierung kodierung, std::string_view ersatz = {}) {
         return Exportspalte{.kodierung = kodierung,
                             .feld = nummer,
@@ -32,7 +34,7 @@ Exportspalte betreuungsspalteAus(const Satzfeld& feld, int nummer)
     case Feldart::kontakte:
         return mit(Kodierung::ErsatzFürKA);
     case Feldart::kinder:
-        return mit(Kodierung::ErsatzFürKA, "99"_t);
+        return mit(Kodierung::ErsatzFürKA, kinderOhneAngabe);
     case Feldart::nation:
         return mit(Kodierung::Nation);
     default:

@@ -8,10 +8,10 @@
 #include <string_view>
 #include <vector>
 
-/// The 181 columns of the core row (Kern.txt), column n at element n-1.
+/// The columns of the core row (Kern.txt), column n at element n-1.
 const std::vector<Exportspalte>& kernspalten();
 
-/// The core row of an episode without line end: 181 values, each followed by ";". A text that a value list
+/// The core row of an episode without line end: a value for each column, each followed by ";". A text that a value list
 /// does not hold shows a box and goes on.
 std::string erstelleKernZeile(std::string_view kernDS, std::string_view betrDS, std::string_view tsnr,
                               const Bestandsmeldung& meldung);

@@ -20,36 +20,37 @@ constexpr auto leer = "<leer>"_t;
 constexpr auto sonst = "<sonst>"_t;
 constexpr auto kA = "k.A."_t;
 
-/// What the kinds are called in the string form.
+/// What a kind is called in the string form.
 struct Typ {
     Feldart art;
     std::string_view name;
-    std::array<std::string_view, 2> anmerkungen; ///< expected form, for whoever reads the table; no rule
-};
-
-constexpr std::array typen{
-    Typ{Feldart::idKern, "idKern"_t, {}},
-    Typ{Feldart::idBetr, "idBetr"_t, {}},
-    Typ{Feldart::datum, "datum"_t, {"<NN.NN.NNNN>"_t, "<offen>"_t}},
-    Typ{Feldart::option, "option"_t, {}},
-    Typ{Feldart::zuvor, "zuvor"_t, {kA, "<0..N>"_t}},
-    Typ{Feldart::kinder, "kinder"_t, {kA, "<0..98>"_t}},
-    Typ{Feldart::zahl, "zahl"_t, {"<N>"_t, {}}},
-    Typ{Feldart::kontakte, "kontakte"_t, {kA, "<1-999>"_t}},
-    Typ{Feldart::nation, "nation"_t, {"<XXX> "_t, {}}},
-    Typ{Feldart::hdOhne, "hdOhne"_t, {"<WAHR, FALSCH>"_t, {}}},
-    Typ{Feldart::ivKonsum, "ivKonsum"_t, {"<WAHR, FALSCH>"_t, {}}},
-    Typ{Feldart::hdAlter, "hdAlter"_t, {}},
-    Typ{Feldart::icd0000, "icd0000"_t, {}},
-    Typ{Feldart::icdPsy, "icdPsy"_t, {"<##.##>"_t, {}}},
-    Typ{Feldart::icdNeu, "icdNeu"_t, {"<##.##>"_t, {}}},
-    Typ{Feldart::text, "text"_t, {"<?##.##>"_t, {}}},
-    Typ{Feldart::leer, leer, {}},
-    Typ{Feldart::memo, {}, {}},
+    std::vector<std::string_view> anmerkungen; ///< expected form, for whoever reads the table; no rule
 };
 
 const Typ& typVon(Feldart art)
 {
+    static const auto kinder = verbinde("<0.."_t, alsText(werte::kinder.bis), '>');
+    static const auto kontakte = verbinde("<1-"_t, alsText(werte::kontakte.bis), '>');
+    static const std::array typen{
+        Typ{Feldart::idKern, "idKern"_t, {}},
+        Typ{Feldart::idBetr, "idBetr"_t, {}},
+        Typ{Feldart::datum, "datum"_t, {"<NN.NN.NNNN>"_t, "<offen>"_t}},
+        Typ{Feldart::option, "option"_t, {}},
+        Typ{Feldart::zuvor, "zuvor"_t, {kA, "<0..N>"_t}},
+        Typ{Feldart::kinder, "kinder"_t, {kA, kinder}},
+        Typ{Feldart::zahl, "zahl"_t, {"<N>"_t}},
+        Typ{Feldart::kontakte, "kontakte"_t, {kA, kontakte}},
+        Typ{Feldart::nation, "nation"_t, {"<XXX> "_t}},
+        Typ{Feldart::hdOhne, "hdOhne"_t, {"<WAHR, FALSCH>"_t}},
+        Typ{Feldart::ivKonsum, "ivKonsum"_t, {"<WAHR, FALSCH>"_t}},
+        Typ{Feldart::hdAlter, "hdAlter"_t, {}},
+        Typ{Feldart::icd0000, "icd0000"_t, {}},
+        Typ{Feldart::icdPsy, "icdPsy"_t, {"<##.##>"_t}},
+        Typ{Feldart::icdNeu, "icdNeu"_t, {"<##.##>"_t}},
+        Typ{Feldart::text, "text"_t, {"<?##.##>"_t}},
+        Typ{Feldart::leer, leer, {}},
+        Typ{Feldart::memo, {}, {}},
+    };
     return *std::ranges::find(typen, art, &Typ::art);
 }
 

@@ -52,8 +52,10 @@ struct Zahlenbereich {
     int bis;
 };
 
-inline constexpr Zahlenbereich maßnahmen{0, 99};  ///< former treatments
-inline constexpr Zahlenbereich kinder{0, 98};     ///< 99 is the code of "k.A."
+inline constexpr Zahlenbereich maßnahmen{0, 99}; ///< former treatments
+inline constexpr Zahlenbereich kinder{0, 98};
+inline constexpr int kinderOhneAngabe = 99; ///< code of "k.A." in the export
+static_assert(kinder.bis < kinderOhneAngabe, "a number of children would be read as not given");
 inline constexpr Zahlenbereich kontakte{1, 999};  ///< a care without any contact is none
 inline constexpr Zahlenbereich unterhalt{0, 12};  ///< main livelihood, 0 for none marked
 inline constexpr Zahlenbereich konsumtage{0, 30}; ///< of the last thirty
