@@ -2,6 +2,9 @@
 
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 
 #include <array>
@@ -16,18 +19,13 @@ struct Satzstück {
 };
 
 constexpr std::array<Satzstück, 6> betreuungsstücke{{
-    {&Arbeitskopie::DSBetrHaupt, 5, 24},
-    {&Arbeitskopie::DSBetrA, 25, 104},
-    {&Arbeitskopie::DSBetrB, 105, 117},
-    {&Arbeitskopie::DSBetrC, 118, 149},
-    {&Arbeitskopie::DSBetrDiag, 150, 163},
-    {&Arbeitskopie::DSBetrE, 164, 191},
+    {&Arbeitskopie::DSBetrHaupt, feld::betr::wieder, feld::betr::substitut - 1},
+    {&Arbeitskopie::DSBetrA, feld::betr::substitut, feld::betr::famSta - 1},
+    {&Arbeitskopie::DSBetrB, feld::betr::famSta, feld::betr::lebUntV - 1},
+    {&Arbeitskopie::DSBetrC, feld::betr::lebUntV, feld::betr::hdOhne - 1},
+    {&Arbeitskopie::DSBetrDiag, feld::betr::hdOhne, feld::betr::kontakte - 1},
+    {&Arbeitskopie::DSBetrE, feld::betr::kontakte, feld::betr::memo - 1},
 }};
-
-constexpr int feldMemoB = 192;
-constexpr int ersteDiagnose = 3;
-constexpr int letzteDiagnose = 247;
-constexpr int feldMemoK = 11;
 
 std::string alsSatzanfang(const Betreuungsschlüssel& schlüssel)
 {
@@ -41,17 +39,17 @@ void zerlegeBetrDS(Arbeitskopie& kopie)
     for (const Satzstück& stück : betreuungsstücke) {
         kopie.*stück.text = felder(kopie.aktBetrDS, stück.von, stück.bis);
     }
-    kopie.DSDiag = felder(kopie.aktDiagDS, ersteDiagnose, letzteDiagnose);
+    kopie.DSDiag = felder(kopie.aktDiagDS, feld::diag::ersteAntwort, feld::diag::anzahl);
 }
 
 std::string memoBAus(std::string_view betrDS)
 {
-    return std::string(getFeld(betrDS, feldMemoB));
+    return std::string(getFeld(betrDS, feld::betr::memo));
 }
 
 std::string memoKAus(std::string_view kernDS)
 {
-    return std::string(getFeld(kernDS, feldMemoK));
+    return std::string(getFeld(kernDS, feld::kern::memo));
 }
 
 std::string baueBetrDS(const Betreuungsschlüssel& schlüssel, std::string_view von, std::string_view bis,
@@ -72,5 +70,6 @@ std::string baueDiagDS(const Betreuungsschlüssel& schlüssel, const Arbeitskopi
 
 std::string baueKernDS(std::string_view kernDS, std::string_view betrao, std::string_view memoK)
 {
-    return verbinde(felder(kernDS, 1, 2), betrao, trenner, felder(kernDS, 4, feldMemoK - 1), memoK);
+    return verbinde(felder(kernDS, feld::kern::leer, feld::kern::betrao - 1), betrao, trenner,
+                    felder(kernDS, feld::kern::betrao + 1, feld::kern::memo - 1), memoK);
 }

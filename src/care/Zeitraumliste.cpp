@@ -1,6 +1,7 @@
 #include "care/Zeitraumliste.h"
 
 #include "platform/text/Text.h"
+#include "satz/Betreuungsfelder.h"
 #include "satz/moHelferlein.h"
 #include "store/Lesestand.h"
 #include "zustand/Zustand.h"
@@ -8,10 +9,6 @@
 #include <algorithm>
 
 namespace {
-
-constexpr int feldKernID = 1;
-constexpr int feldBetrBeg = 3;
-constexpr int feldBetrEnd = 4;
 
 std::string tagDavor(std::string_view tag)
 {
@@ -52,8 +49,9 @@ Zeitraumliste leseZeitraumListe(std::int32_t kernID)
     Zeitraumliste liste;
     const auto& tabelle = zustand().pfade.betrDat;
     zustand().bestand.fürJedeZeile(Tabelle::Betr, [&](std::string_view zeile, std::size_t nummer) {
-        if (leseSchlüssel(zeile, feldKernID, 16, tabelle, nummer) == kernID) {
-            liste.push_back({std::string(getFeld(zeile, feldBetrBeg)), std::string(getFeld(zeile, feldBetrEnd))});
+        if (leseSchlüssel(zeile, feld::betr::kernID, 16, tabelle, nummer) == kernID) {
+            liste.push_back(
+                {std::string(getFeld(zeile, feld::betr::beginn)), std::string(getFeld(zeile, feld::betr::ende))});
         }
     });
     sortiereNachBeginn(liste);

@@ -2,13 +2,12 @@
 
 #include "care/Arbeitssatz.h"
 #include "platform/text/Text.h"
-#include "platform/text/Zahl.h"
-#include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 #include "store/Vorgang.h"
 #include "zustand/Zustand.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -26,30 +25,6 @@ constexpr std::array kostenträgerarten{
     "Sonstiges"_t,
 };
 
-constexpr int feldKernID = 2; // of the client record
-constexpr int feldBetrBeg = 3;
-constexpr int feldBetrEnd = 4;
-
-/// The names of the nation table behind "keine Angaben". A record stores the name; the code that stands in
-/// front of it in the table is the export's business.
-std::vector<std::string> nationen()
-{
-    constexpr int tabellenanfang = 1000;
-    constexpr std::size_t codelänge = 4;
-    const std::string anzahltext = ladeResText(tabellenanfang);
-    const auto anzahl = leseGanzzahl16(anzahltext);
-    if (!anzahl) {
-        throw Laufzeitfehler(verbinde("Die Ländertabelle hat keine Anzahl, sondern \""_t, anzahltext, '"'));
-    }
-    std::vector<std::string> liste;
-    liste.emplace_back("keine Angaben"_t);
-    for (int i = 1; i <= *anzahl; ++i) {
-        const std::string eintrag = ladeResText(tabellenanfang + i);
-        liste.push_back(eintrag.substr(std::min(codelänge, eintrag.size())));
-    }
-    return liste;
-}
-
 } // namespace
 
 frmBetreuungA::frmBetreuungA(std::int32_t klient, std::int32_t nummer, bool neu)
@@ -64,18 +39,18 @@ frmBetreuungA::frmBetreuungA(std::int32_t klient, std::int32_t nummer, bool neu)
 
 void frmBetreuungA::baueTafel()
 {
-    m_tafel.fügeWahl(comboWieder, werte::kurz);
-    m_tafel.fügeWahl(comboBetrGru, werte::betrGru);
-    m_tafel.fügeWahl(comboAngeho, werte::angeho);
-    m_tafel.fügeWahl(comboProblem, werte::problem);
-    m_tafel.fügeWahl(comboNation, nationen());
-    m_tafel.fügeWahl(comboSprache, werte::lang);
-    m_tafel.fügeWahl(comboMigrant1, werte::lang);
-    m_tafel.fügeWahl(comboMigrant2, werte::lang);
-    m_tafel.fügeWahl(comboVermitt, werte::vermitt);
-    m_tafel.fügeWahl(comboAuflagen1, werte::auflagen1);
-    m_tafel.fügeWahl(comboAuflagen2, werte::auflagen2);
-    m_tafel.fügeAntworten(triJaNeinKosten);
+    m_tafel.füge("Wieder"_t, comboWieder);
+    m_tafel.füge("BetrGru"_t, comboBetrGru);
+    m_tafel.füge("Angeho"_t, comboAngeho);
+    m_tafel.füge("Problem"_t, comboProblem);
+    m_tafel.füge("Nation"_t, comboNation);
+    m_tafel.füge("Sprache"_t, comboSprache);
+    m_tafel.füge("Migrant1"_t, comboMigrant1);
+    m_tafel.füge("Migrant2"_t, comboMigrant2);
+    m_tafel.füge("Vermitt"_t, comboVermitt);
+    m_tafel.füge("Auflagen1"_t, comboAuflagen1);
+    m_tafel.füge("Auflagen2"_t, comboAuflagen2);
+    m_tafel.füge("Kosten"_t, triJaNeinKosten);
 }
 
 void frmBetreuungA::ordneAn()
@@ -95,6 +70,7 @@ void frmBetreuungA::ordneAn()
 Anordnung frmBetreuungA::angaben()
 {
     using namespace anordnung;
+    using anordnung::feld;
     constexpr double breite = 16.5;
     return karte(
         {}, spalte({formular({feld("Wiederaufnahme in dieser Einrichtung"_t, comboWieder),
@@ -171,8 +147,8 @@ void frmBetreuungA::ladeArbeitskopie()
     } else {
         kopie.aktBetrDS = zustand().bestand.getBetrDS(kernID, betrID);
         kopie.aktDiagDS = zustand().bestand.getDiagDS(kernID, betrID);
-        kopie.betrBeg = getFeld(kopie.aktBetrDS, feldBetrBeg);
-        kopie.betrEnd = getFeld(kopie.aktBetrDS, feldBetrEnd);
+        kopie.betrBeg = getFeld(kopie.aktBetrDS, feld::betr::beginn);
+        kopie.betrEnd = getFeld(kopie.aktBetrDS, feld::betr::ende);
     }
     zerlegeBetrDS(kopie);
     zustand().memoBText = memoBAus(kopie.aktBetrDS);
@@ -277,7 +253,7 @@ void frmBetreuungA::speichere()
         }
     }
     // the state is read from the care table, so the episode has to lie there by now
-    const auto betrao = vorgang.betrStatusVon(getFeld(kopie.aktKernDS, feldKernID));
+    const auto betrao = vorgang.betrStatusVon(getFeld(kopie.aktKernDS, feld::kern::kernID));
     vorgang.ersetzeKernDS(kernID, baueKernDS(kopie.aktKernDS, betrao, zustand().memoKText));
     vorgang.bestätige();
 }

@@ -1,6 +1,8 @@
 #include "clients/Listenzeilen.h"
 
 #include "platform/text/Text.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 #include "store/Lesestand.h"
 #include "zustand/Zustand.h"
@@ -13,10 +15,11 @@ constexpr std::size_t stellenDerId = 4;
 
 std::string klientenzeile(std::string_view satz)
 {
-    std::string zeile = idText(getFeld(satz, 2));
-    for (const int feld : {3, 4, 5, 6, 7, 8, 10}) {
+    std::string zeile = idText(getFeld(satz, feld::kern::kernID));
+    using namespace feld::kern;
+    for (const int feldnummer : {betrao, nachname, vorname, straße, plz, ort, geburtsdatum}) {
         zeile.push_back(trenner);
-        zeile.append(getFeld(satz, feld));
+        zeile.append(getFeld(satz, feldnummer));
     }
     std::erase(zeile, '\0');
     return zeile;
@@ -42,9 +45,10 @@ std::vector<std::string> betreuungszeilen(std::int32_t kernID)
     const auto& tabelle = zustand().pfade.betrDat;
     std::vector<std::string> zeilen;
     zustand().bestand.fürJedeZeile(Tabelle::Betr, [&](std::string_view satz, std::size_t nummer) {
-        if (leseSchlüssel(satz, 1, 32, tabelle, nummer) == kernID) {
-            zeilen.push_back(verbinde(getFeld(satz, 1), trenner, getFeld(satz, 2), trenner, getFeld(satz, 3), trenner,
-                                      getFeld(satz, 4)));
+        if (leseSchlüssel(satz, feld::betr::kernID, 32, tabelle, nummer) == kernID) {
+            using namespace feld::betr;
+            zeilen.push_back(verbinde(getFeld(satz, feld::betr::kernID), trenner, getFeld(satz, betrID), trenner,
+                                      getFeld(satz, beginn), trenner, getFeld(satz, ende)));
         }
     });
     return zeilen;

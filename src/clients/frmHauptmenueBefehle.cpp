@@ -1,6 +1,7 @@
 #include "clients/frmHauptmenue.h"
 
 #include "platform/text/Zahl.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 #include "store/Sicherungen.h"
 #include "store/Vorgang.h"
@@ -12,8 +13,6 @@
 // The commands of the main menu.
 
 namespace {
-
-constexpr int feldBetrao = 3;
 
 void meldeNichtsVerändert(Symbol symbol = Symbol::Keins)
 {
@@ -144,7 +143,7 @@ void frmHauptmenü::löscheBetreuung()
     vorgang.löscheBetrDS(kernID, betrID);
     vorgang.löscheDiagDS(kernID, betrID);
     const auto status = vorgang.betrStatusVon(alsText(kernID));
-    vorgang.ersetzeKernDS(kernID, ersetzeFeld(vorgang.getKernDS(kernID), feldBetrao, status));
+    vorgang.ersetzeKernDS(kernID, ersetzeFeld(vorgang.getKernDS(kernID), feld::kern::betrao, status));
     vorgang.bestätige();
     leseListen();
 }

@@ -1,6 +1,7 @@
 #include "clients/frmMemo.h"
 
 #include "platform/text/Zahl.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
@@ -35,7 +36,8 @@ void frmMemo::beiÖffnung()
     tbMemoK.setzeText(alsAnzeigeform(zustand().memoKText));
     tbMemoB.setzeText(alsAnzeigeform(zustand().memoBText));
     const auto& klient = zustand().arbeitskopie.aktKernDS;
-    lblHeader.setzeText(verbinde("memo: "_t, getFeld(klient, 5), ' ', getFeld(klient, 4)));
+    lblHeader.setzeText(
+        verbinde("memo: "_t, getFeld(klient, feld::kern::vorname), ' ', getFeld(klient, feld::kern::nachname)));
     cmdDummy.zeige(m_zeigeMemoB);
     tbMemoB.zeige(!m_zeigeMemoB);
 }

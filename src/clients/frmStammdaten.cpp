@@ -1,7 +1,8 @@
 #include "clients/frmStammdaten.h"
 
 #include "platform/text/Zahl.h"
-#include "satz/Wertelisten.h"
+#include "satz/Auswahllisten.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 #include "store/Vorgang.h"
 #include "zustand/Zustand.h"
@@ -11,11 +12,6 @@
 namespace {
 
 constexpr auto unbekannt = "unbekannt"_t;
-constexpr int feldKernID = 2;
-constexpr int feldBetrao = 3;
-constexpr int feldGeschlecht = 9;
-constexpr int feldGeburtsdatum = 10;
-constexpr int feldMemo = 11;
 
 /// The client's line, found as the tables compare keys; empty without one.
 std::string sucheKernDS(std::int32_t kernID)
@@ -23,7 +19,7 @@ std::string sucheKernDS(std::int32_t kernID)
     const auto& bestand = zustand().bestand;
     std::string gefunden;
     bestand.laufe(Tabelle::Kern, [&](std::string_view zeile, std::size_t nummer) {
-        const bool trifft = leseSchlüssel(zeile, feldKernID, 16, bestand.pfade().kernDat, nummer) == kernID;
+        const bool trifft = leseSchlüssel(zeile, feld::kern::kernID, 16, bestand.pfade().kernDat, nummer) == kernID;
         if (trifft) {
             gefunden = zeile;
         }
@@ -35,8 +31,9 @@ std::string sucheKernDS(std::int32_t kernID)
 /// The text boxes with the record fields that they show.
 template <class Form> auto textfelder(Form& form)
 {
-    return std::array{std::pair{4, &form.tbNachname}, std::pair{5, &form.tbVorname}, std::pair{6, &form.tbStrasse},
-                      std::pair{7, &form.tbPLZ}, std::pair{8, &form.tbOrt}};
+    using namespace feld::kern;
+    return std::array{std::pair{nachname, &form.tbNachname}, std::pair{vorname, &form.tbVorname},
+                      std::pair{straße, &form.tbStrasse}, std::pair{plz, &form.tbPLZ}, std::pair{ort, &form.tbOrt}};
 }
 
 } // namespace
@@ -58,6 +55,7 @@ frmStammdaten::frmStammdaten(std::int32_t klient, bool neu) : Bildschirm("frmSta
 void frmStammdaten::ordneAn()
 {
     using namespace anordnung;
+    using anordnung::feld;
     kopfband.titel = &lblHeader;
     auto felder =
         formular({feld("Nachname:"_t, tbNachname), feld("Vorname:"_t, tbVorname), feld("Straße:"_t, tbStrasse),
@@ -73,7 +71,7 @@ void frmStammdaten::ordneAn()
 void frmStammdaten::beiÖffnung()
 {
     setzeTitel(verbinde(zustand().titel, " - Stammdaten"_t));
-    comboGeschlecht.setzeListe(werte::texte(werte::geschlecht));
+    comboGeschlecht.setzeListe(auswahlliste(feldAus(klientenfelder(), feld::kern::geschlecht)));
     lblHeader.setzeText(istNeu ? "neuer Klient"_t : "Klientendaten bearbeiten"_t);
     getFrmData();
 }
@@ -88,12 +86,12 @@ void frmStammdaten::getFrmData()
     for (const auto& [nummer, textfeld] : textfelder(*this)) {
         textfeld->setzeText(getFeld(satz, nummer));
     }
-    comboGeschlecht.setzeText(getFeld(satz, feldGeschlecht));
-    zeigeGeburtsdatum(getFeld(satz, feldGeburtsdatum));
+    comboGeschlecht.setzeText(getFeld(satz, feld::kern::geschlecht));
+    zeigeGeburtsdatum(getFeld(satz, feld::kern::geburtsdatum));
 
     m_kernDSBeimÖffnen = satz;
-    m_betrao = getFeld(satz, feldBetrao);
-    zustand().memoKText = getFeld(satz, feldMemo);
+    m_betrao = getFeld(satz, feld::kern::betrao);
+    zustand().memoKText = getFeld(satz, feld::kern::memo);
     zustand().memoBText = "dieses Feld ist nur da, um auf Betreuungsebene Memos einzutragen. Hier ist es ohne Sinn"_t;
 }
 
@@ -129,7 +127,7 @@ std::string frmStammdaten::erstelleKernDS() const
 bool frmStammdaten::liegtNeuInDerZukunft(std::string_view satz) const
 {
     return !cmdGebUnbekannt.istSichtbar() &&
-           getFeld(satz, feldGeburtsdatum) != getFeld(m_kernDSBeimÖffnen, feldGeburtsdatum) &&
+           getFeld(satz, feld::kern::geburtsdatum) != getFeld(m_kernDSBeimÖffnen, feld::kern::geburtsdatum) &&
            DTPickerGeburtsdatum.datum() > zustand().umgebung.heute();
 }
 

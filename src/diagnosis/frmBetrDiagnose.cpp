@@ -1,26 +1,34 @@
 #include "diagnosis/frmBetrDiagnose.h"
 
 #include "platform/text/Zahl.h"
+#include "satz/Auswahllisten.h"
+#include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosesatz.h"
 #include "satz/WeitereDiagnosen.h"
-#include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Fehlerort.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 #include <vector>
 
 namespace {
 
-// Positions in DSBetrDiag.
-constexpr int ersterGrund = 1;
-constexpr int platzICDPoly = 7;
-constexpr int platzHIVInfekt = 8;
-constexpr int platzHepatB = 9;
-constexpr int platzHepatC = 10;
-constexpr int ersterIVKonsum = 11;
+/// The place of a care field in DSBetrDiag.
+constexpr int platz(int feldnummer)
+{
+    return feldnummer - feld::betr::hdOhne + 1;
+}
+
+/// The combo boxes with the care fields that they show.
+template <class Form> auto wahlfelder(Form& form)
+{
+    using namespace feld::betr;
+    return std::array{std::pair{icdPoly, &form.comboICDPoly}, std::pair{hivInfekt, &form.comboHIVInfekt},
+                      std::pair{hepatB, &form.comboHepatB}, std::pair{hepatC, &form.comboHepatC}};
+}
 
 std::string& DSDiag()
 {
@@ -59,9 +67,8 @@ std::string sammleOptionen(const Elementreihe<Optionsfeld>& optionen)
 
 /// The page offers "ja" before "nein", the other way round than the data set lists the answers; staff know
 /// the box that way.
-std::vector<std::string> jaVorNein()
+std::vector<std::string> jaVorNein(std::vector<std::string> texte)
 {
-    std::vector<std::string> texte = werte::texte(werte::lang);
     std::ranges::reverse(texte.begin() + 1, texte.end());
     return texte;
 }
@@ -92,11 +99,10 @@ Element& frmBetrDiagnose::ersteFrage()
 /// A bit field that is no number would come up somewhere in the middle of the page; here its record can be named.
 void frmBetrDiagnose::prüfeBitfeld()
 {
-    constexpr int felderDesSchlüssels = 2;
     const auto& satz = zustand().arbeitskopie.aktDiagDS;
-    const Satzschlüssel schlüssel{static_cast<std::int32_t>(führendeZahl(getFeld(satz, 1))),
-                                  static_cast<std::int32_t>(führendeZahl(getFeld(satz, 2)))};
-    mitSatzort(Tabelle::Diag, schlüssel, bitfeldposition + felderDesSchlüssels, [] { leseBitfeld(DSDiag()); });
+    const Satzschlüssel schlüssel{static_cast<std::int32_t>(führendeZahl(getFeld(satz, feld::diag::kernID))),
+                                  static_cast<std::int32_t>(führendeZahl(getFeld(satz, feld::diag::betrID)))};
+    mitSatzort(Tabelle::Diag, schlüssel, feld::diag::bitfeld, [] { leseBitfeld(DSDiag()); });
 }
 
 void frmBetrDiagnose::richteEin()
@@ -109,10 +115,10 @@ void frmBetrDiagnose::richteEin()
     lblBetrEnd.setzeText(kopie.betrEnd);
     setzeRollbereich();
     VScroll1.setzeWert(0);
-    comboICDPoly.setzeListe(jaVorNein());
-    comboHIVInfekt.setzeListe(werte::texte(werte::test));
-    comboHepatB.setzeListe(werte::texte(werte::test));
-    comboHepatC.setzeListe(werte::texte(werte::hepatitisC));
+    for (const auto& [feldnummer, combo] : wahlfelder(*this)) {
+        combo->setzeListe(auswahlliste(feldAus(betreuungsfelder(), feldnummer)));
+    }
+    comboICDPoly.setzeListe(jaVorNein(comboICDPoly.liste()));
 }
 
 void frmBetrDiagnose::setFrmData()
@@ -131,12 +137,11 @@ void frmBetrDiagnose::setFrmData()
 
 void frmBetrDiagnose::zeigeBetrDiag()
 {
-    zeigeOptionen(optHDohne, DSBetrDiag(), ersterGrund);
-    comboICDPoly.setzeText(getFeld(DSBetrDiag(), platzICDPoly));
-    comboHIVInfekt.setzeText(getFeld(DSBetrDiag(), platzHIVInfekt));
-    comboHepatB.setzeText(getFeld(DSBetrDiag(), platzHepatB));
-    comboHepatC.setzeText(getFeld(DSBetrDiag(), platzHepatC));
-    zeigeOptionen(optIVKonsum, DSBetrDiag(), ersterIVKonsum);
+    zeigeOptionen(optHDohne, DSBetrDiag(), platz(feld::betr::hdOhne));
+    for (const auto& [feldnummer, combo] : wahlfelder(*this)) {
+        combo->setzeText(getFeld(DSBetrDiag(), platz(feldnummer)));
+    }
+    zeigeOptionen(optIVKonsum, DSBetrDiag(), platz(feld::betr::ivKonsum));
 }
 
 std::string frmBetrDiagnose::sammleBetrDiag()
