@@ -37,7 +37,7 @@ void exportiereJahr(benchmark::State& stand)
     lauf();
     constexpr int jahr = 2010;
     messeVerhältnis(stand, 6, kopiereTabellen, [] {
-        Exportlauf export_(jahr, lauf().umgebung.programmordner() / "Exporte");
+        Exportlauf export_(zustand().bestand, jahr, lauf().umgebung.programmordner() / "Exporte");
         export_.beiKlient = [](std::int32_t) {};
         benchmark::DoNotOptimize(export_.führeAus());
     });

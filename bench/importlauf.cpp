@@ -45,7 +45,9 @@ public:
     /// With `merke` the files of the work folder are kept for the comparison.
     void importiere(bool merke = false)
     {
-        Importlauf lauf(kernAlt(), betreuungenAlt());
+        const auto& stand = zustand();
+        Importlauf lauf({stand.bestand, stand.pfade.programm, stand.umgebung.installation(), stand.pfade.importListe},
+                        kernAlt(), betreuungenAlt());
         lauf.beiSchritt = [](std::string_view, int) {};
         lauf.nachSchritt = [&] {
             if (merke) {

@@ -36,7 +36,7 @@ void Programm::Main()
     }
     initialisiere();
     vollendeVorgang(m_zustand.umgebung.dateien(), m_zustand.pfade, m_zustand.bestandsmeldung);
-    Importlauf::entferneReste();
+    Importlauf::entferneReste(m_zustand.bestand);
     prüfeDateien();
     stelleBruchstückeBeiseite(m_zustand.bestand);
     bereinigeDatum(m_zustand.bestand);

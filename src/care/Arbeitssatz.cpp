@@ -11,20 +11,19 @@
 
 namespace {
 
-/// A piece of the care record: the fields of one page.
+/// A piece of the care record: the fields of one page, up to the next piece.
 struct Satzstück {
     std::string Arbeitskopie::*text;
     int von;
-    int bis;
 };
 
 constexpr std::array<Satzstück, 6> betreuungsstücke{{
-    {&Arbeitskopie::DSBetrHaupt, feld::betr::wieder, feld::betr::substitut - 1},
-    {&Arbeitskopie::DSBetrA, feld::betr::substitut, feld::betr::famSta - 1},
-    {&Arbeitskopie::DSBetrB, feld::betr::famSta, feld::betr::lebUntV - 1},
-    {&Arbeitskopie::DSBetrC, feld::betr::lebUntV, feld::betr::hdOhne - 1},
-    {&Arbeitskopie::DSBetrDiag, feld::betr::hdOhne, feld::betr::kontakte - 1},
-    {&Arbeitskopie::DSBetrE, feld::betr::kontakte, feld::betr::memo - 1},
+    {&Arbeitskopie::DSBetrHaupt, feld::betr::wieder},
+    {&Arbeitskopie::DSBetrA, feld::betr::substitut},
+    {&Arbeitskopie::DSBetrB, feld::betr::famSta},
+    {&Arbeitskopie::DSBetrC, feld::betr::lebUntV},
+    {&Arbeitskopie::DSBetrDiag, feld::betr::hdOhne},
+    {&Arbeitskopie::DSBetrE, feld::betr::kontakte},
 }};
 
 std::string alsSatzanfang(const Betreuungsschlüssel& schlüssel)
@@ -36,8 +35,10 @@ std::string alsSatzanfang(const Betreuungsschlüssel& schlüssel)
 
 void zerlegeBetrDS(Arbeitskopie& kopie)
 {
-    for (const Satzstück& stück : betreuungsstücke) {
-        kopie.*stück.text = felder(kopie.aktBetrDS, stück.von, stück.bis);
+    int dahinter = feld::betr::memo;
+    for (auto stück = betreuungsstücke.rbegin(); stück != betreuungsstücke.rend(); ++stück) {
+        kopie.*stück->text = felder(kopie.aktBetrDS, stück->von, dahinter - 1);
+        dahinter = stück->von;
     }
     kopie.DSDiag = felder(kopie.aktDiagDS, feld::diag::ersteAntwort, feld::diag::anzahl);
 }
@@ -70,6 +71,6 @@ std::string baueDiagDS(const Betreuungsschlüssel& schlüssel, const Arbeitskopi
 
 std::string baueKernDS(std::string_view kernDS, std::string_view betrao, std::string_view memoK)
 {
-    return verbinde(felder(kernDS, feld::kern::leer, feld::kern::betrao - 1), betrao, trenner,
-                    felder(kernDS, feld::kern::betrao + 1, feld::kern::memo - 1), memoK);
+    return verbinde(felder(kernDS, feld::kern::leer, feld::kern::kernID), betrao, trenner,
+                    felder(kernDS, feld::kern::nachname, feld::kern::geburtsdatum), memoK);
 }

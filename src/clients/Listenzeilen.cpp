@@ -17,9 +17,9 @@ std::string klientenzeile(std::string_view satz)
 {
     std::string zeile = idText(getFeld(satz, feld::kern::kernID));
     using namespace feld::kern;
-    for (const int feldnummer : {betrao, nachname, vorname, straße, plz, ort, geburtsdatum}) {
+    for (const int feld : {betrao, nachname, vorname, straße, plz, ort, geburtsdatum}) {
         zeile.push_back(trenner);
-        zeile.append(getFeld(satz, feldnummer));
+        zeile.append(getFeld(satz, feld));
     }
     std::erase(zeile, '\0');
     return zeile;
@@ -46,9 +46,8 @@ std::vector<std::string> betreuungszeilen(std::int32_t kernID)
     std::vector<std::string> zeilen;
     zustand().bestand.fürJedeZeile(Tabelle::Betr, [&](std::string_view satz, std::size_t nummer) {
         if (leseSchlüssel(satz, feld::betr::kernID, 32, tabelle, nummer) == kernID) {
-            using namespace feld::betr;
-            zeilen.push_back(verbinde(getFeld(satz, feld::betr::kernID), trenner, getFeld(satz, betrID), trenner,
-                                      getFeld(satz, beginn), trenner, getFeld(satz, ende)));
+            auto& neue = zeilen.emplace_back(felder(satz, feld::betr::kernID, feld::betr::ende));
+            neue.pop_back(); // the delimiter behind the last field
         }
     });
     return zeilen;

@@ -159,7 +159,8 @@ std::string frmBetrDiagnose::sammleDSDiag() const
     for (const Textfeld& feld : tbandereDiagnose) {
         weitere += verbinde(feld.text(), trenner);
     }
-    return verbinde(felder(DSDiag(), 1, weitereDiagnose(1) - 1), weitere, getFeld(DSDiag(), bitfeldposition), trenner);
+    return verbinde(felder(DSDiag(), blockposition(1, Konsumart), weitereDiagnose(0)), weitere,
+                    getFeld(DSDiag(), bitfeldposition), trenner);
 }
 
 void frmBetrDiagnose::sammle()

@@ -2,6 +2,7 @@
 
 #include "export/Spaltentabelle.h"
 #include "export/Zeilenbauer.h"
+#include "platform/text/Text.h"
 #include "satz/Diagnosefelder.h"
 
 #include <algorithm>
@@ -90,15 +91,18 @@ const std::vector<Exportspalte>& diagnosespalten()
     return spalten;
 }
 
-void hängeDiagZeileAn(std::string& ziel, const Satzsicht& betreuung, const Satzsicht& diagnose, std::string_view tsnr)
+void hängeDiagZeileAn(std::string& ziel, const Satzsicht& betreuung, const Satzsicht& diagnose, std::string_view tsnr,
+                      const Bestandsmeldung& meldung)
 {
-    const Exportsätze sätze{.klient = nullptr, .betreuung = &betreuung, .diagnose = &diagnose, .tsnr = tsnr};
+    const Exportsätze sätze{
+        .klient = nullptr, .betreuung = &betreuung, .diagnose = &diagnose, .tsnr = tsnr, .meldung = meldung};
     Zeilenbauer(ziel, sätze).baue(diagnosespalten());
 }
 
-std::string erstelleDiagZeile(std::string_view betrDS, std::string_view diagDS, std::string_view tsnr)
+std::string erstelleDiagZeile(std::string_view betrDS, std::string_view diagDS, std::string_view tsnr,
+                              const Bestandsmeldung& meldung)
 {
     std::string zeile;
-    hängeDiagZeileAn(zeile, Satzsicht(betrDS), Satzsicht(diagDS), tsnr);
+    hängeDiagZeileAn(zeile, Satzsicht(betrDS), Satzsicht(diagDS), tsnr, meldung);
     return zeile;
 }

@@ -3,14 +3,13 @@
 #include "export/Datumspruefung.h"
 #include "export/Diagnosezeile.h"
 #include "export/Kernzeile.h"
+#include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosefelder.h"
 #include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
-#include "store/Lesestand.h"
-#include "zustand/Zustand.h"
 
 namespace {
 
@@ -18,11 +17,6 @@ constexpr int bits = 32;
 
 /// The first column of both rows. Nothing ever fills it, but its place is kept.
 constexpr std::string_view tsnr;
-
-Dateien& dateien()
-{
-    return zustand().umgebung.dateien();
-}
 
 } // namespace
 
@@ -35,8 +29,8 @@ void beimSchreiben(const std::function<void()>& operation)
     }
 }
 
-Diagnosesuche::Diagnosesuche(const std::filesystem::path& pfad)
-    : m_pfad(pfad), m_inhalt(dateien().lies(pfad)), m_zeilen(m_inhalt->text())
+Diagnosesuche::Diagnosesuche(Dateien& dateien, const std::filesystem::path& pfad)
+    : m_pfad(pfad), m_inhalt(dateien.lies(pfad)), m_zeilen(m_inhalt->text())
 {}
 
 Diagnosesuche::Schlüssel Diagnosesuche::schlüssel(std::int32_t kernID, std::int32_t betrID)
@@ -61,8 +55,8 @@ std::optional<std::string_view> Diagnosesuche::finde(std::int32_t kernID, std::i
     return std::nullopt;
 }
 
-Exportlauf::Exportlauf(int jahr, const std::filesystem::path& ordner)
-    : m_jahr(jahr), m_ordner(ordner), m_klienten(dateien().lies(zustand().pfade.kernDat)),
+Exportlauf::Exportlauf(const Bestand& bestand, int jahr, const std::filesystem::path& ordner)
+    : m_bestand(bestand), m_jahr(jahr), m_ordner(ordner), m_klienten(dateien().lies(pfade().kernDat)),
       m_klientenzahl(static_cast<std::int32_t>(zähleZeilen(m_klienten->text())))
 {}
 
@@ -110,7 +104,7 @@ void Exportlauf::behalteGeschriebenes()
 
 void Exportlauf::exportiereKlient(std::string_view zeile, std::size_t nummer)
 {
-    const auto kernID = leseSchlüssel(zeile, feld::kern::kernID, bits, zustand().pfade.kernDat, nummer);
+    const auto kernID = leseSchlüssel(zeile, feld::kern::kernID, bits, pfade().kernDat, nummer);
     m_klient.lies(zeile);
     if (!m_betreuungen) {
         sucheBetreuungen(kernID);
@@ -123,7 +117,7 @@ void Exportlauf::exportiereKlient(std::string_view zeile, std::size_t nummer)
 
 void Exportlauf::sucheBetreuungen(std::int32_t erster)
 {
-    const auto& pfad = zustand().pfade.betrDat;
+    const auto& pfad = pfade().betrDat;
     m_betreuungen = dateien().lies(pfad);
     Zeilen zeilen(m_betreuungen->text());
     while (const auto zeile = zeilen.nächste()) {
@@ -145,22 +139,23 @@ bool Exportlauf::berührtJahrDesExports(std::string_view betrDS, std::size_t num
             verbinde(getFeld(betrDS, feld::betr::kernID), '-', getFeld(betrDS, feld::betr::betrID));
         return berührtJahr(getFeld(betrDS, feld::betr::beginn), getFeld(betrDS, feld::betr::ende), m_jahr, bezeichnung);
     } catch (const Laufzeitfehler& fehler) {
-        throw Laufzeitfehler(verbinde(ortsangabe(zustand().pfade.betrDat, nummer), ", "_t, fehler.text()));
+        throw Laufzeitfehler(verbinde(ortsangabe(pfade().betrDat, nummer), ", "_t, fehler.text()));
     }
 }
 
 void Exportlauf::exportiere(std::int32_t kernID, std::string_view betrDS, std::size_t nummer)
 {
     ++m_exportierte;
-    const auto betrID = leseSchlüssel(betrDS, feld::betr::betrID, bits, zustand().pfade.betrDat, nummer);
+    const auto betrID = leseSchlüssel(betrDS, feld::betr::betrID, bits, pfade().betrDat, nummer);
     if (!m_diagnosen) {
-        m_diagnosen.emplace(zustand().pfade.diagDat);
+        m_diagnosen.emplace(dateien(), pfade().diagDat);
     }
     if (const auto diagDS = m_diagnosen->finde(kernID, betrID)) {
         schreibe(betrDS, *diagDS);
     } else {
-        zeigeMeldung(verbinde("Fehler im Export: zu "_t, alsText(kernID), '-', alsText(betrID),
-                              " wurde kein diagDS gefunden"_t));
+        m_bestand.meldung()(
+            verbinde("Fehler im Export: zu "_t, alsText(kernID), '-', alsText(betrID), " wurde kein diagDS gefunden"_t),
+            Symbol::Keins);
     }
 }
 
@@ -169,9 +164,9 @@ void Exportlauf::schreibe(std::string_view betrDS, std::string_view diagDS)
     m_betreuung.lies(betrDS);
     m_diagnosesatz.lies(diagDS);
     m_kernzeile.clear();
-    hängeKernZeileAn(m_kernzeile, m_klient, m_betreuung, tsnr);
+    hängeKernZeileAn(m_kernzeile, m_klient, m_betreuung, tsnr, m_bestand.meldung());
     m_diagnosezeile.clear();
-    hängeDiagZeileAn(m_diagnosezeile, m_betreuung, m_diagnosesatz, tsnr);
+    hängeDiagZeileAn(m_diagnosezeile, m_betreuung, m_diagnosesatz, tsnr, m_bestand.meldung());
     // only when both are there: a failure between them would leave the files with different numbers of lines
     beimSchreiben([&] {
         m_kern->zeile(m_kernzeile);

@@ -3,6 +3,7 @@
 #include "export/Satzsicht.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/dateien/Zeilen.h"
+#include "store/Bestand.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -27,7 +28,7 @@ void beimSchreiben(const std::function<void()>& operation);
 /// would have found, and meets a damaged line exactly when that walk would have met it.
 class Diagnosesuche {
 public:
-    explicit Diagnosesuche(const std::filesystem::path& pfad);
+    Diagnosesuche(Dateien& dateien, const std::filesystem::path& pfad);
 
     /// The first record with both ids (compared as numbers), or nothing. A key on the way there that is no
     /// number is a Laufzeitfehler.
@@ -52,7 +53,7 @@ private:
 class Exportlauf {
 public:
     /// The files lie in `ordner`, which exists.
-    Exportlauf(int jahr, const std::filesystem::path& ordner);
+    Exportlauf(const Bestand& bestand, int jahr, const std::filesystem::path& ordner);
 
     std::int32_t klientenzahl() const { return m_klientenzahl; }
     /// Told before each client is looked at.
@@ -72,11 +73,15 @@ private:
     void schreibe(std::string_view betrDS, std::string_view diagDS);
     void behalteGeschriebenes();
 
+    Dateien& dateien() const { return m_bestand.dateien(); }
+    const Bestandspfade& pfade() const { return m_bestand.pfade(); }
+
     struct Betreuung {
         std::string_view zeile;
         std::size_t nummer = 0;
     };
 
+    const Bestand& m_bestand;
     int m_jahr;
     std::filesystem::path m_ordner;
     std::unique_ptr<Dateiinhalt> m_klienten;

@@ -2,6 +2,7 @@
 
 #include "export/Spaltentabelle.h"
 #include "export/Zeilenbauer.h"
+#include "platform/text/Text.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Exportspalten.h"
 #include "satz/Klientenfelder.h"
@@ -65,15 +66,18 @@ const std::vector<Exportspalte>& kernspalten()
     return spalten;
 }
 
-void hängeKernZeileAn(std::string& ziel, const Satzsicht& klient, const Satzsicht& betreuung, std::string_view tsnr)
+void hängeKernZeileAn(std::string& ziel, const Satzsicht& klient, const Satzsicht& betreuung, std::string_view tsnr,
+                      const Bestandsmeldung& meldung)
 {
-    const Exportsätze sätze{.klient = &klient, .betreuung = &betreuung, .diagnose = nullptr, .tsnr = tsnr};
+    const Exportsätze sätze{
+        .klient = &klient, .betreuung = &betreuung, .diagnose = nullptr, .tsnr = tsnr, .meldung = meldung};
     Zeilenbauer(ziel, sätze).baue(kernspalten());
 }
 
-std::string erstelleKernZeile(std::string_view kernDS, std::string_view betrDS, std::string_view tsnr)
+std::string erstelleKernZeile(std::string_view kernDS, std::string_view betrDS, std::string_view tsnr,
+                              const Bestandsmeldung& meldung)
 {
     std::string zeile;
-    hängeKernZeileAn(zeile, Satzsicht(kernDS), Satzsicht(betrDS), tsnr);
+    hängeKernZeileAn(zeile, Satzsicht(kernDS), Satzsicht(betrDS), tsnr, meldung);
     return zeile;
 }

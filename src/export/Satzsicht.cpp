@@ -1,5 +1,6 @@
 #include "export/Satzsicht.h"
 
+#include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 
 namespace {

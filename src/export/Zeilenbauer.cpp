@@ -1,11 +1,11 @@
 #include "export/Zeilenbauer.h"
 
 #include "platform/text/Datum.h"
+#include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosefelder.h"
 #include "satz/moNationen.h"
-#include "zustand/Zustand.h"
 
 #include <algorithm>
 #include <array>
@@ -139,7 +139,7 @@ void Zeilenbauer::schreibeArbeitswert(std::string_view wert)
 
 void Zeilenbauer::schreibeFehlgriff(const Exportspalte& spalte)
 {
-    zeigeMeldung(spalte.meldung);
+    melde(spalte);
     m_ziel.append(m_arbeitswert);
 }
 
@@ -153,7 +153,7 @@ void Zeilenbauer::dauer(const Exportspalte& spalte)
     const auto von = leseDatum(m_sätze.betreuung->feld(feld::betr::beginn));
     const auto bis = leseDatum(ende);
     if (!von || !bis) {
-        zeigeMeldung(spalte.meldung);
+        melde(spalte);
         return;
     }
     schreibeZahl(alsTageszahl(*bis) - alsTageszahl(*von));
@@ -167,7 +167,7 @@ void Zeilenbauer::alter(const Exportspalte& spalte, std::string_view geburtsdatu
     const auto geburt = leseDatum(geburtsdatum);
     const auto beginn = leseDatum(m_sätze.betreuung->feld(feld::betr::beginn));
     if (!geburt || !beginn) {
-        zeigeMeldung(spalte.meldung);
+        melde(spalte);
         return;
     }
     schreibeZahl(altersjahre(*geburt, *beginn));
@@ -182,7 +182,7 @@ void Zeilenbauer::kurzJaNein(const Exportspalte& spalte, std::string_view text)
         code = ort == spalte.werte.end() ? nullptr : &ort->code;
     }
     if (code == nullptr) {
-        zeigeMeldung(spalte.meldung);
+        melde(spalte);
         return;
     }
     m_ziel.append(*code);

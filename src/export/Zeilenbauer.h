@@ -2,6 +2,7 @@
 
 #include "export/Exportspalte.h"
 #include "export/Satzsicht.h"
+#include "store/Lesestand.h"
 
 #include <cstdint>
 #include <string>
@@ -14,6 +15,7 @@ struct Exportsätze {
     const Satzsicht* betreuung = nullptr;
     const Satzsicht* diagnose = nullptr;
     std::string_view tsnr;
+    const Bestandsmeldung& meldung; ///< told of a text that a coding does not hold
 };
 
 /// Turns records into one row of the export, column by column.
@@ -33,6 +35,7 @@ private:
     void schreibe(const Exportspalte& spalte, std::string_view text);
     void schreibeZahl(std::int64_t zahl);
     void schreibeArbeitswert(std::string_view wert);
+    void melde(const Exportspalte& spalte) const { m_sätze.meldung(spalte.meldung, Symbol::Keins); }
     void schreibeFehlgriff(const Exportspalte& spalte);
 
     void dauer(const Exportspalte& spalte);

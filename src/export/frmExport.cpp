@@ -2,6 +2,7 @@
 
 #include "export/Exportlauf.h"
 #include "platform/dateien/Dateien.h"
+#include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "zustand/Zustand.h"
 
@@ -124,7 +125,7 @@ std::filesystem::path frmExport::richteOrdnerEin(int jahr)
 std::int32_t frmExport::führeAus(int jahr, const std::filesystem::path& ordner)
 {
     const Merker läuft(m_läuft);
-    Exportlauf lauf(jahr, ordner);
+    Exportlauf lauf(zustand().bestand, jahr, ordner);
     lauf.beiKlient = [&](std::int32_t nummer) { zeigeFortschritt(nummer, lauf.klientenzahl()); };
     return lauf.führeAus();
 }

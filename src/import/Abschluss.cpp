@@ -2,6 +2,7 @@
 
 #include "import/Altfelder.h"
 #include "import/Eingabedatei.h"
+#include "platform/text/Text.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
@@ -13,24 +14,20 @@
 
 namespace {
 
-Dateien& dateien()
-{
-    return zustand().umgebung.dateien();
-}
-
 /// Rewrites the table through the scratch file: `tue(zeile, aus)` writes what becomes of each line.
-template <class F> void schreibeUm(const std::filesystem::path& tabelle, const std::filesystem::path& dummyDat, F tue)
+template <class F>
+void schreibeUm(Dateien& dateien, const std::filesystem::path& tabelle, const std::filesystem::path& dummyDat, F tue)
 {
-    const Eingabedatei ein(tabelle);
-    dateien().ersetze(tabelle, dummyDat,
-                      [&](Schreiber& aus) { ein.fürJedeZeile([&](std::string_view zeile) { tue(zeile, aus); }); });
+    const Eingabedatei ein(dateien, tabelle);
+    dateien.ersetze(tabelle, dummyDat,
+                    [&](Schreiber& aus) { ein.fürJedeZeile([&](std::string_view zeile) { tue(zeile, aus); }); });
 }
 
-void behalteErste(const std::filesystem::path& tabelle, const std::filesystem::path& dummyDat,
+void behalteErste(Dateien& dateien, const std::filesystem::path& tabelle, const std::filesystem::path& dummyDat,
                   std::string_view (*vergleichswert)(std::string_view zeile))
 {
     std::unordered_set<std::string_view> behaltene;
-    schreibeUm(tabelle, dummyDat, [&](std::string_view zeile, Schreiber& aus) {
+    schreibeUm(dateien, tabelle, dummyDat, [&](std::string_view zeile, Schreiber& aus) {
         if (!behaltene.contains(zeile)) {
             behaltene.insert(vergleichswert(zeile));
             aus.zeile(zeile);
@@ -87,43 +84,43 @@ std::unordered_map<std::string_view, std::string_view> statusAller(const Eingabe
 
 } // namespace
 
-void entferneDoppelte(const NeueTabellen& tabellen)
+void entferneDoppelte(Dateien& dateien, const NeueTabellen& tabellen)
 {
-    behalteErste(tabellen.kernDat, tabellen.dummyDat, kernID);
-    behalteErste(tabellen.betrDat, tabellen.dummyDat, ganzeZeile);
-    behalteErste(tabellen.diagDat, tabellen.dummyDat, ganzeZeile);
+    behalteErste(dateien, tabellen.kernDat, tabellen.dummyDat, kernID);
+    behalteErste(dateien, tabellen.betrDat, tabellen.dummyDat, ganzeZeile);
+    behalteErste(dateien, tabellen.diagDat, tabellen.dummyDat, ganzeZeile);
 }
 
-void markiereBetreuungen(const NeueTabellen& tabellen, const std::filesystem::path& kernAlt)
+void markiereBetreuungen(Dateien& dateien, const NeueTabellen& tabellen, const std::filesystem::path& kernAlt)
 {
-    const Eingabedatei klienten(kernAlt);
+    const Eingabedatei klienten(dateien, kernAlt);
     const auto nummern = deutsche(klienten);
-    schreibeUm(tabellen.betrDat, tabellen.dummyDat, [&](std::string_view zeile, Schreiber& aus) {
+    schreibeUm(dateien, tabellen.betrDat, tabellen.dummyDat, [&](std::string_view zeile, Schreiber& aus) {
         aus.zeile(markiert(zeile, nummern.contains(getFeld(zeile, feld::betr::kernID))));
     });
 }
 
-void fülleStatus(const NeueTabellen& tabellen)
+void fülleStatus(Dateien& dateien, const NeueTabellen& tabellen, const std::filesystem::path& betrDat)
 {
-    const Eingabedatei betreuungen(zustand().pfade.betrDat);
+    const Eingabedatei betreuungen(dateien, betrDat);
     const auto status = statusAller(betreuungen);
-    schreibeUm(tabellen.kernDat, tabellen.dummyDat, [&](std::string_view zeile, Schreiber& aus) {
+    schreibeUm(dateien, tabellen.kernDat, tabellen.dummyDat, [&](std::string_view zeile, Schreiber& aus) {
         const auto ort = status.find(kernID(zeile));
         aus.zeile(ersetzeFeld(zeile, feld::kern::betrao, ort == status.end() ? std::string_view{} : ort->second));
     });
 }
 
-Importzahlen schreibeImportListe(const NeueTabellen& tabellen, const std::filesystem::path& liste)
+Importzahlen schreibeImportListe(Dateien& dateien, const NeueTabellen& tabellen, const std::filesystem::path& liste)
 {
     Importzahlen zahlen;
-    const Eingabedatei klienten(tabellen.kernDat);
-    const Eingabedatei betreuungen(tabellen.betrDat);
+    const Eingabedatei klienten(dateien, tabellen.kernDat);
+    const Eingabedatei betreuungen(dateien, tabellen.betrDat);
     std::unordered_map<std::string_view, std::string_view> klientenzeilen;
     klienten.fürJedeZeile([&](std::string_view zeile) {
         ++zahlen.klienten;
         klientenzeilen.try_emplace(kernID(zeile), zeile);
     });
-    const auto aus = dateien().schreibeNeu(liste);
+    const auto aus = dateien.schreibeNeu(liste);
     aus->zeile("kernID\tbetrID\tNachname\tVorname"_t);
     betreuungen.fürJedeZeile([&](std::string_view zeile) {
         ++zahlen.betreuungen;
@@ -137,12 +134,13 @@ Importzahlen schreibeImportListe(const NeueTabellen& tabellen, const std::filesy
     return zahlen;
 }
 
-void ersetzeTabellen(const NeueTabellen& tabellen, const std::function<void()>& davor)
+void ersetzeTabellen(const Bestand& bestand, const NeueTabellen& tabellen, const std::function<void()>& davor)
 {
-    Vorgang vorgang(zustand().bestand);
-    vorgang.setzeInhalt(Tabelle::Kern, dateien().lies(tabellen.kernDat));
-    vorgang.setzeInhalt(Tabelle::Betr, dateien().lies(tabellen.betrDat));
-    vorgang.setzeInhalt(Tabelle::Diag, dateien().lies(tabellen.diagDat));
+    Dateien& dateien = bestand.dateien();
+    Vorgang vorgang(bestand);
+    vorgang.setzeInhalt(Tabelle::Kern, dateien.lies(tabellen.kernDat));
+    vorgang.setzeInhalt(Tabelle::Betr, dateien.lies(tabellen.betrDat));
+    vorgang.setzeInhalt(Tabelle::Diag, dateien.lies(tabellen.diagDat));
     davor();
     vorgang.bestätige();
 }

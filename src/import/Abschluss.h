@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/Bestand.h"
+
 #include <cstddef>
 #include <filesystem>
 #include <functional>
@@ -16,15 +18,15 @@ struct NeueTabellen {
 
 /// Keeps the first of equal lines of the care and the diagnosis table. A client line is compared with the ids
 /// of those before it, which never equal it: stage 4 writes a client once.
-void entferneDoppelte(const NeueTabellen& tabellen);
+void entferneDoppelte(Dateien& dateien, const NeueTabellen& tabellen);
 
 /// Marks the care records as imported, gives them the reason "Eigene Problematik", and those whose client is
 /// "Deutsche(r)" in the older client file the nation.
-void markiereBetreuungen(const NeueTabellen& tabellen, const std::filesystem::path& kernAlt);
+void markiereBetreuungen(Dateien& dateien, const NeueTabellen& tabellen, const std::filesystem::path& kernAlt);
 
-/// Sets the status of each client by the live care table, which still holds what was there before the import;
-/// the repair at the next start works it out anew.
-void fülleStatus(const NeueTabellen& tabellen);
+/// Sets the status of each client by `betrDat`, the live care table, which still holds what was there before the
+/// import; the repair at the next start works it out anew.
+void fülleStatus(Dateien& dateien, const NeueTabellen& tabellen, const std::filesystem::path& betrDat);
 
 struct Importzahlen {
     std::size_t klienten = 0;
@@ -32,8 +34,8 @@ struct Importzahlen {
 };
 
 /// Writes the list of the imported episodes, columns separated by tabs, and counts both tables.
-Importzahlen schreibeImportListe(const NeueTabellen& tabellen, const std::filesystem::path& liste);
+Importzahlen schreibeImportListe(Dateien& dateien, const NeueTabellen& tabellen, const std::filesystem::path& liste);
 
 /// Puts the new tables in the place of the live ones, all three or none. `davor` comes when they have been read and
 /// nothing is written yet; a failure of it leaves the live tables as they are.
-void ersetzeTabellen(const NeueTabellen& tabellen, const std::function<void()>& davor);
+void ersetzeTabellen(const Bestand& bestand, const NeueTabellen& tabellen, const std::function<void()>& davor);

@@ -6,7 +6,6 @@
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/WeitereDiagnosen.h"
-#include "zustand/Zustand.h"
 
 #include <algorithm>
 #include <array>
@@ -45,13 +44,6 @@ constexpr std::array lebenssituationen{
 
 /// Codes of the groups from F55.0 on; those before depend on further fields.
 constexpr std::array<std::string_view, 8> festeHauptdiagnosen{"550", "551", "552", "554", "555", "556", "558", "630"};
-
-void meldeFehlendeOption(const Betreuungssatz& satz, std::string_view text, int spalte, int quelle)
-{
-    zeigeMeldung(verbinde("Fehler in Optionsparsing ! \r"_t, satz.zeile(), "\r\rakt.parseSatz: "_t,
-                          std::to_string(satz.gelesene()), "\rebis-Arg#: "_t, alsText(spalte), "\rTolvek-Arg#: "_t,
-                          alsText(quelle), "\rTolvek: '"_t, text, "' nicht gefunden"_t));
-}
 
 } // namespace
 
@@ -102,13 +94,20 @@ void AltKDSZeile::führeAus(const Instruktion& instruktion, int spalte)
     }
 }
 
+void AltKDSZeile::meldeFehlendeOption(std::string_view text, int spalte, int quelle) const
+{
+    melde(verbinde("Fehler in Optionsparsing ! \r"_t, m_satz.zeile(), "\r\rakt.parseSatz: "_t,
+                   std::to_string(m_satz.gelesene()), "\rebis-Arg#: "_t, alsText(spalte), "\rTolvek-Arg#: "_t,
+                   alsText(quelle), "\rTolvek: '"_t, text, "' nicht gefunden"_t));
+}
+
 void AltKDSZeile::option(const Instruktion& instruktion, int spalte)
 {
     const auto text = m_satz.feldOhneLeerzeichen(instruktion.quelle);
     const auto ort = std::find_if(instruktion.paare.begin(), instruktion.paare.end(),
                                   [&](const auto& paar) { return paar.first == text; });
     if (ort == instruktion.paare.end()) {
-        meldeFehlendeOption(m_satz, text, spalte, instruktion.quelle);
+        meldeFehlendeOption(text, spalte, instruktion.quelle);
         return;
     }
     wert(ort->second);
@@ -139,7 +138,7 @@ void AltKDSZeile::lebensSituation(std::string_view text)
             }
         }
     } else if (!getrimmt(text).empty()) {
-        zeigeMeldung("ParseFehler: lebSit"_t);
+        melde("ParseFehler: lebSit"_t);
     }
     for (const char flagge : flaggen) {
         wert({&flagge, 1});
@@ -188,7 +187,7 @@ void AltKDSZeile::hauptdiagnose(std::string_view text)
     } else if (fest >= 0 && fest < static_cast<std::int64_t>(festeHauptdiagnosen.size())) {
         wert(festeHauptdiagnosen.at(static_cast<std::size_t>(fest)));
     } else {
-        zeigeMeldung("ParseFehler: icd0000"_t);
+        melde("ParseFehler: icd0000"_t);
         wert({});
     }
 }

@@ -2,6 +2,7 @@
 
 #include "import/Betreuungssatz.h"
 #include "import/Instruktionsdatei.h"
+#include "store/Lesestand.h"
 
 #include <string>
 #include <string_view>
@@ -17,7 +18,9 @@ struct Zeitraumfelder {
 /// is kept, since the duration of an open episode repeats it.
 class AltKDSZeile {
 public:
-    AltKDSZeile(const Betreuungssatz& satz, Zeitraumfelder zeitraum) : m_satz(satz), m_zeitraum(zeitraum) {}
+    AltKDSZeile(const Betreuungssatz& satz, Zeitraumfelder zeitraum, const Bestandsmeldung& meldung)
+        : m_satz(satz), m_zeitraum(zeitraum), m_meldung(meldung)
+    {}
 
     const std::string& text() const { return m_zeile; }
     void beginne() { m_zeile.clear(); }
@@ -28,6 +31,8 @@ public:
     void führeAus(const Instruktion& instruktion, int spalte);
 
 private:
+    void melde(std::string_view text) const { m_meldung(text, Symbol::Keins); }
+    void meldeFehlendeOption(std::string_view text, int spalte, int quelle) const;
     void option(const Instruktion& instruktion, int spalte);
     void icdZusatz(std::string_view text, int spalte);
     void lebensSituation(std::string_view text);
@@ -38,6 +43,7 @@ private:
 
     const Betreuungssatz& m_satz;
     Zeitraumfelder m_zeitraum;
+    const Bestandsmeldung& m_meldung;
     std::string m_zeile;
     std::string m_wert;
 };

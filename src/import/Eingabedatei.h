@@ -2,7 +2,6 @@
 
 #include "platform/dateien/Dateien.h"
 #include "platform/dateien/Zeilen.h"
-#include "zustand/Zustand.h"
 
 #include <filesystem>
 #include <memory>
@@ -13,9 +12,7 @@
 class Eingabedatei {
 public:
     /// Throws Laufzeitfehler when the file can't be read.
-    explicit Eingabedatei(const std::filesystem::path& pfad)
-        : m_pfad(pfad), m_inhalt(zustand().umgebung.dateien().lies(pfad))
-    {}
+    Eingabedatei(Dateien& dateien, const std::filesystem::path& pfad) : m_pfad(pfad), m_inhalt(dateien.lies(pfad)) {}
 
     const std::filesystem::path& pfad() const { return m_pfad; }
 

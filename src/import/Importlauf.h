@@ -1,6 +1,7 @@
 #pragma once
 
 #include "import/Abschluss.h"
+#include "import/Importort.h"
 
 #include <filesystem>
 #include <functional>
@@ -11,7 +12,7 @@
 /// personal data, is gone afterwards in both cases.
 class Importlauf {
 public:
-    Importlauf(std::filesystem::path kernAlt, std::filesystem::path betreuungenAlt);
+    Importlauf(Importort ort, std::filesystem::path kernAlt, std::filesystem::path betreuungenAlt);
 
     /// Told before a step: what it is and its number from 1.
     std::function<void(std::string_view was, int schritt)> beiSchritt;
@@ -22,13 +23,15 @@ public:
     Importzahlen führeAus();
     /// Removes the work folder, as far as that goes: after a failure, and at start what a run that was killed has left,
     /// since it holds personal data.
-    static void entferneReste();
+    static void entferneReste(const Bestand& bestand);
 
 private:
     void bereiteVor() const;
     void führeStufenAus() const;
+    Dateien& dateien() const { return m_ort.bestand.dateien(); }
     std::filesystem::path datei(std::string_view name) const { return m_ordner / name; }
 
+    Importort m_ort;
     std::filesystem::path m_kernAlt;
     std::filesystem::path m_betreuungenAlt;
     std::filesystem::path m_ordner;

@@ -1,10 +1,8 @@
 #include "import/Instruktionsdatei.h"
 
-#include "platform/dateien/Dateien.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "zustand/Zustand.h"
 
 #include <algorithm>
 #include <string_view>
@@ -125,9 +123,9 @@ Instruktion leseEine(Werteleser& leser)
 
 } // namespace
 
-std::vector<Instruktion> leseInstruktionen(const std::filesystem::path& pfad, std::size_t anzahl)
+std::vector<Instruktion> leseInstruktionen(Dateien& dateien, const std::filesystem::path& pfad, std::size_t anzahl)
 {
-    const auto inhalt = zustand().umgebung.dateien().lies(pfad);
+    const auto inhalt = dateien.lies(pfad);
     Werteleser leser(inhalt->text(), pfad);
     std::vector<Instruktion> instruktionen;
     for (std::size_t i = 0; i < anzahl; ++i) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/dateien/Dateien.h"
+
 #include <array>
 #include <cstdint>
 #include <filesystem>
@@ -35,4 +37,4 @@ struct Instruktion {
 /// The first `anzahl` instructions of the file. Values are separated by commas or line ends, text values may
 /// stand in quotes, a quote inside is doubled. A file that is missing or too short, a source that is no 16-bit
 /// number and an open quote are a Laufzeitfehler.
-std::vector<Instruktion> leseInstruktionen(const std::filesystem::path& pfad, std::size_t anzahl);
+std::vector<Instruktion> leseInstruktionen(Dateien& dateien, const std::filesystem::path& pfad, std::size_t anzahl);

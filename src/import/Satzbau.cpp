@@ -1,5 +1,6 @@
 #include "import/Satzbau.h"
 
+#include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/Exportspalten.h"
 #include "satz/moNationen.h"

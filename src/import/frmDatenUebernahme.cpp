@@ -2,6 +2,7 @@
 
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Eingabe.h"
+#include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "store/Niederschrift.h"
@@ -71,7 +72,9 @@ void frmDatenÜbernahme::beiOK()
         zeigeMeldung("Bitte zunächst kernDat.txt und betreuungenDat.txt aussuchen"_t);
         return;
     }
-    Importlauf lauf(pfadIn(tbKernDatAlt, m_kernDatAlt), pfadIn(tbBetrDatAlt, m_betrDatAlt));
+    const auto& stand = zustand();
+    Importlauf lauf({stand.bestand, stand.pfade.programm, stand.umgebung.installation(), stand.pfade.importListe},
+                    pfadIn(tbKernDatAlt, m_kernDatAlt), pfadIn(tbBetrDatAlt, m_betrDatAlt));
     lauf.beiSchritt = [this](std::string_view was, int schritt) { melde(was, schritt); };
     lauf.nachSchritt = [this] { lblStatus.setzeText(bereit); };
     ProgressBar1.setzeWert(0);
@@ -81,7 +84,7 @@ void frmDatenÜbernahme::beiOK()
     } catch (const UnvollendeterVorgang&) {
         throw; // the data are taken over; to say the contrary would have them typed in
     } catch (const Laufzeitfehler&) {
-        Importlauf::entferneReste();
+        Importlauf::entferneReste(zustand().bestand);
         zeigeFehlschlag();
     }
 }

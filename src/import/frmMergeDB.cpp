@@ -1,5 +1,6 @@
 #include "import/frmMergeDB.h"
 
+#include "platform/text/Text.h"
 #include "zustand/Zustand.h"
 
 frmMergeDB::frmMergeDB() : Bildschirm("frmMergeDB"_t)

@@ -4,6 +4,7 @@
 #include "import/Altnummer.h"
 #include "import/Eingabedatei.h"
 #include "platform/text/Datum.h"
+#include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/moHelferlein.h"
@@ -97,16 +98,15 @@ void ergänzeBetreuungen(const Eingabedatei& betreuungen, const Eingabedatei& kl
 
 } // namespace
 
-void moImp1TolvekToExport(const std::filesystem::path& kernAlt, const std::filesystem::path& betreuungenAlt,
-                          const std::filesystem::path& kernExp, const std::filesystem::path& betreuungenExp,
-                          const std::filesystem::path& extraExp)
+void moImp1TolvekToExport(Dateien& dateien, const std::filesystem::path& kernAlt,
+                          const std::filesystem::path& betreuungenAlt, const std::filesystem::path& kernExp,
+                          const std::filesystem::path& betreuungenExp, const std::filesystem::path& extraExp)
 {
-    auto& dateien = zustand().umgebung.dateien();
     const auto kern = dateien.schreibeNeu(kernExp);
     const auto betreuungenAus = dateien.schreibeNeu(betreuungenExp);
     const auto extra = dateien.schreibeNeu(extraExp);
-    const Eingabedatei klienten(kernAlt);
-    const Eingabedatei betreuungen(betreuungenAlt);
+    const Eingabedatei klienten(dateien, kernAlt);
+    const Eingabedatei betreuungen(dateien, betreuungenAlt);
     teileKlienten(klienten, *kern, *extra);
     ergänzeBetreuungen(betreuungen, klienten, *betreuungenAus);
     for (const auto* aus : {&kern, &betreuungenAus, &extra}) {

@@ -3,6 +3,7 @@
 #include "export/Satzsicht.h"
 #include "import/AltKDSRegeln.h"
 #include "import/Eingabedatei.h"
+#include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 
 #include <algorithm>
@@ -86,11 +87,11 @@ private:
     std::string m_neu;
 };
 
-void setzeDateiUm(const std::filesystem::path& von, const std::filesystem::path& nach,
+void setzeDateiUm(Dateien& dateien, const std::filesystem::path& von, const std::filesystem::path& nach,
                   const std::vector<Altregel>& regeln)
 {
-    const Eingabedatei ein(von);
-    const auto aus = zustand().umgebung.dateien().schreibeNeu(nach);
+    const Eingabedatei ein(dateien, von);
+    const auto aus = dateien.schreibeNeu(nach);
     Umsetzer umsetzer(regeln);
     ein.fürJedeZeile([&](std::string_view zeile) { aus->zeile(umsetzer.setzeUm(zeile)); });
     aus->schließe();
@@ -108,9 +109,10 @@ std::string diagAltNachNeu(std::string_view zeile)
     return Umsetzer(diagnoseregeln()).setzeUm(zeile);
 }
 
-void moImp3AltKDStoKDS(const std::filesystem::path& aKDSKern, const std::filesystem::path& aKDSDiagnose,
-                       const std::filesystem::path& kdsKern, const std::filesystem::path& kdsDiagnose)
+void moImp3AltKDStoKDS(Dateien& dateien, const std::filesystem::path& aKDSKern,
+                       const std::filesystem::path& aKDSDiagnose, const std::filesystem::path& kdsKern,
+                       const std::filesystem::path& kdsDiagnose)
 {
-    setzeDateiUm(aKDSKern, kdsKern, kernregeln());
-    setzeDateiUm(aKDSDiagnose, kdsDiagnose, diagnoseregeln());
+    setzeDateiUm(dateien, aKDSKern, kdsKern, kernregeln());
+    setzeDateiUm(dateien, aKDSDiagnose, kdsDiagnose, diagnoseregeln());
 }

@@ -5,6 +5,7 @@
 #include "import/Eingabedatei.h"
 #include "import/Satzbau.h"
 #include "import/moAnweisungen.h"
+#include "platform/text/Text.h"
 #include "satz/Exportspalten.h"
 #include "satz/Klientenfelder.h"
 #include "satz/Wertelisten.h"
@@ -38,7 +39,7 @@ std::string_view schlüssel(std::string_view zeile)
 /// The clients' personal data by number.
 class Personen {
 public:
-    explicit Personen(const std::filesystem::path& pfad) : m_datei(pfad)
+    Personen(Dateien& dateien, const std::filesystem::path& pfad) : m_datei(dateien, pfad)
     {
         m_datei.fürJedeZeile([this](std::string_view zeile) {
             m_zeilen.try_emplace(leseAltnummer(getFeld(zeile, altfeld::klient::nummer), m_datei.pfad()), zeile);
@@ -62,7 +63,7 @@ private:
 /// The diagnosis rows by their ids; an episode can have several.
 class Diagnosezeilen {
 public:
-    explicit Diagnosezeilen(const std::filesystem::path& pfad) : m_datei(pfad)
+    Diagnosezeilen(Dateien& dateien, const std::filesystem::path& pfad) : m_datei(dateien, pfad)
     {
         m_datei.fürJedeZeile([this](std::string_view zeile) { m_zeilen[schlüssel(zeile)].push_back(zeile); });
     }
@@ -82,10 +83,10 @@ private:
 /// The three tables being written.
 class Ausgabe {
 public:
-    Ausgabe(const std::filesystem::path& kernDat, const std::filesystem::path& betrDat,
+    Ausgabe(Dateien& dateien, const std::filesystem::path& kernDat, const std::filesystem::path& betrDat,
             const std::filesystem::path& diagDat)
-        : m_kern(dateien().schreibeNeu(kernDat)), m_betreuung(dateien().schreibeNeu(betrDat)),
-          m_diagnose(dateien().schreibeNeu(diagDat))
+        : m_kern(dateien.schreibeNeu(kernDat)), m_betreuung(dateien.schreibeNeu(betrDat)),
+          m_diagnose(dateien.schreibeNeu(diagDat))
     {}
 
     void schreibeKlient(const Satzsicht& kernzeile, std::string_view person)
@@ -110,8 +111,6 @@ public:
     }
 
 private:
-    static Dateien& dateien() { return zustand().umgebung.dateien(); }
-
     std::unique_ptr<Schreiber> m_kern;
     std::unique_ptr<Schreiber> m_betreuung;
     std::unique_ptr<Schreiber> m_diagnose;
@@ -121,14 +120,14 @@ private:
 
 } // namespace
 
-void moImp4KDStoMorvek(const std::filesystem::path& kdsKern, const std::filesystem::path& kdsDiagnose,
+void moImp4KDStoMorvek(Dateien& dateien, const std::filesystem::path& kdsKern, const std::filesystem::path& kdsDiagnose,
                        const std::filesystem::path& kernDat, const std::filesystem::path& betrDat,
                        const std::filesystem::path& diagDat, const std::filesystem::path& extraExp)
 {
-    const Eingabedatei kernzeilen(kdsKern);
-    const Diagnosezeilen diagnosen(kdsDiagnose);
-    const Personen personen(extraExp);
-    Ausgabe ausgabe(kernDat, betrDat, diagDat);
+    const Eingabedatei kernzeilen(dateien, kdsKern);
+    const Diagnosezeilen diagnosen(dateien, kdsDiagnose);
+    const Personen personen(dateien, extraExp);
+    Ausgabe ausgabe(dateien, kernDat, betrDat, diagDat);
 
     std::unordered_set<std::int32_t> bekannte;
     bool kernGeschrieben = true; // not tied to an id: a client without diagnosis row leaves it to the next pair

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/dateien/Dateien.h"
+
 #include <filesystem>
 
 /// Stage 4 of the import, the inverse of the yearly export: turns its rows back into records, by the
@@ -9,6 +11,6 @@
 ///
 /// A code that is not known stays in the record as a text that says so. An id that is no number from 1 to
 /// 32767 is a Laufzeitfehler.
-void moImp4KDStoMorvek(const std::filesystem::path& kdsKern, const std::filesystem::path& kdsDiagnose,
+void moImp4KDStoMorvek(Dateien& dateien, const std::filesystem::path& kdsKern, const std::filesystem::path& kdsDiagnose,
                        const std::filesystem::path& kernDat, const std::filesystem::path& betrDat,
                        const std::filesystem::path& diagDat, const std::filesystem::path& extraExp);

@@ -7,6 +7,7 @@
 #include "import/Instruktionsdatei.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Datum.h"
+#include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/moHelferlein.h"
 
@@ -44,7 +45,7 @@ template <std::size_t N> std::string_view codeVon(const std::array<Codewort, N>&
 
 class Klientenverzeichnis {
 public:
-    explicit Klientenverzeichnis(const std::filesystem::path& pfad) : m_datei(pfad)
+    Klientenverzeichnis(Dateien& dateien, const std::filesystem::path& pfad) : m_datei(dateien, pfad)
     {
         m_datei.fürJedeZeile([this](std::string_view zeile) {
             m_werte.try_emplace(führendeZahl(zeile), Klientenwerte{getFeld(zeile, altfeld::klient::geburt),
@@ -167,21 +168,21 @@ void baueDiagnosezeile(AltKDSZeile& zeile, const Betreuungssatz& satz, const std
 }
 
 /// The facility's own file goes before the one that the installation brings.
-std::filesystem::path anweisungsdatei(const std::filesystem::path& name)
+std::filesystem::path anweisungsdatei(const Importort& ort, const std::filesystem::path& name)
 {
-    auto& umgebung = zustand().umgebung;
-    const auto eigene = zustand().pfade.programm / name;
-    const auto mitgebrachte = umgebung.installation() / name;
-    return !umgebung.dateien().istDatei(eigene) && umgebung.dateien().istDatei(mitgebrachte) ? mitgebrachte : eigene;
+    auto& dateien = ort.bestand.dateien();
+    const auto eigene = ort.programm / name;
+    const auto mitgebrachte = ort.installation / name;
+    return !dateien.istDatei(eigene) && dateien.istDatei(mitgebrachte) ? mitgebrachte : eigene;
 }
 
 /// One pass over the care lines: each becomes the row that `baue` makes of it.
-void fürJedenSatz(const Eingabedatei& betreuungen, const std::filesystem::path& ziel, Zeitraumfelder zeitraum,
-                  const std::function<void(AltKDSZeile&, const Betreuungssatz&)>& baue)
+void fürJedenSatz(const Bestand& bestand, const Eingabedatei& betreuungen, const std::filesystem::path& ziel,
+                  Zeitraumfelder zeitraum, const std::function<void(AltKDSZeile&, const Betreuungssatz&)>& baue)
 {
-    const auto aus = zustand().umgebung.dateien().schreibeNeu(ziel);
+    const auto aus = bestand.dateien().schreibeNeu(ziel);
     Betreuungssatz satz;
-    AltKDSZeile zeile(satz, zeitraum);
+    AltKDSZeile zeile(satz, zeitraum, bestand.meldung());
     betreuungen.fürJedeZeile([&](std::string_view text) {
         satz.lies(text);
         zeile.beginne();
@@ -204,20 +205,23 @@ bool istNichtNach(std::string_view a, std::string_view b)
     return erstes && zweites && *erstes <= *zweites;
 }
 
-void moimp2TolvekExportTOaltKDS(const std::filesystem::path& kernExp, const std::filesystem::path& betreuungenExp,
-                                const std::filesystem::path& aKDSKern, const std::filesystem::path& aKDSDiagnose)
+void moimp2TolvekExportTOaltKDS(const Importort& ort, const std::filesystem::path& kernExp,
+                                const std::filesystem::path& betreuungenExp, const std::filesystem::path& aKDSKern,
+                                const std::filesystem::path& aKDSDiagnose)
 {
-    const Klientenverzeichnis klienten(kernExp);
-    const Eingabedatei betreuungen(betreuungenExp);
+    auto& dateien = ort.bestand.dateien();
+    const Klientenverzeichnis klienten(dateien, kernExp);
+    const Eingabedatei betreuungen(dateien, betreuungenExp);
 
-    const auto kern = leseInstruktionen(anweisungsdatei("eKernAnweisung.txt"), altspalte::kern::anzahl);
+    const auto kern = leseInstruktionen(dateien, anweisungsdatei(ort, "eKernAnweisung.txt"), altspalte::kern::anzahl);
     const Zeitraumfelder zeitraum{kern[altspalte::kern::beginn - 1].quelle, kern[altspalte::kern::ende - 1].quelle};
-    fürJedenSatz(betreuungen, aKDSKern, zeitraum, [&](AltKDSZeile& zeile, const Betreuungssatz& satz) {
+    fürJedenSatz(ort.bestand, betreuungen, aKDSKern, zeitraum, [&](AltKDSZeile& zeile, const Betreuungssatz& satz) {
         baueKernzeile(zeile, klienten.werte(leseAltnummer(satz.feld(altfeld::betreuung::nummer), betreuungenExp)), satz,
                       kern);
     });
 
-    const auto diagnose = leseInstruktionen(anweisungsdatei("eDiagAnweisung.txt"), altspalte::diag::anzahl);
-    fürJedenSatz(betreuungen, aKDSDiagnose, zeitraum,
+    const auto diagnose =
+        leseInstruktionen(dateien, anweisungsdatei(ort, "eDiagAnweisung.txt"), altspalte::diag::anzahl);
+    fürJedenSatz(ort.bestand, betreuungen, aKDSDiagnose, zeitraum,
                  [&](AltKDSZeile& zeile, const Betreuungssatz& satz) { baueDiagnosezeile(zeile, satz, diagnose); });
 }

@@ -113,7 +113,7 @@ void schreibeGruppeInDSDiag(std::string& dsDiag, int gruppe, std::string_view bl
 
 void schreibeBitFeldInDSDiag(std::string& dsDiag, std::string_view text)
 {
-    dsDiag = verbinde(felder(dsDiag, 1, bitfeldposition - 1), text, trenner);
+    dsDiag = verbinde(felder(dsDiag, blockposition(1, Konsumart), bitfeldposition - 1), text, trenner);
 }
 
 void trageGruppeEin(std::string& dsDiag, int gruppe)
@@ -130,6 +130,6 @@ void löscheGruppe(std::string& dsDiag, int gruppe)
 
 void nimmHDMarke(std::string& dsDiag, int gruppe)
 {
-    const std::string antworten = felder(dsDiag, blockposition(gruppe, 1), blockposition(gruppe, HDMarke) - 1);
+    const std::string antworten = felder(dsDiag, blockposition(gruppe, Konsumart), blockposition(gruppe, HDMarke) - 1);
     schreibeGruppeInDSDiag(dsDiag, gruppe, verbinde(antworten, trenner));
 }

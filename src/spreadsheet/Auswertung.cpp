@@ -9,11 +9,11 @@
 #include "satz/Diagnosefelder.h"
 #include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
-#include "zustand/Zustand.h"
 
 #include <array>
 #include <climits>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -64,10 +64,10 @@ Feldplan planFür(Zelltyp typ, bool ohneMemo)
             .ohneZelle = ohneMemo ? std::vector{feld::betr::memo - feld::betr::betrID} : std::vector<int>{}};
 }
 
-[[noreturn]] void meldeÜberlauf(int zeile)
+[[noreturn]] void meldeÜberlauf(const std::filesystem::path& datei, int zeile)
 {
     throw Laufzeitfehler(verbinde("Überlauf: mehr Zeilen, als das Blatt Auswertung zählen kann. Datei "_t,
-                                  pfadtext(zustand().pfade.diagDat), ", Zeile "_t, alsText(zeile)));
+                                  pfadtext(datei), ", Zeile "_t, alsText(zeile)));
 }
 
 } // namespace
@@ -86,8 +86,8 @@ HDBlock sucheHDBlock(std::string_view satz)
     return {};
 }
 
-Auswertung::Auswertung(Arbeitsmappe& mappe, const Tabellen& tabellen)
-    : m_blatt(mappe.fügeBlattEinVor(1, "Auswertung"_t)), m_diag(tabellen.diag),
+Auswertung::Auswertung(Arbeitsmappe& mappe, const Tabellen& tabellen, std::filesystem::path diagDat)
+    : m_blatt(mappe.fügeBlattEinVor(1, "Auswertung"_t)), m_diag(tabellen.diag), m_diagDat(std::move(diagDat)),
       m_klienten(tabellen.kern, klientenschlüssel), m_betreuungen(tabellen.betr, betreuungsschlüssel)
 {
     m_blatt.setze(1, spalteFall, "fallnr"_t);
@@ -101,7 +101,7 @@ void Auswertung::schreibeHauptdiagnosen()
     int zeile = 1;
     while (const auto satz = zeilen.nächste()) {
         if (zeile == höchsteZeile) {
-            meldeÜberlauf(zeile);
+            meldeÜberlauf(m_diagDat, zeile);
         }
         ++zeile;
         m_blatt.verweiseFelder(zeile, spalteFall, feldbereich(*satz, feld::diag::kernID, feld::diag::betrID));

@@ -3,6 +3,7 @@
 #include "platform/mappe/Arbeitsmappe.h"
 #include "spreadsheet/Zeilensuche.h"
 
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -29,8 +30,9 @@ HDBlock sucheHDBlock(std::string_view satz);
 /// from their columns; users know them that way.
 class Auswertung {
 public:
-    /// Adds the sheet `Auswertung` in front of all others. The tables must live as long as the workbook.
-    Auswertung(Arbeitsmappe& mappe, const Tabellen& tabellen);
+    /// Adds the sheet `Auswertung` in front of all others. The tables must live as long as the workbook; `diagDat`
+    /// names the file of one of them in failures.
+    Auswertung(Arbeitsmappe& mappe, const Tabellen& tabellen, std::filesystem::path diagDat);
 
     /// Columns 1, 2 and 10 to 17. More records than a 16-bit row number counts are a Laufzeitfehler.
     void schreibeHauptdiagnosen();
@@ -48,6 +50,7 @@ private:
 
     Blatt& m_blatt;
     std::string_view m_diag;
+    std::filesystem::path m_diagDat;
     Zeilensuche m_klienten;
     Zeilensuche m_betreuungen;
 };

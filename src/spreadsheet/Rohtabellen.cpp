@@ -1,13 +1,11 @@
 #include "spreadsheet/Rohtabellen.h"
 
-#include "platform/dateien/Dateien.h"
 #include "platform/dateien/Zeilen.h"
 #include "platform/text/Text.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosefelder.h"
 #include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
-#include "zustand/Zustand.h"
 
 #include <climits>
 #include <memory>
@@ -101,9 +99,9 @@ Rohblätter legeBlätterAn(Arbeitsmappe& mappe)
     return {kern, betr, diag};
 }
 
-std::string_view liesTabelle(Arbeitsmappe& mappe, const std::filesystem::path& pfad)
+std::string_view liesTabelle(Arbeitsmappe& mappe, Dateien& dateien, const std::filesystem::path& pfad)
 {
-    const std::shared_ptr<const Dateiinhalt> inhalt = zustand().umgebung.dateien().lies(pfad);
+    const std::shared_ptr<const Dateiinhalt> inhalt = dateien.lies(pfad);
     mappe.halte(inhalt);
     return inhalt->text();
 }

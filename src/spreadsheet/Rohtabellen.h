@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/dateien/Dateien.h"
 #include "platform/mappe/Arbeitsmappe.h"
 #include "spreadsheet/moErstelleHeader.h"
 
@@ -20,7 +21,7 @@ struct Rohblätter {
 Rohblätter legeBlätterAn(Arbeitsmappe& mappe);
 
 /// The content of the table as a view that lives as long as the workbook. Throws Laufzeitfehler.
-std::string_view liesTabelle(Arbeitsmappe& mappe, const std::filesystem::path& pfad);
+std::string_view liesTabelle(Arbeitsmappe& mappe, Dateien& dateien, const std::filesystem::path& pfad);
 
 void schreibeKernDat(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf);
 void schreibeBetrDat(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf);

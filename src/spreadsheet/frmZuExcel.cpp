@@ -2,6 +2,7 @@
 
 #include "platform/dateien/Zeilen.h"
 #include "platform/mappe/Arbeitsmappe.h"
+#include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "spreadsheet/Auswertung.h"
 #include "spreadsheet/Rohtabellen.h"
@@ -82,17 +83,17 @@ void frmZuExcel::schreibeTabellen()
     Rohblätter blätter = legeBlätterAn(mappe);
     Tabellen tabellen;
     zeigeFortschritt("schreibe KernDat"_t, true);
-    tabellen.kern = liesTabelle(mappe, zustand().pfade.kernDat);
+    tabellen.kern = liesTabelle(mappe, umgebung.dateien(), zustand().pfade.kernDat);
     schreibeKernDat(blätter.kern, tabellen.kern, kern);
     zeigeFortschritt("schreibe BetrDat"_t);
-    tabellen.betr = liesTabelle(mappe, zustand().pfade.betrDat);
+    tabellen.betr = liesTabelle(mappe, umgebung.dateien(), zustand().pfade.betrDat);
     schreibeBetrDat(blätter.betr, tabellen.betr, betr);
     zeigeFortschritt("schreibe DiagDat"_t);
-    tabellen.diag = liesTabelle(mappe, zustand().pfade.diagDat);
+    tabellen.diag = liesTabelle(mappe, umgebung.dateien(), zustand().pfade.diagDat);
     schreibeDiagDat(blätter.diag, tabellen.diag, diag);
     zeigeFortschritt({});
 
-    Auswertung auswertung(mappe, tabellen);
+    Auswertung auswertung(mappe, tabellen, zustand().pfade.diagDat);
     zeigeFortschritt("suche Hauptdiagnose-Daten"_t);
     auswertung.schreibeHauptdiagnosen();
     zeigeFortschritt("suche Kern-Daten"_t);

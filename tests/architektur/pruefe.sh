@@ -96,13 +96,34 @@ namen() {
     done < <(dateiliste | tr '\0' '\n' | tr '[:upper:]' '[:lower:]' | sort | uniq -d)
 }
 
+# A field of a record is called by its name. A number is right on the day it is written and wrong on the day a field comes
+# in before it; found are the ones handed to a function that takes a position, and constants that give one a private name.
+# The tables themselves count from 1 in `satz` and, for the older system's files, in import/Altfelder.h.
+positionen() {
+    local text='(?:[^(),]|(\((?:[^()]|(?-1))*\)))*'
+    local zweite='getFeld|ersetzeFeld|leseSchlüssel|prüfeDatum|prüfeSchlüssel|nummerIn|jahrVon|feldAus'
+    local muster funde
+    for muster in "\b(?:$zweite)\($text,\s*\d+\s*[,)]" \
+        "\b(?:felder|feldbereich)\($text,\s*(?:\d+\s*,|$text,\s*\d+\s*\))" \
+        "(?:\.|->)(?:feld|istLeer|feldOhneLeerzeichen)\(\s*\d+\s*\)" \
+        "\b(?:antwort|blockfeld|blockposition)\($text,(?:$text,)?\s*[1-8]\s*\)" \
+        "\bconstexpr\s+(?:int|std::size_t|auto)\s+(?:feld|platz|statusfeld|memofeld)(?!er|zahl)\w*\s*=\s*\d+\s*;"; do
+        funde=$(cd src && LC_ALL=C.UTF-8 grep -rnP --include='*.h' --include='*.cpp' "$muster" \
+            app care clients diagnosis export import spreadsheet store zustand satz)
+        [ $? -le 1 ] || melde "the search for positions failed"
+        while IFS= read -r fund; do
+            [ -z "$fund" ] || melde "name the position (feld::kern, feld::betr, feld::diag; older files: altfeld, altspalte): $fund"
+        done <<< "$funde"
+    done
+}
+
 # Files of the project, each ended by a zero byte; without version control, what lies there.
 dateiliste() {
     git ls-files -z 2>/dev/null || find . -type f ! -path './build/*' ! -path './bau/*' -print0
 }
 
 case $regel in
-    toolkit | dateien | pfeile | allein | sauber | namen) $regel ;;
+    toolkit | dateien | pfeile | allein | sauber | namen | positionen) $regel ;;
     *) echo "unknown rule $regel"; exit 2 ;;
 esac
 exit $fehler

@@ -1,4 +1,5 @@
-// bilder [--schirm=BREITExHÖHE] [--schärfe=S] [--schrift=F] [--thema=hell|dunkel] [--name=N] [--ordner=ORDNER] WEG ...
+// bilder [--schirm=BREITExHÖHE] [--schärfe=S] [--schrift=F] [--schriftart=NAME] [--thema=hell|dunkel] [--name=N]
+//        [--ordner=ORDNER] WEG ...
 // Walks the scenarios in the real widgets on a screen of that size (in its own pixels; S of them are one logical
 // pixel), with the system's font F times as large and a client whose name has N letters. Measures each stop, and saves
 // its picture where a folder is given. Exit status 1 for any finding.
@@ -48,6 +49,8 @@ Auftrag lies(int anzahl, char** werte)
             auftrag.schirm.schärfe = std::stod(schärfe);
         } else if (const auto* schrift = wertVon(werte[i], "schrift")) {
             auftrag.schirm.schrift = std::stod(schrift);
+        } else if (const auto* schriftart = wertVon(werte[i], "schriftart")) {
+            auftrag.schirm.schriftart = schriftart;
         } else if (const auto* thema = wertVon(werte[i], "thema")) {
             auftrag.schirm.istDunkel = std::string(thema) == "dunkel";
         } else if (const auto* länge = wertVon(werte[i], "name")) {

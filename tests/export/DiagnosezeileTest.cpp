@@ -24,7 +24,8 @@ protected:
 
     std::string zeile(Belegung diagnose, Belegung betreuung = {}) const
     {
-        return erstelleDiagZeile(betreuungssatz(1, 2, betreuung), diagnosesatz(1, 2, diagnose), {});
+        return erstelleDiagZeile(betreuungssatz(1, 2, betreuung), diagnosesatz(1, 2, diagnose), {},
+                                 lauf.stand.bestandsmeldung);
     }
     Texte meldungen() const { return lauf.umgebung.meldungstexte(); }
 

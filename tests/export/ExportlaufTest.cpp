@@ -37,7 +37,7 @@ protected:
 
     std::int32_t exportiere(int jahr) const
     {
-        Exportlauf export_(jahr, ordner());
+        Exportlauf export_(lauf.stand.bestand, jahr, ordner());
         export_.beiKlient = [](std::int32_t) {};
         return export_.führeAus();
     }
@@ -135,7 +135,7 @@ TEST_F(ExportlaufTest, JahrDasKeineZahlIstNenntDieBetreuung)
 TEST_F(ExportlaufTest, FortschrittKommtVorJedemKlienten)
 {
     tabellen({klientensatz(1), klientensatz(2)}, {}, {});
-    Exportlauf export_(2006, ordner());
+    Exportlauf export_(lauf.stand.bestand, 2006, ordner());
     EXPECT_EQ(export_.klientenzahl(), 2);
     std::vector<std::int32_t> nummern;
     export_.beiKlient = [&](std::int32_t nummer) { nummern.push_back(nummer); };

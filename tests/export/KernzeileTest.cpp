@@ -21,7 +21,8 @@ protected:
 
     std::string zeile(Belegung betreuung, Belegung klient = {}) const
     {
-        return erstelleKernZeile(klientensatz(1, klient), betreuungssatz(1, 2, betreuung), {});
+        return erstelleKernZeile(klientensatz(1, klient), betreuungssatz(1, 2, betreuung), {},
+                                 lauf.stand.bestandsmeldung);
     }
     Texte meldungen() const { return lauf.umgebung.meldungstexte(); }
 
@@ -41,9 +42,11 @@ TEST_F(KernzeileTest, Musterzeilen)
 {
     const auto zeilen = leseTextdatei("tests/export/Musterzeilen.txt");
     ASSERT_EQ(zeilen.size() % 5, 0U);
+    const auto& meldung = lauf.stand.bestandsmeldung;
     for (std::size_t i = 0; i < zeilen.size(); i += 5) {
-        EXPECT_EQ(erstelleKernZeile(zeilen[i], zeilen[i + 1], {}), zeilen[i + 3]) << "sample " << i / 5 + 1;
-        EXPECT_EQ(erstelleDiagZeile(zeilen[i + 1], zeilen[i + 2], {}), zeilen[i + 4]) << "sample " << i / 5 + 1;
+        EXPECT_EQ(erstelleKernZeile(zeilen[i], zeilen[i + 1], {}, meldung), zeilen[i + 3]) << "sample " << i / 5 + 1;
+        EXPECT_EQ(erstelleDiagZeile(zeilen[i + 1], zeilen[i + 2], {}, meldung), zeilen[i + 4])
+            << "sample " << i / 5 + 1;
     }
     EXPECT_EQ(meldungen(), Texte{});
 }
@@ -175,19 +178,21 @@ TEST_F(KernzeileTest, KurzerSatzBehältDieSpaltenzahl)
     const auto text = erstelleKernZeile(klientensatz(1),
                                         "1\xB7"
                                         "2",
-                                        {});
+                                        {}, lauf.stand.bestandsmeldung);
     EXPECT_EQ(std::count(text.begin(), text.end(), ';'), 181);
 }
 
 TEST_F(KernzeileTest, ÜberlangerSatzIstEinLaufzeitfehler)
 {
-    EXPECT_THROW(erstelleKernZeile(klientensatz(1), std::string(32768, 'x'), {}), Laufzeitfehler);
-    EXPECT_NO_THROW(erstelleKernZeile(klientensatz(1), betreuungssatz(1, 1), {}));
+    EXPECT_THROW(erstelleKernZeile(klientensatz(1), std::string(32768, 'x'), {}, lauf.stand.bestandsmeldung),
+                 Laufzeitfehler);
+    EXPECT_NO_THROW(erstelleKernZeile(klientensatz(1), betreuungssatz(1, 1), {}, lauf.stand.bestandsmeldung));
 }
 
 TEST_F(KernzeileTest, TsnrStehtVorn)
 {
-    EXPECT_EQ(spalte(erstelleKernZeile(klientensatz(1), betreuungssatz(1, 1), "x"), 1), "x");
+    EXPECT_EQ(spalte(erstelleKernZeile(klientensatz(1), betreuungssatz(1, 1), "x", lauf.stand.bestandsmeldung), 1),
+              "x");
 }
 
 } // namespace

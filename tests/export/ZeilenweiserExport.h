@@ -67,8 +67,8 @@ private:
             const bool klient = zahl(getFeld(*diagDS, 1)) == kernID;
             const bool episode = zahl(getFeld(*diagDS, 2)) == betrID;
             if (klient && episode) {
-                kern += erstelleKernZeile(kernDS, betrDS, {}) + "\r\n";
-                diagnose += erstelleDiagZeile(betrDS, *diagDS, {}) + "\r\n";
+                kern += erstelleKernZeile(kernDS, betrDS, {}, zustand().bestandsmeldung) + "\r\n";
+                diagnose += erstelleDiagZeile(betrDS, *diagDS, {}, zustand().bestandsmeldung) + "\r\n";
                 return;
             }
         }

@@ -38,8 +38,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t lä
     const auto klient = sätze.substr(0, länge / 3);
     const auto rest = sätze.substr(länge / 3);
     try {
-        prüfe(erstelleKernZeile(klient, rest, {}), sätze, 181);
-        prüfe(erstelleDiagZeile(klient, rest, {}), sätze, 177);
+        prüfe(erstelleKernZeile(klient, rest, {}, zustand.bestandsmeldung), sätze, 181);
+        prüfe(erstelleDiagZeile(klient, rest, {}, zustand.bestandsmeldung), sätze, 177);
     } catch (const Laufzeitfehler&) {
         return länge > 32767 ? 0 : (std::abort(), 0);
     }

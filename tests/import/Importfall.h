@@ -30,6 +30,12 @@ protected:
     std::filesystem::path arbeitsordner() const { return lauf.pfade().programm / "importDummyVerz"; }
     std::filesystem::path datei(std::string_view name) const { return lauf.pfade().programm / name; }
 
+    Importort importort() const
+    {
+        return {lauf.stand.bestand, lauf.pfade().programm, lauf.stand.umgebung.installation(),
+                lauf.stand.pfade.importListe};
+    }
+
     void altdaten(const std::vector<std::string>& klienten, const std::vector<std::string>& betreuungen) const
     {
         Testlauf::schreibeZeilen(kernAlt(), klienten);
@@ -38,13 +44,13 @@ protected:
 
     Importzahlen importiere() const
     {
-        Importlauf importlauf(kernAlt(), betreuungenAlt());
+        Importlauf importlauf(importort(), kernAlt(), betreuungenAlt());
         importlauf.beiSchritt = [](std::string_view, int) {};
         importlauf.nachSchritt = [] {};
         try {
             return importlauf.führeAus();
         } catch (...) {
-            Importlauf::entferneReste();
+            Importlauf::entferneReste(lauf.stand.bestand);
             throw;
         }
     }

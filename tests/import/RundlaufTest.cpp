@@ -277,7 +277,7 @@ TEST_F(RundlaufTest, ÜbernommenesKommtImExportWiederHeraus)
     altdaten(alt.klienten, alt.betreuungen);
     EXPECT_EQ(importiere().betreuungen, alt.betreuungen.size());
 
-    Exportlauf export_(2004, lauf.pfade().programm);
+    Exportlauf export_(lauf.stand.bestand, 2004, lauf.pfade().programm);
     export_.beiKlient = [](std::int32_t) {};
     EXPECT_EQ(export_.führeAus(), klienten * betreuungen);
     EXPECT_EQ(meldungen(), std::vector<std::string>{});
@@ -337,7 +337,8 @@ TEST_F(RundlaufTest, ExportzeilenGebenDieFelderZurück)
     Testlauf::schreibeZeilen(datei("k.txt"), kern);
     Testlauf::schreibeZeilen(datei("d.txt"), diagnose);
     Testlauf::schreibeZeilen(datei("e.txt"), {altKlient(1)});
-    moImp4KDStoMorvek(datei("k.txt"), datei("d.txt"), datei("K.txt"), datei("B.txt"), datei("D.txt"), datei("e.txt"));
+    moImp4KDStoMorvek(lauf.stand.bestand.dateien(), datei("k.txt"), datei("d.txt"), datei("K.txt"), datei("B.txt"),
+                      datei("D.txt"), datei("e.txt"));
     const auto betreuungen = zeilen(datei("B.txt"));
     const auto diagnosen = zeilen(datei("D.txt"));
     ASSERT_EQ(betreuungen.size(), kern.size());

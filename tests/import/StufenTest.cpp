@@ -44,8 +44,8 @@ class Stufe1Test : public Importfall {
 protected:
     void laufe() const
     {
-        moImp1TolvekToExport(kernAlt(), betreuungenAlt(), datei("kernExp.txt"), datei("betreuungenExp.txt"),
-                             datei("extraExp.txt"));
+        moImp1TolvekToExport(lauf.stand.bestand.dateien(), kernAlt(), betreuungenAlt(), datei("kernExp.txt"),
+                             datei("betreuungenExp.txt"), datei("extraExp.txt"));
     }
     /// The age value of an episode that begins so long after the birth.
     std::string alter(std::string_view geburt, std::string_view beginn) const
@@ -107,8 +107,8 @@ protected:
     {
         Testlauf::schreibeZeilen(datei("kernExp.txt"), {kernExp});
         Testlauf::schreibeZeilen(datei("betreuungenExp.txt"), {betreuung + std::string(1, trenner) + "34"});
-        moimp2TolvekExportTOaltKDS(datei("kernExp.txt"), datei("betreuungenExp.txt"), datei("aKDSKern.txt"),
-                                   datei("aKDSDiagnose.txt"));
+        moimp2TolvekExportTOaltKDS(importort(), datei("kernExp.txt"), datei("betreuungenExp.txt"),
+                                   datei("aKDSKern.txt"), datei("aKDSDiagnose.txt"));
     }
     static std::string klient(std::string_view jahr = "1970", std::string_view geschlecht = "Weiblich",
                               std::string_view nation = "Deutsche(r)")
@@ -256,7 +256,7 @@ TEST_F(Stufe2Test, KurzeZeileBehältDieFelderDerZeileDavor)
     Testlauf::schreibeZeilen(datei("kernExp.txt"), {klient()});
     Testlauf::schreibeZeilen(datei("betreuungenExp.txt"),
                              {altBetreuung(1, 1, {{35, "12"}}), satz({"1", "2", "01.02.2005", "OFFEN"})});
-    moimp2TolvekExportTOaltKDS(datei("kernExp.txt"), datei("betreuungenExp.txt"), datei("aKDSKern.txt"),
+    moimp2TolvekExportTOaltKDS(importort(), datei("kernExp.txt"), datei("betreuungenExp.txt"), datei("aKDSKern.txt"),
                                datei("aKDSDiagnose.txt"));
     EXPECT_EQ(spalten(zeilen(datei("aKDSKern.txt")).at(1), 160, 160, ','), "12");
 }
@@ -309,7 +309,7 @@ protected:
     std::vector<Instruktion> lies(std::string_view inhalt, std::size_t anzahl = 1) const
     {
         Testlauf::schreibe(datei("x.txt"), inhalt);
-        return leseInstruktionen(datei("x.txt"), anzahl);
+        return leseInstruktionen(lauf.stand.bestand.dateien(), datei("x.txt"), anzahl);
     }
 };
 
@@ -342,16 +342,17 @@ TEST_F(InstruktionsdateiTest, UnbekannteArtSchreibtEinenFehlertext)
     Testlauf::schreibe(datei("eKernAnweisung.txt"), ersetzt(alt, "2,\"wert\"", "2,\"wort\""));
     Testlauf::schreibeZeilen(datei("kernExp.txt"), {});
     Testlauf::schreibeZeilen(datei("betreuungenExp.txt"), {altBetreuung(1, 1)});
-    moimp2TolvekExportTOaltKDS(datei("kernExp.txt"), datei("betreuungenExp.txt"), datei("a.txt"), datei("b.txt"));
+    moimp2TolvekExportTOaltKDS(importort(), datei("kernExp.txt"), datei("betreuungenExp.txt"), datei("a.txt"),
+                               datei("b.txt"));
     EXPECT_EQ(spalten(zeilen(datei("a.txt")).at(0), 3, 3, ','), "ANWEISUNGSDATENFEHLER!");
 }
 
 TEST_F(InstruktionsdateiTest, DieBeigelegtenHabenIhreZahl)
 {
-    EXPECT_EQ(leseInstruktionen(datei("eKernAnweisung.txt"), 163).size(), 163U);
-    EXPECT_EQ(leseInstruktionen(datei("eDiagAnweisung.txt"), 215).size(), 215U);
-    EXPECT_THROW(leseInstruktionen(datei("eKernAnweisung.txt"), 164), Laufzeitfehler);
-    EXPECT_THROW(leseInstruktionen(datei("eDiagAnweisung.txt"), 216), Laufzeitfehler);
+    EXPECT_EQ(leseInstruktionen(lauf.stand.bestand.dateien(), datei("eKernAnweisung.txt"), 163).size(), 163U);
+    EXPECT_EQ(leseInstruktionen(lauf.stand.bestand.dateien(), datei("eDiagAnweisung.txt"), 215).size(), 215U);
+    EXPECT_THROW(leseInstruktionen(lauf.stand.bestand.dateien(), datei("eKernAnweisung.txt"), 164), Laufzeitfehler);
+    EXPECT_THROW(leseInstruktionen(lauf.stand.bestand.dateien(), datei("eDiagAnweisung.txt"), 216), Laufzeitfehler);
 }
 
 // ---- stage 3
@@ -452,8 +453,8 @@ protected:
         Testlauf::schreibeZeilen(datei("k.txt"), kern);
         Testlauf::schreibeZeilen(datei("d.txt"), diagnose);
         Testlauf::schreibeZeilen(datei("e.txt"), extra);
-        moImp4KDStoMorvek(datei("k.txt"), datei("d.txt"), datei("K.txt"), datei("B.txt"), datei("D.txt"),
-                          datei("e.txt"));
+        moImp4KDStoMorvek(lauf.stand.bestand.dateien(), datei("k.txt"), datei("d.txt"), datei("K.txt"), datei("B.txt"),
+                          datei("D.txt"), datei("e.txt"));
     }
     static std::string kern(int klient, int betr, Spalten mehr = {})
     {

@@ -6,7 +6,6 @@
 #include "spreadsheet/Auswertung.h"
 #include "spreadsheet/Rohtabellen.h"
 #include "spreadsheet/moErstelleHeader.h"
-#include "spreadsheet/moVariablen.h"
 
 /// A record with so many fields, all empty but the ones given by number.
 inline std::string satzMit(int felder, std::initializer_list<std::pair<int, std::string_view>> inhalte)
@@ -28,11 +27,7 @@ inline std::string satzMit(int felder, std::initializer_list<std::pair<int, std:
 /// The workbook of three tables, made by the steps of the spreadsheet output.
 class Mappenlauf {
 public:
-    Mappenlauf()
-    {
-        baueProblemKatalog();
-        registriereVariablen(m_lauf.stand.ressourcen);
-    }
+    Mappenlauf() { baueProblemKatalog(); }
 
     void schreibe(const std::vector<std::string>& kern, const std::vector<std::string>& betr,
                   const std::vector<std::string>& diag)
@@ -44,7 +39,7 @@ public:
         schreibeKernDat(blätter.kern, tabellen.kern, erstelleKernHeader());
         schreibeBetrDat(blätter.betr, tabellen.betr, betrKopf);
         schreibeDiagDat(blätter.diag, tabellen.diag, erstelleDiagHeader());
-        Auswertung auswertung(mappe, tabellen);
+        Auswertung auswertung(mappe, tabellen, m_lauf.pfade().diagDat);
         auswertung.schreibeHauptdiagnosen();
         auswertung.schreibeKlienten();
         auswertung.schreibeBetreuungen(betrKopf[3], [this](int nummer) { gemeldet.push_back(nummer); });
@@ -63,7 +58,7 @@ private:
     std::string_view lege(const std::filesystem::path& pfad, const std::vector<std::string>& zeilen)
     {
         Testlauf::schreibeZeilen(pfad, zeilen);
-        return liesTabelle(mappe, pfad);
+        return liesTabelle(mappe, m_lauf.stand.bestand.dateien(), pfad);
     }
 
     Testlauf m_lauf;

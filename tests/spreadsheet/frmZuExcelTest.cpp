@@ -11,7 +11,6 @@ protected:
     FrmZuExcel()
     {
         baueProblemKatalog();
-        registriereVariablen(lauf.stand.ressourcen);
         lauf.legeTabellenAn();
         lauf.umgebung.beiMappe = [this](Arbeitsmappe& mappe) {
             ++übergaben;

@@ -16,7 +16,6 @@
 
 #include <QBoxLayout>
 #include <QFrame>
-#include <QGroupBox>
 
 #include <algorithm>
 
@@ -122,7 +121,9 @@ QWidget* Anordner::macheElement(const Anordnung& a)
         widget->setSizePolicy(regel);
     }
     auto* box = dynamic_cast<Auswahlbox*>(widget);
-    if (auto* liste = dynamic_cast<Listenansicht*>(widget)) {
+    if (a.breite > 0 && dynamic_cast<Knopf*>(widget) != nullptr) {
+        widget->setMinimumWidth(em(a.breite)); // a wide font is not cut
+    } else if (auto* liste = dynamic_cast<Listenansicht*>(widget)) {
         liste->setzeMindestbreite(em(a.breite));
     } else if (a.breite > 0) {
         widget->setFixedWidth(em(a.breite));
@@ -324,7 +325,7 @@ bool Anordner::fügeKarte(const Anordnung& a, QBoxLayout& ziel)
     if (a.breite <= 0 || !m_istSeite || istWaagrecht(ziel)) {
         return fügeWidget(*karte, ziel, füllt);
     }
-    karte->setMaximumWidth(em(a.breite));
+    karte->setzeBreite(em(a.breite));
     ziel.addSpacing(em(0.4));
     auto* mitte = ohneRand(new QHBoxLayout, 0);
     mitte->addStretch(1);
@@ -334,9 +335,9 @@ bool Anordner::fügeKarte(const Anordnung& a, QBoxLayout& ziel)
     return füllt;
 }
 
-QWidget* Anordner::macheKarte(const Anordnung& a, bool& füllt)
+Karte* Anordner::macheKarte(const Anordnung& a, bool& füllt)
 {
-    auto* karte = new QGroupBox(m_eltern);
+    auto* karte = new Karte(m_eltern);
     const Unter unter(*this, *karte);
     karte->setProperty("rolle", "karte");
     karte->setAccessibleName(alsQString(a.element == nullptr ? a.text : a.element->text()));

@@ -5,6 +5,7 @@
 #include <utility>
 
 class Ansicht;
+class Karte;
 class QBoxLayout;
 class QVBoxLayout;
 class QWidget;
@@ -54,7 +55,7 @@ private:
     void fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBoxLayout& ziel);
     QWidget* macheFeldbeschriftung(const Anordnung& feld, double breite);
     void verbindeFeld(const Anordnung& feld, QWidget& beschriftung, QWidget& zeile);
-    QWidget* macheKarte(const Anordnung& a, bool& füllt);
+    Karte* macheKarte(const Anordnung& a, bool& füllt);
     QWidget* macheKartenspalte(const Anordnung& a, bool& füllt);
     /// The part as a widget of its own.
     QWidget* macheWidget(const Anordnung& a, bool& füllt);

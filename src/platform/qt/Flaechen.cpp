@@ -58,18 +58,30 @@ void Deckfläche::gleicheAb()
 
 QSize Deckfläche::sizeHint() const
 {
-    return m_darunter->sizeHint();
+    return m_darunter->sizeHint().expandedTo({m_decke->minimumSizeHint().width(), 0});
 }
 
 QSize Deckfläche::minimumSizeHint() const
 {
-    return m_darunter->minimumSizeHint();
+    return m_darunter->minimumSizeHint().expandedTo({m_decke->minimumSizeHint().width(), 0});
 }
 
 void Deckfläche::ordne()
 {
     m_darunter->setGeometry(rect());
     m_decke->setGeometry(rect());
+}
+
+void Karte::setzeBreite(int breite)
+{
+    m_breite = breite;
+    setSizePolicy(QSizePolicy::Maximum, sizePolicy().verticalPolicy());
+}
+
+QSize Karte::sizeHint() const
+{
+    const QSize ihre = QGroupBox::sizeHint();
+    return m_breite > 0 ? QSize(std::max(m_breite, minimumSizeHint().width()), ihre.height()) : ihre;
 }
 
 void Stapelfläche::setze(std::vector<QWidget*> teile)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QGroupBox>
 #include <QWidget>
 
 #include <vector>
@@ -39,6 +40,19 @@ private:
 
     QWidget* m_darunter = nullptr;
     QWidget* m_decke = nullptr;
+};
+
+/// A group of fields with a title. One that stands alone on its page is as wide as it was laid out, or as its parts
+/// need: a wide font is not cut.
+class Karte : public QGroupBox {
+public:
+    using QGroupBox::QGroupBox;
+
+    void setzeBreite(int breite);
+    QSize sizeHint() const override;
+
+private:
+    int m_breite = 0;
 };
 
 /// Parts that share one place, which is as large as the largest of them, seen or not.

@@ -10,8 +10,6 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
-#include <algorithm>
-
 namespace {
 
 using Rolle = Schaltfläche::Rolle;
@@ -59,6 +57,7 @@ Knopf::Knopf(Schaltfläche& element, Ansicht& ansicht, QWidget* eltern)
 
 void Knopf::seiWertdecke()
 {
+    m_istWertdecke = true;
     setProperty("rolle", "wertdecke");
     style()->unpolish(this);
     style()->polish(this);
@@ -76,12 +75,12 @@ void Knopf::übernimm()
 QSize Knopf::sizeHint() const
 {
     const QSize ihre = QPushButton::sizeHint();
-    return m_element.rolle() == Rolle::Weg ? QSize(std::max(ihre.width(), em(13)), em(3)) : ihre;
+    return m_element.rolle() == Rolle::Weg ? ihre.expandedTo({em(13), em(3)}) : ihre;
 }
 
 QSize Knopf::minimumSizeHint() const
 {
-    return m_element.rolle() == Rolle::Decke ? QSize(em(2), em(1.4)) : sizeHint();
+    return m_element.rolle() == Rolle::Decke && !m_istWertdecke ? QSize(em(2), em(1.4)) : sizeHint();
 }
 
 bool Knopf::event(QEvent* ereignis)

@@ -27,6 +27,7 @@ private:
 
     Schaltfläche& m_element;
     Ansicht& m_ansicht;
+    bool m_istWertdecke = false;
 };
 
 /// The option button; marking is the element's affair.

@@ -44,7 +44,7 @@ QtAnwendung::QtAnwendung(const Schirm& schirm)
     qInstallMessageHandler(meldeWeiter);
     m_anwendung = std::make_unique<QApplication>(m_argc, m_argv);
     if (schirm.schrift > 0) {
-        QFont schrift(QStringLiteral("Noto Sans"));
+        QFont schrift(QString::fromStdString(schirm.schriftart));
         schrift.setPointSizeF(gewöhnlicheSchrift * schirm.schrift);
         QApplication::setFont(schrift);
     }
