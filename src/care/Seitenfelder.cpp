@@ -2,44 +2,61 @@
 
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
+#include "satz/Auswahllisten.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Comboregeln.h"
 
-#include <utility>
+#include <algorithm>
+#include <stdexcept>
 
-void Seitenfelder::fügeWahl(Auswahlfeld& feld, std::vector<std::string> liste)
+int Seitenfelder::stelle(std::string_view name) const
 {
-    m_felder.emplace_back(Wahl{&feld, std::move(liste), Leer::Übernehmen});
+    const auto ort = std::ranges::find(m_satz, name, &Satzfeld::name);
+    if (ort == m_satz.end()) {
+        throw std::logic_error("no field of the record is called " + std::string(name));
+    }
+    return static_cast<int>(ort - m_satz.begin()) + 1;
 }
 
-void Seitenfelder::fügeWahl(Auswahlfeld& feld, Werteliste liste)
+void Seitenfelder::füge(std::string_view name, Auswahlfeld& feld)
 {
-    fügeWahl(feld, werte::texte(liste));
+    const int ort = stelle(name);
+    const Satzfeld& satzfeld = feldAus(m_satz, ort);
+    if (zahlenbereich(satzfeld.art)) {
+        feld.setzeArt(Auswahlfeld::Art::Tippbar);
+        feld.beiTastendruck = [&feld](int& code) { ergänzeComboText(feld, code); };
+    }
+    m_felder.emplace(ort, Wahl{&feld, &satzfeld});
 }
 
-void Seitenfelder::fügeZahl(Auswahlfeld& feld, werte::Zahlenbereich bereich, Leer leer)
+void Seitenfelder::füge(std::string_view name, Elementreihe<Auswahlfeld>& reihe)
 {
-    feld.beiTastendruck = [&feld](int& code) { ergänzeComboText(feld, code); };
-    m_felder.emplace_back(Wahl{&feld, werte::zahlen("k.A."_t, bereich), leer});
-}
-
-void Seitenfelder::fügeAntworten(Elementreihe<triCtlJaNein>& reihe)
-{
-    for (triCtlJaNein& antwort : reihe) {
-        m_felder.emplace_back(&antwort);
+    for (int i = reihe.von(); i <= reihe.bis(); ++i) {
+        füge(verbinde(name, alsText(i)), reihe(i));
     }
 }
 
-void Seitenfelder::fügeOptionen(Elementreihe<Optionsfeld>& reihe)
+void Seitenfelder::füge(std::string_view name, Elementreihe<triCtlJaNein>& reihe)
 {
-    m_felder.emplace_back(&reihe);
+    for (int i = reihe.von(); i <= reihe.bis(); ++i) {
+        m_felder.emplace(stelle(verbinde(name, alsText(i))), &reihe(i));
+    }
+}
+
+void Seitenfelder::füge(std::string_view name, Elementreihe<Optionsfeld>& reihe)
+{
+    m_felder.emplace(stelle(name), &reihe);
 }
 
 void Seitenfelder::fülleListen()
 {
-    for (const Seitenfeld& feld : m_felder) {
+    if (m_felder.rbegin()->first - m_felder.begin()->first + 1 != static_cast<int>(m_felder.size())) {
+        throw std::logic_error("a field of the page's piece has no element");
+    }
+    for (const auto& [ort, feld] : m_felder) {
         if (const auto* wahl = std::get_if<Wahl>(&feld)) {
-            wahl->feld->fülle(wahl->liste, wahl->liste.front());
+            const auto liste = auswahlliste(*wahl->satzfeld);
+            wahl->feld->fülle(liste, liste.front());
         }
     }
 }
@@ -50,17 +67,17 @@ void Seitenfelder::lade(std::string_view stück)
         return;
     }
     int nummer = 0;
-    for (const Seitenfeld& feld : m_felder) {
-        ++nummer;
-        std::visit([&](const auto& element) { nimm(element, getFeld(stück, nummer)); }, feld);
+    for (const auto& eintrag : m_felder) {
+        const auto text = getFeld(stück, ++nummer);
+        std::visit([&](const auto& element) { nimm(element, text); }, eintrag.second);
     }
 }
 
 std::string Seitenfelder::sammle() const
 {
     std::string stück;
-    for (const Seitenfeld& feld : m_felder) {
-        stück += std::visit([](const auto& element) { return wert(element); }, feld);
+    for (const auto& eintrag : m_felder) {
+        stück += std::visit([](const auto& element) { return wert(element); }, eintrag.second);
         stück += trenner;
     }
     return stück;
@@ -68,8 +85,8 @@ std::string Seitenfelder::sammle() const
 
 bool Seitenfelder::prüfeZahlen()
 {
-    for (const Seitenfeld& feld : m_felder) {
-        const auto* wahl = std::get_if<Wahl>(&feld);
+    for (const auto& eintrag : m_felder) {
+        const auto* wahl = std::get_if<Wahl>(&eintrag.second);
         if (wahl != nullptr && wahl->feld->istTippbar() && !prüfeComboWert(*wahl->feld)) {
             return false;
         }
@@ -79,7 +96,8 @@ bool Seitenfelder::prüfeZahlen()
 
 void Seitenfelder::nimm(const Wahl& wahl, std::string_view text)
 {
-    if (!text.empty() || wahl.leer == Leer::Übernehmen) {
+    const bool lässtVorgabe = wahl.satzfeld->art == Feldart::zuvor; // an empty one was never asked for
+    if (!text.empty() || !lässtVorgabe) {
         wahl.feld->setzeText(text);
     }
 }

@@ -3,35 +3,39 @@
 #include "platform/elemente/Elemente.h"
 #include "platform/elemente/Elementreihe.h"
 #include "platform/elemente/triCtlJaNein.h"
-#include "satz/Wertelisten.h"
+#include "satz/Satzaufbau.h"
 
+#include <map>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
-/// The fields of a care page as one table. A field's place in the table is its place in the page's piece of
-/// the record (from 1), so that loading, collecting and testing are walks over the table.
+/// The fields of a care page as one table. An element is bound to a field by the name that the field has in the record;
+/// list, default, range of numbers and the place in the page's piece of the record come from there. Loading, collecting
+/// and testing are walks over the table.
+///
+///     tafel.füge("FamSta"_t, comboFamsta);
+///     tafel.füge("Kosten"_t, triJaNeinKosten);           // "Kosten1" to "Kosten9"
 class Seitenfelder {
 public:
-    /// What an empty field of the record does to a number combo.
-    enum class Leer { Übernehmen, LässtVorgabe };
+    explicit Seitenfelder(const std::vector<Satzfeld>& satz = betreuungsfelder()) : m_satz(satz) {}
 
-    void fügeWahl(Auswahlfeld& feld, std::vector<std::string> liste);
-    void fügeWahl(Auswahlfeld& feld, Werteliste liste);
-    /// A typeable combo of "k.A." and the numbers from `von` to `bis`: gets the type-ahead, and is tested
-    /// before OK.
-    void fügeZahl(Auswahlfeld& feld, werte::Zahlenbereich bereich, Leer leer = Leer::Übernehmen);
-    void fügeAntworten(Elementreihe<triCtlJaNein>& reihe);
+    /// A combo of a field of numbers takes typing: it gets the type-ahead, and is tested before OK.
+    void füge(std::string_view name, Auswahlfeld& feld);
+    /// Each of the row is bound to the field with its index behind the name.
+    void füge(std::string_view name, Elementreihe<Auswahlfeld>& reihe);
+    void füge(std::string_view name, Elementreihe<triCtlJaNein>& reihe);
     /// One field for the whole row of options: the index of the marked one, "0" for none.
-    void fügeOptionen(Elementreihe<Optionsfeld>& reihe);
+    void füge(std::string_view name, Elementreihe<Optionsfeld>& reihe);
 
-    /// Fills all lists; each combo shows its first entry, which is its default.
+    /// Fills all lists; each combo shows its first entry, which is its default. The fields have to be a piece of the
+    /// record without a gap (std::logic_error).
     void fülleListen();
-    /// The fields take the piece in the order of the table; rules that hang on them run as they do for a
+    /// The fields take the piece in the order of the record; rules that hang on them run as they do for a
     /// person. An empty piece leaves the defaults.
     void lade(std::string_view stück);
-    /// All values in the order of the table, each followed by the delimiter.
+    /// All values in the order of the record, each followed by the delimiter.
     std::string sammle() const;
     /// Tests the number combos; the first wrong one is marked and reported, and the answer is false.
     bool prüfeZahlen();
@@ -39,11 +43,11 @@ public:
 private:
     struct Wahl {
         Auswahlfeld* feld = nullptr;
-        std::vector<std::string> liste;
-        Leer leer = Leer::Übernehmen;
+        const Satzfeld* satzfeld = nullptr;
     };
     using Seitenfeld = std::variant<Wahl, triCtlJaNein*, Elementreihe<Optionsfeld>*>;
 
+    int stelle(std::string_view name) const;
     static void nimm(const Wahl& wahl, std::string_view text);
     static void nimm(triCtlJaNein* antwort, std::string_view text);
     static void nimm(Elementreihe<Optionsfeld>* reihe, std::string_view text);
@@ -51,7 +55,8 @@ private:
     static std::string wert(const triCtlJaNein* antwort);
     static std::string wert(const Elementreihe<Optionsfeld>* reihe);
 
-    std::vector<Seitenfeld> m_felder;
+    const std::vector<Satzfeld>& m_satz;
+    std::map<int, Seitenfeld> m_felder; ///< by their position in the record
 };
 
 /// Every "k.A." becomes "nein", an answer given stays.

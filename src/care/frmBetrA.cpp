@@ -80,14 +80,12 @@ frmBetrA::frmBetrA() : Betreuungsseite("frmBetrA"_t, "Maßnahmen und Interventio
 
 void frmBetrA::baueTafel()
 {
-    tafel.fügeWahl(comboSubstitut, werte::substitut);
-    tafel.fügeWahl(comboZuvorNULL, werte::kurz);
-    tafel.fügeAntworten(triJaNeinMasInt);
-    tafel.fügeAntworten(triJaNeinMasExt);
-    for (Auswahlfeld& feld : comboZuvor) {
-        tafel.fügeZahl(feld, werte::maßnahmen, Seitenfelder::Leer::LässtVorgabe);
-    }
-    tafel.fügeAntworten(triJaNeinKooper);
+    tafel.füge("Substitut"_t, comboSubstitut);
+    tafel.füge("zuvorNULL"_t, comboZuvorNULL);
+    tafel.füge("MasInt"_t, triJaNeinMasInt);
+    tafel.füge("MasExt"_t, triJaNeinMasExt);
+    tafel.füge("Zuvor"_t, comboZuvor);
+    tafel.füge("Kooper"_t, triJaNeinKooper);
 }
 
 Anordnung frmBetrA::maßnahmen()

@@ -11,7 +11,7 @@ public:
     Elementreihe<Beschriftung> lblZuvor{*this, "lblZuvor"_t, 1, 18};
     Elementreihe<triCtlJaNein> triJaNeinMasInt{*this, "triJaNeinMasInt"_t, 1, 17};
     Elementreihe<triCtlJaNein> triJaNeinMasExt{*this, "triJaNeinMasExt"_t, 1, 17};
-    Elementreihe<Auswahlfeld> comboZuvor{*this, "comboZuvor"_t, 1, 18, Auswahlfeld::Art::Tippbar};
+    Elementreihe<Auswahlfeld> comboZuvor{*this, "comboZuvor"_t, 1, 18};
     Elementreihe<Beschriftung> lblKooper{*this, "lblKooper"_t, 1, 26};
     Elementreihe<triCtlJaNein> triJaNeinKooper{*this, "triJaNeinKooper"_t, 1, 26};
     Elementreihe<Schaltfläche> cmdSchnellFüller{*this, "cmdSchnellFüller"_t, 0, 3, "!"_t, Schaltfläche::Rolle::Füller};

@@ -26,16 +26,14 @@ frmBetrB::frmBetrB() : Betreuungsseite("frmBetrB"_t, "Soziodemografische Daten 1
 
 void frmBetrB::baueTafel()
 {
-    tafel.fügeWahl(comboFamsta, werte::famSta);
-    tafel.fügeWahl(comboPartner, werte::partner);
-    for (Auswahlfeld& feld : comboLebensit) {
-        tafel.fügeWahl(feld, werte::lang);
-    }
-    tafel.fügeZahl(comboKinder1, werte::kinder);
-    tafel.fügeZahl(comboKinder2, werte::kinder);
-    tafel.fügeWahl(comboWohnung1, werte::wohnung);
-    tafel.fügeWahl(comboWohnung2, werte::wohnung);
-    tafel.fügeWahl(comboWohnung3, werte::wohnung);
+    tafel.füge("FamSta"_t, comboFamsta);
+    tafel.füge("Partner"_t, comboPartner);
+    tafel.füge("LebenSit"_t, comboLebensit);
+    tafel.füge("Kinder1"_t, comboKinder1);
+    tafel.füge("Kinder2"_t, comboKinder2);
+    tafel.füge("Wohnung1"_t, comboWohnung1);
+    tafel.füge("Wohnung2"_t, comboWohnung2);
+    tafel.füge("Wohnung3"_t, comboWohnung3);
 }
 
 void frmBetrB::ordneAn()

@@ -57,16 +57,16 @@ frmBetrC::frmBetrC() : Betreuungsseite("frmBetrC"_t, "Soziodemografische Daten 2
 
 void frmBetrC::baueTafel()
 {
-    tafel.fügeAntworten(triJaNeinLebuntv);
-    tafel.fügeAntworten(triJaNeinLebuntn);
-    tafel.fügeOptionen(optLebunterV);
-    tafel.fügeOptionen(optLebunterN);
-    tafel.fügeWahl(comboSchule, werte::schule);
-    tafel.fügeWahl(comboAusbild, werte::ausbild);
-    tafel.fügeWahl(comboErwerb1, werte::erwerb);
-    tafel.fügeWahl(comboErwerb2, werte::erwerb);
-    tafel.fügeWahl(comboErwerb3, werte::erwerb);
-    tafel.fügeWahl(comboSchulden, werte::schulden);
+    tafel.füge("LebUntV"_t, triJaNeinLebuntv);
+    tafel.füge("LebUntN"_t, triJaNeinLebuntn);
+    tafel.füge("LebUnterV"_t, optLebunterV);
+    tafel.füge("LebUnterN"_t, optLebunterN);
+    tafel.füge("Schule"_t, comboSchule);
+    tafel.füge("Ausbild"_t, comboAusbild);
+    tafel.füge("Erwerb1"_t, comboErwerb1);
+    tafel.füge("Erwerb2"_t, comboErwerb2);
+    tafel.füge("Erwerb3"_t, comboErwerb3);
+    tafel.füge("Schulden"_t, comboSchulden);
 }
 
 void frmBetrC::ordneAn()

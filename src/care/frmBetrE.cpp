@@ -44,12 +44,12 @@ frmBetrE::frmBetrE() : Betreuungsseite("frmBetrE"_t, "Daten zu Bereuungsende"_t,
 
 void frmBetrE::baueTafel()
 {
-    tafel.fügeZahl(comboKontakte, werte::kontakte);
-    tafel.fügeWahl(comboArtEnd1, werte::artEnd1);
-    tafel.fügeWahl(comboArtEnd2, werte::artEnd2);
-    tafel.fügeWahl(comboProblEnde, werte::problEnde);
-    tafel.fügeWahl(comboWeiter, werte::lang);
-    tafel.fügeAntworten(triJaNeinVermitt);
+    tafel.füge("Kontakte"_t, comboKontakte);
+    tafel.füge("ArtEnd1"_t, comboArtEnd1);
+    tafel.füge("ArtEnd2"_t, comboArtEnd2);
+    tafel.füge("ProblEnde"_t, comboProblEnde);
+    tafel.füge("Weiter"_t, comboWeiter);
+    tafel.füge("Vermitt"_t, triJaNeinVermitt);
 }
 
 void frmBetrE::richteVermittlungenEin()

@@ -6,7 +6,7 @@
 /// it only while the end in flight is a date.
 class frmBetrE : public Betreuungsseite {
 public:
-    Auswahlfeld comboKontakte{*this, "comboKontakte"_t, Auswahlfeld::Art::Tippbar};
+    Auswahlfeld comboKontakte{*this, "comboKontakte"_t};
     Auswahlfeld comboArtEnd1{*this, "comboArtEnd1"_t};
     Auswahlfeld comboArtEnd2{*this, "comboArtEnd2"_t};
     Auswahlfeld comboProblEnde{*this, "comboProblEnde"_t};

@@ -2,15 +2,12 @@
 
 #include "care/Arbeitssatz.h"
 #include "platform/text/Text.h"
-#include "platform/text/Zahl.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
-#include "satz/moNationen.h"
 #include "store/Vorgang.h"
 #include "zustand/Zustand.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -28,17 +25,6 @@ constexpr std::array kostenträgerarten{
     "Sonstiges"_t,
 };
 
-/// A record stores the name; the code is the export's business.
-std::vector<std::string> nationenliste()
-{
-    std::vector<std::string> liste;
-    liste.emplace_back("keine Angaben"_t);
-    for (const auto& nation : nationen()) {
-        liste.emplace_back(nation.name);
-    }
-    return liste;
-}
-
 } // namespace
 
 frmBetreuungA::frmBetreuungA(std::int32_t klient, std::int32_t nummer, bool neu)
@@ -53,24 +39,23 @@ frmBetreuungA::frmBetreuungA(std::int32_t klient, std::int32_t nummer, bool neu)
 
 void frmBetreuungA::baueTafel()
 {
-    m_tafel.fügeWahl(comboWieder, werte::kurz);
-    m_tafel.fügeWahl(comboBetrGru, werte::betrGru);
-    m_tafel.fügeWahl(comboAngeho, werte::angeho);
-    m_tafel.fügeWahl(comboProblem, werte::problem);
-    m_tafel.fügeWahl(comboNation, nationenliste());
-    m_tafel.fügeWahl(comboSprache, werte::lang);
-    m_tafel.fügeWahl(comboMigrant1, werte::lang);
-    m_tafel.fügeWahl(comboMigrant2, werte::lang);
-    m_tafel.fügeWahl(comboVermitt, werte::vermitt);
-    m_tafel.fügeWahl(comboAuflagen1, werte::auflagen1);
-    m_tafel.fügeWahl(comboAuflagen2, werte::auflagen2);
-    m_tafel.fügeAntworten(triJaNeinKosten);
+    m_tafel.füge("Wieder"_t, comboWieder);
+    m_tafel.füge("BetrGru"_t, comboBetrGru);
+    m_tafel.füge("Angeho"_t, comboAngeho);
+    m_tafel.füge("Problem"_t, comboProblem);
+    m_tafel.füge("Nation"_t, comboNation);
+    m_tafel.füge("Sprache"_t, comboSprache);
+    m_tafel.füge("Migrant1"_t, comboMigrant1);
+    m_tafel.füge("Migrant2"_t, comboMigrant2);
+    m_tafel.füge("Vermitt"_t, comboVermitt);
+    m_tafel.füge("Auflagen1"_t, comboAuflagen1);
+    m_tafel.füge("Auflagen2"_t, comboAuflagen2);
+    m_tafel.füge("Kosten"_t, triJaNeinKosten);
 }
 
 void frmBetreuungA::ordneAn()
 {
     using namespace anordnung;
-    using anordnung::feld;
     kopfband.titel = &lblHeader;
     kopfband.name = &lblName;
     kopfband.werte = {{std::string("Beginn"_t), &lblBetrBeg}, {std::string("Ende"_t), &lblBetrEnd}};
@@ -109,7 +94,6 @@ Anordnung frmBetreuungA::angaben()
 Anordnung frmBetreuungA::kostenträger()
 {
     using namespace anordnung;
-    using anordnung::feld;
     std::vector<Anordnung> zeilen;
     for (int i = lblKosten.von(); i <= lblKosten.bis(); ++i) {
         zeilen.push_back(tabellenzeile(lblKosten(i), {&triJaNeinKosten(i)}));

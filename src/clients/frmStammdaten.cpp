@@ -1,8 +1,8 @@
 #include "clients/frmStammdaten.h"
 
 #include "platform/text/Zahl.h"
+#include "satz/Auswahllisten.h"
 #include "satz/Klientenfelder.h"
-#include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
 #include "store/Vorgang.h"
 #include "zustand/Zustand.h"
@@ -71,7 +71,7 @@ void frmStammdaten::ordneAn()
 void frmStammdaten::beiÖffnung()
 {
     setzeTitel(verbinde(zustand().titel, " - Stammdaten"_t));
-    comboGeschlecht.setzeListe(werte::texte(werte::geschlecht));
+    comboGeschlecht.setzeListe(auswahlliste(feldAus(klientenfelder(), feld::kern::geschlecht)));
     lblHeader.setzeText(istNeu ? "neuer Klient"_t : "Klientendaten bearbeiten"_t);
     getFrmData();
 }

@@ -1,24 +1,33 @@
 #include "diagnosis/frmBetrDiagnose.h"
 
 #include "platform/text/Zahl.h"
+#include "satz/Auswahllisten.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosesatz.h"
 #include "satz/WeitereDiagnosen.h"
-#include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
 #include "zustand/Fehlerort.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 #include <vector>
 
 namespace {
 
-// Positions in DSBetrDiag.
-constexpr int platz(int feld)
+/// The place of a care field in DSBetrDiag.
+constexpr int platz(int feldnummer)
 {
-    return feld - feld::betr::hdOhne + 1;
+    return feldnummer - feld::betr::hdOhne + 1;
+}
+
+/// The combo boxes with the care fields that they show.
+template <class Form> auto wahlfelder(Form& form)
+{
+    using namespace feld::betr;
+    return std::array{std::pair{icdPoly, &form.comboICDPoly}, std::pair{hivInfekt, &form.comboHIVInfekt},
+                      std::pair{hepatB, &form.comboHepatB}, std::pair{hepatC, &form.comboHepatC}};
 }
 
 std::string& DSDiag()
@@ -58,9 +67,8 @@ std::string sammleOptionen(const Elementreihe<Optionsfeld>& optionen)
 
 /// The page offers "ja" before "nein", the other way round than the data set lists the answers; staff know
 /// the box that way.
-std::vector<std::string> jaVorNein()
+std::vector<std::string> jaVorNein(std::vector<std::string> texte)
 {
-    std::vector<std::string> texte = werte::texte(werte::lang);
     std::ranges::reverse(texte.begin() + 1, texte.end());
     return texte;
 }
@@ -107,10 +115,10 @@ void frmBetrDiagnose::richteEin()
     lblBetrEnd.setzeText(kopie.betrEnd);
     setzeRollbereich();
     VScroll1.setzeWert(0);
-    comboICDPoly.setzeListe(jaVorNein());
-    comboHIVInfekt.setzeListe(werte::texte(werte::test));
-    comboHepatB.setzeListe(werte::texte(werte::test));
-    comboHepatC.setzeListe(werte::texte(werte::hepatitisC));
+    for (const auto& [feldnummer, combo] : wahlfelder(*this)) {
+        combo->setzeListe(auswahlliste(feldAus(betreuungsfelder(), feldnummer)));
+    }
+    comboICDPoly.setzeListe(jaVorNein(comboICDPoly.liste()));
 }
 
 void frmBetrDiagnose::setFrmData()
@@ -130,10 +138,9 @@ void frmBetrDiagnose::setFrmData()
 void frmBetrDiagnose::zeigeBetrDiag()
 {
     zeigeOptionen(optHDohne, DSBetrDiag(), platz(feld::betr::hdOhne));
-    comboICDPoly.setzeText(getFeld(DSBetrDiag(), platz(feld::betr::icdPoly)));
-    comboHIVInfekt.setzeText(getFeld(DSBetrDiag(), platz(feld::betr::hivInfekt)));
-    comboHepatB.setzeText(getFeld(DSBetrDiag(), platz(feld::betr::hepatB)));
-    comboHepatC.setzeText(getFeld(DSBetrDiag(), platz(feld::betr::hepatC)));
+    for (const auto& [feldnummer, combo] : wahlfelder(*this)) {
+        combo->setzeText(getFeld(DSBetrDiag(), platz(feldnummer)));
+    }
     zeigeOptionen(optIVKonsum, DSBetrDiag(), platz(feld::betr::ivKonsum));
 }
 

@@ -1,6 +1,7 @@
 #include "diagnosis/frmBetrDiagnoseErstellen.h"
 
 #include "platform/text/Zahl.h"
+#include "satz/Auswahllisten.h"
 #include "satz/Diagnosesatz.h"
 #include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
@@ -118,11 +119,8 @@ void frmBetrDiagnoseErstellen::bereiteFragenVor()
             comboAntwort(i).fülle(liste, liste.front());
         }
     }
-    for (const int i : {TageBeginn, TageEnde}) {
-        comboAntwort(i).fülle(werte::zahlen(keineAngabe, werte::konsumtage), keineAngabe);
-    }
-    for (const int i : {AlterStörung, AlterErstkonsum}) {
-        comboAntwort(i).fülle(werte::zahlen(keineAngabe, werte::alter), keineAngabe);
+    for (const int i : zahlenfragen) {
+        comboAntwort(i).fülle(werte::zahlen(keineAngabe, antwortbereich(i)), keineAngabe);
     }
 }
 

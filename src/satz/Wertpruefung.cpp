@@ -1,4 +1,5 @@
 #include "satz/Wertpruefung.h"
+#include "satz/Auswahllisten.h"
 
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
@@ -59,9 +60,8 @@ bool istBlockwert(int gruppe, int platz, const Satzfeld& feld, std::string_view 
     case Feldart::option:
         return istIn(feld.werte, wert) || (platz == ICDStelle4 && istIcdStelle(feld, wert));
     case Feldart::zahl:
-        return istZahlIn(platz == AlterStörung ? werte::alter : werte::konsumtage, wert);
     case Feldart::hdAlter:
-        return istZahlIn(werte::alter, wert);
+        return istZahlIn(antwortbereich(platz), wert);
     case Feldart::icd0000:
         return wert == "1";
     default:
@@ -86,20 +86,12 @@ bool istBetreuungswert(int feld, std::string_view wert)
         return true;
     }
     const auto& satzfeld = feldAus(betreuungsfelder(), feld);
-    const auto istZahl = [&](werte::Zahlenbereich bereich) {
-        return wert == satzfeld.vorgabe || istZahlIn(bereich, wert);
-    };
+    if (const auto bereich = zahlenbereich(satzfeld.art)) {
+        return wert == satzfeld.vorgabe || istZahlIn(*bereich, wert);
+    }
     switch (satzfeld.art) {
     case Feldart::option:
         return istIn(satzfeld.werte, wert) || (wert.empty() && istInfektion(satzfeld));
-    case Feldart::zuvor:
-        return istZahl(werte::maßnahmen);
-    case Feldart::kinder:
-        return istZahl(werte::kinder);
-    case Feldart::kontakte:
-        return istZahl(werte::kontakte);
-    case Feldart::zahl:
-        return istZahl(werte::unterhalt);
     case Feldart::nation:
         return wert == satzfeld.vorgabe || istNation(wert);
     case Feldart::hdOhne:

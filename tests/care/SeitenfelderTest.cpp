@@ -8,26 +8,42 @@
 
 namespace {
 
+/// A record with a field of each kind of element.
+const std::vector<Satzfeld>& probesatz()
+{
+    static const std::vector<Satzfeld> felder = [] {
+        std::vector<Satzfeld> alle(6);
+        alle[0] = {.name = "Wahl", .art = Feldart::option, .werte = werte::lang, .vorgabe = {}};
+        alle[1] = {.name = "Zahl", .art = Feldart::kinder, .werte = {}, .vorgabe = "k.A."};
+        alle[2] = {.name = "Zuvor", .art = Feldart::zuvor, .werte = {}, .vorgabe = "k.A."};
+        alle[3] = {.name = "Antwort1", .art = Feldart::option, .werte = werte::kurz, .vorgabe = "k.A."};
+        alle[4] = {.name = "Antwort2", .art = Feldart::option, .werte = werte::kurz, .vorgabe = "k.A."};
+        alle[5] = {.name = "Marke", .art = Feldart::zahl, .werte = {}, .vorgabe = "0"};
+        return alle;
+    }();
+    return felder;
+}
+
 /// A page with one field of each kind.
 struct Probeseite : Bildschirm {
     Auswahlfeld wahl{*this, "wahl"};
-    Auswahlfeld zahl{*this, "zahl", Auswahlfeld::Art::Tippbar};
-    Auswahlfeld zahlMitVorgabe{*this, "zahlMitVorgabe", Auswahlfeld::Art::Tippbar};
+    Auswahlfeld zahl{*this, "zahl"};
+    Auswahlfeld zahlMitVorgabe{*this, "zahlMitVorgabe"};
     Elementreihe<triCtlJaNein> antworten{*this, "antworten", 1, 2};
     Elementreihe<Optionsfeld> optionen{*this, "optionen", 1, 12};
     Optionsgruppe gruppe;
-    Seitenfelder felder;
+    Seitenfelder felder{probesatz()};
 
     Probeseite() : Bildschirm("frmProbe")
     {
         for (Optionsfeld& option : optionen) {
             option.trittBei(gruppe);
         }
-        felder.fügeWahl(wahl, werte::lang);
-        felder.fügeZahl(zahl, {1, 3});
-        felder.fügeZahl(zahlMitVorgabe, {0, 2}, Seitenfelder::Leer::LässtVorgabe);
-        felder.fügeAntworten(antworten);
-        felder.fügeOptionen(optionen);
+        felder.füge("Marke", optionen);
+        felder.füge("Antwort", antworten);
+        felder.füge("Wahl", wahl);
+        felder.füge("Zahl", zahl);
+        felder.füge("Zuvor", zahlMitVorgabe);
         felder.fülleListen();
     }
 };
@@ -38,7 +54,23 @@ TEST(Seitenfelder, DieVorgabeIstDerErsteEintrag)
 {
     Probeseite seite;
     EXPECT_EQ(seite.felder.sammle(), "keine Angaben·k.A.·k.A.·k.A.·k.A.·0·"_t);
-    EXPECT_EQ(seite.zahl.liste(), (std::vector<std::string>{"k.A.", "1", "2", "3"}));
+    ASSERT_EQ(seite.zahl.liste().size(), 100U);
+    EXPECT_EQ(seite.zahl.liste().front(), "k.A.");
+    EXPECT_EQ(seite.zahl.liste().back(), "98");
+    EXPECT_TRUE(seite.zahl.istTippbar());
+    EXPECT_FALSE(seite.wahl.istTippbar());
+}
+
+TEST(Seitenfelder, EinUnbekannterNameUndEineLückeSindFehlerDerSeite)
+{
+    Bildschirm schirm("frmProbe");
+    Auswahlfeld feld(schirm, "feld");
+    Elementreihe<triCtlJaNein> antworten(schirm, "antworten", 1, 2);
+    Seitenfelder felder(probesatz());
+    EXPECT_THROW(felder.füge("Wohl", feld), std::logic_error);
+    felder.füge("Wahl", feld);
+    felder.füge("Antwort", antworten);
+    EXPECT_THROW(felder.fülleListen(), std::logic_error);
 }
 
 TEST(Seitenfelder, GeladenUndGesammeltIstDasselbeStück)
@@ -99,7 +131,7 @@ TEST(Seitenfelder, DieErsteFalscheZahlWirdGemeldet)
     lauf.umgebung.beiMeldung = [&](const Meldung&) {
         farben = {seite.zahl.hintergrund(), seite.zahlMitVorgabe.hintergrund()};
     };
-    seite.felder.lade("ja·0·99·k.A.·k.A.·0·"_t);
+    seite.felder.lade("ja·99·100·k.A.·k.A.·0·"_t);
     EXPECT_FALSE(seite.felder.prüfeZahlen());
     EXPECT_EQ(lauf.umgebung.meldungen.size(), 1U);
     EXPECT_EQ(farben, (std::vector<Farbe>{farbe::rot, farbe::weiß}));
@@ -112,7 +144,7 @@ TEST(Seitenfelder, GetippteZiffernErgänzenAusDerListe)
     seite.zahl.taste({Taste::Art::Pos1});
     seite.zahl.taste({Taste::Art::Zeichen, '3'});
     EXPECT_EQ(seite.zahl.text(), "3");
-    seite.zahl.taste({Taste::Art::Zeichen, '9'});
+    seite.zahl.taste({Taste::Art::Zeichen, 'x'});
     EXPECT_EQ(seite.zahl.text(), "3");
     seite.zahl.taste({Taste::Art::Pos1});
     seite.zahl.taste({Taste::Art::Entf});

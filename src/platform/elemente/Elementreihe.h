@@ -12,8 +12,8 @@ class Elementträger;
 /// An array of elements with the index range of its design. Each is registered with the screen under its own index, and
 /// what follows the range goes to each:
 ///
-///     Elementreihe<Auswahlfeld> comboZuvor{*this, "comboZuvor"_t, 1, 18, Auswahlfeld::Art::Tippbar};
-///     comboZuvor(18).setzeText("0");                     // "comboZuvor(18)"
+///     Elementreihe<Textfeld> tbKurz{*this, "tbKurz"_t, 1, 12, Einzeilig, 5};
+///     tbKurz(12).setzeText("0");                         // "tbKurz(12)"
 template <class E> class Elementreihe {
 public:
     template <class... A>
