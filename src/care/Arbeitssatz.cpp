@@ -5,7 +5,7 @@
 #include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosefelder.h"
 #include "satz/Klientenfelder.h"
-#include "satz/moHelferlein.h"
+#include "satz/Zeilenfelder.h"
 
 #include <array>
 

@@ -3,7 +3,7 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/Auswahllisten.h"
-#include "satz/moHelferlein.h"
+#include "satz/Zeilenfelder.h"
 #include "zustand/Comboregeln.h"
 
 #include <algorithm>

@@ -2,7 +2,8 @@
 
 #include "platform/text/Text.h"
 #include "satz/Betreuungsfelder.h"
-#include "satz/moHelferlein.h"
+#include "satz/Datumstexte.h"
+#include "satz/Zeilenfelder.h"
 #include "store/Lesestand.h"
 #include "zustand/Zustand.h"
 

@@ -3,7 +3,7 @@
 #include "platform/text/Text.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Klientenfelder.h"
-#include "satz/moHelferlein.h"
+#include "satz/Zeilenfelder.h"
 #include "store/Lesestand.h"
 #include "zustand/Zustand.h"
 

@@ -2,7 +2,7 @@
 
 #include "platform/text/Zahl.h"
 #include "satz/Klientenfelder.h"
-#include "satz/moHelferlein.h"
+#include "satz/Zeilenfelder.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>

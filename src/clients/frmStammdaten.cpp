@@ -3,7 +3,7 @@
 #include "platform/text/Zahl.h"
 #include "satz/Auswahllisten.h"
 #include "satz/Klientenfelder.h"
-#include "satz/moHelferlein.h"
+#include "satz/Zeilenfelder.h"
 #include "store/Vorgang.h"
 #include "zustand/Zustand.h"
 

@@ -4,7 +4,7 @@
 #include "satz/Auswahllisten.h"
 #include "satz/Diagnosesatz.h"
 #include "satz/Wertelisten.h"
-#include "satz/moHelferlein.h"
+#include "satz/Zeilenfelder.h"
 #include "zustand/Comboregeln.h"
 #include "zustand/Zustand.h"
 

@@ -2,7 +2,7 @@
 
 #include "diagnosis/frmBetrDiagnose.h"
 #include "satz/Diagnosesatz.h"
-#include "satz/moHelferlein.h"
+#include "satz/Zeilenfelder.h"
 #include "zustand/Zustand.h"
 
 #include <algorithm>

@@ -3,7 +3,8 @@
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/Betreuungsfelder.h"
-#include "satz/moHelferlein.h"
+#include "satz/Datumstexte.h"
+#include "satz/Zeilenfelder.h"
 #include "zustand/Zustand.h"
 
 namespace {
