@@ -1,6 +1,6 @@
 # The two commands for everyone are `make start` and `make test`; the others are their parts.
 
-.PHONY: start test abnahme demo bilder bauen einrichten pruefung windows bench ausfall format paket freigabe
+.PHONY: start test abnahme demo bilder bauen einrichten pruefung windows windows-test windows-paket bench ausfall format paket freigabe
 
 # The program and nothing else; its folder is Tolvek7/.
 start:
@@ -27,7 +27,7 @@ demo: einrichten
 bilder: bauen
 	werkzeug/handbuchbilder.sh
 
-# Every test: GCC, then Clang with the sanitizers, then the logic for Windows.
+# Every test: GCC, then Clang with the sanitizers, then what runs on Windows without windows.
 test: einrichten
 	cmake --preset entwicklung
 	cmake --build --preset entwicklung
@@ -40,9 +40,22 @@ pruefung: einrichten
 	cmake --build --preset prüfung
 	ctest --preset prüfung
 
+# Everything without windows, cross-built and run by wine.
 windows: einrichten
 	cmake --preset windows
 	cmake --build --preset windows
+	ctest --preset windows
+
+# The program itself under wine, on screens without and with pictures. Builds Qt for Windows once, into a cache.
+windows-test: einrichten
+	cmake --preset windows-test -DTOLVEK_WINDOWS_QT="$$(werkzeug/windows_qt.sh)"
+	cmake --build --preset windows-test
+	ctest --preset windows-test
+
+# The archive for Windows, in bau/pakete/. Builds Qt for Windows once, into a cache.
+windows-paket: einrichten
+	cmake --preset windows-paket -DTOLVEK_WINDOWS_QT="$$(werkzeug/windows_qt.sh)"
+	paket/windows/packe.sh bau/windows-paket bau/pakete
 
 # Writes the approved files, the guide's picture and the words of the scenarios anew, and shows what has changed.
 abnahme: einrichten
@@ -61,8 +74,8 @@ paket: einrichten
 	cmake --preset paket
 	paket/packe.sh bau/paket bau/pakete
 
-# Every test, then both packages of the commit, built twice and compared, and their checksums, in freigabe/.
-freigabe: test paket
+# Every test, then all packages of the commit, built twice and compared, and their checksums, in freigabe/.
+freigabe: test paket windows-paket
 	paket/gib_frei.sh
 
 bench: bauen

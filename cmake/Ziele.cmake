@@ -9,6 +9,11 @@ if(TOLVEK_WARNUNG_IST_FEHLER)
   list(APPEND TOLVEK_WARNUNGEN -Werror)
 endif()
 
+if(WIN32)
+  # Windows 10 and later, wide characters
+  add_compile_definitions(NOMINMAX WIN32_LEAN_AND_MEAN UNICODE _UNICODE _WIN32_WINNT=0x0A00)
+endif()
+
 # tolvek_ordner(NAME ZWECK "what it is for" [UEBER target ...] [QT]): a static library of all sources below this folder
 # (subfolders with a CMakeLists.txt of their own excepted), linked with the targets that it stands over and may include;
 # what those may include, it may too. QT says that it is the one that knows the toolkit. The purpose is one line of the

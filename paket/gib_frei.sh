@@ -15,7 +15,13 @@ werkstatt=$(mktemp -d)
 trap 'rm -rf "$werkstatt"' EXIT
 mkdir "$werkstatt/quelle"
 git archive HEAD | tar -x -C "$werkstatt/quelle"
-(cd "$werkstatt/quelle" && cmake --preset paket && paket/packe.sh bau/paket "$werkstatt/pakete")
+(
+    cd "$werkstatt/quelle"
+    cmake --preset paket
+    paket/packe.sh bau/paket "$werkstatt/pakete"
+    cmake --preset windows-paket -DTOLVEK_WINDOWS_QT="$(werkzeug/windows_qt.sh)"
+    paket/windows/packe.sh bau/windows-paket "$werkstatt/pakete"
+)
 diff -r bau/pakete "$werkstatt/pakete"
 
 rm -rf freigabe

@@ -8,6 +8,7 @@
 #include "platform/qt/Stil.h"
 #include "platform/text/Eingabe.h"
 #include "platform/text/Text.h"
+#include "platform/umgebung/Aufrufer.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "platform/umgebung/Prozessschutz.h"
 #include "store/Pruefung.h"
@@ -15,8 +16,8 @@
 #include <QApplication>
 #include <QMessageBox>
 
-#include <iostream>
 #include <optional>
+#include <sstream>
 
 namespace {
 
@@ -27,9 +28,12 @@ int prüfe(const Aufruf& aufruf)
     Dateien dateien(erzeugeDateizugriff());
     try {
         const auto ordner = findeDatenordner(aufruf, frageSystem(), dateien);
-        return pruefe(ordner, std::cout);
+        std::ostringstream bericht;
+        const int ergebnis = pruefe(ordner, bericht);
+        sageDemAufrufer(bericht.str());
+        return ergebnis;
     } catch (const Laufzeitfehler& fehler) {
-        std::cerr << "tolvek7: " << alsUtf8(fehler.text()) << '\n';
+        meldeDemAufrufer("tolvek7: " + alsUtf8(fehler.text()) + '\n');
     }
     return unverständlich;
 }
@@ -37,18 +41,22 @@ int prüfe(const Aufruf& aufruf)
 /// What needs no window, so that it works without a display too; the exit status.
 std::optional<int> beantworteOhneFenster(const Aufruf& aufruf)
 {
+    std::ostringstream text;
     switch (aufruf.art) {
     case Aufrufart::Version:
-        schreibeVersion(std::cout);
+        schreibeVersion(text);
+        sageDemAufrufer(text.str());
         return 0;
     case Aufrufart::Hilfe:
-        schreibeHilfe(std::cout);
+        schreibeHilfe(text);
+        sageDemAufrufer(text.str());
         return 0;
     case Aufrufart::Prüfung:
         return prüfe(aufruf);
     case Aufrufart::Unverständlich:
-        std::cerr << "tolvek7: " << aufruf.fehler << '\n';
-        schreibeHilfe(std::cerr);
+        text << "tolvek7: " << aufruf.fehler << '\n';
+        schreibeHilfe(text);
+        meldeDemAufrufer(text.str());
         return unverständlich;
     case Aufrufart::Arbeiten:
     case Aufrufart::Muster:

@@ -11,7 +11,9 @@ if [ "$umfang" = alles ]; then
         # building more than once, and linking many programs
         ccache clang lld
         # tests and benchmarks
-        libgtest-dev libgmock-dev libbenchmark-dev libclang-rt-14-dev g++-mingw-w64-x86-64-win32 locales
+        libgtest-dev libgmock-dev libbenchmark-dev libclang-rt-14-dev locales
+        # Windows: the cross compiler, and what runs the result
+        g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine wine64
         # opening workbooks, windows without a display, pictures
         libreoffice-calc xvfb xauth x11-utils xdotool openbox python3 fonts-noto-core fontconfig unzip
         # the windows as a screen reader meets them
@@ -19,7 +21,7 @@ if [ "$umfang" = alles ]; then
         # counting a process's calls to the system
         strace
         # packages and their checks
-        librsvg2-bin cmark-gfm dpkg-dev lintian desktop-file-utils appstream man-db file git
+        librsvg2-bin cmark-gfm dpkg-dev lintian desktop-file-utils appstream man-db file git zip
     )
 fi
 

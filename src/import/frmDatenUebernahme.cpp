@@ -13,10 +13,11 @@ namespace {
 constexpr int höchsterFortschritt = 6;
 constexpr auto bereit = "Bereit"_t;
 
+/// As typed; "/" is taken on every system.
 std::filesystem::path pfadAus(std::string_view text)
 {
     const auto utf8 = alsUtf8(text);
-    return std::u8string(utf8.begin(), utf8.end());
+    return std::filesystem::path(std::u8string(utf8.begin(), utf8.end())).make_preferred();
 }
 
 } // namespace

@@ -66,8 +66,8 @@ TEST(Befehlszeile, WasUnklarIstWirdNichtAusgeführt)
 
 TEST(Befehlszeile, DerFehlerNenntDasArgument)
 {
-    EXPECT_EQ(leseAufruf({"--prüfe"}).fehler, "unbekanntes Argument: --prüfe");
-    EXPECT_EQ(leseAufruf({"a", "Büro"}).fehler, "überzähliges Argument: Büro");
+    EXPECT_EQ(leseAufruf({u8"--prüfe"}).fehler, "unbekanntes Argument: --prüfe");
+    EXPECT_EQ(leseAufruf({"a", u8"Büro"}).fehler, "überzähliges Argument: Büro");
 }
 
 TEST(Befehlszeile, VersionUndHilfe)

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
+#include <random>
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
@@ -104,11 +105,16 @@ Arbeitsplatz::Arbeitsplatz() : Arbeitsplatz(schnellerOrt())
 
 Arbeitsplatz::Arbeitsplatz(const fs::path& worin)
 {
-    std::string muster = (worin / "tolvek7-ausfall-XXXXXX").string();
-    if (mkdtemp(muster.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder");
+    std::random_device zufall;
+    constexpr int versuche = 100;
+    for (int i = 0; i < versuche; ++i) {
+        m_pfad = worin / ("tolvek7-ausfall-" + std::to_string(zufall()));
+        if (fs::create_directory(m_pfad)) {
+            fs::permissions(m_pfad, fs::perms::owner_all);
+            return;
+        }
     }
-    m_pfad = muster;
+    throw std::runtime_error("no temporary folder");
 }
 
 Arbeitsplatz::~Arbeitsplatz()

@@ -25,7 +25,8 @@ std::vector<std::string> pfadzeilen(const std::filesystem::path& programm)
 
 TEST(frmInfoTest, NenntDenOrdnerDerDaten)
 {
-    EXPECT_EQ(pfadzeilen("/home/anna/Tolvek7"), std::vector<std::string>{"/home/anna/Tolvek7/Daten"});
+    EXPECT_EQ(pfadzeilen("/home/anna/Tolvek7"),
+              std::vector<std::string>{pfadtext(std::filesystem::path("/home/anna/Tolvek7") / "Daten")});
 }
 
 TEST(frmInfoTest, EinLangerPfadWirdUmbrochen)
@@ -33,7 +34,7 @@ TEST(frmInfoTest, EinLangerPfadWirdUmbrochen)
     const auto teil = std::string(40, 'a') + "/";
     EXPECT_EQ(pfadzeilen("/" + teil + teil + std::string(150, 'b')),
               (std::vector<std::string>{"/" + teil, teil, std::string(60, 'b'), std::string(60, 'b'),
-                                        std::string(30, 'b') + "/Daten"}));
+                                        pfadtext(std::filesystem::path(std::string(30, 'b')) / "Daten")}));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "store/Pruefung.h"
 
 #include "app/muster/Musterdaten.h"
+#include "hilfen/Anzeigepfad.h"
 #include "hilfen/Platte.h"
 #include "hilfen/Testumgebung.h"
 #include "platform/text/Text.h"
@@ -424,7 +425,7 @@ TEST_F(PruefungTest, GanzerVermerkUndSeineArbeitsdatei)
     const auto bericht = prüfe();
     ASSERT_EQ(bericht.befunde.size(), 3U);
     EXPECT_EQ(bericht.befunde[0].art, VermerkGanz);
-    EXPECT_EQ(bericht.befunde[0].ort.datei, "Daten/Vorgang.txt");
+    EXPECT_EQ(bericht.befunde[0].ort.datei, angezeigt("Daten/Vorgang.txt"));
     EXPECT_EQ(bericht.befunde[1].art, Befundart::Arbeitsdatei);
     EXPECT_EQ(bericht.befunde[1].folge, "kommt beim nächsten Start an ihre Stelle"_t);
     EXPECT_EQ(bericht.befunde[2].folge, "wird beim nächsten Start entfernt"_t);
@@ -446,11 +447,11 @@ TEST_F(PruefungTest, Reste)
         gefunden.emplace_back(befund.art, befund.ort.datei);
     }
     const std::vector<std::pair<Befundart, std::string>> erwartet{
-        {Befundart::Arbeitsdatei, "Daten/Vorgang.txt.neu"},
+        {Befundart::Arbeitsdatei, angezeigt("Daten/Vorgang.txt.neu")},
         {AlteArbeitsdatei, "dummyFile.txt"},
         {AlteArbeitsdatei, "Tolvekdummy.txt"},
-        {SicherungUnvollendet, "Daten/Sicherungen/2007-08-01 10.00.00 unvollendet"},
-        {SicherungAngefangen, "Daten/Sicherungen/2007-08-02 10.00.00.neu"},
+        {SicherungUnvollendet, angezeigt("Daten/Sicherungen/2007-08-01 10.00.00 unvollendet")},
+        {SicherungAngefangen, angezeigt("Daten/Sicherungen/2007-08-02 10.00.00.neu")},
         {Importordner, "importDummyVerz"}};
     EXPECT_EQ(gefunden, erwartet);
 }
@@ -552,11 +553,11 @@ TEST_F(BerichtTest, MitBefunden)
     schreibeProgrammordner(ordner.pfad(), tabellen);
     verdirb("kernDat.txt.neu", "");
     EXPECT_EQ(prüfe(), 1);
-    EXPECT_EQ(aus.str(), "Daten/kernDat.txt.neu: Arbeitsdatei einer abgebrochenen Eingabe; wird beim nächsten Start "
-                         "entfernt\n"
-                         "betrDat.txt, Zeile 1, Feld 149 (Schulden): diesen Wert hat keine Liste: \"viele\"; wird "
-                         "unverändert angezeigt; der Export meldet ihn und hat dort keinen richtigen Wert\n"
-                         "2 Befunde in 2 Dateien: 1 Klient, 1 Betreuung.\n");
+    EXPECT_EQ(aus.str(), angezeigt("Daten/kernDat.txt.neu") +
+                             ": Arbeitsdatei einer abgebrochenen Eingabe; wird beim nächsten Start entfernt\n"
+                             "betrDat.txt, Zeile 1, Feld 149 (Schulden): diesen Wert hat keine Liste: \"viele\"; wird "
+                             "unverändert angezeigt; der Export meldet ihn und hat dort keinen richtigen Wert\n"
+                             "2 Befunde in 2 Dateien: 1 Klient, 1 Betreuung.\n");
 }
 
 TEST_F(BerichtTest, FehlendeTabelle)

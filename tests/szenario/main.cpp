@@ -7,6 +7,8 @@
 #include "oberflaeche/OberflaecheQt.h"
 #endif
 
+#include "platform/umgebung/Systemorte.h"
+
 #include <clocale>
 #include <iostream>
 #include <memory>
@@ -99,13 +101,23 @@ int führeAlleAus(const Befehlszeile& befehlszeile)
     return ergebnis.gescheitert > 0 ? 1 : 0;
 }
 
+/// UTF-8 on every system.
+std::vector<std::string> alsTexte(const std::vector<std::filesystem::path>& argumente)
+{
+    std::vector<std::string> texte;
+    for (const auto& argument : argumente) {
+        texte.push_back(alsText(argument));
+    }
+    return texte;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     std::setlocale(LC_ALL, ""); // on both surfaces alike, as the windows' library does it
     try {
-        return führeAlleAus(liesBefehlszeile({argv + 1, argv + argc}));
+        return führeAlleAus(liesBefehlszeile(alsTexte(argumente(argc, argv))));
     } catch (const Aufruffehler& fehler) {
         std::cerr << fehler.what() << "\nszenario [--oberfläche=ohne|qt|beide] [--nur=WORT] [--teil=N/ALLE] DATEI-ODER-ORDNER ...\n";
         return 2;

@@ -1,5 +1,6 @@
 #include "platform/calc/Zwischenablage.h"
 
+#include "platform/calc/Dateiwache.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
@@ -13,8 +14,8 @@
 #include <shellapi.h>
 #include <shlwapi.h>
 
-// A file that a program has open can't be removed on Windows; so no guard is needed here: what is left goes at
-// the next start.
+// A file that a program has open can't be removed on Windows; a guard in this process tries until it can (Dateiwache),
+// and what is left goes at the next start.
 
 namespace fs = std::filesystem;
 
@@ -25,6 +26,18 @@ constexpr std::string_view vorsilbe = "tolvek7-mappe-";
 [[noreturn]] void scheitere(std::string_view was, const fs::path& pfad)
 {
     throw Laufzeitfehler(verbinde(was, ": "_t, pfadtext(pfad), " (Fehler "_t, alsText(GetLastError()), ')'));
+}
+
+/// The program that has said it does this with workbooks.
+std::optional<fs::path> programmFür(const wchar_t* wunsch)
+{
+    std::array<wchar_t, MAX_PATH> programm{};
+    DWORD länge = MAX_PATH;
+    if (AssocQueryStringW(ASSOCF_INIT_IGNOREUNKNOWN, ASSOCSTR_EXECUTABLE, L".xlsx", wunsch, programm.data(), &länge) !=
+        S_OK) {
+        return std::nullopt;
+    }
+    return fs::path(programm.data());
 }
 
 std::wstring inAnführung(const std::wstring& text)
@@ -61,18 +74,24 @@ bool Zwischenablage::übergib(const fs::path& programm, const std::vector<std::s
     const bool gestartet = starte(programm, argumente, m_datei);
     if (gestartet) {
         m_ordner.behalte();
+        bewacheBisGeschlossen(m_datei, m_ordner.schloss());
     }
     return gestartet;
 }
 
+/// Programs that know the wish "new" make a new, unsaved document of the file; the others get it write-protected, so
+/// that nobody's work is saved in a place that is cleared away.
 bool Zwischenablage::überlasse(const fs::path& /*programm*/)
 {
-    SetFileAttributesW(m_datei.c_str(), FILE_ATTRIBUTE_READONLY);
+    const bool alsNeues = programmFür(L"new").has_value();
+    SetFileAttributesW(m_datei.c_str(), alsNeues ? FILE_ATTRIBUTE_NORMAL : FILE_ATTRIBUTE_READONLY);
     constexpr INT_PTR letzterFehler = 32;
-    const auto ergebnis = ShellExecuteW(nullptr, L"open", m_datei.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    const auto ergebnis =
+        ShellExecuteW(nullptr, alsNeues ? L"new" : L"open", m_datei.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
     const bool gestartet = reinterpret_cast<INT_PTR>(ergebnis) > letzterFehler;
     if (gestartet) {
         m_ordner.behalte();
+        bewacheBisGeschlossen(m_datei, m_ordner.schloss());
     } else {
         SetFileAttributesW(m_datei.c_str(), FILE_ATTRIBUTE_NORMAL); // so that it can be removed
     }
@@ -84,25 +103,30 @@ void Zwischenablage::räumeAuf()
     Wegwerfordner::räumeAuf(vorsilbe);
 }
 
+/// Here it is the program that is registered for workbooks, when it is the one that is asked for; and where none is
+/// registered for them, one that has told the system where it lies. Who has chosen another program for workbooks gets
+/// that.
 std::optional<fs::path> findeProgramm(const std::string& name)
 {
-    std::array<wchar_t, MAX_PATH> pfad{};
-    const std::wstring gesucht = fs::path(name + ".exe").wstring();
-    const DWORD länge = SearchPathW(nullptr, gesucht.c_str(), nullptr, MAX_PATH, pfad.data(), nullptr);
-    if (länge == 0 || länge >= MAX_PATH) {
-        return std::nullopt;
+    const fs::path datei = name + ".exe";
+    if (const auto gewähltes = findeProgrammFürXlsx()) {
+        const auto daneben = gewähltes->parent_path() / datei;
+        return GetFileAttributesW(daneben.c_str()) != INVALID_FILE_ATTRIBUTES ? std::optional(daneben) : std::nullopt;
     }
-    return fs::path(pfad.data());
+    const auto schlüssel = LR"(SOFTWARE\Microsoft\Windows\CurrentVersion\App Paths\)" + datei.wstring();
+    for (HKEY wurzel : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
+        std::array<wchar_t, MAX_PATH> pfad{};
+        DWORD länge = sizeof pfad;
+        if (RegGetValueW(wurzel, schlüssel.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, pfad.data(), &länge) ==
+            ERROR_SUCCESS) {
+            return fs::path(pfad.data());
+        }
+    }
+    return std::nullopt;
 }
 
 /// Any program counts that is registered; the system's question which one to take is none.
 std::optional<fs::path> findeProgrammFürXlsx()
 {
-    std::array<wchar_t, MAX_PATH> programm{};
-    DWORD länge = MAX_PATH;
-    if (AssocQueryStringW(ASSOCF_INIT_IGNOREUNKNOWN, ASSOCSTR_EXECUTABLE, L".xlsx", L"open", programm.data(), &länge) !=
-        S_OK) {
-        return std::nullopt;
-    }
-    return fs::path(programm.data());
+    return programmFür(L"open");
 }

@@ -1,77 +1,59 @@
 #include "platform/dateien/Dateizugriff.h"
 
 #include "platform/dateien/Pfadkunde.h"
-#include "platform/dateien/Systemgrund.h"
+#include "platform/dateien/Windowsgriff.h"
+#include "platform/dateien/Windowssystem.h"
+#include "platform/text/Text.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <utility>
 
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#define WIN32_LEAN_AND_MEAN
 #include <windows.h>
+
+// What differs here from other systems: a file that somebody has open may be in the way of others, so what virus
+// scanners and indexers do for a moment is waited for; a folder can't always be flushed, so renaming goes through to
+// the disk by itself; and a name can be read-only.
+//
+// A table is replaced by MoveFileEx and not by ReplaceFile: it is one operation of the file system, which leaves the
+// old file or the new one, while ReplaceFile renames twice and can stop in between.
 
 namespace fs = std::filesystem;
 
 namespace {
 
-[[noreturn]] void scheitere()
+constexpr DWORD alleTeilen = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+std::uint64_t längeVon(const Windowsgriff& griff)
 {
-    throw Dateifehler(systemgrund(std::error_code(static_cast<int>(::GetLastError()), std::system_category())));
+    if (::GetFileType(griff.griff()) != FILE_TYPE_DISK) {
+        throw Dateifehler(std::string("unter diesem Namen liegt keine gewöhnliche Datei"_t));
+    }
+    LARGE_INTEGER länge = {};
+    prüfeSystem(::GetFileSizeEx(griff.griff(), &länge) != 0);
+    return static_cast<std::uint64_t>(länge.QuadPart);
 }
 
-void prüfe(bool gelungen)
+Windowsgriff öffneZumLesen(const fs::path& pfad)
 {
-    if (!gelungen) {
-        scheitere();
-    }
+    return Windowsgriff({.pfad = pfad, .zugriff = GENERIC_READ, .teilen = alleTeilen, .anlegen = OPEN_EXISTING});
 }
-
-/// Owns a file handle.
-class Griff {
-public:
-    Griff(const fs::path& pfad, DWORD zugriff, DWORD anlegen)
-        : m_griff(::CreateFileW(pfad.c_str(), zugriff, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr, anlegen,
-                                FILE_ATTRIBUTE_NORMAL, nullptr))
-    {
-        prüfe(m_griff != INVALID_HANDLE_VALUE);
-    }
-    Griff(const Griff&) = delete;
-    Griff& operator=(const Griff&) = delete;
-    ~Griff()
-    {
-        if (m_griff != INVALID_HANDLE_VALUE) {
-            ::CloseHandle(m_griff);
-        }
-    }
-    HANDLE griff() const { return m_griff; }
-    void schließe() { prüfe(::CloseHandle(std::exchange(m_griff, INVALID_HANDLE_VALUE)) != 0); }
-    std::uint64_t länge() const
-    {
-        LARGE_INTEGER länge = {};
-        prüfe(::GetFileSizeEx(m_griff, &länge) != 0);
-        return static_cast<std::uint64_t>(länge.QuadPart);
-    }
-
-private:
-    HANDLE m_griff;
-};
 
 std::string liesBisEnde(const fs::path& pfad, std::uint64_t ab)
 {
-    const Griff griff(pfad, GENERIC_READ, OPEN_EXISTING);
-    const auto länge = griff.länge();
+    const auto griff = öffneZumLesen(pfad);
+    const auto länge = längeVon(griff);
     LARGE_INTEGER stelle = {};
     stelle.QuadPart = static_cast<LONGLONG>(ab);
-    prüfe(::SetFilePointerEx(griff.griff(), stelle, nullptr, FILE_BEGIN) != 0);
-    std::string text(static_cast<std::size_t>(länge - std::min(länge, ab)), '\0');
+    prüfeSystem(::SetFilePointerEx(griff.griff(), stelle, nullptr, FILE_BEGIN) != 0);
+    std::string text(static_cast<std::size_t>(länge - std::min(länge, ab)) + 1, '\0'); // one more, to see the end
     std::size_t ort = 0;
-    while (ort < text.size()) {
+    for (;;) {
+        if (ort == text.size()) {
+            text.resize(2 * text.size());
+        }
         DWORD gelesen = 0;
         const auto menge = static_cast<DWORD>(std::min<std::size_t>(text.size() - ort, std::size_t{1} << 24U));
-        prüfe(::ReadFile(griff.griff(), text.data() + ort, menge, &gelesen, nullptr) != 0);
+        prüfeSystem(::ReadFile(griff.griff(), text.data() + ort, menge, &gelesen, nullptr) != 0);
         if (gelesen == 0) {
             break;
         }
@@ -81,23 +63,28 @@ std::string liesBisEnde(const fs::path& pfad, std::uint64_t ab)
     return text;
 }
 
+/// A new file is made under its own name even where a link of that name leads elsewhere: it fails then.
 class WindowsDatei : public OffeneDatei {
 public:
     WindowsDatei(const fs::path& pfad, Öffnung wie)
-        : m_griff(pfad, GENERIC_WRITE, wie == Öffnung::Leeren ? CREATE_ALWAYS : CREATE_NEW)
+        : m_griff({.pfad = pfad,
+                   .zugriff = GENERIC_WRITE,
+                   .teilen = FILE_SHARE_READ | FILE_SHARE_DELETE,
+                   .anlegen = wie == Öffnung::Leeren ? DWORD{CREATE_ALWAYS} : DWORD{CREATE_NEW},
+                   .merkmale = FILE_ATTRIBUTE_NORMAL | (wie == Öffnung::Neu ? FILE_FLAG_OPEN_REPARSE_POINT : 0U)})
     {}
     std::size_t schreibe(std::string_view bytes) override
     {
         DWORD geschrieben = 0;
         const auto menge = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), std::size_t{1} << 24U));
-        prüfe(::WriteFile(m_griff.griff(), bytes.data(), menge, &geschrieben, nullptr) != 0);
+        prüfeSystem(::WriteFile(m_griff.griff(), bytes.data(), menge, &geschrieben, nullptr) != 0);
         return geschrieben;
     }
-    void sichereAufPlatte() override { prüfe(::FlushFileBuffers(m_griff.griff()) != 0); }
+    void sichereAufPlatte() override { prüfeSystem(::FlushFileBuffers(m_griff.griff()) != 0); }
     void schließe() override { m_griff.schließe(); }
 
 private:
-    Griff m_griff;
+    Windowsgriff m_griff;
 };
 
 /// Seconds since 1970 of a file time (tenths of a microsecond since 1601).
@@ -109,39 +96,83 @@ std::int64_t sekundenVon(const FILETIME& zeit)
     return static_cast<std::int64_t>(zehntel / jeSekunde) - bis1970;
 }
 
+/// A link to a folder is removed as a folder is, and takes nothing of the folder with it.
+bool entferneNamen(const std::wstring& name)
+{
+    const DWORD merkmale = ::GetFileAttributesW(name.c_str());
+    constexpr DWORD ordnerverweis = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+    const bool istOrdnerverweis = merkmale != INVALID_FILE_ATTRIBUTES && (merkmale & ordnerverweis) == ordnerverweis;
+    return (istOrdnerverweis ? ::RemoveDirectoryW(name.c_str()) : ::DeleteFileW(name.c_str())) != 0;
+}
+
+/// A system that can't flush a folder says so by one of these; the renaming has gone through to the disk then.
+bool kannOrdnerNichtSichern(DWORD fehler)
+{
+    return fehler == ERROR_ACCESS_DENIED || fehler == ERROR_INVALID_FUNCTION || fehler == ERROR_NOT_SUPPORTED ||
+           fehler == ERROR_INVALID_PARAMETER || fehler == ERROR_INVALID_HANDLE;
+}
+
 class WindowsZugriff : public Dateizugriff {
 public:
     std::unique_ptr<Dateiinhalt> lies(const fs::path& pfad, std::uint64_t ab) override
     {
         return std::make_unique<Dateiinhalt>(liesBisEnde(pfad, ab));
     }
-    std::uint64_t länge(const fs::path& pfad) override { return Griff(pfad, GENERIC_READ, OPEN_EXISTING).länge(); }
+    std::uint64_t länge(const fs::path& pfad) override { return längeVon(öffneZumLesen(pfad)); }
     std::unique_ptr<OffeneDatei> öffne(const fs::path& pfad, Öffnung wie) override
     {
         return std::make_unique<WindowsDatei>(pfad, wie);
     }
     void benenneUm(const fs::path& von, const fs::path& nach) override
     {
-        prüfe(::MoveFileExW(von.c_str(), nach.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0);
+        const auto alt = systempfad(von);
+        const auto neu = systempfad(nach);
+        constexpr DWORD wie = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+        führeBeharrlichAus(nach, [&] { return ::MoveFileExW(alt.c_str(), neu.c_str(), wie) != 0; });
     }
-    void lösche(const fs::path& pfad) override { prüfe(::DeleteFileW(pfad.c_str()) != 0); }
+    void lösche(const fs::path& pfad) override
+    {
+        führeBeharrlichAus(pfad, [name = systempfad(pfad)] { return entferneNamen(name); });
+    }
     void verknüpfe(const fs::path& von, const fs::path& nach) override
     {
-        prüfe(::CreateHardLinkW(nach.c_str(), von.c_str(), nullptr) != 0);
+        prüfeSystem(::CreateHardLinkW(systempfad(nach).c_str(), systempfad(von).c_str(), nullptr) != 0);
     }
-    void legeOrdnerAn(const fs::path& pfad) override { prüfe(::CreateDirectoryW(pfad.c_str(), nullptr) != 0); }
-    void entferneOrdner(const fs::path& pfad) override { prüfe(::RemoveDirectoryW(pfad.c_str()) != 0); }
-    /// MOVEFILE_WRITE_THROUGH has done it: folders cannot be flushed on this system.
-    void sichereOrdnerAufPlatte(const fs::path&) override {}
-    /// Rights are inherited from the user's own folders on this system.
-    void verwehreAnderen(const fs::path&) override {}
+    void legeOrdnerAn(const fs::path& pfad) override
+    {
+        auto* rechte = static_cast<SECURITY_ATTRIBUTES*>(rechteDesEigentümers());
+        prüfeSystem(::CreateDirectoryW(systempfad(pfad).c_str(), rechte) != 0);
+    }
+    void entferneOrdner(const fs::path& pfad) override
+    {
+        führeBeharrlichAus(pfad, [name = systempfad(pfad)] { return ::RemoveDirectoryW(name.c_str()) != 0; });
+    }
+    void sichereOrdnerAufPlatte(const fs::path& pfad) override
+    {
+        HANDLE griff = ::CreateFileW(systempfad(pfad).c_str(), FILE_ADD_FILE, alleTeilen, nullptr, OPEN_EXISTING,
+                                     FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+        DWORD fehler = griff == INVALID_HANDLE_VALUE ? ::GetLastError() : ERROR_SUCCESS;
+        if (griff != INVALID_HANDLE_VALUE) {
+            fehler = ::FlushFileBuffers(griff) != 0 ? ERROR_SUCCESS : ::GetLastError();
+            ::CloseHandle(griff);
+        }
+        if (fehler != ERROR_SUCCESS && !kannOrdnerNichtSichern(fehler)) {
+            throw Dateifehler(windowsgrund(fehler));
+        }
+    }
+    void verwehreAnderen(const fs::path& pfad) override
+    {
+        if (const auto fehler = schließeAndereAus(pfad); fehler != ERROR_SUCCESS) {
+            throw Dateifehler(windowsgrund(fehler));
+        }
+    }
     Fund findet(const fs::path& pfad) override { return fundAn(pfad); }
     bool istVergeben(const fs::path& pfad) override { return istNameVergeben(pfad); }
     fs::path ziel(const fs::path& pfad) override { return endeDerVerweise(pfad); }
     std::string zeitVon(const fs::path& pfad) override
     {
         WIN32_FILE_ATTRIBUTE_DATA angaben = {};
-        prüfe(::GetFileAttributesExW(pfad.c_str(), GetFileExInfoStandard, &angaben) != 0);
+        prüfeSystem(::GetFileAttributesExW(systempfad(pfad).c_str(), GetFileExInfoStandard, &angaben) != 0);
         return alsZeittext(sekundenVon(angaben.ftLastWriteTime));
     }
     std::vector<fs::path> namenIn(const fs::path& ordner, bool sindOrdner) override

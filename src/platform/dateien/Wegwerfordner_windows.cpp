@@ -1,6 +1,7 @@
 #include "platform/dateien/Wegwerfordner.h"
 
-#include "platform/dateien/Systemgrund.h"
+#include "platform/dateien/Dateien.h"
+#include "platform/dateien/Windowssystem.h"
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 
@@ -10,8 +11,7 @@
 
 #include <windows.h>
 
-// The temporary folder of Windows belongs to the user alone. The lock is a file that nobody else can open; the
-// system removes it when the process ends.
+// The lock is a file that nobody else can open; the system removes it when the process ends.
 
 namespace fs = std::filesystem;
 
@@ -36,12 +36,22 @@ void entferne(const fs::path& ordner)
 } // namespace
 
 Wegwerfordner::Wegwerfordner(std::string_view vorsilbe)
-    : m_pfad(fs::temp_directory_path() / (std::string(vorsilbe) + std::to_string(std::random_device()())))
 {
-    HANDLE schloss = CreateDirectoryW(m_pfad.c_str(), nullptr) == 0 ? INVALID_HANDLE_VALUE : sperre(m_pfad);
+    std::error_code fehler;
+    const fs::path ablage = fs::temp_directory_path(fehler);
+    HANDLE schloss = INVALID_HANDLE_VALUE;
+    DWORD grund = ERROR_PATH_NOT_FOUND;
+    // between making and locking, the clearing of another start may take the folder away
+    constexpr int versuche = 10;
+    for (int versuch = 0; !fehler && versuch < versuche && schloss == INVALID_HANDLE_VALUE; ++versuch) {
+        m_pfad = ablage / (std::string(vorsilbe) + std::to_string(std::random_device()()));
+        auto* rechte = static_cast<SECURITY_ATTRIBUTES*>(rechteDesEigentümers());
+        schloss = CreateDirectoryW(m_pfad.c_str(), rechte) == 0 ? INVALID_HANDLE_VALUE : sperre(m_pfad);
+        grund = GetLastError();
+    }
     if (schloss == INVALID_HANDLE_VALUE) {
-        const std::error_code grund(static_cast<int>(GetLastError()), std::system_category());
-        throw Laufzeitfehler(verbinde("Der Zwischenordner kann nicht angelegt werden: "_t, systemgrund(grund)));
+        throw Laufzeitfehler(verbinde("In \""_t, pfadtext(ablage), "\" kann kein Zwischenordner angelegt werden: "_t,
+                                      windowsgrund(grund)));
     }
     m_schloss = reinterpret_cast<std::intptr_t>(schloss);
 }

@@ -126,14 +126,15 @@ QPalette palette(const Farbtafel& f)
     return p;
 }
 
-/// The texts of the toolkit's own buttons and menus, from the system or from beside the program.
+/// The texts of the toolkit's own buttons and menus, from the system, from beside the program or from inside it.
 void ladeÜbersetzung(QApplication& anwendung)
 {
     auto* übersetzer = new QTranslator(&anwendung);
     const auto datei = QStringLiteral("qtbase_de");
     if (übersetzer->load(datei, QLibraryInfo::path(QLibraryInfo::TranslationsPath)) ||
         übersetzer->load(datei, QApplication::applicationDirPath()) ||
-        übersetzer->load(datei, QApplication::applicationDirPath() + QStringLiteral("/translations"))) {
+        übersetzer->load(datei, QApplication::applicationDirPath() + QStringLiteral("/translations")) ||
+        übersetzer->load(datei, QStringLiteral(":/uebersetzung"))) {
         QApplication::installTranslator(übersetzer);
     }
 }
@@ -144,6 +145,9 @@ void ladeÜbersetzung(QApplication& anwendung)
 static void ladeBilder()
 {
     Q_INIT_RESOURCE(stil);
+#ifdef Q_OS_WIN
+    Q_INIT_RESOURCE(uebersetzung);
+#endif
 }
 
 void richteStilEin(QApplication& anwendung)

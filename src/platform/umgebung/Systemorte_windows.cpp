@@ -1,11 +1,12 @@
 #include "platform/umgebung/Systemorte.h"
 
-#include <array>
 #include <string>
 #include <system_error>
 
 #include <windows.h>
 
+#include <knownfolders.h>
+#include <objbase.h>
 #include <shellapi.h>
 #include <shlobj.h>
 
@@ -24,16 +25,19 @@ fs::path programmdatei()
 
 fs::path dokumente()
 {
-    std::array<wchar_t, MAX_PATH> pfad{};
-    return SHGetFolderPathW(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, pfad.data()) == S_OK ? pfad.data()
-                                                                                                       : fs::path{};
+    PWSTR pfad = nullptr;
+    const bool gefunden = SHGetKnownFolderPath(FOLDERID_Documents, KF_FLAG_DEFAULT, nullptr, &pfad) == S_OK;
+    fs::path ergebnis = gefunden ? fs::path(pfad) : fs::path{};
+    CoTaskMemFree(pfad);
+    return ergebnis;
 }
 
-/// The rights of a folder say little on Windows (virtual store, network drives); so it is tried.
+/// The rights of a folder say little on Windows (network drives, inherited denials); so it is tried, under a name that
+/// no other start tries at the same time.
 bool nimmtDateien(const fs::path& ordner)
 {
-    const auto probe = ordner / L"Tolvek7.versuch";
-    HANDLE griff = CreateFileW(probe.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+    const auto probe = ordner / (L"Tolvek7." + std::to_wstring(GetCurrentProcessId()) + L".versuch");
+    HANDLE griff = CreateFileW(probe.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
     return griff != INVALID_HANDLE_VALUE && CloseHandle(griff) != 0;
 }

@@ -119,11 +119,7 @@ void kopiere(Lauf& lauf, const Anweisung& anweisung)
     const fs::path quelle = lauf.draußen(anweisung.argument(0));
     const fs::path ziel = lauf.imProgramm(anweisung.hatArgument(1) ? anweisung.argument(1) : std::u32string());
     fs::create_directories(ziel);
-    if (fs::is_directory(quelle)) {
-        fs::copy(quelle, ziel, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
-    } else {
-        fs::copy_file(quelle, ziel / quelle.filename(), fs::copy_options::overwrite_existing);
-    }
+    kopiereNach(quelle, fs::is_directory(quelle) ? ziel : ziel / quelle.filename());
 }
 
 void entferne(Lauf& lauf, const Anweisung& anweisung)

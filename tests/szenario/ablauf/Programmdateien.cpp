@@ -58,9 +58,12 @@ std::string alsDateiinhalt(const std::vector<std::u32string>& zeilen)
 
 void kopiereNach(const fs::path& quelle, const fs::path& ziel)
 {
-    if (!fs::exists(quelle)) {
-        throw Scheitern("die Datei " + namensende(quelle), "keine");
+    if (!fs::is_directory(quelle)) {
+        schreibeDatei(ziel, liesDatei(quelle));
+        return;
     }
-    fs::create_directories(ziel.parent_path());
-    fs::copy_file(quelle, ziel, fs::copy_options::overwrite_existing);
+    fs::create_directories(ziel);
+    for (const auto& eintrag : fs::directory_iterator(quelle)) {
+        kopiereNach(eintrag.path(), ziel / eintrag.path().filename());
+    }
 }

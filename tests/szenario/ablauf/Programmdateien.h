@@ -15,5 +15,6 @@ std::string liesDatei(const std::filesystem::path& pfad);
 void hängeZeileAn(const std::filesystem::path& pfad, const std::string& zeile);
 /// The lines in the tables' code page, each ended by CR LF.
 std::string alsDateiinhalt(const std::vector<std::u32string>& zeilen);
-/// Copies the file to a place outside the program folder; makes folders on the way.
+/// Copies the file, or the folder with all that is in it; what lies there already is overwritten, folders on the way
+/// are made. (`std::filesystem::copy` takes any two files for the same one with some compilers for Windows.)
 void kopiereNach(const std::filesystem::path& quelle, const std::filesystem::path& ziel);

@@ -4,8 +4,6 @@
 #include "platform/text/Text.h"
 
 #include <algorithm>
-#include <array>
-#include <ctime>
 
 namespace fs = std::filesystem;
 
@@ -65,12 +63,4 @@ fs::path endeDerVerweise(const fs::path& pfad)
         throw Dateifehler(systemgrund(fehler));
     }
     return ende;
-}
-
-std::string alsZeittext(std::int64_t sekunden)
-{
-    const auto zeit = static_cast<std::time_t>(sekunden);
-    std::array<char, 32> text{};
-    const auto länge = std::strftime(text.data(), text.size(), "%Y-%m-%d %H.%M.%S", std::localtime(&zeit));
-    return {text.data(), länge};
 }
