@@ -55,10 +55,10 @@ struct Lauf {
     {
         Bildschirmfolge& folge = programm.zustand().folge;
         Bildschirm hauptmenü("frmDummy");
-        frmZuExcel schirm(hauptmenü);
-        folge.zeige(schirm);
+        frmZuExcel schirm;
+        folge.öffneStatt(hauptmenü, schirm);
         folge.führeAktivierungenAus();
-        folge.entlade(schirm);
+        folge.schließe(schirm);
     }
 };
 

@@ -26,7 +26,9 @@ void trageFelderEin(std::vector<Exportspalte>& spalten, char blatt, const std::v
 
 Exportspalte& spaltenplatz(std::vector<Exportspalte>& spalten, int nummer)
 {
-    return spalten.at(static_cast<std::size_t>(nummer - 1));
+    const auto ort = static_cast<std::size_t>(nummer - 1);
+    spalten.resize(std::max(spalten.size(), ort + 1));
+    return spalten[ort];
 }
 
 void trageAnfangEin(std::vector<Exportspalte>& spalten, const Exportspalte& kernID, const Exportspalte& betrID)

@@ -24,33 +24,44 @@ constexpr auto kA = "k.A."_t;
 struct Typ {
     Feldart art;
     std::string_view name;
-    std::vector<std::string_view> anmerkungen; ///< expected form, for whoever reads the table; no rule
+    std::vector<std::string> anmerkungen; ///< expected form, for whoever reads the table; no rule
 };
 
-const Typ& typVon(Feldart art)
+template <class... T> std::vector<std::string> texte(const T&... werte)
 {
-    static const auto kinder = verbinde("<0.."_t, alsText(werte::kinder.bis), '>');
-    static const auto kontakte = verbinde("<1-"_t, alsText(werte::kontakte.bis), '>');
-    static const std::array typen{
+    return {std::string(werte)...};
+}
+
+// A function, since one of the compilers ends on the table as an initialiser.
+std::vector<Typ> macheTypen()
+{
+    const auto kinder = verbinde("<0.."_t, alsText(werte::kinder.bis), '>');
+    const auto kontakte = verbinde("<1-"_t, alsText(werte::kontakte.bis), '>');
+    return {
         Typ{Feldart::idKern, "idKern"_t, {}},
         Typ{Feldart::idBetr, "idBetr"_t, {}},
-        Typ{Feldart::datum, "datum"_t, {"<NN.NN.NNNN>"_t, "<offen>"_t}},
+        Typ{Feldart::datum, "datum"_t, texte("<NN.NN.NNNN>"_t, "<offen>"_t)},
         Typ{Feldart::option, "option"_t, {}},
-        Typ{Feldart::zuvor, "zuvor"_t, {kA, "<0..N>"_t}},
-        Typ{Feldart::kinder, "kinder"_t, {kA, kinder}},
-        Typ{Feldart::zahl, "zahl"_t, {"<N>"_t}},
-        Typ{Feldart::kontakte, "kontakte"_t, {kA, kontakte}},
-        Typ{Feldart::nation, "nation"_t, {"<XXX> "_t}},
-        Typ{Feldart::hdOhne, "hdOhne"_t, {"<WAHR, FALSCH>"_t}},
-        Typ{Feldart::ivKonsum, "ivKonsum"_t, {"<WAHR, FALSCH>"_t}},
+        Typ{Feldart::zuvor, "zuvor"_t, texte(kA, "<0..N>"_t)},
+        Typ{Feldart::kinder, "kinder"_t, texte(kA, kinder)},
+        Typ{Feldart::zahl, "zahl"_t, texte("<N>"_t)},
+        Typ{Feldart::kontakte, "kontakte"_t, texte(kA, kontakte)},
+        Typ{Feldart::nation, "nation"_t, texte("<XXX> "_t)},
+        Typ{Feldart::hdOhne, "hdOhne"_t, texte("<WAHR, FALSCH>"_t)},
+        Typ{Feldart::ivKonsum, "ivKonsum"_t, texte("<WAHR, FALSCH>"_t)},
         Typ{Feldart::hdAlter, "hdAlter"_t, {}},
         Typ{Feldart::icd0000, "icd0000"_t, {}},
-        Typ{Feldart::icdPsy, "icdPsy"_t, {"<##.##>"_t}},
-        Typ{Feldart::icdNeu, "icdNeu"_t, {"<##.##>"_t}},
-        Typ{Feldart::text, "text"_t, {"<?##.##>"_t}},
+        Typ{Feldart::icdPsy, "icdPsy"_t, texte("<##.##>"_t)},
+        Typ{Feldart::icdNeu, "icdNeu"_t, texte("<##.##>"_t)},
+        Typ{Feldart::text, "text"_t, texte("<?##.##>"_t)},
         Typ{Feldart::leer, leer, {}},
         Typ{Feldart::memo, {}, {}},
     };
+}
+
+const Typ& typVon(Feldart art)
+{
+    static const auto typen = macheTypen();
     return *std::ranges::find(typen, art, &Typ::art);
 }
 

@@ -110,7 +110,7 @@ def pfeile(baum):
 
 # The header that brings each name of the standard library which our headers use.
 STANDARD = {name: kopf for kopf, namen in {
-    "array": "array", "cmath": "lround", "cstddef": "size_t ptrdiff_t byte nullptr_t",
+    "algorithm": "ranges", "array": "array", "cmath": "lround", "cstddef": "size_t ptrdiff_t byte nullptr_t",
     "cstdint": "int8_t int16_t int32_t int64_t uint8_t uint16_t uint32_t uint64_t intptr_t uintptr_t", "deque": "deque",
     "filesystem": "filesystem", "functional": "function less hash", "initializer_list": "initializer_list",
     "iosfwd": "ostream istream", "map": "map multimap", "memory": "unique_ptr shared_ptr weak_ptr make_unique make_shared",
