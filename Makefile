@@ -1,6 +1,6 @@
 # The two commands for everyone are `make start` and `make test`; the others are their parts.
 
-.PHONY: start test abnahme demo bilder bauen einrichten pruefung windows windows-test windows-paket bench ausfall format paket freigabe
+.PHONY: start test abnahme demo bilder bauen einrichten pruefung windows windows-paket bench ausfall format paket freigabe
 
 # The program and nothing else; its folder is Tolvek7/.
 start:
@@ -45,12 +45,6 @@ windows: einrichten
 	cmake --preset windows
 	cmake --build --preset windows
 	ctest --preset windows
-
-# The program itself under wine, on screens without and with pictures. Builds Qt for Windows once, into a cache.
-windows-test: einrichten
-	cmake --preset windows-test -DTOLVEK_WINDOWS_QT="$$(werkzeug/windows_qt.sh)"
-	cmake --build --preset windows-test
-	ctest --preset windows-test
 
 # The archive for Windows, in bau/pakete/. Builds Qt for Windows once, into a cache.
 windows-paket: einrichten
