@@ -10,10 +10,10 @@ ausgabe=3
 exec 3>&1 1>&2
 
 # Not built: what the program does not use. Without wintab.h (not in the package of mingw-w64) there are no tablet events.
-# The host's rcc packs with zstd, which this Qt could not unpack.
+# DirectWrite is compiled with Direct2D alone. The host's rcc packs with zstd, which this Qt could not unpack.
 aus=(
     sql network dbus concurrent printsupport xml
-    opengl opengl_dynamic opengl_desktop opengles2 egl vulkan direct2d direct2d1_1
+    opengl opengl_dynamic opengl_desktop opengles2 egl vulkan direct2d direct2d1_1 directwrite directwrite3
     icu glib zstd pkg_config fontconfig cpp_winrt tuiotouch tabletevent jpeg gif
     graphicsview wizard mdiarea lcdnumber dial splashscreen colordialog fontdialog undoview columnview keysequenceedit
     sharedmemory systemsemaphore textodfwriter pdf
