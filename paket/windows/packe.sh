@@ -1,22 +1,9 @@
 #!/usr/bin/env bash
 # Makes the archive for Windows from a configured build tree: unpack it anywhere, start tolvek7.exe, the records lie beside
 # it. Usage: packe.sh BUILD-FOLDER TARGET-FOLDER
-# The same commit gives the same bytes: every date is that of the commit, or SOURCE_DATE_EPOCH where that is set.
 set -euo pipefail
 hier=$(cd "$(dirname "$0")" && pwd)
-paket=$(dirname "$hier")
-quelle=$(dirname "$paket")
-bau=$(cd "$1" && pwd)
-mkdir -p "$2"
-ziel=$(cd "$2" && pwd)
-
-if [ -z "${SOURCE_DATE_EPOCH:-}" ]; then
-    SOURCE_DATE_EPOCH=$(git -C "$quelle" log -1 --format=%ct 2>/dev/null) ||
-        SOURCE_DATE_EPOCH=$(stat -c %Y "$quelle/CHANGELOG.md")
-fi
-export SOURCE_DATE_EPOCH
-export LC_ALL=C.UTF-8 TZ=UTC
-umask 022
+. "$hier/../anfang.sh"
 
 version=$(sed -nE 's/^CMAKE_PROJECT_VERSION:STATIC=(.*)$/\1/p' "$bau/CMakeCache.txt")
 qt=$(sed -nE 's/^TOLVEK_WINDOWS_QT:[A-Z]*=(.*)$/\1/p' "$bau/CMakeCache.txt")
