@@ -1,5 +1,6 @@
 #pragma once
 
+#include "hilfen/Schreibhandlungen.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/dateien/Ordnersperre.h"
 #include "platform/text/Eingabe.h"
@@ -88,3 +89,22 @@ private:
     Rechenprogramm m_rechenprogramm;
 #endif
 };
+
+/// Starts the program, says when the main menu stands, and lets `tue(Hand&)` act; `danach()` speaks when it has acted.
+/// The exit status: that of the run, 2 when `tue` knows no such action.
+template <class Tue, class Danach> int starteUndTue(Umgebung& umgebung, const Tue& tue, const Danach& danach)
+{
+    Programm programm(umgebung);
+    programm.starte();
+    auto& ablauf = programm.zustand().ablauf;
+    if (!ablauf.läuft()) {
+        return ablauf.status();
+    }
+    sage("HAUPTMENÜ");
+    Hand hand(programm);
+    if (!tue(hand)) {
+        return 2;
+    }
+    danach(ablauf.läuft());
+    return ablauf.status();
+}

@@ -84,19 +84,11 @@ int main(int argc, char** argv)
     }
     verhindereSpeicherabbilder();
     Handlungsumgebung umgebung(argv[1], erzeugeDateizugriff());
-    Programm programm(umgebung);
-    programm.starte();
-    auto& zustand = programm.zustand();
-    if (!zustand.ablauf.läuft()) {
-        return zustand.ablauf.status();
-    }
-    sage("HAUPTMENÜ");
-    Hand hand(programm);
-    if (!tue(argv[2], hand, umgebung)) {
-        return 2;
-    }
-    if (zustand.ablauf.läuft()) {
-        sage("FERTIG");
-    }
-    return zustand.ablauf.status();
+    return starteUndTue(
+        umgebung, [&](Hand& hand) { return tue(argv[2], hand, umgebung); },
+        [](bool läuftNoch) {
+            if (läuftNoch) {
+                sage("FERTIG");
+            }
+        });
 }

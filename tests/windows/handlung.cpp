@@ -140,17 +140,7 @@ int main(int argc, char** argv)
     }
     Frist frist{.stelle = worte.size() > 2 ? std::stoi(worte[2].string()) : 0, .zählt = worte[1] == "start"};
     Handlungsumgebung umgebung(worte[0], std::make_unique<Todeszugriff>(frist));
-    Programm programm(umgebung);
-    programm.starte();
-    auto& zustand = programm.zustand();
-    if (!zustand.ablauf.läuft()) {
-        return zustand.ablauf.status();
-    }
-    sage("HAUPTMENÜ");
-    Hand hand(programm);
-    if (!tue(worte[1], hand, frist)) {
-        return 2;
-    }
-    sage("OPERATIONEN", std::to_string(frist.gezählt));
-    return zustand.ablauf.status();
+    return starteUndTue(
+        umgebung, [&](Hand& hand) { return tue(worte[1], hand, frist); },
+        [&](bool /*läuftNoch*/) { sage("OPERATIONEN", std::to_string(frist.gezählt)); });
 }
