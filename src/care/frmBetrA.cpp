@@ -91,6 +91,7 @@ void frmBetrA::baueTafel()
 Anordnung frmBetrA::maßnahmen()
 {
     using namespace anordnung;
+    using anordnung::feld;
     std::vector<Anordnung> zeilen;
     for (const int i : zeilenfolge) {
         const int antwort = i < zeileSelbsthilfe ? i : i - 1;

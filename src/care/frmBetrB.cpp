@@ -39,6 +39,7 @@ void frmBetrB::baueTafel()
 void frmBetrB::ordneAn()
 {
     using namespace anordnung;
+    using anordnung::feld;
     constexpr double kurz = 10;
     std::vector<Anordnung> zusammenlebend;
     for (int i = alleinlebend + 1; i <= lblLebensit.bis(); ++i) {

@@ -72,6 +72,7 @@ void frmBetrC::baueTafel()
 void frmBetrC::ordneAn()
 {
     using namespace anordnung;
+    using anordnung::feld;
     constexpr double breite = 13;
     aufbau = karten(
         {spalte({karte({}, lebensunterhalt())}),

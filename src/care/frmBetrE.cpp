@@ -67,6 +67,7 @@ void frmBetrE::richteVermittlungenEin()
 void frmBetrE::ordneAn()
 {
     using namespace anordnung;
+    using anordnung::feld;
     std::vector<Anordnung> zeilen;
     for (int i = lblVermitt.von(); i <= lblVermitt.bis(); ++i) {
         zeilen.push_back(tabellenzeile(lblVermitt(i), {&triJaNeinVermitt(i)}));

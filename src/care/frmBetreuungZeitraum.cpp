@@ -31,6 +31,7 @@ frmBetreuungZeitraum::frmBetreuungZeitraum(std::int32_t kernID, bool istNeu, std
 void frmBetreuungZeitraum::ordneAn()
 {
     using namespace anordnung;
+    using anordnung::feld;
     constexpr double datumsbreite = 9;
     constexpr double knopfbreite = 8.5;
     constexpr double beschriftungsbreite = 2.5;

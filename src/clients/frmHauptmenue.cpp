@@ -9,12 +9,11 @@
 
 namespace {
 
-using namespace anordnung;
-
 /// A list with the buttons of its commands below it, the deleting one apart.
 Anordnung listenkarte(std::string_view titel, Anordnung liste, Schaltfläche& hinzufügen, Schaltfläche& bearbeiten,
                       Schaltfläche& löschen)
 {
+    using namespace anordnung;
     return füllend(karte(titel, spalte({füllend(std::move(liste)), zeile({element(hinzufügen), element(bearbeiten),
                                                                           dehnung(), element(löschen)})})));
 }
@@ -45,6 +44,7 @@ void frmHauptmenü::baueMenü()
 
 void frmHauptmenü::ordneAn()
 {
+    using namespace anordnung;
     kopfband.titel = &lblHeader;
     // lists fill the page: wider than a card of fields, also on a wide screen
     constexpr double breiteDerKlienten = 66;

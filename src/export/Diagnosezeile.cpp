@@ -61,7 +61,7 @@ Exportspalte diagnosespalteAus(const Satzfeld& feld, int nummer)
     }
 }
 
-Exportspalte betreuungsspalteAus(const Satzfeld& feld, int nummer)
+Exportspalte diagnosespalteAusBetreuung(const Satzfeld& feld, int nummer)
 {
     Exportspalte spalte{.kodierung = Kodierung::Tabelle, .feld = nummer, .werte = feld.werte};
     if (feld.art == Feldart::hdOhne || feld.art == Feldart::ivKonsum) {
@@ -73,11 +73,11 @@ Exportspalte betreuungsspalteAus(const Satzfeld& feld, int nummer)
     return spalte;
 }
 
-std::vector<Exportspalte> baueSpalten()
+std::vector<Exportspalte> baueDiagnosespalten()
 {
     std::vector<Exportspalte> spalten;
     trageFelderEin(spalten, 'D', diagnosefelder(), diagnosespalteAus);
-    trageFelderEin(spalten, 'D', betreuungsfelder(), betreuungsspalteAus);
+    trageFelderEin(spalten, 'D', betreuungsfelder(), diagnosespalteAusBetreuung);
     trageAnfangEin(spalten, {.satz = Satzart::Diagnose, .feld = feld::diag::kernID},
                    {.satz = Satzart::Diagnose, .feld = feld::diag::betrID});
     return spalten;
@@ -87,7 +87,7 @@ std::vector<Exportspalte> baueSpalten()
 
 const std::vector<Exportspalte>& diagnosespalten()
 {
-    static const auto spalten = baueSpalten();
+    static const auto spalten = baueDiagnosespalten();
     return spalten;
 }
 

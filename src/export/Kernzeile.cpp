@@ -50,7 +50,7 @@ Exportspalte klientenspalteAus(const Satzfeld& feld, int nummer)
     return {.kodierung = kodierung, .satz = Satzart::Klient, .feld = nummer, .werte = feld.werte};
 }
 
-std::vector<Exportspalte> baueSpalten()
+std::vector<Exportspalte> baueKernspalten()
 {
     std::vector<Exportspalte> spalten;
     trageFelderEin(spalten, 'K', betreuungsfelder(), betreuungsspalteAus);
@@ -64,7 +64,7 @@ std::vector<Exportspalte> baueSpalten()
 
 const std::vector<Exportspalte>& kernspalten()
 {
-    static const auto spalten = baueSpalten();
+    static const auto spalten = baueKernspalten();
     return spalten;
 }
 

@@ -49,6 +49,7 @@ private:
 frmExport::frmExport() : Bildschirm("frmExport"_t)
 {
     using namespace anordnung;
+    using anordnung::feld;
     setzeTitel("Export"_t);
     istKindfenster = true;
     breiteEm = 30;

@@ -26,9 +26,9 @@ Datum leseAltdatum(std::string_view text, const std::filesystem::path& datei)
 }
 
 /// The older clients by number. The last line stands in for a client that is missing.
-class Klientenverzeichnis {
+class Altklienten {
 public:
-    explicit Klientenverzeichnis(const Eingabedatei& datei)
+    explicit Altklienten(const Eingabedatei& datei)
     {
         datei.fürJedenSatz([this](std::string_view zeile) {
             m_zeilen.try_emplace(getFeld(zeile, altfeld::klient::nummer), zeile);
@@ -87,7 +87,7 @@ std::string alterswert(std::string_view klient, std::string_view betreuung, cons
 
 void ergänzeBetreuungen(const Eingabedatei& betreuungen, const Eingabedatei& klienten, Schreiber& betreuungenExp)
 {
-    const Klientenverzeichnis verzeichnis(klienten);
+    const Altklienten verzeichnis(klienten);
     betreuungen.fürJedenSatz([&](std::string_view zeile) {
         const auto nummer = getFeld(zeile, altfeld::betreuung::nummer);
         leseAltnummer(nummer, betreuungen.pfad());

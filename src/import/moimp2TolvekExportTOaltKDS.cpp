@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr auto null = "0"_t;
+constexpr auto ohneEintrag = "0"_t;
 constexpr auto zwei = "2"_t;
 
 /// The client's values that the core row needs; empty for a client that is missing.
@@ -40,7 +40,7 @@ constexpr std::array nationalitäten{Codewort{"Deutsche(r)"_t, "1"_t}, Codewort{
 template <std::size_t N> std::string_view codeVon(const std::array<Codewort, N>& liste, std::string_view text)
 {
     const auto ort = std::find_if(liste.begin(), liste.end(), [&](const Codewort& w) { return w.text == text; });
-    return ort == liste.end() ? null : ort->code;
+    return ort == liste.end() ? ohneEintrag : ort->code;
 }
 
 class Klientenverzeichnis {
@@ -130,7 +130,7 @@ std::string_view klassencode(const Betreuungssatz& satz, int spalte)
 {
     const int feld = altfeld::betreuung::gruppe(altfeld::gruppe::f10 + spalte - altspalte::diag::f10);
     if (satz.istLeer(feld)) {
-        return null;
+        return ohneEintrag;
     }
     return satz.feld(feld) == "10" ? "1"_t : zwei;
 }
@@ -138,7 +138,7 @@ std::string_view klassencode(const Betreuungssatz& satz, int spalte)
 /// The columns of the diagnosis row that no instruction fills; nothing for the others.
 std::optional<std::string_view> festeDiagnosespalte(const Betreuungssatz& satz, int spalte)
 {
-    const auto belegt = [&](int von, int bis) { return istEineBelegt(satz, von, bis) ? zwei : null; };
+    const auto belegt = [&](int von, int bis) { return istEineBelegt(satz, von, bis) ? zwei : ohneEintrag; };
     if (spalte >= altspalte::diag::f10 && spalte <= altspalte::diag::f19) {
         return klassencode(satz, spalte);
     }

@@ -16,7 +16,7 @@ constexpr std::string_view schlußwort = "Prüfsumme"_t;
 constexpr std::string_view keineLänge = "-";
 constexpr int hexadezimal = 16;
 
-std::string alsText(std::uint64_t zahl, int basis = 10)
+std::string alsZiffern(std::uint64_t zahl, int basis = 10)
 {
     std::array<char, 24> ziffern{};
     const auto ende = std::to_chars(ziffern.data(), ziffern.data() + ziffern.size(), zahl, basis).ptr;
@@ -61,10 +61,10 @@ std::string alsVermerktext(const std::vector<Vermerk>& vermerke, const Bestandsp
     auto text = verbinde(kopfzeile, "\r\n");
     for (const auto& vermerk : vermerke) {
         text += verbinde(pfadtext(pfade.von(vermerk.tabelle).filename()), ';',
-                         vermerk.alteLänge ? alsText(*vermerk.alteLänge) : std::string(keineLänge), ';',
-                         alsText(vermerk.neueLänge), ';', alsText(vermerk.prüfsumme, hexadezimal), "\r\n");
+                         vermerk.alteLänge ? alsZiffern(*vermerk.alteLänge) : std::string(keineLänge), ';',
+                         alsZiffern(vermerk.neueLänge), ';', alsZiffern(vermerk.prüfsumme, hexadezimal), "\r\n");
     }
-    return verbinde(text, schlußwort, ';', alsText(Prüfsumme::von(text), hexadezimal), "\r\n");
+    return verbinde(text, schlußwort, ';', alsZiffern(Prüfsumme::von(text), hexadezimal), "\r\n");
 }
 
 std::optional<std::vector<Vermerk>> leseVermerke(std::string_view text, const Bestandspfade& pfade)

@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr auto fehlerHier = "Fehler hier";
 using Texte = std::vector<std::string>;
 
 constexpr int konsumart = 1;

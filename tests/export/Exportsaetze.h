@@ -14,6 +14,9 @@
 
 using Belegung = std::initializer_list<std::pair<int, std::string_view>>; ///< field number, text
 
+/// The box about a value that no list knows.
+inline constexpr auto fehlerHier = "Fehler hier";
+
 inline std::string mitFeldern(std::string_view zeile, Belegung belegung)
 {
     std::vector<std::string> felder{""};

@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr auto fehlerHier = "Fehler hier";
 constexpr auto fehler = "Fehler";
 using Texte = std::vector<std::string>;
 

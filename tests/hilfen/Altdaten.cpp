@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int klientenfelder = 9;
+constexpr int klientenfelderAlt = 9;
 constexpr int betreuungsfelderAlt = 151;
 
 using Texte = std::span<const std::string_view>;
@@ -154,9 +154,9 @@ void setze(std::vector<std::string>& felder, const Altfelder& neue)
     }
 }
 
-class Zufall {
+class Zufallswahl {
 public:
-    explicit Zufall(unsigned saat) : m_würfel(saat) {}
+    explicit Zufallswahl(unsigned saat) : m_würfel(saat) {}
 
     int zahl(int von, int bis) { return von + static_cast<int>(m_würfel() % static_cast<unsigned>(bis - von + 1)); }
     std::string_view eines(Texte texte) { return texte[m_würfel() % texte.size()]; }
@@ -169,7 +169,7 @@ private:
     std::mt19937 m_würfel; ///< used raw, since the standard's distributions differ between libraries
 };
 
-std::string zufälligeBetreuung(Zufall& zufall, int klient, int nummer)
+std::string zufälligeBetreuung(Zufallswahl& zufall, int klient, int nummer)
 {
     std::vector<std::string> felder(betreuungsfelderAlt);
     for (const auto& vorrat : vorräte) {
@@ -192,7 +192,7 @@ std::string zufälligeBetreuung(Zufall& zufall, int klient, int nummer)
 
 std::string altKlient(int nummer, const Altfelder& felder)
 {
-    std::vector<std::string> alle(klientenfelder);
+    std::vector<std::string> alle(klientenfelderAlt);
     alle[0] = alsText(nummer);
     setze(alle, {{2, "Muster"_t},
                  {3, "Erika"_t},
@@ -221,7 +221,7 @@ Altdaten erzeugeAltdaten(int klienten, int betreuungenJeKlient, unsigned saat)
     constexpr std::array namen{"Amsel"_t, "Bär"_t, "Dachs"_t, "Elster"_t};
     constexpr std::array geschlechter{"Männlich"_t, "Weiblich"_t, ""_t};
     constexpr std::array nationalitäten{"Deutsche(r)"_t, "Bürger eines EU-Landes"_t, "Sonstige"_t};
-    Zufall zufall(saat);
+    Zufallswahl zufall(saat);
     Altdaten daten;
     for (int klient = 1; klient <= klienten; ++klient) {
         const auto geburt = zufall.zahl(0, 9) == 0 ? std::string("unbekannt") : zufall.datum(1940, 1990);

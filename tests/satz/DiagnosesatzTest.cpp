@@ -12,17 +12,17 @@
 
 namespace {
 
-constexpr int feldzahl = 245;
+constexpr int diagnosefeldzahl = 245;
 
 std::string leer()
 {
-    return std::string(feldzahl, trenner);
+    return std::string(diagnosefeldzahl, trenner);
 }
 
 /// DSDiag with one field set.
 std::string mit(std::string satz, int position, std::string_view text)
 {
-    return verbinde(felder(satz, 1, position - 1), text, trenner, felder(satz, position + 1, feldzahl));
+    return verbinde(felder(satz, 1, position - 1), text, trenner, felder(satz, position + 1, diagnosefeldzahl));
 }
 
 std::string mitBlockfeld(int gruppe, int platz, std::string_view text)
@@ -34,7 +34,7 @@ std::string mitBlockfeld(int gruppe, int platz, std::string_view text)
 std::string nummeriert()
 {
     std::string satz;
-    for (int position = 1; position <= feldzahl; ++position) {
+    for (int position = 1; position <= diagnosefeldzahl; ++position) {
         satz += verbinde(alsText(position), trenner);
     }
     return satz;
@@ -151,7 +151,7 @@ TEST(SchreibeGruppe, ErsetztNurIhrenBlock)
         std::string satz = nummeriert();
         schreibeGruppeInDSDiag(satz, gruppe, block);
         EXPECT_EQ(satz, verbinde(felder(nummeriert(), 1, blockposition(gruppe, 1) - 1), block,
-                                 felder(nummeriert(), blockposition(gruppe, HDMarke) + 1, feldzahl)));
+                                 felder(nummeriert(), blockposition(gruppe, HDMarke) + 1, diagnosefeldzahl)));
     }
 }
 
@@ -285,7 +285,7 @@ TEST(Diagnosesatz, BleibtGanzImZufallslauf)
             EXPECT_EQ(zerlegeDSDiag(satz, g).block, verbinde(block, wirdHauptdiagnose ? "1"_t : ""_t, trenner));
             EXPECT_TRUE(hatBit(leseBitfeld(satz), g));
         }
-        ASSERT_EQ(anzahlFelder(satz), feldzahl + 1);
+        ASSERT_EQ(anzahlFelder(satz), diagnosefeldzahl + 1);
         ASSERT_EQ(satz.back(), trenner);
         ASSERT_EQ(felder(satz, weitereDiagnose(1), bitfeldposition - 1), weitere);
         int marken = 0;

@@ -4,7 +4,7 @@
 
 namespace {
 
-const std::string klient =
+const std::string einKlient =
     satz({"", "1", "a", "Adler", "Anna", "Weg 1", "01067", "Ort", "weiblich", "1.2.70", "geheim"});
 
 TEST(Rohtabellen, blätterInIhrerReihenfolge)
@@ -21,7 +21,7 @@ TEST(Rohtabellen, blätterInIhrerReihenfolge)
 TEST(Rohtabellen, klientenOhneMemoUndOhneLeeresFeld)
 {
     Mappenlauf lauf;
-    lauf.schreibe({klient}, {}, {});
+    lauf.schreibe({einKlient}, {}, {});
     const Blatt& blatt = lauf.blatt("KernDat");
     EXPECT_EQ(blatt.spaltenanzahl(), 9);
     EXPECT_EQ(blatt.zeilenanzahl(), 4);
@@ -43,7 +43,7 @@ TEST(Rohtabellen, klientenOhneMemoUndOhneLeeresFeld)
 TEST(Rohtabellen, diagnosenOhneUngenutzteSpaltenUndBitfeld)
 {
     Mappenlauf lauf;
-    lauf.schreibe({klient}, {}, {satzMit(247, {{1, "1"}, {2, "1"}, {3, "x"}, {247, "77"}})});
+    lauf.schreibe({einKlient}, {}, {satzMit(247, {{1, "1"}, {2, "1"}, {3, "x"}, {247, "77"}})});
     const Blatt& blatt = lauf.blatt("DiagDat");
     // 246 columns less the 21 that groups 21 to 29 never fill
     EXPECT_EQ(blatt.spaltenanzahl(), 225);
@@ -103,7 +103,7 @@ TEST(Rohtabellen, weitereDiagnosenBleibenTextMitIhremBuchstaben)
 TEST(Rohtabellen, leereErsteZeileLässtDasBlattLeer)
 {
     Mappenlauf lauf;
-    lauf.schreibe({"", klient}, {"", satzMit(192, {{1, "1"}})}, {"", satzMit(247, {{1, "1"}})});
+    lauf.schreibe({"", einKlient}, {"", satzMit(192, {{1, "1"}})}, {"", satzMit(247, {{1, "1"}})});
     for (const std::string_view name : {"KernDat", "BetrDat", "DiagDat"}) {
         EXPECT_EQ(lauf.blatt(name).zeilenanzahl(), 0) << name;
     }

@@ -10,7 +10,7 @@ using Sätze = std::vector<std::string>;
 
 const std::string leerstatus(1, '\0');
 
-std::string klient(std::string_view id, std::string_view status, std::string_view geburt = "unbekannt")
+std::string klientMitStatus(std::string_view id, std::string_view status, std::string_view geburt = "unbekannt")
 {
     return satz({""_t, id, status, "Adler"_t, ""_t, ""_t, ""_t, ""_t, "keine Angaben"_t, geburt, ""_t});
 }
@@ -42,9 +42,9 @@ protected:
     /// A year with the text that the repair makes of it.
     void erwarteJahr(const std::string& vorher, const std::string& nachher)
     {
-        schreibe({klient("1", "", "01.01." + vorher)}, {});
+        schreibe({klientMitStatus("1", "", "01.01." + vorher)}, {});
         bereinigeDatum(lauf.stand.bestand);
-        erwarteKlienten({klient("1", "", "01.01." + nachher)});
+        erwarteKlienten({klientMitStatus("1", "", "01.01." + nachher)});
     }
 
     Testlauf lauf;
@@ -67,26 +67,28 @@ TEST_F(ReparaturenTest, JahrhundertgrenzeIstNeun)
 
 TEST_F(ReparaturenTest, DatumOhnePunktMeldetFehler)
 {
-    schreibe({klient("1", "", ""), klient("2", "", "70"), klient("3", "", "unbekannt")}, {});
+    schreibe({klientMitStatus("1", "", ""), klientMitStatus("2", "", "70"), klientMitStatus("3", "", "unbekannt")}, {});
     bereinigeDatum(lauf.stand.bestand);
-    erwarteKlienten({klient("1", "", "20"), klient("2", "", "1970"), klient("3", "", "unbekannt")});
+    erwarteKlienten(
+        {klientMitStatus("1", "", "20"), klientMitStatus("2", "", "1970"), klientMitStatus("3", "", "unbekannt")});
     EXPECT_EQ(lauf.umgebung.meldungstexte(), (Sätze{"Fehler", "Fehler"}));
     EXPECT_EQ(lauf.umgebung.meldungen[0].symbol, Symbol::Keins);
 }
 
 TEST_F(ReparaturenTest, BeginnUndEndeDerBetreuungen)
 {
-    schreibe({klient("1", "")}, {betreuung("1", "01.01.1998", "31.01.1998"), betreuung("1", "01.01.99", "31.01.99"),
-                                 betreuung("1", "01.03.07", "offen"), betreuung("1", "01.01.2005", "31.01.06")});
+    schreibe({klientMitStatus("1", "")},
+             {betreuung("1", "01.01.1998", "31.01.1998"), betreuung("1", "01.01.99", "31.01.99"),
+              betreuung("1", "01.03.07", "offen"), betreuung("1", "01.01.2005", "31.01.06")});
     bereinigeDatum(lauf.stand.bestand);
     erwarteBetreuungen({betreuung("1", "01.01.1998", "31.01.1998"), betreuung("1", "01.01.1999", "31.01.1999"),
                         betreuung("1", "01.03.2007", "offen"), betreuung("1", "01.01.2005", "31.01.2006")});
-    erwarteKlienten({klient("1", "")});
+    erwarteKlienten({klientMitStatus("1", "")});
 }
 
 TEST_F(ReparaturenTest, OhneBedarfWirdKeineTabelleAngefaßt)
 {
-    schreibe({klient("1", "", "15.03.1970")}, {betreuung("1", "01.01.2005", "offen")});
+    schreibe({klientMitStatus("1", "", "15.03.1970")}, {betreuung("1", "01.01.2005", "offen")});
     const auto kern = std::filesystem::last_write_time(lauf.pfade().kernDat);
     const auto betr = std::filesystem::last_write_time(lauf.pfade().betrDat);
     bereinigeDatum(lauf.stand.bestand);
@@ -99,19 +101,19 @@ TEST_F(ReparaturenTest, LeererBestandOderLeereErsteZeileWirdNichtRepariert)
     schreibe({}, {betreuung("1", "01.01.05", "31.01.05")});
     bereinigeDatum(lauf.stand.bestand);
     erwarteBetreuungen({betreuung("1", "01.01.05", "31.01.05")});
-    schreibe({"", klient("1", "", "01.01.70")}, {});
+    schreibe({"", klientMitStatus("1", "", "01.01.70")}, {});
     bereinigeDatum(lauf.stand.bestand);
-    erwarteKlienten({"", klient("1", "", "01.01.70")});
+    erwarteKlienten({"", klientMitStatus("1", "", "01.01.70")});
 }
 
 TEST_F(ReparaturenTest, FeldzahlenWerdenGemeldet)
 {
-    schreibe({klient("1", "")}, {});
+    schreibe({klientMitStatus("1", "")}, {});
     auto gefunden = bereinigeDatum(lauf.stand.bestand);
     ASSERT_TRUE(gefunden);
     EXPECT_EQ(gefunden->kern, 11);
     EXPECT_EQ(gefunden->betr, 11) << "the client line stands in for the missing care line";
-    schreibe({klient("1", "")}, {betreuung("1", "01.01.2005", "offen")});
+    schreibe({klientMitStatus("1", "")}, {betreuung("1", "01.01.2005", "offen")});
     gefunden = bereinigeDatum(lauf.stand.bestand);
     ASSERT_TRUE(gefunden);
     EXPECT_EQ(gefunden->betr, 5);
@@ -121,16 +123,16 @@ TEST_F(ReparaturenTest, ZeileDieVorOderInDemDatumEndetBleibtWieSieIst)
 {
     const auto kurze = satz({"", "2", ""});
     const auto mittenImDatum = satz({"", "3", "", "Meise", "", "", "", "", "keine Angaben", "01.01.19"});
-    schreibe({klient("1", "", "01.01.70"), kurze, mittenImDatum}, {satz({"1", "1", "01.01.05", "31.01.20"})});
+    schreibe({klientMitStatus("1", "", "01.01.70"), kurze, mittenImDatum}, {satz({"1", "1", "01.01.05", "31.01.20"})});
     bereinigeDatum(lauf.stand.bestand);
-    erwarteKlienten({klient("1", "", "01.01.1970"), kurze, mittenImDatum});
+    erwarteKlienten({klientMitStatus("1", "", "01.01.1970"), kurze, mittenImDatum});
     erwarteBetreuungen({satz({"1", "1", "01.01.2005", "31.01.20"})});
     EXPECT_TRUE(lauf.umgebung.meldungen.empty());
 }
 
 TEST_F(ReparaturenTest, FehlendeTabelleIstEinLaufzeitfehler)
 {
-    schreibe({klient("1", "")}, {});
+    schreibe({klientMitStatus("1", "")}, {});
     std::filesystem::remove(lauf.pfade().betrDat);
     EXPECT_THROW(bereinigeDatum(lauf.stand.bestand), Laufzeitfehler);
     std::filesystem::remove(lauf.pfade().kernDat);
@@ -139,11 +141,12 @@ TEST_F(ReparaturenTest, FehlendeTabelleIstEinLaufzeitfehler)
 
 TEST_F(ReparaturenTest, StatusAusDenBetreuungen)
 {
-    schreibe({klient("1", ""), klient("2", "x"), klient("3", ""), klient("4", "o")},
+    schreibe({klientMitStatus("1", ""), klientMitStatus("2", "x"), klientMitStatus("3", ""), klientMitStatus("4", "o")},
              {betreuung("1", "", "31.01.2005"), betreuung("2", "", "offen"), betreuung("3", "", "31.01.2005"),
               betreuung("1", "", "offen"), betreuung("2", "", "31.01.2005"), betreuung("99", "", "offen")});
     bereinigeBetrOA(lauf.stand.bestand);
-    erwarteKlienten({klient("1", "o"), klient("2", "o"), klient("3", "a"), klient("4", leerstatus)});
+    erwarteKlienten({klientMitStatus("1", "o"), klientMitStatus("2", "o"), klientMitStatus("3", "a"),
+                     klientMitStatus("4", leerstatus)});
 }
 
 TEST_F(ReparaturenTest, StatusLeerenBestandsBleibtLeer)
@@ -156,22 +159,22 @@ TEST_F(ReparaturenTest, StatusLeerenBestandsBleibtLeer)
 TEST_F(ReparaturenTest, BeschädigteZeilenBleibenStehen)
 {
     const std::string zuLang = satz({"", "5", "", std::string(40000, 'x')});
-    schreibe(
-        {klient("1", ""), klient("x", "a"), "", "kurz", satz({"", "1"}), zuLang, klient("99999", ""), klient("2", "")},
-        {"", betreuung("y", "", "offen"), betreuung("99999999999", "", "offen"), std::string(40000, 'z'),
-         betreuung("2", "", "offen"), betreuung("99999", "", "offen")});
+    schreibe({klientMitStatus("1", ""), klientMitStatus("x", "a"), "", "kurz", satz({"", "1"}), zuLang,
+              klientMitStatus("99999", ""), klientMitStatus("2", "")},
+             {"", betreuung("y", "", "offen"), betreuung("99999999999", "", "offen"), std::string(40000, 'z'),
+              betreuung("2", "", "offen"), betreuung("99999", "", "offen")});
     bereinigeBetrOA(lauf.stand.bestand);
-    erwarteKlienten({klient("1", leerstatus), klient("x", "a"), "", "kurz", satz({"", "1"}), zuLang,
-                     klient("99999", "o"), klient("2", "o")});
+    erwarteKlienten({klientMitStatus("1", leerstatus), klientMitStatus("x", "a"), "", "kurz", satz({"", "1"}), zuLang,
+                     klientMitStatus("99999", "o"), klientMitStatus("2", "o")});
     EXPECT_TRUE(lauf.umgebung.meldungen.empty());
 }
 
 TEST_F(ReparaturenTest, FehlendeDateiLäßtAllesStehen)
 {
-    schreibe({klient("1", "o")}, {});
+    schreibe({klientMitStatus("1", "o")}, {});
     std::filesystem::remove(lauf.pfade().betrDat);
     bereinigeBetrOA(lauf.stand.bestand);
-    erwarteKlienten({klient("1", "o")});
+    erwarteKlienten({klientMitStatus("1", "o")});
     std::filesystem::remove(lauf.pfade().kernDat);
     bereinigeBetrOA(lauf.stand.bestand);
     EXPECT_FALSE(std::filesystem::exists(lauf.pfade().kernDat));

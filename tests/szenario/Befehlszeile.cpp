@@ -9,12 +9,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string alsText(const fs::path& pfad)
-{
-    const auto u8 = pfad.u8string();
-    return {u8.begin(), u8.end()};
-}
-
 Oberflächenwahl liesOberfläche(std::string_view wert)
 {
     if (wert == "ohne") {
@@ -62,6 +56,12 @@ std::vector<fs::path> szenarienIn(const fs::path& ordner)
 
 } // namespace
 
+std::string pfadAlsUtf8(const fs::path& pfad)
+{
+    const auto u8 = pfad.u8string();
+    return {u8.begin(), u8.end()};
+}
+
 Befehlszeile liesBefehlszeile(const std::vector<std::string>& argumente)
 {
     Befehlszeile befehlszeile;
@@ -89,12 +89,13 @@ std::vector<fs::path> findeSzenarien(const Befehlszeile& befehlszeile)
     std::vector<fs::path> dateien;
     for (const auto& ort : befehlszeile.orte) {
         if (!fs::exists(ort)) {
-            throw Aufruffehler(alsText(ort) + " ist nicht da");
+            throw Aufruffehler(pfadAlsUtf8(ort) + " ist nicht da");
         }
         const auto gefunden = fs::is_directory(ort) ? szenarienIn(ort) : std::vector{ort};
         dateien.insert(dateien.end(), gefunden.begin(), gefunden.end());
     }
-    std::erase_if(dateien, [&](const auto& pfad) { return alsText(pfad).find(befehlszeile.nur) == std::string::npos; });
+    std::erase_if(dateien,
+                  [&](const auto& pfad) { return pfadAlsUtf8(pfad).find(befehlszeile.nur) == std::string::npos; });
     // neighbours go into different parts, since the long ones are neighbours
     std::size_t nummer = 0;
     std::erase_if(dateien, [&](const auto&) { return nummer++ % befehlszeile.teile != befehlszeile.teil - 1; });

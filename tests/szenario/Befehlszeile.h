@@ -18,6 +18,9 @@ struct Befehlszeile {
     std::vector<std::filesystem::path> orte;
 };
 
+/// A path as it is printed and compared, UTF-8 on every system.
+std::string pfadAlsUtf8(const std::filesystem::path& pfad);
+
 /// Throws Aufruffehler.
 Befehlszeile liesBefehlszeile(const std::vector<std::string>& argumente);
 

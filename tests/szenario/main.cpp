@@ -50,12 +50,6 @@ struct Ergebnis {
     bool unlesbar = false;
 };
 
-std::string alsText(const std::filesystem::path& pfad)
-{
-    const auto u8 = pfad.u8string();
-    return {u8.begin(), u8.end()};
-}
-
 void melde(const std::string& datei, std::size_t zeile, const std::string& text)
 {
     std::cout << "FEHLER " << datei << ':' << zeile << ": " << text << std::endl;
@@ -66,12 +60,12 @@ bool besteht(const Szenario& szenario, const Oberflächen& oberflächen)
 {
     for (const auto& oberfläche : oberflächen) {
         if (const auto fehlschlag = führeAus(szenario, *oberfläche)) {
-            melde(alsText(szenario.pfad), fehlschlag->zeile,
+            melde(pfadAlsUtf8(szenario.pfad), fehlschlag->zeile,
                   fehlschlag->text + " (Oberfläche " + std::string(oberfläche->name()) + ")");
             return false;
         }
     }
-    std::cout << "ok " << alsText(szenario.pfad) << std::endl;
+    std::cout << "ok " << pfadAlsUtf8(szenario.pfad) << std::endl;
     return true;
 }
 
@@ -82,7 +76,7 @@ void führeAus(const std::filesystem::path& datei, const Oberflächen& oberfläc
         ++(besteht(szenario, oberflächen) ? ergebnis.bestanden : ergebnis.gescheitert);
     } catch (const Sprachfehler& fehler) {
         ergebnis.unlesbar = true;
-        melde(alsText(datei), fehler.zeile(), std::string("erwartet ") + fehler.what());
+        melde(pfadAlsUtf8(datei), fehler.zeile(), std::string("erwartet ") + fehler.what());
     }
 }
 
@@ -106,7 +100,7 @@ std::vector<std::string> alsTexte(const std::vector<std::filesystem::path>& argu
 {
     std::vector<std::string> texte;
     for (const auto& argument : argumente) {
-        texte.push_back(alsText(argument));
+        texte.push_back(pfadAlsUtf8(argument));
     }
     return texte;
 }
@@ -119,7 +113,8 @@ int main(int argc, char** argv)
     try {
         return führeAlleAus(liesBefehlszeile(alsTexte(argumente(argc, argv))));
     } catch (const Aufruffehler& fehler) {
-        std::cerr << fehler.what() << "\nszenario [--oberfläche=ohne|qt|beide] [--nur=WORT] [--teil=N/ALLE] DATEI-ODER-ORDNER ...\n";
+        std::cerr << fehler.what()
+                  << "\nszenario [--oberfläche=ohne|qt|beide] [--nur=WORT] [--teil=N/ALLE] DATEI-ODER-ORDNER ...\n";
         return 2;
     }
 }

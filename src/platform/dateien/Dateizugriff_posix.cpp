@@ -20,15 +20,10 @@ namespace {
 constexpr mode_t nurEigentümerDatei = 0600;
 constexpr mode_t nurEigentümerOrdner = 0700;
 
-[[noreturn]] void scheitere()
-{
-    throw Dateifehler(systemgrund(std::error_code(errno, std::generic_category())));
-}
-
 void prüfe(bool gelungen)
 {
     if (!gelungen) {
-        scheitere();
+        scheitereAmSystem();
     }
 }
 
@@ -57,7 +52,7 @@ std::uint64_t längeVon(const Griff& griff)
     prüfe(::fstat(griff.nummer(), &angaben) == 0);
     if (S_ISDIR(angaben.st_mode)) {
         errno = EISDIR;
-        scheitere();
+        scheitereAmSystem();
     }
     if (!S_ISREG(angaben.st_mode)) {
         throw Dateifehler(std::string("unter diesem Namen liegt keine gewöhnliche Datei"_t));

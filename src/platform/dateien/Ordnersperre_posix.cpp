@@ -12,11 +12,6 @@
 
 namespace {
 
-[[noreturn]] void scheitere()
-{
-    throw Dateifehler(systemgrund(std::error_code(errno, std::generic_category())));
-}
-
 class PosixSperre : public Ordnersperre {
 public:
     explicit PosixSperre(int nummer) : m_nummer(nummer) {}
@@ -32,7 +27,7 @@ public:
                 return false;
             }
             if (errno != EINTR) {
-                scheitere();
+                scheitereAmSystem();
             }
         }
         return true;
@@ -47,7 +42,7 @@ std::unique_ptr<PosixSperre> öffne(const std::filesystem::path& pfad, int wie)
     constexpr mode_t nurEigentümer = 0600;
     const int nummer = ::open(pfad.c_str(), wie | O_CLOEXEC, nurEigentümer);
     if (nummer < 0) {
-        scheitere();
+        scheitereAmSystem();
     }
     return std::make_unique<PosixSperre>(nummer);
 }

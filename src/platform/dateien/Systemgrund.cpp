@@ -1,8 +1,10 @@
 #include "platform/dateien/Systemgrund.h"
 
+#include "platform/dateien/Dateizugriff.h"
 #include "platform/text/Text.h"
 
 #include <array>
+#include <cerrno>
 #include <string_view>
 
 namespace {
@@ -35,4 +37,9 @@ std::string systemgrund(const std::error_code& fehler)
         }
     }
     return verbinde("Systemfehler "_t, std::to_string(fehler.value()));
+}
+
+void scheitereAmSystem()
+{
+    throw Dateifehler(systemgrund(std::error_code(errno, std::generic_category())));
 }

@@ -18,8 +18,8 @@ namespace {
 
 using Wort = Anordnung::Wort;
 
-constexpr double zeilenhöhe = 1.9;
-constexpr double zeilenhöheMindestens = 1.6; ///< where the page would have to scroll otherwise
+constexpr double formularzeilenhöhe = 1.9;
+constexpr double formularzeilenhöheMindestens = 1.6; ///< where the page would have to scroll otherwise
 
 void sammle(const Anordnung& a, std::vector<Element*>& elemente)
 {
@@ -45,11 +45,11 @@ public:
 
     QSize sizeHint() const override
     {
-        return (QWidget::sizeHint() + QSize(0, em(0.3))).expandedTo({0, em(zeilenhöhe)});
+        return (QWidget::sizeHint() + QSize(0, em(0.3))).expandedTo({0, em(formularzeilenhöhe)});
     }
     QSize minimumSizeHint() const override
     {
-        return QWidget::minimumSizeHint().expandedTo({0, em(zeilenhöheMindestens)});
+        return QWidget::minimumSizeHint().expandedTo({0, em(formularzeilenhöheMindestens)});
     }
 };
 

@@ -31,9 +31,9 @@ constexpr double fensterhöhe = 42;
 constexpr double bildbreite = 38;
 
 /// The text of the handbook with its pictures, which are fitted to the width of the window.
-class Blatt : public QTextBrowser {
+class Handbuchblatt : public QTextBrowser {
 public:
-    Blatt(QString ordner, QWidget* eltern) : QTextBrowser(eltern), m_ordner(std::move(ordner))
+    Handbuchblatt(QString ordner, QWidget* eltern) : QTextBrowser(eltern), m_ordner(std::move(ordner))
     {
         setOpenLinks(false);
         setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
@@ -117,7 +117,7 @@ public:
         setWindowTitle(QStringLiteral("Tolvek7 - Handbuch"));
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
-        m_blatt = new Blatt(ordner, this);
+        m_blatt = new Handbuchblatt(ordner, this);
         layout->addWidget(m_blatt);
         connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, [this] { close(); });
         const QRect platz = QGuiApplication::primaryScreen()->availableGeometry();
@@ -147,7 +147,7 @@ protected:
     }
 
 private:
-    Blatt* m_blatt;
+    Handbuchblatt* m_blatt;
     QPointer<QWidget> m_vorher;
 };
 

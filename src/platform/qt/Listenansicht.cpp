@@ -22,7 +22,7 @@ namespace {
 constexpr std::size_t gemesseneZeilen = 200; ///< the widths of columns follow the first rows
 constexpr int zeilenMindestens = 6;
 constexpr int zeilenGern = 16;
-constexpr double zeilenhöhe = 1.45;
+constexpr double listenzeilenhöhe = 1.45;
 constexpr double kopfhöhe = 1.9;
 constexpr double spaltenrand = 1.35;
 constexpr double kurzeSpalte = 7; ///< a number or a date is not cut
@@ -268,10 +268,10 @@ QSize Listenansicht::sizeHint() const
 {
     // a list of a given width does not push its neighbour about when its rows change
     const int breite = m_breite > 0 ? m_breite * 13 / 10 : std::max(em(14), summe(m_spaltenbreiten) + em(1));
-    return {breite, em(kopfhöhe + zeilenhöhe * zeilenGern)};
+    return {breite, em(kopfhöhe + listenzeilenhöhe * zeilenGern)};
 }
 
 QSize Listenansicht::minimumSizeHint() const
 {
-    return {m_breite > 0 ? m_breite : em(14), em(kopfhöhe + zeilenhöhe * zeilenMindestens)};
+    return {m_breite > 0 ? m_breite : em(14), em(kopfhöhe + listenzeilenhöhe * zeilenMindestens)};
 }

@@ -18,8 +18,8 @@
 
 namespace {
 
-constexpr int zeilenMindestens = 4;
-constexpr int zeilenGern = 6;
+constexpr int bewegteZeilenMindestens = 4;
+constexpr int bewegteZeilenGern = 6;
 constexpr std::size_t linksbündigeSpalten = 2;
 constexpr double breiteFrei = 12; ///< least width of a column that shares what is left
 
@@ -209,7 +209,7 @@ int Listungsblatt::höheFür(int bewegteZeilen) const
 
 QSize Listungsblatt::sizeHint() const
 {
-    return {minimumSizeHint().width() + em(6), höheFür(zeilenGern)};
+    return {minimumSizeHint().width() + em(6), höheFür(bewegteZeilenGern)};
 }
 
 QSize Listungsblatt::minimumSizeHint() const
@@ -217,7 +217,7 @@ QSize Listungsblatt::minimumSizeHint() const
     const double breite = std::accumulate(m_breiten.begin(), m_breiten.end(), 0.0, [](double bisher, double eine) {
         return bisher + (eine > 0 ? eine : breiteFrei);
     });
-    return {em(breite), höheFür(zeilenMindestens)};
+    return {em(breite), höheFür(bewegteZeilenMindestens)};
 }
 
 Listung::Listung(const Anordnung& listung, Ansicht& ansicht, QWidget* eltern)

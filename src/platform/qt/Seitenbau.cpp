@@ -17,9 +17,9 @@
 namespace {
 
 /// The body: as high as its content at least, as high as the page where that is more.
-class Blatt : public QScrollArea {
+class Seitenblatt : public QScrollArea {
 public:
-    explicit Blatt(QWidget* eltern) : QScrollArea(eltern)
+    explicit Seitenblatt(QWidget* eltern) : QScrollArea(eltern)
     {
         setWidgetResizable(true);
         setFocusPolicy(Qt::NoFocus);
@@ -168,7 +168,7 @@ Seite baueSeite(Ansicht& ansicht, QWidget* eltern)
     stockwerke->setContentsMargins(0, 0, 0, 0);
     stockwerke->setSpacing(0);
     auto* band = baueBand(ansicht, wurzel); // before the body: the order in which they are read out
-    auto* blatt = new Blatt(wurzel);
+    auto* blatt = new Seitenblatt(wurzel);
     auto* inhalt = new QWidget(blatt->viewport());
     Anordner(ansicht, *inhalt, !ansicht.bildschirm().istKindfenster)
         .baueSeite(ansicht.bildschirm().aufbau, *new QVBoxLayout(inhalt));

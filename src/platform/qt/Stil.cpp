@@ -44,7 +44,7 @@ struct Stilstand {
     double zeilenhöhe = 18;
 };
 
-Stilstand& stand()
+Stilstand& stilstand()
 {
     static Stilstand einer;
     return einer;
@@ -88,7 +88,7 @@ QString fülle(const QString& vorlage, Thema thema)
         const auto einer = treffer.next();
         ergebnis += vorlage.mid(bis, einer.capturedStart() - bis);
         ergebnis += einer.captured(1) == QStringLiteral("thema") ? (thema == Thema::Hell ? "hell" : "dunkel")
-                                                                 : farbeNach(einer.captured(1), stand().farben);
+                                                                 : farbeNach(einer.captured(1), stilstand().farben);
         bis = einer.capturedEnd();
     }
     return ergebnis + vorlage.mid(bis);
@@ -170,7 +170,7 @@ void richteStilEin(QApplication& anwendung, Thema thema)
     nenneProgramm();
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     ladeÜbersetzung(anwendung);
-    auto& s = stand();
+    auto& s = stilstand();
     s.thema = thema;
     s.farben = tafel(thema);
     s.grundschrift = QApplication::font();
@@ -194,12 +194,12 @@ QIcon programmzeichen()
 
 const Farbtafel& farben()
 {
-    return stand().farben;
+    return stilstand().farben;
 }
 
 Thema thema()
 {
-    return stand().thema;
+    return stilstand().thema;
 }
 
 double kontrast(const QColor& eine, const QColor& andere)
@@ -211,7 +211,7 @@ double kontrast(const QColor& eine, const QColor& andere)
 
 int em(double länge)
 {
-    return static_cast<int>(std::lround(länge * stand().zeilenhöhe));
+    return static_cast<int>(std::lround(länge * stilstand().zeilenhöhe));
 }
 
 QFont schrift(Schriftrolle rolle)
@@ -229,7 +229,7 @@ QFont schrift(Schriftrolle rolle)
         {Schriftrolle::Spaltenkopf, 0.9, QFont::DemiBold},
         {Schriftrolle::Wert, 1.0, QFont::DemiBold},
     }};
-    QFont ergebnis = stand().grundschrift;
+    QFont ergebnis = stilstand().grundschrift;
     for (const auto& werte : tabelle) {
         if (werte.rolle == rolle) {
             if (ergebnis.pointSizeF() > 0) {

@@ -15,7 +15,7 @@ std::string liesProgrammdatei(const Lauf& lauf, const Anweisung& anweisung)
     return liesDatei(lauf.imProgramm(anweisung.argument(0)));
 }
 
-void datei(Lauf& lauf, const Anweisung& anweisung)
+void dateiinhalt(Lauf& lauf, const Anweisung& anweisung)
 {
     vergleicheInhalt(alsDateiinhalt(anweisung.zeilen), liesProgrammdatei(lauf, anweisung));
 }
@@ -107,7 +107,7 @@ void sichere(Lauf& lauf, const Anweisung& anweisung)
 Handlertafel dateierwartungen()
 {
     return {
-        {"erwarte datei", datei},           {"erwarte roh", roh},       {"erwarte feld", feld},
+        {"erwarte datei", dateiinhalt},     {"erwarte roh", roh},       {"erwarte feld", feld},
         {"erwarte felderzahl", felderzahl}, {"erwarte spalte", spalte}, {"erwarte zeilenzahl", zeilenzahl},
         {"erwarte vorhanden", vorhanden},   {"erwarte fehlt", fehlt},   {"sichere", sichere},
     };

@@ -3,8 +3,8 @@
 #include "ablauf/Schiedsrichter.h"
 #include "oberflaeche/Oberflaeche.h"
 #include "sprache/Szenariodatei.h"
+#include "umgebung/Szenarioordner.h"
 #include "umgebung/Szenarioumgebung.h"
-#include "umgebung/Wegwerfordner.h"
 
 #include "app/moMain.h"
 
@@ -63,7 +63,7 @@ private:
     Ziel findeÜberall(std::string_view name) const;
 
     std::filesystem::path m_szenarioordner;
-    Wegwerfordner m_ordner;
+    Szenarioordner m_ordner;
     Szenarioumgebung m_umgebung;
     Schiedsrichter m_schiedsrichter;
     Oberfläche& m_oberfläche;

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr auto bildschirm = R"({
+constexpr auto schirmbeschreibung = R"({
     "synchronousWindowSystemEvents": true,
     "windowFrameMargins": false,
     "screens": [{"name": "S", "x": 0, "y": 0, "width": %1, "height": %2,
@@ -37,7 +37,7 @@ QtAnwendung::QtAnwendung(const Schirm& schirm)
     QDir::setCurrent(m_ordner.path());
     QFile datei(QStringLiteral("bildschirm.json"));
     if (datei.open(QIODevice::WriteOnly)) {
-        datei.write(QString::fromLatin1(bildschirm).arg(schirm.breite).arg(schirm.höhe).toLatin1());
+        datei.write(QString::fromLatin1(schirmbeschreibung).arg(schirm.breite).arg(schirm.höhe).toLatin1());
         datei.close();
     }
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=bildschirm.json");

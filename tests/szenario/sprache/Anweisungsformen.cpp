@@ -4,9 +4,6 @@
 
 namespace {
 
-using enum Argumentart;
-using enum Gattung;
-
 const std::vector<Option> meldungsoptionen{{"symbol", {"keins", "info", "warnung", "stop", "frage"}},
                                            {"knöpfe", {"OK", "OKAbbrechen", "JaNein"}},
                                            {"vorgabe", {"OK", "Abbrechen", "Ja", "Nein"}},
@@ -15,6 +12,8 @@ const std::vector<Option> zellenoptionen{{"art", {"text", "zahl", "datum", "leer
 
 std::vector<Anweisungsform> aufbau()
 {
+    using enum Argumentart;
+    using enum Gattung;
     return {
         {.wort = "heute",
          .gattung = Aufbau,
@@ -99,6 +98,8 @@ std::vector<Anweisungsform> aufbau()
 
 std::vector<Anweisungsform> handlungen()
 {
+    using enum Argumentart;
+    using enum Gattung;
     return {
         {.wort = "klicke",
          .gattung = Handlung,
@@ -173,6 +174,8 @@ std::vector<Anweisungsform> handlungen()
 
 std::vector<Anweisungsform> erwartungen()
 {
+    using enum Argumentart;
+    using enum Gattung;
     return {
         {.wort = "erwarte bildschirm",
          .gattung = Erwartung,

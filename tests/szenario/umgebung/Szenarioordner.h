@@ -3,12 +3,12 @@
 #include <filesystem>
 
 /// A fresh, empty folder of its own among the system's temporary files, removed at the end.
-class Wegwerfordner {
+class Szenarioordner {
 public:
-    Wegwerfordner();
-    Wegwerfordner(const Wegwerfordner&) = delete;
-    Wegwerfordner& operator=(const Wegwerfordner&) = delete;
-    ~Wegwerfordner();
+    Szenarioordner();
+    Szenarioordner(const Szenarioordner&) = delete;
+    Szenarioordner& operator=(const Szenarioordner&) = delete;
+    ~Szenarioordner();
 
     const std::filesystem::path& pfad() const { return m_pfad; }
 

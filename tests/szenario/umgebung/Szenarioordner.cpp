@@ -1,4 +1,4 @@
-#include "umgebung/Wegwerfordner.h"
+#include "umgebung/Szenarioordner.h"
 
 #include <cstdlib>
 #include <random>
@@ -19,7 +19,7 @@ std::filesystem::path ablage()
 
 } // namespace
 
-Wegwerfordner::Wegwerfordner()
+Szenarioordner::Szenarioordner()
 {
     static std::mt19937_64 zufall{std::random_device{}()};
     constexpr int versuche = 100;
@@ -32,7 +32,7 @@ Wegwerfordner::Wegwerfordner()
     throw std::runtime_error("kein Ordner für das Szenario");
 }
 
-Wegwerfordner::~Wegwerfordner()
+Szenarioordner::~Szenarioordner()
 {
     std::error_code fehler;
     std::filesystem::remove_all(m_pfad, fehler);
