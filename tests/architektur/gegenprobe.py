@@ -114,6 +114,15 @@ class Gegenprobe(unittest.TestCase):
                      src__oben__a_PUNKT_h="#include <vector>\nstd::string f();\n")
         self.erwarte(regeln.allein, "std::jthread: say in STANDARD", src__oben__a_PUNKT_h="#include <thread>\nstd::jthread f();\n")
 
+    def test_allein_beim_bau(self):
+        """Only a source that is built, and begins with the header, has compiled it alone."""
+        kopf = {"src__oben__Dach_PUNKT_h": "Ziegel f();\n"}
+        nichts = "src/oben/Dach.h does not compile alone"
+        self.erwarte(regeln.allein, nichts, **kopf, src__oben__Dach_PUNKT_cpp='#include "unten/Boden.h"\n#include "oben/Dach.h"\n')
+        self.erwarte(regeln.allein, nichts, **kopf, src__oben__Dach_PUNKT_cpp='#include <string>\n#include "oben/Dach.h"\n')
+        self.erwarte(regeln.allein, nichts, **kopf, src__oben__First_PUNKT_cpp='#include "oben/Dach.h"\n')
+        self.assertNotIn(nichts, self.pruefe(regeln.allein, **kopf, src__oben__Dach_PUNKT_cpp='#include "oben/Dach.h"\n'))
+
     def test_sauber(self):
         for text in ("a \n", "\ta\n"):
             self.erwarte(regeln.sauber, "README.md:1: a tab, or a blank", README_PUNKT_md=text)

@@ -160,11 +160,22 @@ def _standard(baum, kopf):
             yield f"src/{kopf} does not compile alone: it uses std::{name}, include <{STANDARD[name]}>."
 
 
+def _vom_bau_uebersetzt(baum):
+    """The headers with which a source of this build begins, so that the build has compiled them alone."""
+    gebaut = {eintrag["file"] for eintrag in json.loads((baum.bau / "compile_commands.json").read_text(encoding="utf-8"))}
+    for datei in baum.quellen():
+        if str(baum.wurzel / "src" / datei) in gebaut:
+            erste = next((zeile for _, zeile in baum.zeilen("src/" + datei) if zeile.startswith("#include")), "")
+            if treffer := EIGENER_INCLUDE.match(erste):
+                yield treffer[1]
+
+
 def allein(baum, compiler="g++"):
     """Every header compiles alone. The precompiled header of its folder makes that quick, so what it would hide, the
     standard library's names, is looked up first."""
     schalter = _schalter(baum)
     koepfe = [datei for datei in baum.quellen() if datei.endswith(".h")]
+    uebrige = sorted(set(koepfe) - set(_vom_bau_uebersetzt(baum)))
 
     def uebersetze(kopf):
         teil = baum.haus.teil_von(kopf)
@@ -178,7 +189,7 @@ def allein(baum, compiler="g++"):
 
     funde = [fund for kopf in koepfe for fund in _standard(baum, kopf)]
     with ThreadPoolExecutor(2) as hand:
-        return funde + [fund for fund in hand.map(uebersetze, koepfe) if fund]
+        return funde + [fund for fund in hand.map(uebersetze, uebrige) if fund]
 
 
 _KLAMMER = r"\((?:[^()]|\((?:[^()]|\([^()]*\))*\))*\)"
