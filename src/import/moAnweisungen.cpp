@@ -184,14 +184,13 @@ Paare hauptdiagnosepaare(int gruppe)
     return paare;
 }
 
-/// An answer that the export has no column for stays empty.
 Feldanweisung anweisungZu(const Satzfeld& feld, Paare paare)
 {
-    const bool ohneQuelle = feld.art == Feldart::option && feld.blatt == 0;
     return {.blatt = feld.blatt,
             .spalte = feld.spalte,
-            .art = ohneQuelle ? Feldart::leer : feld.art,
-            .paare = ohneQuelle ? Paare{} : std::move(paare)};
+            .art = feld.art,
+            .paare = std::move(paare),
+            .vorgabe = feld.vorgabe};
 }
 
 Feldanweisung betreuungsanweisung(int nummer)
