@@ -202,6 +202,22 @@ def positionen(baum):
             for nummer, zeile in baum.zeilen("src/" + datei) if any(muster.search(zeile) for muster in BLANKE_POSITION)]
 
 
+ELEMENT = re.compile(r'\b(\w+)[{(]\s*\*this,\s*"([^"]*)"_t')
+
+
+def elemente(baum):
+    """An element is found by its name, in scenarios and by the surfaces: the name is the one of the member."""
+    funde = []
+    for datei in baum.quellen():
+        text = (baum.wurzel / "src" / datei).read_text(encoding="utf-8")
+        for treffer in ELEMENT.finditer(text):
+            if treffer[1] != treffer[2]:
+                nummer = text.count("\n", 0, treffer.start()) + 1
+                funde.append(f'src/{datei}:{nummer}: the element {treffer[1]} calls itself "{treffer[2]}": write '
+                             f'{treffer[1]}{{*this, "{treffer[1]}"_t, …}}, or give the member the other name.')
+    return funde
+
+
 def sauber(baum):
     """What people read: no tab, no blank at the end of a line, a line end at the end."""
     funde = []
