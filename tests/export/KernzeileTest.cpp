@@ -24,8 +24,7 @@ protected:
 
     std::string zeile(Belegung betreuung, Belegung klient = {}) const
     {
-        return erstelleKernZeile(klientensatz(1, klient), betreuungssatz(1, 2, betreuung), {},
-                                 lauf.stand.bestandsmeldung);
+        return kernzeile(klientensatz(1, klient), betreuungssatz(1, 2, betreuung), lauf.stand.bestandsmeldung);
     }
     Texte meldungen() const { return lauf.umgebung.meldungstexte(); }
 
@@ -67,8 +66,8 @@ TEST_F(KernzeileTest, Musterzeilen)
     ASSERT_EQ(zeilen.size() % 5, 0U);
     const auto& meldung = lauf.stand.bestandsmeldung;
     const auto baue = [&](std::size_t i) {
-        return std::array{erstelleKernZeile(zeilen[i], zeilen[i + 1], {}, meldung),
-                          erstelleDiagZeile(zeilen[i + 1], zeilen[i + 2], {}, meldung)};
+        return std::array{kernzeile(zeilen[i], zeilen[i + 1], meldung),
+                          diagnosezeile(zeilen[i + 1], zeilen[i + 2], meldung)};
     };
     for (std::size_t i = 0; i < zeilen.size(); i += 5) {
         if (wirdAbgenommen()) {
@@ -206,24 +205,22 @@ TEST_F(KernzeileTest, MeldungOhneSymbolMitOKUnterDemTitel)
 
 TEST_F(KernzeileTest, KurzerSatzBehältDieSpaltenzahl)
 {
-    const auto text = erstelleKernZeile(klientensatz(1),
-                                        "1\xB7"
-                                        "2",
-                                        {}, lauf.stand.bestandsmeldung);
+    const auto text = kernzeile(klientensatz(1),
+                                "1\xB7"
+                                "2",
+                                lauf.stand.bestandsmeldung);
     EXPECT_EQ(std::count(text.begin(), text.end(), ';'), 181);
 }
 
 TEST_F(KernzeileTest, ÜberlangerSatzIstEinLaufzeitfehler)
 {
-    EXPECT_THROW(erstelleKernZeile(klientensatz(1), std::string(32768, 'x'), {}, lauf.stand.bestandsmeldung),
-                 Laufzeitfehler);
-    EXPECT_NO_THROW(erstelleKernZeile(klientensatz(1), betreuungssatz(1, 1), {}, lauf.stand.bestandsmeldung));
+    EXPECT_THROW(kernzeile(klientensatz(1), std::string(32768, 'x'), lauf.stand.bestandsmeldung), Laufzeitfehler);
+    EXPECT_NO_THROW(kernzeile(klientensatz(1), betreuungssatz(1, 1), lauf.stand.bestandsmeldung));
 }
 
 TEST_F(KernzeileTest, TsnrStehtVorn)
 {
-    EXPECT_EQ(spalte(erstelleKernZeile(klientensatz(1), betreuungssatz(1, 1), "x", lauf.stand.bestandsmeldung), 1),
-              "x");
+    EXPECT_EQ(spalte(erstelleKernZeile({.meldung = lauf.stand.bestandsmeldung, .tsnr = "x"}), 1), "x");
 }
 
 } // namespace

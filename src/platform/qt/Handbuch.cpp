@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QImage>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QPointer>
 #include <QScreen>
 #include <QScrollBar>
@@ -205,7 +206,7 @@ bool Handbuch::eventFilter(QObject* objekt, QEvent* ereignis)
     }
     const auto& taste = *static_cast<QKeyEvent*>(ereignis);
     const bool gesperrt = QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr;
-    if (taste.key() != Qt::Key_F1 || taste.modifiers() != Qt::NoModifier || gesperrt) {
+    if (QKeySequence(taste.keyCombination()) != QKeySequence(alsQString(handbuchtaste)) || gesperrt) {
         return false;
     }
     const std::string name = m_bildschirm();
