@@ -264,10 +264,10 @@ std::vector<Textangabe> ausDemExportUndDerMappe()
     const auto programm = programmnamen.find(erstesRechenprogramm);
     EXPECT_NE(programm, programmnamen.end()) << "say here what people call " << erstesRechenprogramm;
     const auto rechnet = programm == programmnamen.end() ? "?" : programm->second;
+    const auto jahre = frmExport().comboJahr.liste();
     constexpr auto mappe = "platform/calc/Rechenprogramm.h";
     return {
-        {"export/frmExport.h", handbuch,
-         "Die Liste reicht von " + zahl(frmExport::erstesJahr) + " bis " + zahl(frmExport::letztesJahr)},
+        {"export/frmExport.h", handbuch, "Die Liste reicht von " + utf8(jahre.front()) + " bis " + utf8(jahre.back())},
         {mappe, handbuch, "öffnet sie in " + rechnet + ", sonst in Ihrem Programm für .xlsx-Dateien"},
         {mappe, handbuch, "Lassen Sie " + rechnet + " oder ein anderes Programm für .xlsx-Dateien einrichten"},
         {mappe, leitfaden, rechnet + " Calc, Xvfb"},

@@ -104,19 +104,6 @@ TEST_F(ReparaturenTest, LeererBestandOderLeereErsteZeileWirdNichtRepariert)
     erwarteKlienten({"", klient("1", "", "01.01.70")});
 }
 
-TEST_F(ReparaturenTest, FeldzahlenWerdenGemeldet)
-{
-    schreibe({klient("1", "")}, {});
-    auto gefunden = bereinigeDatum(lauf.stand.bestand);
-    ASSERT_TRUE(gefunden);
-    EXPECT_EQ(gefunden->kern, 11);
-    EXPECT_EQ(gefunden->betr, 11) << "the client line stands in for the missing care line";
-    schreibe({klient("1", "")}, {betreuung("1", "01.01.2005", "offen")});
-    gefunden = bereinigeDatum(lauf.stand.bestand);
-    ASSERT_TRUE(gefunden);
-    EXPECT_EQ(gefunden->betr, 5);
-}
-
 TEST_F(ReparaturenTest, ZeileDieVorOderInDemDatumEndetBleibtWieSieIst)
 {
     const auto kurze = satz({"", "2", ""});

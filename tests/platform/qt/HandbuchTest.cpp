@@ -67,7 +67,7 @@ QStringList quelltexte()
     for (const char* teil :
          {"app", "clients", "care", "diagnosis", "export", "import", "spreadsheet", "satz", "store", "zustand"}) {
         const QDir src(quellen + QStringLiteral("/src/") + QString::fromLatin1(teil));
-        for (const auto& name : src.entryList({QStringLiteral("*.cpp")}, QDir::Files)) {
+        for (const auto& name : src.entryList({QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files)) {
             texte.append(inhaltVon(src.filePath(name)));
         }
     }
@@ -116,6 +116,31 @@ TEST(Handbuchtext, EveryLinkAndEveryPictureExists)
     }
     EXPECT_LT(größe, 3'000'000);
     EXPECT_GE(gezeigte.size(), 16U);
+}
+
+/// Whether the words are captions, one behind the other: "Datei > Daten > Excel" of a menu and its entry.
+bool istWegAusBeschriftungen(const QString& worte, const QString& quellen)
+{
+    if (quellen.contains(QLatin1Char('"') + worte + QLatin1Char('"'))) {
+        return true;
+    }
+    const auto trennung = worte.indexOf(QStringLiteral(" > "));
+    return trennung > 0 && istWegAusBeschriftungen(worte.left(trennung), quellen) &&
+           istWegAusBeschriftungen(worte.mid(trennung + 3), quellen);
+}
+
+/// What the handbook puts in italics are buttons and menus by the words that stand on them.
+TEST(Handbuchtext, EveryButtonIsCalledAsItIs)
+{
+    auto quellen = quelltexte().join(QString()).remove(QLatin1Char('&'));
+    quellen.remove(
+        QRegularExpression(QStringLiteral("(?<=[a-z])- (?=[a-z])"))); // "Betreuungs- ende" of a narrow button
+    const auto genannte = treffer(handbuch(), "(?<![*\\w])\\*([^*`]+)\\*(?![*\\w])");
+    for (const auto& worte : genannte) {
+        EXPECT_TRUE(istWegAusBeschriftungen(worte.simplified(), quellen))
+            << "docs/handbuch/handbuch.md: no button or menu is called \"" << worte.toStdString() << "\"";
+    }
+    EXPECT_GE(genannte.size(), 40);
 }
 
 /// What stands in the parentheses that open at `anfang`.
