@@ -176,6 +176,7 @@ std::vector<Textangabe> ausDenDateinamen()
          std::string("/usr/share/tolvek7/") + kernanweisung + " \", \" " + diagnoseanweisung},
         {"app/Arbeitsort.h", handbuch, std::string("im Ordner `") + ordnername + "` in Ihrem persönlichen Ordner"},
         {"app/Arbeitsort.h", manual, std::string("sonst im Ordner .I ") + ordnername + " des persönlichen Ordners"},
+        {"app/Arbeitsort.h", handbuch, std::string("im Ordner `") + ordnername + "` Ihrer Dokumente"},
         {"app/Arbeitsort.h", "README.md", std::string("in `~/") + ordnername + "`"},
     };
     for (const auto* datei : {liesmich, liesmichWindows}) {
