@@ -199,7 +199,7 @@ std::vector<Textangabe> ausDemAufruf()
             angaben.push_back({"app/Befehlszeile.h", handbuch, "`tolvek7 " + wort});
         }
         if (einer.art == Aufrufart::Muster) {
-            for (const auto* datei : {liesmich, liesmichWindows, "paket/tolvek7.desktop"}) {
+            for (const auto* datei : {liesmich, "paket/windows/ueben.cmd", "paket/tolvek7.desktop"}) {
                 angaben.push_back({"app/Befehlszeile.h", datei, " " + wort});
             }
         }
