@@ -84,13 +84,11 @@ std::string feldnameAn(const Fundort& ort)
     }
     switch (*ort.tabelle) {
     case Tabelle::Betr:
-        return std::string(betreuungsfeldname(ort.feld));
-    case Tabelle::Diag: {
-        const auto name = diagnosefeldname(ort.feld);
-        return name.frage.empty() ? std::string(name.bereich) : verbinde(name.bereich, ", "_t, name.frage);
-    }
+        return feldOderNichts(betreuungsfelder(), ort.feld).name;
+    case Tabelle::Diag:
+        return diagnosefeldname(ort.feld);
     default:
-        return std::string(klientenfeldname(ort.feld));
+        return feldOderNichts(klientenfelder(), ort.feld).name;
     }
 }
 
