@@ -113,7 +113,7 @@ STANDARD = {name: kopf for kopf, namen in {
     "algorithm": "ranges", "array": "array", "cmath": "lround", "cstddef": "size_t ptrdiff_t byte nullptr_t",
     "cstdint": "int8_t int16_t int32_t int64_t uint8_t uint16_t uint32_t uint64_t intptr_t uintptr_t", "deque": "deque",
     "filesystem": "filesystem", "functional": "function less hash", "initializer_list": "initializer_list",
-    "iosfwd": "ostream istream", "map": "map multimap", "memory": "unique_ptr shared_ptr weak_ptr make_unique make_shared",
+    "iosfwd": "ostream istream", "limits": "numeric_limits", "map": "map multimap", "memory": "unique_ptr shared_ptr weak_ptr make_unique make_shared",
     "optional": "optional nullopt make_optional", "random": "mt19937_64", "set": "set multiset", "span": "span",
     "stdexcept": "runtime_error logic_error out_of_range invalid_argument",
     "string": "string u32string wstring to_string", "string_view": "string_view u32string_view wstring_view",
