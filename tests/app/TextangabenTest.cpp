@@ -4,6 +4,7 @@
 #include "export/Exportlauf.h"
 #include "export/frmExport.h"
 #include "hilfen/Testumgebung.h"
+#include "import/Altfelder.h"
 #include "import/Anweisungsdatei.h"
 #include "platform/calc/Rechenprogramm.h"
 #include "platform/elemente/triCtlJaNein.h"
@@ -18,6 +19,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -81,7 +83,19 @@ std::string grenzen(std::size_t memo)
 std::vector<Textangabe> ausDenGrenzen()
 {
     constexpr auto woher = "satz/Satzgrenzen.h";
+    constexpr auto altdaten = "docs/altdaten.md";
+    const auto nummern = "number, 1 to " + zahl(satzgrenze::höchsteNummer);
     return {
+        {woher, altdaten, "| 1 | fixed | " + nummern + " |"},
+        {woher, altdaten, "| 1 | fixed | `klientNr` | " + nummern + " |"},
+        {"import/Altfelder.h", altdaten, zahl(altfeld::betreuung::alter - 1) + " fields. Kinds:"},
+        {"import/Altfelder.h", altdaten,
+         std::string("`") + kernanweisung + "` has " + zahl(altspalte::kern::anzahl) + " records, `" +
+             diagnoseanweisung + "` " + zahl(altspalte::diag::anzahl)},
+        {"import/Anweisungsdatei.h", altdaten,
+         "A record is " + zahl(2 + 2 * static_cast<std::int64_t>(Spaltenanweisung::paarzahl)) + " values"},
+        {"import/Anweisungsdatei.h", altdaten,
+         "and " + zahl(static_cast<std::int64_t>(Spaltenanweisung::paarzahl)) + " pairs of source text"},
         {woher, handbuch, "Eine Notiz darf " + zahl(satzgrenze::memolänge) + " Zeichen lang sein"},
         {woher, handbuch, grenzen(satzgrenze::memolänge)},
         {woher, handbuch, "Die Nummern reichen bis " + zahl(satzgrenze::höchsteNummer)},
@@ -231,6 +245,12 @@ std::vector<Textangabe> ausDenAntworten()
                           (farbname == farbnamen.end() ? "?" : farbname->second) + ")");
         träger.feld.klicke();
     }
+    auto sortiert = antworten;
+    auto liste = werte::texte(werte::kurz);
+    std::ranges::sort(sortiert);
+    std::ranges::sort(liste);
+    EXPECT_EQ(sortiert, liste)
+        << "src/platform/elemente/triCtlJaNein.cpp shows other answers than the list werte::kurz";
     constexpr auto woher = "platform/elemente/triCtlJaNein.cpp";
     return {
         {woher, handbuch, "ein Klick wechselt von " + farbige[0] + " zu " + farbige[1] + " zu " + farbige[2]},
