@@ -12,6 +12,7 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
@@ -153,15 +154,8 @@ private:
 
 QString markeVon(const QString& überschrift)
 {
-    QString marke;
-    for (const QChar zeichen : überschrift.trimmed().toLower()) {
-        if (zeichen == QLatin1Char(' ')) {
-            marke += QLatin1Char('-');
-        } else if (zeichen.isLetterOrNumber() || zeichen == QLatin1Char('-') || zeichen == QLatin1Char('_')) {
-            marke += zeichen;
-        }
-    }
-    return marke;
+    static const QRegularExpression zeichen(QStringLiteral("[^\\w -]"), QRegularExpression::UseUnicodePropertiesOption);
+    return überschrift.trimmed().toLower().remove(zeichen).replace(QChar(' '), QChar('-'));
 }
 
 QString handbuchordner()
