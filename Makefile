@@ -1,6 +1,6 @@
 # The two commands for everyone are `make start` and `make test`; the others are their parts.
 
-.PHONY: start test abnahme demo bilder bauen einrichten pruefung windows windows-paket bench ausfall format paket freigabe
+.PHONY: start test abnahme demo bilder bauen einrichten pruefung windows windows-test windows-paket bench ausfall format paket freigabe
 
 # The program and nothing else; its folder is Tolvek7/.
 start:
@@ -46,6 +46,12 @@ windows: einrichten
 	cmake --build --preset windows
 	ctest --preset windows
 
+# The whole program for Windows, run by wine: its windows, its workbooks, its keys. Builds Qt for Windows once, into a cache.
+windows-test: einrichten
+	cmake --preset windows-paket -DTOLVEK_WINDOWS_QT="$$(werkzeug/windows_qt.sh)"
+	cmake --build --preset windows-test
+	ctest --preset windows-test
+
 # The archive for Windows, in bau/pakete/. Builds Qt for Windows once, into a cache.
 windows-paket: einrichten
 	cmake --preset windows-paket -DTOLVEK_WINDOWS_QT="$$(werkzeug/windows_qt.sh)"
@@ -69,7 +75,7 @@ paket: einrichten
 	paket/packe.sh bau/paket bau/pakete
 
 # Every test, then all packages of the commit, built twice and compared, and their checksums, in freigabe/.
-freigabe: test paket windows-paket
+freigabe: test windows-test paket windows-paket
 	paket/gib_frei.sh
 
 bench: bauen

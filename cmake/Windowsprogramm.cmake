@@ -22,11 +22,12 @@ function(tolvek_windowsprogramm ziel)
   target_sources(${ziel} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/tolvek7.rc)
   # the linker writes no time into the program, so that two builds give the same bytes
   target_link_options(${ziel} PRIVATE -Wl,--no-insert-timestamp)
-  tolvek_qt_teile(${ziel})
+  tolvek_qt_teile(${ziel} QWindowsIntegrationPlugin)
 endfunction()
 
-# tolvek_qt_teile(TARGET): the windows of the system, and those without a screen for the tests.
-function(tolvek_qt_teile ziel)
-  qt_import_plugins(${ziel} INCLUDE Qt6::QWindowsIntegrationPlugin Qt6::QOffscreenIntegrationPlugin
+# tolvek_qt_teile(TARGET PLATFORM): the parts of a static Qt that are found by name: its windows, on the system's screen
+# (QWindowsIntegrationPlugin) or on none (QOffscreenIntegrationPlugin).
+function(tolvek_qt_teile ziel fenster)
+  qt_import_plugins(${ziel} INCLUDE Qt6::${fenster} INCLUDE_BY_TYPE platforms Qt6::${fenster}
                     EXCLUDE_BY_TYPE imageformats styles)
 endfunction()

@@ -88,14 +88,15 @@ hole_quellen() {
     mv "$q" "$arbeit/quellen"
 }
 
+# Qt writes where it is installed into the program: a place of no machine's, so that each builds the same.
 baue() { # NAME, options
     local name=$1
     shift
     cmake -G Ninja -S "$arbeit/quellen/$name" -B "$arbeit/bau-$name" -DCMAKE_TOOLCHAIN_FILE="$arbeit/werkzeugkette.cmake" \
-        -DCMAKE_INSTALL_PREFIX="$arbeit/ziel" \
+        -DCMAKE_INSTALL_PREFIX=/ziel \
         -DCMAKE_C_FLAGS="-ffile-prefix-map=$arbeit=." -DCMAKE_CXX_FLAGS="-ffile-prefix-map=$arbeit=." "$@"
     cmake --build "$arbeit/bau-$name" --parallel "${TOLVEK_JOBS:-$(nproc)}"
-    cmake --install "$arbeit/bau-$name" > /dev/null
+    DESTDIR=$arbeit cmake --install "$arbeit/bau-$name" > /dev/null
 }
 
 # The licence texts of everything that gets into the program.

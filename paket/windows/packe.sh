@@ -26,6 +26,7 @@ fuer_windows() {
     sed 's/$/\r/'
 }
 sed "s/@VERSION@/$version/g" "$hier/LIESMICH.txt" | fuer_windows > "$ordner/LIESMICH.txt"
+sed 's/$/\r/' "$hier/ueben.cmd" > "$ordner/ueben.cmd" # without the mark: the command line stumbles over it
 lizenz() { # NAME SOURCE
     fuer_windows < "$2" > "$ordner/lizenzen/$1.txt"
 }

@@ -2,7 +2,8 @@
 
 A topic is a file beside this one: functions `prüfe_…(bühne)`, and at its end `if __name__ == "__main__": laufe(globals())`.
 CMake runs every file as a test, with the program and the scenario runner as arguments; a further argument picks the
-functions whose names contain it. A function that returns has passed; `Scheitern` (or any exception) fails it.
+functions whose names contain it. A function that returns has passed; `Scheitern` (or any exception) fails it. The variable
+TOLVEK_STARTER holds the words that start both programs where the system cannot do that by itself.
 
 Keys reach a program in the order in which they are sent, so nothing has to be waited for between two keys, unless
 another window gets the keyboard meanwhile: `neues_fenster` and `fenster_geht` wait for that. What must then be so is
@@ -12,6 +13,7 @@ looked at in the files (`warte`), or in the picture of the screen (`ruhiges_bild
 import contextlib
 import datetime
 import os
+import shlex
 import shutil
 import subprocess
 import sys
@@ -112,6 +114,7 @@ class Bühne:
     def __init__(self, tolvek7, szenario):
         self.tolvek7 = os.path.abspath(tolvek7)
         self.szenario = os.path.abspath(szenario)
+        self.starter = shlex.split(os.environ.get("TOLVEK_STARTER", ""))
         self.ordner = tempfile.mkdtemp(prefix="bedienung-")
         self.anzeige = None
         self.programm = None
@@ -181,7 +184,8 @@ class Bühne:
         quelle = self.pfad(f"gespielt{self.nummer}.szenario")
         with open(quelle, "w", encoding="utf-8") as datei:
             datei.write(text)
-        lauf = subprocess.run([self.szenario, "--oberfläche=ohne", quelle], capture_output=True, text=True, timeout=60)
+        lauf = subprocess.run([*self.starter, self.szenario, "--oberfläche=ohne", quelle], env=self.umwelt,
+                              capture_output=True, text=True, timeout=60)
         verlange(lauf.returncode == 0, "Szenario: " + lauf.stdout + lauf.stderr)
         inhalte = []
         for i in range(len(dateien)):
@@ -212,7 +216,7 @@ class Bühne:
         if anweisungen is not None:
             self.lege_an(anweisungen)
         self.beende_programm()
-        self.programm = self._starte(os.path.join(self.programmordner, os.path.basename(self.tolvek7)))
+        self.programm = self._starte(*self.starter, os.path.join(self.programmordner, os.path.basename(self.tolvek7)))
         self.zeige(*ABSEITS)
         self.rahmen = warte(self.fokusfenster_des_programms, "kein Fenster des Programms")
         self.ruhiges_bild()

@@ -23,14 +23,15 @@ HANDLE öffneAusgabe(const std::filesystem::path& datei)
 
 } // namespace
 
-Windowsprozess::Windowsprozess(const std::filesystem::path& ordner, const std::string& handlung, int stelle)
+Windowsprozess::Windowsprozess(const std::filesystem::path& ordner, const std::string& handlung, int stelle,
+                               const std::filesystem::path& treiber)
 {
     static int nummer = 0;
     const auto eigener = std::to_wstring(::GetCurrentProcessId()) + L"-" + std::to_wstring(++nummer);
     m_ausgabe = std::filesystem::temp_directory_path() / (L"tolvek7-ausgabe-" + eigener);
     HANDLE ausgabe = öffneAusgabe(m_ausgabe);
-    auto zeile = L"\"" + std::filesystem::path(TOLVEK_HANDLUNG).wstring() + L"\" \"" + ordner.wstring() + L"\" " +
-                 std::filesystem::path(handlung).wstring();
+    auto zeile =
+        L"\"" + treiber.wstring() + L"\" \"" + ordner.wstring() + L"\" " + std::filesystem::path(handlung).wstring();
     if (stelle > 0) {
         zeile += L" " + std::to_wstring(stelle);
     }
@@ -44,7 +45,7 @@ Windowsprozess::Windowsprozess(const std::filesystem::path& ordner, const std::s
         ::CreateProcessW(nullptr, zeile.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &anfang, &prozess) != 0;
     ::CloseHandle(ausgabe);
     if (!gestartet) {
-        throw std::runtime_error("cannot start " TOLVEK_HANDLUNG);
+        throw std::runtime_error("cannot start " + treiber.string());
     }
     ::CloseHandle(prozess.hThread);
     m_prozess = prozess.hProcess;

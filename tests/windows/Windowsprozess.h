@@ -7,7 +7,8 @@
 /// A process of the driver (handlung.cpp) on a folder; killed at the latest when the object goes.
 class Windowsprozess {
 public:
-    Windowsprozess(const std::filesystem::path& ordner, const std::string& handlung, int stelle = 0);
+    Windowsprozess(const std::filesystem::path& ordner, const std::string& handlung, int stelle = 0,
+                   const std::filesystem::path& treiber = TOLVEK_HANDLUNG);
     Windowsprozess(const Windowsprozess&) = delete;
     Windowsprozess& operator=(const Windowsprozess&) = delete;
     ~Windowsprozess();

@@ -1,10 +1,7 @@
 #include "platform/calc/Dateiwache.h"
 
+#include <algorithm>
 #include <chrono>
-#include <condition_variable>
-#include <memory>
-#include <mutex>
-#include <thread>
 #include <vector>
 
 #include <windows.h>
@@ -13,11 +10,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::chrono::milliseconds blick{500};
+constexpr UINT blickMs = 500;
 /// So long nobody has had the file open any more when it counts as read.
 constexpr std::chrono::seconds ruhe{30};
 /// A file that nobody has opened by then is not wanted any more.
 constexpr std::chrono::minutes frist{10};
+
+using Uhr = std::chrono::steady_clock;
 
 /// Being asked is over in a moment, so that the file is hardly ever in the way of the one who wants to open it.
 bool istOffen(const fs::path& datei)
@@ -30,73 +29,93 @@ bool istOffen(const fs::path& datei)
     return GetLastError() == ERROR_SHARING_VIOLATION;
 }
 
-class Dateiwache {
-public:
-    Dateiwache(fs::path datei, HANDLE schloss)
-        : m_datei(std::move(datei)), m_schloss(schloss), m_faden([this] { wache(); })
-    {}
-    Dateiwache(const Dateiwache&) = delete;
-    Dateiwache& operator=(const Dateiwache&) = delete;
-    ~Dateiwache()
-    {
-        {
-            const std::lock_guard sperre(m_sperre);
-            m_ende = true;
-        }
-        m_wecker.notify_all();
-        m_faden.join();
-    }
-
-private:
-    using Uhr = std::chrono::steady_clock;
+/// One file, and the lock of its folder.
+struct Wache {
+    fs::path datei;
+    HANDLE schloss;
+    Uhr::time_point anfang = Uhr::now();
+    Uhr::time_point zuletztOffen{};
+    bool gesehen = false;
 
     /// Whether the file is not needed any more.
     bool istFertig()
     {
         const auto jetzt = Uhr::now();
-        if (istOffen(m_datei)) {
-            m_gesehen = true;
-            m_zuletztOffen = jetzt;
+        if (istOffen(datei)) {
+            gesehen = true;
+            zuletztOffen = jetzt;
         }
-        return m_gesehen ? jetzt - m_zuletztOffen >= ruhe : jetzt - m_anfang >= frist;
+        return gesehen ? jetzt - zuletztOffen >= ruhe : jetzt - anfang >= frist;
     }
 
-    void wache()
+    void entferne() const
     {
-        std::unique_lock sperre(m_sperre);
-        bool fertig = false;
-        while (!m_ende && !fertig) {
-            m_wecker.wait_for(sperre, blick, [this] { return m_ende; });
-            fertig = istFertig();
-        }
-        if (fertig || (m_gesehen && !istOffen(m_datei))) {
-            SetFileAttributesW(m_datei.c_str(), FILE_ATTRIBUTE_NORMAL);
-            DeleteFileW(m_datei.c_str());
-        }
-        CloseHandle(m_schloss);
-        RemoveDirectoryW(m_datei.parent_path().c_str()); // only when it is empty
+        SetFileAttributesW(datei.c_str(), FILE_ATTRIBUTE_NORMAL);
+        DeleteFileW(datei.c_str());
+        gibFrei();
     }
 
-    fs::path m_datei;
-    HANDLE m_schloss;
-    Uhr::time_point m_anfang = Uhr::now();
-    Uhr::time_point m_zuletztOffen{};
-    bool m_gesehen = false;
-    bool m_ende = false;
-    std::mutex m_sperre;
-    std::condition_variable m_wecker;
-    std::thread m_faden; // the last one: it works with all the others
+    void gibFrei() const
+    {
+        CloseHandle(schloss);
+        RemoveDirectoryW(datei.parent_path().c_str()); // only when it is empty
+    }
+};
+
+/// All files that are watched, looked at by a timer of this thread's.
+class Wachen {
+public:
+    static Wachen& alle()
+    {
+        static Wachen wachen;
+        return wachen;
+    }
+    Wachen(const Wachen&) = delete;
+    Wachen& operator=(const Wachen&) = delete;
+    ~Wachen()
+    {
+        for (const Wache& wache : m_wachen) {
+            wache.gesehen && !istOffen(wache.datei) ? wache.entferne() : wache.gibFrei();
+        }
+    }
+
+    void nimm(Wache wache)
+    {
+        m_wachen.push_back(std::move(wache));
+        if (m_uhr == 0) {
+            m_uhr = SetTimer(nullptr, 0, blickMs, [](HWND, UINT, UINT_PTR, DWORD) { alle().schau(); });
+        }
+    }
+
+private:
+    Wachen() = default;
+
+    void schau()
+    {
+        std::erase_if(m_wachen, [](Wache& wache) {
+            const bool fertig = wache.istFertig();
+            if (fertig) {
+                wache.entferne();
+            }
+            return fertig;
+        });
+        if (m_wachen.empty()) {
+            KillTimer(nullptr, m_uhr);
+            m_uhr = 0;
+        }
+    }
+
+    std::vector<Wache> m_wachen;
+    UINT_PTR m_uhr = 0;
 };
 
 } // namespace
 
 void bewacheBisGeschlossen(const fs::path& datei, std::intptr_t schloss)
 {
-    // until the end of the program: a workbook in the spreadsheet program outlives what has handed it over
-    static std::vector<std::unique_ptr<Dateiwache>> wachen;
     HANDLE eigenes = nullptr;
     if (DuplicateHandle(GetCurrentProcess(), reinterpret_cast<HANDLE>(schloss), GetCurrentProcess(), &eigenes, 0, FALSE,
                         DUPLICATE_SAME_ACCESS) != 0) {
-        wachen.push_back(std::make_unique<Dateiwache>(datei, eigenes));
+        Wachen::alle().nimm({datei, eigenes});
     }
 }

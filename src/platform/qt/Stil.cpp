@@ -156,10 +156,19 @@ static void nenneProgramm()
     QGuiApplication::setWindowIcon(programmzeichen());
 }
 
+/// A system that lacks the face it names itself would give any other, one with serifs too.
+static void nenneErsatzschriften()
+{
+    QFont::insertSubstitutions(QApplication::font().family(),
+                               {QStringLiteral("Segoe UI"), QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"),
+                                QStringLiteral("Liberation Sans"), QStringLiteral("Arial")});
+}
+
 void richteStilEin(QApplication& anwendung, Thema thema)
 {
     ladeBilder();
     nenneProgramm();
+    nenneErsatzschriften();
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     ladeÜbersetzung(anwendung);
     auto& s = stand();

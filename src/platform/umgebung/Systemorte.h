@@ -7,7 +7,7 @@
 /// system's own bytes (on Windows its wide characters), so a folder whose name is no readable text is found too.
 struct Systemorte {
     std::filesystem::path programm;      ///< the folder that holds the program file, links resolved
-    bool programmBeschreibbar = false;   ///< whether this user may create files in it
+    bool programmBeschreibbar = false;   ///< whether this user may create files in it, and finds them there again
     std::filesystem::path person;        ///< the user's home, on Windows the documents; empty where there is none
     std::filesystem::path arbeitsordner; ///< what relative paths begin at
 };

@@ -42,6 +42,18 @@ bool nimmtDateien(const fs::path& ordner)
     return griff != INVALID_HANDLE_VALUE && CloseHandle(griff) != 0;
 }
 
+/// A double click in an opened archive starts a copy in the temporary folder, `…/Temp1_Name.zip/…`: whatever is kept
+/// beside it goes with it.
+bool istAusOffenemArchiv(const fs::path& ordner)
+{
+    std::wstring ablage(längsterPfad, L'\0');
+    ablage.resize(GetTempPathW(static_cast<DWORD>(ablage.size()), ablage.data()));
+    const auto ort = ordner.wstring();
+    return ort.size() > ablage.size() && ort.find(L".zip", ablage.size()) != std::wstring::npos &&
+           CompareStringOrdinal(ort.data(), static_cast<int>(ablage.size()), ablage.data(), static_cast<int>(ablage.size()),
+                                TRUE) == CSTR_EQUAL;
+}
+
 } // namespace
 
 Systemorte frageSystem()
@@ -49,7 +61,7 @@ Systemorte frageSystem()
     std::error_code egal;
     const fs::path programm = programmdatei().parent_path();
     return {.programm = programm,
-            .programmBeschreibbar = nimmtDateien(programm),
+            .programmBeschreibbar = !istAusOffenemArchiv(programm) && nimmtDateien(programm),
             .person = dokumente(),
             .arbeitsordner = fs::current_path(egal)};
 }

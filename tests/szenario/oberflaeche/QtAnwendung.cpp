@@ -2,6 +2,7 @@
 
 #include "platform/qt/Stil.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFont>
 
@@ -31,18 +32,24 @@ void meldeWeiter(QtMsgType /*art*/, const QMessageLogContext& /*ort*/, const QSt
 
 QtAnwendung::QtAnwendung(const Schirm& schirm)
 {
-    const QString pfad = m_ordner.filePath(QStringLiteral("bildschirm.json"));
-    QFile datei(pfad);
+    // named without its folder: what stands in front of a Windows path's colon would be taken for the whole of it
+    const QString vorher = QDir::currentPath();
+    QDir::setCurrent(m_ordner.path());
+    QFile datei(QStringLiteral("bildschirm.json"));
     if (datei.open(QIODevice::WriteOnly)) {
         datei.write(QString::fromLatin1(bildschirm).arg(schirm.breite).arg(schirm.höhe).toLatin1());
         datei.close();
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(pfad));
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=bildschirm.json");
+    if (qEnvironmentVariableIsSet("TOLVEK_SCHRIFTEN")) {
+        qputenv("QT_QPA_FONTDIR", qgetenv("TOLVEK_SCHRIFTEN"));
+    }
     if (schirm.schärfe != 1) {
         qputenv("QT_SCALE_FACTOR", QByteArray::number(schirm.schärfe));
     }
     qInstallMessageHandler(meldeWeiter);
     m_anwendung = std::make_unique<QApplication>(m_argc, m_argv);
+    QDir::setCurrent(vorher);
     if (schirm.schrift > 0) {
         QFont schrift(QString::fromStdString(schirm.schriftart));
         schrift.setPointSizeF(gewöhnlicheSchrift * schirm.schrift);

@@ -1,0 +1,1 @@
+@start "" "%~dp0tolvek7.exe" --muster
