@@ -13,6 +13,7 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
@@ -154,15 +155,8 @@ private:
 
 QString markeVon(const QString& überschrift)
 {
-    QString marke;
-    for (const QChar zeichen : überschrift.trimmed().toLower()) {
-        if (zeichen == QLatin1Char(' ')) {
-            marke += QLatin1Char('-');
-        } else if (zeichen.isLetterOrNumber() || zeichen == QLatin1Char('-') || zeichen == QLatin1Char('_')) {
-            marke += zeichen;
-        }
-    }
-    return marke;
+    static const QRegularExpression zeichen(QStringLiteral("[^\\w -]"), QRegularExpression::UseUnicodePropertiesOption);
+    return überschrift.trimmed().toLower().remove(zeichen).replace(QChar(' '), QChar('-'));
 }
 
 QString handbuchordner()
