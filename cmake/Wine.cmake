@@ -29,6 +29,6 @@ endfunction()
 # a home of their own: wine decides once whether there is a screen.
 function(tolvek_wine_fenster name skript)
   add_test(NAME wine-${name} COMMAND ${TOLVEK_PYTHON} -B ${skript} $<TARGET_FILE:tolvek7> $<TARGET_FILE:szenario>)
-  set_tests_properties(wine-${name} PROPERTIES FIXTURES_REQUIRED wine-fenster LABELS wine TIMEOUT 600
+  set_tests_properties(wine-${name} PROPERTIES FIXTURES_REQUIRED wine-fenster LABELS wine TIMEOUT 600 RESOURCE_LOCK wine-fenster
                        ENVIRONMENT "TOLVEK_STARTER=${TOLVEK_WINE} ${CMAKE_BINARY_DIR}/wine-fenster")
 endfunction()

@@ -88,14 +88,16 @@ hole_quellen() {
     mv "$q" "$arbeit/quellen"
 }
 
+# Qt writes where it is installed into the program: a place of no machine's, so that each builds the same. Configured
+# anew when a build is taken up again: over what it has found before, Qt names some of its folders otherwise.
 baue() { # NAME, options
     local name=$1
     shift
-    cmake -G Ninja -S "$arbeit/quellen/$name" -B "$arbeit/bau-$name" -DCMAKE_TOOLCHAIN_FILE="$arbeit/werkzeugkette.cmake" \
-        -DCMAKE_INSTALL_PREFIX="$arbeit/ziel" \
+    cmake --fresh -G Ninja -S "$arbeit/quellen/$name" -B "$arbeit/bau-$name" -DCMAKE_TOOLCHAIN_FILE="$arbeit/werkzeugkette.cmake" \
+        -DCMAKE_INSTALL_PREFIX=/ziel \
         -DCMAKE_C_FLAGS="-ffile-prefix-map=$arbeit=." -DCMAKE_CXX_FLAGS="-ffile-prefix-map=$arbeit=." "$@"
     cmake --build "$arbeit/bau-$name" --parallel "${TOLVEK_JOBS:-$(nproc)}"
-    cmake --install "$arbeit/bau-$name" > /dev/null
+    DESTDIR=$arbeit cmake --install "$arbeit/bau-$name" > /dev/null
 }
 
 # The licence texts of everything that gets into the program.

@@ -9,7 +9,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr auto ordnername = "Tolvek7";
 constexpr auto mustervorsilbe = "tolvek7-muster-";
 /// Enough to look around in, few enough to find one's way.
 constexpr Mustervorgabe mustervorgabe{.klienten = 60, .episodenJe = 3, .saat = 7};

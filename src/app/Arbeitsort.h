@@ -9,6 +9,9 @@
 
 class Dateien;
 
+/// The folder of the records in the user's own folder.
+inline constexpr auto ordnername = "Tolvek7";
+
 /// Where a run works: found out before there is a window, and told to the `Umgebung`.
 ///
 /// Records lie beside the program where it may write, so that a folder can be carried about as a whole; else,

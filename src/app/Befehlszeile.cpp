@@ -3,24 +3,9 @@
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Eingabe.h"
 
-#include <array>
 #include <ostream>
-#include <string_view>
 
 namespace {
-
-struct Schalter {
-    std::string_view name;
-    Aufrufart art;
-    bool nimmtOrdner;
-};
-
-constexpr std::array schalter{
-    Schalter{"--muster", Aufrufart::Muster, false},
-    Schalter{"--pruefe", Aufrufart::Prüfung, true},
-    Schalter{"--version", Aufrufart::Version, false},
-    Schalter{"--hilfe", Aufrufart::Hilfe, false},
-};
 
 constexpr auto hilfe = R"(Aufruf: tolvek7 [ORDNER]
         tolvek7 --muster | --pruefe [ORDNER] | --version | --hilfe

@@ -1,13 +1,27 @@
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <iosfwd>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// What the program was called for.
 enum class Aufrufart { Arbeiten, Muster, Prüfung, Version, Hilfe, Unverständlich };
+
+struct Schalter {
+    std::string_view name;
+    Aufrufart art;
+    bool nimmtOrdner;
+};
+inline constexpr std::array schalter{
+    Schalter{"--muster", Aufrufart::Muster, false},
+    Schalter{"--pruefe", Aufrufart::Prüfung, true},
+    Schalter{"--version", Aufrufart::Version, false},
+    Schalter{"--hilfe", Aufrufart::Hilfe, false},
+};
 
 struct Aufruf {
     Aufrufart art = Aufrufart::Arbeiten;

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-/// The settings file Tolvek7.ini: lines `key = value`, today the places of the windows. Blanks around key and
+/// The settings file (Pfade::ini): lines `key = value`, today the places of the windows. Blanks around key and
 /// value don't count, the key is compared without regard to case. Nothing is held in memory: each call reads
 /// the file, so a line edited by hand counts at once.
 

@@ -58,8 +58,8 @@ bool Programm::istErsteInstanz()
 
 void Programm::initialisiere()
 {
-    m_zustand.titel = verbinde(m_zustand.umgebung.istMuster() ? "MUSTER – "_t : ""_t, "Tolvek7 v"_t,
-                               std::string_view(TOLVEK_VERSION));
+    m_zustand.titel = verbinde(m_zustand.umgebung.istMuster() ? verbinde(mustermarke, " – "_t) : std::string(),
+                               "Tolvek7 v"_t, std::string_view(TOLVEK_VERSION));
     m_zustand.ablauf.setzeTitel(m_zustand.titel);
     m_zustand.pfade = bildePfade(m_zustand.umgebung.programmordner());
     baueProblemKatalog();

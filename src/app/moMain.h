@@ -7,6 +7,9 @@
 
 #include <memory>
 
+/// With this the title begins while the records are made up.
+inline constexpr auto mustermarke = "MUSTER"_t;
+
 /// A run of the program from start to end: its state, the frame and the main menu. `main.cpp` makes one for
 /// people, the scenario runner one for each start.
 class Programm {

@@ -13,6 +13,9 @@
 
 namespace {
 
+/// The reason with which questions about the relative come in.
+constexpr auto codeProblemImUmfeld = "2"_t;
+
 constexpr std::array kostenträgerarten{
     "Pauschal / institutionell finanziert (z.B. OGD)"_t,
     "Selbstzahler"_t,
@@ -178,7 +181,8 @@ void frmBetreuungA::zeigeBetrGru()
 
 bool frmBetreuungA::hatProblemImUmfeld() const
 {
-    return comboBetrGru.text() == "Problematik von Personen im sozialen Umfeld"_t;
+    const auto* code = werte::codeZu(werte::betrGru, comboBetrGru.text());
+    return code != nullptr && *code == codeProblemImUmfeld;
 }
 
 std::string frmBetreuungA::sammleSeitenDaten()

@@ -2,12 +2,12 @@
 
 #include "platform/text/Zahl.h"
 #include "satz/Klientenfelder.h"
+#include "satz/Satzgrenzen.h"
 #include "satz/Zeilenfelder.h"
 #include "store/Sicherungen.h"
 #include "store/Vorgang.h"
 #include "zustand/Zustand.h"
 
-#include <limits>
 #include <optional>
 
 // The commands of the main menu.
@@ -23,7 +23,7 @@ void meldeNichtsVerändert(Symbol symbol = Symbol::Keins)
 /// written but never be read again.
 std::optional<std::int32_t> nächsteNummer(std::int32_t höchste)
 {
-    if (höchste >= std::numeric_limits<std::int16_t>::max()) {
+    if (höchste >= satzgrenze::höchsteNummer) {
         zeigeMeldung("Es kann keine weitere Nummer vergeben werden, nichts wird verändert"_t);
         return std::nullopt;
     }

@@ -50,10 +50,10 @@ std::string umbrochen(std::string_view pfad)
 
 std::string ordnertext()
 {
-    const auto& daten = zustand().pfade.daten;
-    return verbinde("Ordner der Daten: "_t, umbrochen(pfadtext(daten)), "\r\nStand beim Start dieser Sitzung: "_t,
-                    umbrochen(pfadtext(daten / "*.bak")), "\r\nFrühere Stände: "_t,
-                    umbrochen(pfadtext(daten / "Sicherungen")));
+    const auto& pfade = zustand().pfade;
+    const auto alleBak = pfade.daten / std::filesystem::path("*").concat(pfade.kernBak.extension().native());
+    return verbinde("Ordner der Daten: "_t, umbrochen(pfadtext(pfade.daten)), "\r\nStand beim Start dieser Sitzung: "_t,
+                    umbrochen(pfadtext(alleBak)), "\r\nFrühere Stände: "_t, umbrochen(pfadtext(pfade.sicherungen)));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "platform/text/Zahl.h"
 #include "satz/Klientenfelder.h"
+#include "satz/Satzgrenzen.h"
 #include "satz/Zeilenfelder.h"
 #include "zustand/Zustand.h"
 
@@ -10,8 +11,6 @@
 namespace {
 
 constexpr char absatzzeichen = '\xB6';
-/// Two memos and all the other fields must stay below the 32,767 characters of a line.
-constexpr std::size_t höchstlänge = 10000;
 
 } // namespace
 
@@ -55,9 +54,9 @@ void frmMemo::beiOK()
         zeigeMeldung(verbinde("Es ist das Zeichen >"_t, trenner, "< nicht erlaubt. Bitte korrigieren"_t));
         return;
     }
-    if (std::max(memoK.size(), memoB.size()) > höchstlänge) {
-        zeigeMeldung(
-            verbinde("Das Memo ist zu lang. Erlaubt sind "_t, alsText(höchstlänge), " Zeichen. Bitte kürzen"_t));
+    if (std::max(memoK.size(), memoB.size()) > satzgrenze::memolänge) {
+        zeigeMeldung(verbinde("Das Memo ist zu lang. Erlaubt sind "_t, alsText(satzgrenze::memolänge),
+                              " Zeichen. Bitte kürzen"_t));
         return;
     }
     zustand().memoKText = memoK;

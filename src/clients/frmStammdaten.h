@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/bildschirm/Bildschirm.h"
+#include "satz/Satzgrenzen.h"
 
 #include <cstdint>
 #include <string>
@@ -9,11 +10,11 @@
 class frmStammdaten : public Bildschirm {
 public:
     Beschriftung lblHeader{*this, "lblHeader"_t};
-    Textfeld tbNachname{*this, "tbNachname"_t, Einzeilig, höchstlänge};
-    Textfeld tbVorname{*this, "tbVorname"_t, Einzeilig, höchstlänge};
-    Textfeld tbStrasse{*this, "tbStrasse"_t, Einzeilig, höchstlänge};
-    Textfeld tbPLZ{*this, "tbPLZ"_t, Einzeilig, höchstlänge};
-    Textfeld tbOrt{*this, "tbOrt"_t, Einzeilig, höchstlänge};
+    Textfeld tbNachname{*this, "tbNachname"_t, Einzeilig, satzgrenze::eingabelänge};
+    Textfeld tbVorname{*this, "tbVorname"_t, Einzeilig, satzgrenze::eingabelänge};
+    Textfeld tbStrasse{*this, "tbStrasse"_t, Einzeilig, satzgrenze::eingabelänge};
+    Textfeld tbPLZ{*this, "tbPLZ"_t, Einzeilig, satzgrenze::eingabelänge};
+    Textfeld tbOrt{*this, "tbOrt"_t, Einzeilig, satzgrenze::eingabelänge};
     Auswahlfeld comboGeschlecht{*this, "comboGeschlecht"_t};
     Datumsfeld DTPickerGeburtsdatum{*this, "DTPickerGeburtsdatum"_t};
     Schaltfläche cmdGebUnbekannt{*this, "cmdGebUnbekannt"_t, "<Unbekannt> (Datum ?)"_t, Schaltfläche::Rolle::Decke};
@@ -29,8 +30,6 @@ public:
     const bool istNeu;
 
 private:
-    static constexpr std::size_t höchstlänge = 255;
-
     void beiÖffnung() override;
     void ordneAn();
 

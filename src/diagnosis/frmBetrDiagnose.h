@@ -4,6 +4,7 @@
 #include "diagnosis/frmBetrDiagnoseErstellen.h"
 #include "platform/bildschirm/Bildschirm.h"
 #include "platform/bildschirm/Bildschirmplatz.h"
+#include "satz/WeitereDiagnosen.h"
 
 #include <array>
 #include <cstdint>
@@ -57,7 +58,7 @@ public:
     Schaltfläche cmdIsHDGestellt{*this, "cmdIsHDGestellt"_t, "eine Hauptdiagnose wurde gestellt"_t,
                                  Schaltfläche::Rolle::Decke};
 
-    Elementreihe<Textfeld> tbandereDiagnose{*this, "tbandereDiagnose"_t, 1, 12};
+    Elementreihe<Textfeld> tbandereDiagnose{*this, "tbandereDiagnose"_t, 1, anzahlWeitereDiagnosen};
     Beschriftung lblWeitereICD{*this, "lblWeitereICD"_t, "Weitere ICD-10-Diagnosen"_t};
     Beschriftung lblICDPoly{*this, "lblICDPoly"_t, "Politoxikomanie"_t};
     Auswahlfeld comboICDPoly{*this, "comboICDPoly"_t};
@@ -141,5 +142,5 @@ private:
     /// Both working strings as the page found them; Exit goes back to them.
     std::string m_alteDSDiag, m_alteDSBetrDiag;
     /// The last accepted text of each further diagnosis. Starts empty, whatever the record holds.
-    std::array<std::string, 12> m_angenommen;
+    std::array<std::string, anzahlWeitereDiagnosen> m_angenommen;
 };

@@ -48,16 +48,23 @@ Anordnung platzDesBuchstabens(std::string_view buchstabe)
     return anordnung::breit(anordnung::text(buchstabe), 1);
 }
 
-/// Four fields side by side, each behind its letter.
-Anordnung viererreihe(Elementreihe<Textfeld>& felder, int erstes, std::string_view buchstabe,
-                      std::string_view beschriftung)
+constexpr std::array<std::string_view, diagnosearten.size()> überschriften{
+    "Psychiatrische Diagnosen"_t, "Neurologische Diagnosen"_t, "Andere wichtige Diagnosen"_t};
+
+/// The fields of each kind side by side, each behind its letter.
+std::vector<Anordnung> diagnosereihen(Elementreihe<Textfeld>& felder)
 {
-    std::vector<Anordnung> teile;
-    for (int i = erstes; i < erstes + 4; ++i) {
-        teile.push_back(platzDesBuchstabens(buchstabe));
-        teile.push_back(anordnung::element(felder(i), 5));
+    std::vector<Anordnung> reihen;
+    int nummer = 0;
+    for (std::size_t art = 0; art < diagnosearten.size(); ++art) {
+        std::vector<Anordnung> teile;
+        for (int i = 0; i < diagnosearten[art].anzahl; ++i) {
+            teile.push_back(platzDesBuchstabens(diagnosearten[art].buchstabe));
+            teile.push_back(anordnung::element(felder(++nummer), 5));
+        }
+        reihen.push_back(anordnung::feld(überschriften[art], std::move(teile)));
     }
-    return anordnung::feld(beschriftung, std::move(teile));
+    return reihen;
 }
 
 std::vector<Tabellenspalte> spaltenDerListung()
@@ -123,12 +130,9 @@ Anordnung frmBetrDiagnose::antwortkarten()
     Anordnung links =
         anordnung::spalte({anordnung::karte(frameHDohne, anordnung::decke(untereinander(optHDohne), cmdIsHDGestellt)),
                            anordnung::karte(frameivKonsum, untereinander(optIVKonsum))});
-    Anordnung diagnosen = anordnung::formular(
-        {viererreihe(tbandereDiagnose, 1, "F"_t, "Psychiatrische Diagnosen"_t),
-         viererreihe(tbandereDiagnose, 5, "G"_t, "Neurologische Diagnosen"_t),
-         viererreihe(tbandereDiagnose, 9, {}, "Andere wichtige Diagnosen"_t),
-         anordnung::feld(lblICDPoly, {platzDesBuchstabens({}), anordnung::element(comboICDPoly, 10)})},
-        11);
+    auto weitere = diagnosereihen(tbandereDiagnose);
+    weitere.push_back(anordnung::feld(lblICDPoly, {platzDesBuchstabens({}), anordnung::element(comboICDPoly, 10)}));
+    Anordnung diagnosen = anordnung::formular(std::move(weitere), 11);
     Anordnung infektionen = anordnung::formular({anordnung::feld("HIV-Infektionsstatus"_t, comboHIVInfekt, 10),
                                                  anordnung::feld("Hepatitis B - Infektionsstatus"_t, comboHepatB, 10),
                                                  anordnung::feld("Hepatitis C - Infektionsstatus"_t, comboHepatC, 10)},

@@ -1,7 +1,6 @@
 #include "export/Diagnosezeile.h"
 
 #include "export/Spaltentabelle.h"
-#include "export/Zeilenbauer.h"
 #include "platform/text/Text.h"
 #include "satz/Diagnosefelder.h"
 
@@ -91,18 +90,9 @@ const std::vector<Exportspalte>& diagnosespalten()
     return spalten;
 }
 
-void hängeDiagZeileAn(std::string& ziel, const Satzsicht& betreuung, const Satzsicht& diagnose, std::string_view tsnr,
-                      const Bestandsmeldung& meldung)
-{
-    const Exportsätze sätze{
-        .klient = nullptr, .betreuung = &betreuung, .diagnose = &diagnose, .tsnr = tsnr, .meldung = meldung};
-    Zeilenbauer(ziel, sätze).baue(diagnosespalten());
-}
-
-std::string erstelleDiagZeile(std::string_view betrDS, std::string_view diagDS, std::string_view tsnr,
-                              const Bestandsmeldung& meldung)
+std::string erstelleDiagZeile(const Exportsätze& sätze)
 {
     std::string zeile;
-    hängeDiagZeileAn(zeile, Satzsicht(betrDS), Satzsicht(diagDS), tsnr, meldung);
+    Zeilenbauer(zeile, sätze).baue(diagnosespalten());
     return zeile;
 }

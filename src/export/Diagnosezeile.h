@@ -1,11 +1,9 @@
 #pragma once
 
 #include "export/Exportspalte.h"
-#include "export/Satzsicht.h"
-#include "store/Lesestand.h"
+#include "export/Zeilenbauer.h"
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 /// The columns of the diagnosis row (Diagnose.txt), column n at element n-1.
@@ -13,8 +11,4 @@ const std::vector<Exportspalte>& diagnosespalten();
 
 /// The diagnosis row of an episode without line end: a value for each column, each followed by ";". A text that a value
 /// list does not hold shows a box and goes on.
-std::string erstelleDiagZeile(std::string_view betrDS, std::string_view diagDS, std::string_view tsnr,
-                              const Bestandsmeldung& meldung);
-/// The same appended to `ziel`, from records that are cut already.
-void hängeDiagZeileAn(std::string& ziel, const Satzsicht& betreuung, const Satzsicht& diagnose, std::string_view tsnr,
-                      const Bestandsmeldung& meldung);
+std::string erstelleDiagZeile(const Exportsätze& sätze);

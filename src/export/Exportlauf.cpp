@@ -15,9 +15,6 @@ namespace {
 
 constexpr int bits = 32;
 
-/// The first column of both rows. Nothing ever fills it, but its place is kept.
-constexpr std::string_view tsnr;
-
 } // namespace
 
 void beimSchreiben(const std::function<void()>& operation)
@@ -57,14 +54,14 @@ std::optional<std::string_view> Diagnosesuche::finde(std::int32_t kernID, std::i
 
 Exportlauf::Exportlauf(const Bestand& bestand, int jahr, const std::filesystem::path& ordner)
     : m_bestand(bestand), m_jahr(jahr), m_ordner(ordner), m_klienten(dateien().lies(pfade().kernDat)),
-      m_klientenzahl(static_cast<std::int32_t>(zähleZeilen(m_klienten->text())))
+      m_klientenzahl(static_cast<std::int32_t>(zähleZeilen(m_klienten->text()))), m_sätze{.meldung = bestand.meldung()}
 {}
 
 std::int32_t Exportlauf::führeAus()
 {
     beimSchreiben([&] {
-        m_kern = dateien().schreibeNeu(m_ordner / "Kern.txt");
-        m_diagnose = dateien().schreibeNeu(m_ordner / "Diagnose.txt");
+        m_kern = dateien().schreibeNeu(m_ordner / exportort::kern);
+        m_diagnose = dateien().schreibeNeu(m_ordner / exportort::diagnose);
     });
     try {
         exportiereAlle();
@@ -105,7 +102,7 @@ void Exportlauf::behalteGeschriebenes()
 void Exportlauf::exportiereKlient(std::string_view zeile, std::size_t nummer)
 {
     const auto kernID = leseSchlüssel(zeile, feld::kern::kernID, bits, pfade().kernDat, nummer);
-    m_klient.lies(zeile);
+    m_sätze.klient.lies(zeile);
     if (!m_betreuungen) {
         sucheBetreuungen(kernID);
     } else if (const auto ort = m_imJahr.find(kernID); ort != m_imJahr.end()) {
@@ -161,15 +158,13 @@ void Exportlauf::exportiere(std::int32_t kernID, std::string_view betrDS, std::s
 
 void Exportlauf::schreibe(std::string_view betrDS, std::string_view diagDS)
 {
-    m_betreuung.lies(betrDS);
-    m_diagnosesatz.lies(diagDS);
-    m_kernzeile.clear();
-    hängeKernZeileAn(m_kernzeile, m_klient, m_betreuung, tsnr, m_bestand.meldung());
-    m_diagnosezeile.clear();
-    hängeDiagZeileAn(m_diagnosezeile, m_betreuung, m_diagnosesatz, tsnr, m_bestand.meldung());
+    m_sätze.betreuung.lies(betrDS);
+    m_sätze.diagnose.lies(diagDS);
+    const auto kernzeile = erstelleKernZeile(m_sätze);
+    const auto diagnosezeile = erstelleDiagZeile(m_sätze);
     // only when both are there: a failure between them would leave the files with different numbers of lines
     beimSchreiben([&] {
-        m_kern->zeile(m_kernzeile);
-        m_diagnose->zeile(m_diagnosezeile);
+        m_kern->zeile(kernzeile);
+        m_diagnose->zeile(diagnosezeile);
     });
 }

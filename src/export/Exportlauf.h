@@ -1,6 +1,6 @@
 #pragma once
 
-#include "export/Satzsicht.h"
+#include "export/Zeilenbauer.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/dateien/Zeilen.h"
 #include "store/Bestand.h"
@@ -14,6 +14,14 @@
 #include <string_view>
 #include <unordered_map>
 #include <vector>
+
+/// Where an export lies below the program folder, and its two files.
+namespace exportort {
+inline constexpr auto ordner = "Exporte"_t;
+inline constexpr auto jahresordner = "DBDD"_t; ///< followed by the year
+inline constexpr auto kern = "Kern.txt"_t;
+inline constexpr auto diagnose = "Diagnose.txt"_t;
+} // namespace exportort
 
 /// The folder or a file of the export could not be made or written. Unlike a Laufzeitfehler it ends the run
 /// and not the program.
@@ -94,9 +102,5 @@ private:
 
     std::unique_ptr<Schreiber> m_kern;
     std::unique_ptr<Schreiber> m_diagnose;
-    Satzsicht m_klient;
-    Satzsicht m_betreuung;
-    Satzsicht m_diagnosesatz;
-    std::string m_kernzeile;
-    std::string m_diagnosezeile;
+    Exportsätze m_sätze;
 };

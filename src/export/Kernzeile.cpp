@@ -1,7 +1,6 @@
 #include "export/Kernzeile.h"
 
 #include "export/Spaltentabelle.h"
-#include "export/Zeilenbauer.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/Betreuungsfelder.h"
@@ -68,18 +67,9 @@ const std::vector<Exportspalte>& kernspalten()
     return spalten;
 }
 
-void hängeKernZeileAn(std::string& ziel, const Satzsicht& klient, const Satzsicht& betreuung, std::string_view tsnr,
-                      const Bestandsmeldung& meldung)
-{
-    const Exportsätze sätze{
-        .klient = &klient, .betreuung = &betreuung, .diagnose = nullptr, .tsnr = tsnr, .meldung = meldung};
-    Zeilenbauer(ziel, sätze).baue(kernspalten());
-}
-
-std::string erstelleKernZeile(std::string_view kernDS, std::string_view betrDS, std::string_view tsnr,
-                              const Bestandsmeldung& meldung)
+std::string erstelleKernZeile(const Exportsätze& sätze)
 {
     std::string zeile;
-    hängeKernZeileAn(zeile, Satzsicht(kernDS), Satzsicht(betrDS), tsnr, meldung);
+    Zeilenbauer(zeile, sätze).baue(kernspalten());
     return zeile;
 }

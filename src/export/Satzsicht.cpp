@@ -2,17 +2,13 @@
 
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-
-namespace {
-
-constexpr std::size_t höchsteZeilenlänge = 32767;
-
-} // namespace
+#include "satz/Satzgrenzen.h"
 
 void Satzsicht::lies(std::string_view zeile, char trennzeichen)
 {
-    if (zeile.size() > höchsteZeilenlänge) {
-        throw Laufzeitfehler(verbinde("Eine Zeile ist länger als 32767 Zeichen: "_t, zeile.substr(0, 40)));
+    if (zeile.size() > satzgrenze::zeilenlänge) {
+        throw Laufzeitfehler(verbinde("Eine Zeile ist länger als "_t, std::to_string(satzgrenze::zeilenlänge),
+                                      " Zeichen: "_t, zeile.substr(0, 40)));
     }
     m_felder.clear();
     std::size_t anfang = 0;

@@ -64,13 +64,13 @@ const Satzsicht& Zeilenbauer::satz(const Exportspalte& spalte) const
 {
     switch (spalte.satz) {
     case Satzart::Klient:
-        return *m_sätze.klient;
+        return m_sätze.klient;
     case Satzart::Diagnose:
-        return *m_sätze.diagnose;
+        return m_sätze.diagnose;
     case Satzart::Betreuung:
         break;
     }
-    return *m_sätze.betreuung;
+    return m_sätze.betreuung;
 }
 
 void Zeilenbauer::schreibe(const Exportspalte& spalte, std::string_view text)
@@ -145,12 +145,12 @@ void Zeilenbauer::schreibeFehlgriff(const Exportspalte& spalte)
 
 void Zeilenbauer::dauer(const Exportspalte& spalte)
 {
-    const auto ende = m_sätze.betreuung->feld(feld::betr::ende);
+    const auto ende = m_sätze.betreuung.feld(feld::betr::ende);
     if (ende == offen) {
         m_ziel.append(offen);
         return;
     }
-    const auto von = leseDatum(m_sätze.betreuung->feld(feld::betr::beginn));
+    const auto von = leseDatum(m_sätze.betreuung.feld(feld::betr::beginn));
     const auto bis = leseDatum(ende);
     if (!von || !bis) {
         melde(spalte);
@@ -165,7 +165,7 @@ void Zeilenbauer::alter(const Exportspalte& spalte, std::string_view geburtsdatu
         return;
     }
     const auto geburt = leseDatum(geburtsdatum);
-    const auto beginn = leseDatum(m_sätze.betreuung->feld(feld::betr::beginn));
+    const auto beginn = leseDatum(m_sätze.betreuung.feld(feld::betr::beginn));
     if (!geburt || !beginn) {
         melde(spalte);
         return;
@@ -236,7 +236,7 @@ void Zeilenbauer::flaggenplatz(const Exportspalte& spalte)
 // Of two groups that are marked, which the screens prevent, this speaks of the first and the age of the last.
 void Zeilenbauer::hauptdiagnose()
 {
-    const auto& diagnose = *m_sätze.diagnose;
+    const auto& diagnose = m_sätze.diagnose;
     int gruppe = 1;
     while (gruppe <= höchsteGruppe && !istHauptdiagnose(diagnose, gruppe)) {
         ++gruppe;
@@ -262,8 +262,8 @@ void Zeilenbauer::alterHauptdiagnose()
 {
     std::string_view alter = "0"_t;
     for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
-        if (istHauptdiagnose(*m_sätze.diagnose, gruppe)) {
-            const auto text = m_sätze.diagnose->feld(feld::diag::antwort(gruppe, AlterErstkonsum));
+        if (istHauptdiagnose(m_sätze.diagnose, gruppe)) {
+            const auto text = m_sätze.diagnose.feld(feld::diag::antwort(gruppe, AlterErstkonsum));
             alter = (text == kA || getrimmt(text).empty()) ? "0"_t : text;
         }
     }

@@ -9,13 +9,13 @@
 #include <string_view>
 #include <vector>
 
-/// The records that a row is made of; a row kind leaves those out that it does not need.
+/// What the rows of a run are made of: the records of the episode at hand, and what is the same for all.
 struct Exportsätze {
-    const Satzsicht* klient = nullptr;
-    const Satzsicht* betreuung = nullptr;
-    const Satzsicht* diagnose = nullptr;
-    std::string_view tsnr;
     const Bestandsmeldung& meldung; ///< told of a text that a coding does not hold
+    std::string_view tsnr{};        ///< first column of both rows; nothing ever fills it, but its place is kept
+    Satzsicht klient{};
+    Satzsicht betreuung{};
+    Satzsicht diagnose{};
 };
 
 /// Turns records into one row of the export, column by column.

@@ -4,6 +4,7 @@
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
+#include "satz/Wertelisten.h"
 #include "zustand/Zustand.h"
 
 #include <optional>
@@ -12,8 +13,6 @@
 
 namespace {
 
-constexpr int erstesJahr = 2006;
-constexpr int letztesJahr = 2020;
 constexpr auto bereit = "Bereit"_t;
 
 /// The export year, or nothing when the text is no whole number from 1 to 9999.
@@ -21,15 +20,6 @@ std::optional<int> leseJahr(std::string_view text)
 {
     const auto jahr = leseGanzzahl16(text);
     return jahr && *jahr >= 1 && *jahr <= 9999 ? std::optional<int>(*jahr) : std::nullopt;
-}
-
-std::vector<std::string> jahre()
-{
-    std::vector<std::string> liste;
-    for (int jahr = erstesJahr; jahr <= letztesJahr; ++jahr) {
-        liste.push_back(alsText(jahr));
-    }
-    return liste;
 }
 
 /// Sets a flag for as long as it lives.
@@ -59,7 +49,7 @@ frmExport::frmExport() : Bildschirm("frmExport"_t)
     leiste.rechts = {&cmdOK, &cmdExit};
     beiEscape = &cmdExit;
 
-    comboJahr.fülle(jahre(), alsText(erstesJahr));
+    comboJahr.fülle(werte::zahlen(alsText(erstesJahr), {erstesJahr + 1, letztesJahr}), alsText(erstesJahr));
     ProgressBar1.verberge();
     cmdOK.beiKlick = [this] { beiOK(); };
     cmdExit.beiKlick = [this] { beiExit(); };
@@ -109,8 +99,8 @@ void frmExport::exportiere(int jahr)
 std::filesystem::path frmExport::richteOrdnerEin(int jahr)
 {
     auto& dateien = zustand().umgebung.dateien();
-    const auto exporte = zustand().pfade.programm / "Exporte";
-    const auto ordner = exporte / verbinde("DBDD"_t, alsText(jahr));
+    const auto exporte = zustand().pfade.programm / exportort::ordner;
+    const auto ordner = exporte / verbinde(exportort::jahresordner, alsText(jahr));
     bool istNeu = false;
     beimSchreiben([&] {
         dateien.sorgeFürOrdner(exporte);

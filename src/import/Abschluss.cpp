@@ -5,7 +5,9 @@
 #include "platform/text/Text.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Klientenfelder.h"
+#include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
+#include "satz/moNationen.h"
 #include "store/Vorgang.h"
 
 #include <string>
@@ -13,6 +15,8 @@
 #include <unordered_set>
 
 namespace {
+
+constexpr auto codeEigeneProblematik = "1"_t;
 
 /// Rewrites the table through the scratch file: `tue(zeile, aus)` writes what becomes of each line.
 template <class F>
@@ -48,8 +52,8 @@ std::string_view kernID(std::string_view zeile)
 /// The care line with its first 191 fields and the mark in place of the last.
 std::string markiert(std::string_view zeile, bool istDeutsch)
 {
-    std::string neu(istDeutsch ? ersetzeFeld(zeile, feld::betr::nation, "Deutschland"_t) : std::string(zeile));
-    neu = ersetzeFeld(neu, feld::betr::betrGru, "Eigene Problematik"_t);
+    std::string neu(istDeutsch ? ersetzeFeld(zeile, feld::betr::nation, getNationZuCode("DEU"_t)) : std::string(zeile));
+    neu = ersetzeFeld(neu, feld::betr::betrGru, *werte::textZu(werte::betrGru, codeEigeneProblematik));
     return verbinde(felder(neu, feld::betr::kernID, feld::betr::memo - 1), "Importierter Datensatz"_t);
 }
 

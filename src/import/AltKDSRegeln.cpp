@@ -2,9 +2,16 @@
 
 #include "export/Diagnosezeile.h"
 #include "export/Kernzeile.h"
+#include "import/Altfelder.h"
 #include "platform/text/Text.h"
+#include "platform/text/Zahl.h"
+#include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
+#include "satz/Exportspalten.h"
+#include "satz/Klientenfelder.h"
 
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -70,107 +77,118 @@ Altregel beide(int spalte, int zweite = 0)
     return {.art = Regelart::Beide, .spalte = spalte, .zweite = zweite};
 }
 
-/// A rule at its column, or the same rule at several.
-struct Eintrag {
-    int von;
-    int bis;
+/// A row being built; what the older layout does not know is 0.
+class Regelreihe {
+public:
+    explicit Regelreihe(std::size_t spalten) : m_regeln(spalten, fest(null)) {}
+
+    void setze(int spalte, const Altregel& regel) { m_regeln.at(static_cast<std::size_t>(spalte - 1)) = regel; }
+    /// At the column of the care field with the name.
+    void setze(std::string_view feld, const Altregel& regel)
+    {
+        setze(feldAus(betreuungsfelder(), betreuungsfeld(feld)).spalte, regel);
+    }
+    /// At the columns of the care fields that differ by their number alone; `regel(nummer)` gives the rule.
+    template <class F> void setzeReihe(std::string_view stamm, int von, int bis, F regel)
+    {
+        for (int nummer = von; nummer <= bis; ++nummer) {
+            setze(verbinde(stamm, alsText(nummer)), regel(nummer));
+        }
+    }
+    /// At the column of the field of the diagnosis record.
+    void setzeDiagnose(int feld, const Altregel& regel) { setze(feldAus(diagnosefelder(), feld).spalte, regel); }
+
+    std::vector<Altregel> nimmRegeln() { return std::move(m_regeln); }
+
+private:
+    std::vector<Altregel> m_regeln;
+};
+
+struct Feldregel {
+    std::string_view feld;
     Altregel regel;
 };
 
-void trageEin(std::vector<Altregel>& regeln, const std::vector<Eintrag>& einträge)
-{
-    for (const auto& [von, bis, regel] : einträge) {
-        for (int spalte = von; spalte <= bis; ++spalte) {
-            regeln.at(static_cast<std::size_t>(spalte - 1)) = regel;
-        }
-    }
-}
-
-/// Columns next to each other that copy columns of the older row at a constant distance.
-void trageKopienEin(std::vector<Altregel>& regeln, int von, int bis, int spalte, int abstand = 1)
-{
-    for (int i = von; i <= bis; ++i) {
-        regeln.at(static_cast<std::size_t>(i - 1)) = kopie(spalte + (i - von) * abstand);
-    }
-}
-
 std::vector<Altregel> baueKernregeln()
 {
-    std::vector<Altregel> regeln(kernspalten().size(), fest(null)); // what the older layout does not know is 0
-    trageKopienEin(regeln, 1, 5, 1);
-    trageEin(regeln, {
-                         {6, 6, kopie(163)},
-                         {7, 7, kopie(7)},
-                         {8, 8, kopie(6)},
-                         {9, 9, kopie(16)},
-                         {12, 12, kopie(18)},
-                         {13, 13, kopie(11)},
-                         {14, 14, codes(17, vermittCodes, null)},
-                         {24, 24, codes(14, auflagenCodes)},
-                         {26, 43, fest({})},
-                         {27, 27, kopie(30)},
-                         {30, 30, kopie(25)},
-                         {32, 32, kopie(36)},
-                         {34, 34, kopie(46)},
-                         {44, 44, kopie(60)},
-                         {45, 45, kopie(61)},
-                         {52, 54, fest({})},
-                         {58, 58, codes(77, schuleCodes)},
-                         {60, 60, codes(75, wohnungCodes)},
-                         {62, 62, codes(76, wohnungCodes)},
-                         {63, 63, codes(78, erwerbCodes)},
-                         {94, 94, beide(93)},
-                         {95, 95, beide(87, 112)},
-                         {97, 97, beide(84)},
-                         {98, 98, beide(87)},
-                         {101, 101, beide(92)},
-                         {111, 111, beide(112)},
-                         {112, 112, beide(106, 93)},
-                         {114, 114, beide(103)},
-                         {115, 115, beide(106)},
-                         {118, 118, beide(111)},
-                         {154, 154, {.art = Regelart::OhneNull, .spalte = 160}},
-                         {155, 155, codes(161, artEndeCodes)},
-                         {156, 156, {.art = Regelart::FührendeAcht, .spalte = 161}},
-                         {181, 181, codes(162, problEndeCodes)},
-                     });
-    trageKopienEin(regeln, 46, 51, 63, 2);
-    for (int position = 1; position <= 9; ++position) {
-        regeln.at(static_cast<std::size_t>(13 + position)) = {
-            .art = Regelart::Kosten, .spalte = 12, .position = position};
+    const auto leer = [](int) { return fest({}); };
+    Regelreihe reihe(kernspalten().size());
+    reihe.setze(exportspalte::tsnr, kopie(altspalte::tsnr));
+    reihe.setze(exportspalte::kernID, kopie(2));
+    reihe.setze(exportspalte::betrID, kopie(3));
+    reihe.setze(exportspalte::kern::dauer, kopie(altspalte::kern::dauer));
+    reihe.setze(feldAus(klientenfelder(), feld::kern::geburtsdatum).spalte, kopie(altspalte::kern::alter));
+    reihe.setze(feldAus(klientenfelder(), feld::kern::geschlecht).spalte, kopie(altspalte::kern::geschlecht));
+    reihe.setzeReihe("Zuvor"_t, 1, 18, leer);
+    reihe.setzeReihe("Kinder"_t, 1, 2, leer);
+    reihe.setzeReihe("Kosten"_t, 1, 9,
+                     [](int nummer) { return Altregel{.art = Regelart::Kosten, .spalte = 12, .position = nummer}; });
+    reihe.setzeReihe("LebenSit"_t, 0, 5, [](int nummer) { return kopie(63 + 2 * nummer); });
+    for (const auto& [feld, regel] : {
+             Feldregel{"BetrBeg"_t, kopie(altspalte::kern::beginn)},
+             Feldregel{"BetrEnd"_t, kopie(altspalte::kern::ende)},
+             Feldregel{"BetrGru"_t, kopie(16)},
+             Feldregel{"zuvorNULL"_t, kopie(18)},
+             Feldregel{"Wieder"_t, kopie(11)},
+             Feldregel{"Vermitt"_t, codes(17, vermittCodes, null)},
+             Feldregel{"Auflagen1"_t, codes(14, auflagenCodes)},
+             Feldregel{"Zuvor2"_t, kopie(30)},
+             Feldregel{"Zuvor5"_t, kopie(25)},
+             Feldregel{"Zuvor7"_t, kopie(36)},
+             Feldregel{"Zuvor9"_t, kopie(46)},
+             Feldregel{"FamSta"_t, kopie(60)},
+             Feldregel{"Partner"_t, kopie(61)},
+             Feldregel{"Nation"_t, fest({})},
+             Feldregel{"Schule"_t, codes(77, schuleCodes)},
+             Feldregel{"Wohnung1"_t, codes(75, wohnungCodes)},
+             Feldregel{"Wohnung3"_t, codes(76, wohnungCodes)},
+             Feldregel{"Erwerb1"_t, codes(78, erwerbCodes)},
+             Feldregel{"MasInt2"_t, beide(93)},
+             Feldregel{"MasInt3"_t, beide(87, 112)},
+             Feldregel{"MasInt5"_t, beide(84)},
+             Feldregel{"MasInt6"_t, beide(87)},
+             Feldregel{"MasInt9"_t, beide(92)},
+             Feldregel{"MasExt2"_t, beide(112)},
+             Feldregel{"MasExt3"_t, beide(106, 93)},
+             Feldregel{"MasExt5"_t, beide(103)},
+             Feldregel{"MasExt6"_t, beide(106)},
+             Feldregel{"MasExt9"_t, beide(111)},
+             Feldregel{"Kontakte"_t, {.art = Regelart::OhneNull, .spalte = 160}},
+             Feldregel{"ArtEnd1"_t, codes(161, artEndeCodes)},
+             Feldregel{"ArtEnd2"_t, {.art = Regelart::FührendeAcht, .spalte = 161}},
+             Feldregel{"ProblEnde"_t, codes(162, problEndeCodes)},
+         }) {
+        reihe.setze(feld, regel);
     }
-    return regeln;
+    return reihe.nimmRegeln();
 }
 
 std::vector<Altregel> baueDiagnoseregeln()
 {
+    using namespace feld::diag;
     constexpr std::array ersteSpalten{19, 25, 32, 39,  46,  53,  59,  65,  71,  77,
                                       83, 89, 95, 101, 107, 113, 119, 125, 131, 137};
-    std::vector<Altregel> regeln(diagnosespalten().size(), fest(null));
-    trageKopienEin(regeln, 1, 3, 1);
-    std::size_t ort = 3;
-    for (const int spalte : ersteSpalten) { // kind of consumption, and the digits behind the class
-        regeln.at(ort) = kopie(spalte);
-        regeln.at(ort + 3) = kopie(spalte + 2);
-        ort += 6;
+    Regelreihe reihe(diagnosespalten().size());
+    reihe.setze(exportspalte::tsnr, kopie(altspalte::tsnr));
+    reihe.setze(exportspalte::kernID, kopie(2));
+    reihe.setze(exportspalte::betrID, kopie(3));
+    for (int gruppe = 1; const int spalte : ersteSpalten) { // kind of consumption, and the digits behind the class
+        reihe.setzeDiagnose(antwort(gruppe, Konsumart), kopie(spalte));
+        reihe.setzeDiagnose(antwort(gruppe++, ICDStelle4), kopie(spalte + 2));
     }
-    trageEin(regeln, {
-                         {127, 127, kopie(147)},
-                         {131, 131, kopie(153)},
-                         {135, 135, kopie(159)},
-                         {139, 139, fest({})},
-                         {157, 157, kopie(142)},
-                         {159, 159, {.art = Regelart::Auszunehmen, .spalte = 4, .codes = ohneGruppe, .sonst = null}},
-                         {160, 160, fest({})},
-                         {162, 162, kopie(204)},
-                         {163, 163, kopie(205)},
-                         {164, 165, fest({})},
-                         {166, 166, kopie(208)},
-                         {167, 167, kopie(209)},
-                         {168, 169, fest({})},
-                     });
-    trageKopienEin(regeln, 170, 173, 212);
-    return regeln;
+    for (const auto& [gruppe, regel] : {std::pair{21, kopie(147)}, std::pair{22, kopie(153)}, std::pair{23, kopie(159)},
+                                        std::pair{geldspielautomaten, fest({})}, std::pair{29, kopie(142)}}) {
+        reihe.setzeDiagnose(antwort(gruppe, ICDStelle4), regel);
+    }
+    reihe.setze(exportspalte::diag::hauptdiagnose,
+                {.art = Regelart::Auszunehmen, .spalte = 4, .codes = ohneGruppe, .sonst = null});
+    reihe.setze(exportspalte::diag::alterErstkonsum, fest({}));
+    for (int nummer = 1; nummer <= anzahlWeitereDiagnosen; ++nummer) {
+        // of each four with a letter of their own the older layout fills two
+        const bool fehlt = !diagnoseartVon(nummer).buchstabe.empty() && (nummer - 1) % 4 >= 2;
+        reihe.setzeDiagnose(weitere(nummer), fehlt ? fest({}) : kopie(altspalte::diag::weitere + nummer - 1));
+    }
+    return reihe.nimmRegeln();
 }
 
 } // namespace

@@ -117,8 +117,8 @@ void AltKDSZeile::icdZusatz(std::string_view text, int spalte)
 {
     if (text.empty() || text == ".") {
         wert({});
-    } else if (spalte >= altspalte::diag::icdPsy) {
-        wert(verbinde(diagnoseartVon(spalte - altspalte::diag::icdPsy + 1).buchstabe, text));
+    } else if (spalte >= altspalte::diag::weitere) {
+        wert(verbinde(diagnoseartVon(spalte - altspalte::diag::weitere + 1).buchstabe, text));
     } else {
         wert(text);
     }

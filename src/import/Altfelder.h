@@ -58,7 +58,8 @@ inline constexpr int ende = 5;
 inline constexpr int geschlecht = 6;
 inline constexpr int alter = 7;
 inline constexpr int nationalität = 9;
-inline constexpr int anzahl = 163;
+inline constexpr int dauer = 163;
+inline constexpr int anzahl = dauer;
 } // namespace kern
 
 namespace diag {
@@ -67,9 +68,7 @@ inline constexpr int f19 = 14;
 inline constexpr int f50 = 15;
 inline constexpr int f55 = 16;
 inline constexpr int f63 = 17;
-inline constexpr int icdPsy = 204; ///< four columns, followed by four of `icdNeu`
-inline constexpr int icdNeu = 208;
-inline constexpr int icdAnd = 212;
+inline constexpr int weitere = 204; ///< the first of twelve further diagnoses
 inline constexpr int anzahl = 215;
 } // namespace diag
 

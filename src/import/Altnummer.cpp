@@ -4,13 +4,14 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Satzgrenzen.h"
 
 std::int32_t leseAltnummer(std::string_view text, const std::filesystem::path& datei)
 {
     const auto nummer = leseGanzzahl16(text);
     if (!nummer || *nummer < 1) {
-        throw Laufzeitfehler(
-            verbinde("\""_t, text, "\" in \""_t, pfadtext(datei), "\" ist keine Nummer von 1 bis 32767."_t));
+        throw Laufzeitfehler(verbinde("\""_t, text, "\" in \""_t, pfadtext(datei), "\" ist keine Nummer von 1 bis "_t,
+                                      alsText(satzgrenze::höchsteNummer), '.'));
     }
     return *nummer;
 }

@@ -13,6 +13,9 @@
 /// older care record. They are data of the installation: a facility whose older files are laid out otherwise
 /// changes them and not the program.
 
+inline constexpr auto kernanweisung = "eKernAnweisung.txt";
+inline constexpr auto diagnoseanweisung = "eDiagAnweisung.txt";
+
 enum class Spaltenanweisungsart {
     Wert,
     Option,

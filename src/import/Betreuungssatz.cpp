@@ -10,8 +10,8 @@ void Betreuungssatz::lies(std::string_view zeile)
     std::size_t anfang = 0;
     for (std::size_t i = 0;; ++i) {
         if (i == m_felder.size()) {
-            throw Laufzeitfehler(
-                verbinde("Der Betreuungssatz Nr. "_t, std::to_string(m_gelesene), " hat mehr als 153 Felder."_t));
+            throw Laufzeitfehler(verbinde("Der Betreuungssatz Nr. "_t, std::to_string(m_gelesene), " hat mehr als "_t,
+                                          std::to_string(höchsteFeldzahl), " Felder."_t));
         }
         const auto ende = zeile.find(trenner, anfang);
         m_felder[i] = zeile.substr(anfang, ende - anfang);

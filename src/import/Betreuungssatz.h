@@ -11,7 +11,7 @@ public:
     static constexpr int höchsteFeldzahl = 153;
 
     /// Takes the next line. The fields that a shorter line lacks keep what the line before had there. More
-    /// than 153 fields are a Laufzeitfehler.
+    /// than `höchsteFeldzahl` are a Laufzeitfehler.
     void lies(std::string_view zeile);
 
     /// A field from 1 on; another number is a Laufzeitfehler.

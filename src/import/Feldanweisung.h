@@ -15,7 +15,8 @@ struct Feldanweisung {
         std::string ergebnis;
         std::string code;
     };
-    std::vector<Paar> paare; ///< of the kinds that look the value up
+    std::vector<Paar> paare{}; ///< of the kinds that look the value up
+    std::string vorgabe{};     ///< what a field without source holds
 };
 
 /// The result for the code; "<leer>" and "<text>" are resolved. An empty value that the row lacks stays empty; another

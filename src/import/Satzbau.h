@@ -28,15 +28,14 @@ public:
     const std::string& baue(const Episodenzeilen& zeilen);
 
 private:
-    void füge(const Feldanweisung& anweisung, const Episodenzeilen& zeilen);
-    void fügeHauptdiagnose(const Feldanweisung& anweisung, const Episodenzeilen& zeilen);
-    std::string_view zahl() const;
+    void füge(const Feldanweisung& anweisung, std::string_view wert, const Episodenzeilen& zeilen);
+    void fügeHauptdiagnose(const Feldanweisung& anweisung, std::string_view wert, const Episodenzeilen& zeilen);
+    std::string_view zahl(std::string_view wert) const;
 
     Art m_art;
     std::vector<Feldanweisung> m_anweisungen;
     std::string m_satz;
     std::string m_ablage;
-    std::string_view m_wert;       ///< of the last row that had a source
     std::size_t m_letztesFeld = 0; ///< where the field written just before begins
     int m_hdOhne = 0;
     int m_ivKonsum = 0;

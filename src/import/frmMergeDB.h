@@ -2,7 +2,7 @@
 
 #include "platform/bildschirm/Bildschirm.h"
 
-/// A placeholder for a merge of tables, which this program does not offer: nothing opens it.
+/// A placeholder for a merge of tables, which this program does not offer: asked for by name, nothing opens it.
 class frmMergeDB : public Bildschirm {
 public:
     Beschriftung lblHeader{*this, "lblHeader"_t};

@@ -37,6 +37,7 @@ std::vector<Typ> macheTypen()
 {
     const auto kinder = verbinde("<0.."_t, alsText(werte::kinder.bis), '>');
     const auto kontakte = verbinde("<1-"_t, alsText(werte::kontakte.bis), '>');
+    const auto ziffern = verbinde('<', diagnosemuster.back(), '>');
     return {
         Typ{Feldart::idKern, "idKern"_t, {}},
         Typ{Feldart::idBetr, "idBetr"_t, {}},
@@ -51,9 +52,9 @@ std::vector<Typ> macheTypen()
         Typ{Feldart::ivKonsum, "ivKonsum"_t, texte("<WAHR, FALSCH>"_t)},
         Typ{Feldart::hdAlter, "hdAlter"_t, {}},
         Typ{Feldart::icd0000, "icd0000"_t, {}},
-        Typ{Feldart::icdPsy, "icdPsy"_t, texte("<##.##>"_t)},
-        Typ{Feldart::icdNeu, "icdNeu"_t, texte("<##.##>"_t)},
-        Typ{Feldart::text, "text"_t, texte("<?##.##>"_t)},
+        Typ{Feldart::icdPsy, "icdPsy"_t, texte(ziffern)},
+        Typ{Feldart::icdNeu, "icdNeu"_t, texte(ziffern)},
+        Typ{Feldart::text, "text"_t, texte(verbinde("<?"_t, diagnosemuster.back(), '>'))},
         Typ{Feldart::leer, leer, {}},
         Typ{Feldart::memo, {}, {}},
     };
@@ -184,14 +185,13 @@ Paare hauptdiagnosepaare(int gruppe)
     return paare;
 }
 
-/// An answer that the export has no column for stays empty.
 Feldanweisung anweisungZu(const Satzfeld& feld, Paare paare)
 {
-    const bool ohneQuelle = feld.art == Feldart::option && feld.blatt == 0;
     return {.blatt = feld.blatt,
             .spalte = feld.spalte,
-            .art = ohneQuelle ? Feldart::leer : feld.art,
-            .paare = ohneQuelle ? Paare{} : std::move(paare)};
+            .art = feld.art,
+            .paare = std::move(paare),
+            .vorgabe = feld.vorgabe};
 }
 
 Feldanweisung betreuungsanweisung(int nummer)

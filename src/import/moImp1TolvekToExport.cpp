@@ -3,6 +3,7 @@
 #include "import/Altfelder.h"
 #include "import/Altnummer.h"
 #include "import/Eingabedatei.h"
+#include "import/Zeilenverzeichnis.h"
 #include "platform/text/Datum.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
@@ -10,7 +11,6 @@
 #include "satz/moHelferlein.h"
 
 #include <string>
-#include <unordered_map>
 
 namespace {
 
@@ -24,28 +24,6 @@ Datum leseAltdatum(std::string_view text, const std::filesystem::path& datei)
     }
     return *datum;
 }
-
-/// The older clients by number. The last line stands in for a client that is missing.
-class Altklienten {
-public:
-    explicit Altklienten(const Eingabedatei& datei)
-    {
-        datei.fürJedenSatz([this](std::string_view zeile) {
-            m_zeilen.try_emplace(getFeld(zeile, altfeld::klient::nummer), zeile);
-            m_letzte = zeile;
-        });
-    }
-
-    std::string_view zeile(std::string_view nummer) const
-    {
-        const auto ort = m_zeilen.find(nummer);
-        return ort == m_zeilen.end() ? m_letzte : ort->second;
-    }
-
-private:
-    std::unordered_map<std::string_view, std::string_view> m_zeilen;
-    std::string_view m_letzte;
-};
 
 std::string geburtsjahr(std::string_view geburt, const std::filesystem::path& datei)
 {
@@ -87,7 +65,9 @@ std::string alterswert(std::string_view klient, std::string_view betreuung, cons
 
 void ergänzeBetreuungen(const Eingabedatei& betreuungen, const Eingabedatei& klienten, Schreiber& betreuungenExp)
 {
-    const Altklienten verzeichnis(klienten);
+    Zeilenverzeichnis<std::string_view> verzeichnis;
+    klienten.fürJedenSatz(
+        [&](std::string_view zeile) { verzeichnis.nimm(getFeld(zeile, altfeld::klient::nummer), zeile); });
     betreuungen.fürJedenSatz([&](std::string_view zeile) {
         const auto nummer = getFeld(zeile, altfeld::betreuung::nummer);
         leseAltnummer(nummer, betreuungen.pfad());

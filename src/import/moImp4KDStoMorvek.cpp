@@ -4,6 +4,7 @@
 #include "import/Altnummer.h"
 #include "import/Eingabedatei.h"
 #include "import/Satzbau.h"
+#include "import/Zeilenverzeichnis.h"
 #include "import/moAnweisungen.h"
 #include "platform/text/Text.h"
 #include "satz/Exportspalten.h"
@@ -35,30 +36,6 @@ std::string_view schlüssel(std::string_view zeile)
     return erstes == std::string_view::npos || zweites == std::string_view::npos ? std::string_view{}
                                                                                  : zeile.substr(erstes, ende - erstes);
 }
-
-/// The clients' personal data by number.
-class Personen {
-public:
-    Personen(Dateien& dateien, const std::filesystem::path& pfad) : m_datei(dateien, pfad)
-    {
-        m_datei.fürJedeZeile([this](std::string_view zeile) {
-            m_zeilen.try_emplace(leseAltnummer(getFeld(zeile, altfeld::klient::nummer), m_datei.pfad()), zeile);
-            m_letzte = zeile;
-        });
-    }
-
-    /// The client's line; the last one stands in for a client that is missing.
-    std::string_view zeile(std::int32_t kernID) const
-    {
-        const auto ort = m_zeilen.find(kernID);
-        return ort == m_zeilen.end() ? m_letzte : ort->second;
-    }
-
-private:
-    Eingabedatei m_datei;
-    std::unordered_map<std::int32_t, std::string_view> m_zeilen;
-    std::string_view m_letzte;
-};
 
 /// The diagnosis rows by their ids; an episode can have several.
 class Diagnosezeilen {
@@ -126,7 +103,11 @@ void moImp4KDStoMorvek(Dateien& dateien, const std::filesystem::path& kdsKern, c
 {
     const Eingabedatei kernzeilen(dateien, kdsKern);
     const Diagnosezeilen diagnosen(dateien, kdsDiagnose);
-    const Personen personen(dateien, extraExp);
+    const Eingabedatei extra(dateien, extraExp);
+    Zeilenverzeichnis<std::int32_t> personen; // the clients' personal data by number
+    extra.fürJedeZeile([&](std::string_view zeile) {
+        personen.nimm(leseAltnummer(getFeld(zeile, altfeld::klient::nummer), extraExp), zeile);
+    });
     Ausgabe ausgabe(dateien, kernDat, betrDat, diagDat);
 
     std::unordered_set<std::int32_t> bekannte;

@@ -9,7 +9,7 @@
 ///
 /// A text that an `option` instruction lacks shows a box and leaves the row one column short, so that the later
 /// columns stand one place too far left. A missing or damaged instruction file, a begin that is no date and a
-/// care line of more than 153 fields are a Laufzeitfehler.
+/// care line with too many fields are a Laufzeitfehler.
 void moimp2TolvekExportTOaltKDS(const Importort& ort, const std::filesystem::path& kernExp,
                                 const std::filesystem::path& betreuungenExp, const std::filesystem::path& aKDSKern,
                                 const std::filesystem::path& aKDSDiagnose);

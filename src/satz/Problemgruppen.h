@@ -81,6 +81,18 @@ inline constexpr std::array<Gruppenreihe, 3> gruppenreihen{{
 }};
 static_assert(gruppenreihen.front().von == 1 && gruppenreihen.back().bis == höchsteGruppe,
               "the kinds cover the groups of the catalogue");
+static_assert(
+    [] {
+        for (std::size_t i = 1; i < gruppenreihen.size(); ++i) {
+            const auto& davor = gruppenreihen[i - 1];
+            const int frei = davor.ersteSpalte + davor.spaltenJeGruppe() * (davor.bis - davor.von + 1);
+            if (gruppenreihen[i].von != davor.bis + 1 || gruppenreihen[i].ersteSpalte < frei) {
+                return false;
+            }
+        }
+        return true;
+    }(),
+    "each row begins with the group behind the one before, and with a column that is free");
 
 /// The kind of the group with what it asks; nullptr for a number that is no group.
 constexpr const Gruppenreihe* gruppenreihe(int gruppe)

@@ -8,9 +8,6 @@
 
 namespace {
 
-/// What can be typed; the last one is shown as the form.
-constexpr std::array<std::string_view, 3> muster{"##"_t, "##.#"_t, "##.##"_t};
-
 bool istZiffer(char zeichen)
 {
     return zeichen >= '0' && zeichen <= '9';
@@ -34,14 +31,15 @@ bool istWeitereDiagnose(int nummer, std::string_view text)
         return false;
     }
     const std::string_view ziffern = diagnoseartVon(nummer).buchstabe.empty() ? text.substr(1) : text;
-    return std::ranges::any_of(muster, [ziffern](std::string_view form) { return passt(ziffern, form); });
+    return std::ranges::any_of(diagnosemuster, [ziffern](std::string_view form) { return passt(ziffern, form); });
 }
 
 std::string meldungZuWeitererDiagnose(int nummer)
 {
     const auto buchstabe = diagnoseartVon(nummer).buchstabe;
     const bool wirdGetippt = buchstabe.empty();
-    const auto form = wirdGetippt ? verbinde('A', ersetzt(muster.back(), "#"_t, "1"_t)) : std::string(muster.back());
+    const auto form =
+        wirdGetippt ? verbinde('A', ersetzt(diagnosemuster.back(), "#"_t, "1"_t)) : std::string(diagnosemuster.back());
     const auto zusatz =
         wirdGetippt ? std::string() : verbinde("(Das '"_t, buchstabe, "' wird automatisch hinzugefügt)\r\n"_t);
     return verbinde("In diesem Feld ist nur folgendes Format erlaubt: "_t, form, "\r\n"_t, zusatz,

@@ -41,8 +41,12 @@ constexpr const Diagnoseart& diagnoseartVon(int nummer)
     return diagnosearten[ort];
 }
 
-/// Whether the text can stand in further diagnosis `nummer` (1 to 12): empty, or two digits with up to two more
-/// behind a point; from 9 on with any one character in front. The field delimiter never can.
+/// What can be typed, "#" for one digit; where no letter is added, any one character goes before it. The last one is
+/// shown as the form.
+inline constexpr std::array<std::string_view, 3> diagnosemuster{"##"_t, "##.#"_t, "##.##"_t};
+
+/// Whether the text can stand in further diagnosis `nummer` (1 to 12): empty, or of one of the forms; the
+/// field delimiter never can.
 bool istWeitereDiagnose(int nummer, std::string_view text);
 
 /// What the user is told about a text that can't.

@@ -34,11 +34,6 @@ bool istFlagge(std::string_view wert)
     return wort == "wahr" || wort == "falsch";
 }
 
-bool hat(const std::vector<Satzfeld>& felder, int feld)
-{
-    return feld >= 1 && static_cast<std::size_t>(feld) <= felder.size();
-}
-
 /// The digits of an ICD code are stored without their text.
 bool istIcdStelle(const Satzfeld& feld, std::string_view wert)
 {
@@ -73,19 +68,13 @@ bool istBlockwert(int gruppe, int platz, const Satzfeld& feld, std::string_view 
 
 bool istKlientenwert(int feld, std::string_view wert)
 {
-    if (!hat(klientenfelder(), feld)) {
-        return true;
-    }
-    const auto& satzfeld = feldAus(klientenfelder(), feld);
+    const auto& satzfeld = feldOderNichts(klientenfelder(), feld);
     return feld == feld::kern::leer ? wert.empty() : satzfeld.werte.empty() || istIn(satzfeld.werte, wert);
 }
 
 bool istBetreuungswert(int feld, std::string_view wert)
 {
-    if (!hat(betreuungsfelder(), feld)) {
-        return true;
-    }
-    const auto& satzfeld = feldAus(betreuungsfelder(), feld);
+    const auto& satzfeld = feldOderNichts(betreuungsfelder(), feld);
     if (const auto bereich = zahlenbereich(satzfeld.art)) {
         return wert == satzfeld.vorgabe || istZahlIn(*bereich, wert);
     }
@@ -111,41 +100,23 @@ bool istDiagnosewert(int feld, std::string_view wert)
     return feld < ersteAntwort || feld >= bitfeld || istWeitereDiagnose(feld - weitere(0), wert);
 }
 
-Feldart betreuungsfeldart(int feld)
+const Satzfeld& feldOderNichts(const std::vector<Satzfeld>& felder, int feld)
 {
-    return hat(betreuungsfelder(), feld) ? feldAus(betreuungsfelder(), feld).art : Feldart::klient;
+    static const Satzfeld nichts;
+    return feld >= 1 && static_cast<std::size_t>(feld) <= felder.size() ? feldAus(felder, feld) : nichts;
 }
 
-Feldart diagnosefeldart(int feld)
-{
-    return hat(diagnosefelder(), feld) ? feldAus(diagnosefelder(), feld).art : Feldart::klient;
-}
-
-std::string_view klientenfeldname(int feld)
-{
-    return hat(klientenfelder(), feld) ? std::string_view(feldAus(klientenfelder(), feld).name) : std::string_view();
-}
-
-std::string_view betreuungsfeldname(int feld)
-{
-    return hat(betreuungsfelder(), feld) ? std::string_view(feldAus(betreuungsfelder(), feld).name)
-                                         : std::string_view();
-}
-
-Diagnosefeldname diagnosefeldname(int feld)
+std::string diagnosefeldname(int feld)
 {
     constexpr std::array<std::string_view, felderJeGruppe> fragen{
         "Konsumart"_t,        "Konsumtage vor Beginn"_t, "Konsumtage vor Ende"_t, "ICD Stelle 4+5"_t,
         "Alter bei Beginn"_t, "Riskanter Konsum"_t,      "Alter Erstkonsum"_t,    "Hauptdiagnose"_t};
     using namespace feld::diag;
     if (feld == bitfeld) {
-        return {"Bitfeld"_t, {}};
-    }
-    if (!hat(diagnosefelder(), feld)) {
-        return {};
+        return std::string("Bitfeld"_t);
     }
     if (!istAntwort(feld)) {
-        return {feldAus(diagnosefelder(), feld).name, {}};
+        return feldOderNichts(diagnosefelder(), feld).name;
     }
-    return {gruppenname(gruppeVon(feld)), fragen.at(static_cast<std::size_t>(platzVon(feld) - 1))};
+    return verbinde(gruppenname(gruppeVon(feld)), ", "_t, fragen.at(static_cast<std::size_t>(platzVon(feld) - 1)));
 }

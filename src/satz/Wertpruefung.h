@@ -2,7 +2,9 @@
 
 #include "satz/Satzaufbau.h"
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 /// Whether a value is one that the program writes into the field: from its list, its range of numbers, its default,
 /// or what stands for an answer not given. Free texts, keys, dates and the bit field have rules of their own and
@@ -11,16 +13,8 @@ bool istKlientenwert(int feld, std::string_view wert);
 bool istBetreuungswert(int feld, std::string_view wert);
 bool istDiagnosewert(int feld, std::string_view wert);
 
-/// The kind of the field; `klient` in the client record and beyond the layouts.
-Feldart betreuungsfeldart(int feld);
-Feldart diagnosefeldart(int feld);
+/// Field `feld` from 1; a text without a name beyond the layout.
+const Satzfeld& feldOderNichts(const std::vector<Satzfeld>& felder, int feld);
 
-/// What a field is called in a report: its name, in the blocks of the diagnosis record group and question.
-std::string_view klientenfeldname(int feld);
-std::string_view betreuungsfeldname(int feld);
-/// Of two parts, the second is empty where the field has a name of its own.
-struct Diagnosefeldname {
-    std::string_view bereich;
-    std::string_view frage;
-};
-Diagnosefeldname diagnosefeldname(int feld);
+/// What a field of the diagnosis record is called in a report: its name, in the blocks group and question.
+std::string diagnosefeldname(int feld);

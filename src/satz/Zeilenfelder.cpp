@@ -2,6 +2,7 @@
 
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Satzgrenzen.h"
 
 #include <algorithm>
 #include <climits>
@@ -9,8 +10,6 @@
 #include <optional>
 
 namespace {
-
-constexpr std::size_t höchsteZeilenlänge = std::numeric_limits<std::int16_t>::max();
 
 /// What is left of the line from field `nummer` on, without a value when there is no such field.
 std::optional<std::string_view> abFeld(std::string_view zeile, int nummer, char trennzeichen)
@@ -32,9 +31,9 @@ std::optional<std::string_view> abFeld(std::string_view zeile, int nummer, char 
 
 void prüfeZeilenlänge(std::string_view zeile)
 {
-    if (zeile.size() > höchsteZeilenlänge) {
+    if (zeile.size() > satzgrenze::zeilenlänge) {
         throw Laufzeitfehler(verbinde("Überlauf: Eine Zeile ist "_t, std::to_string(zeile.size()),
-                                      " Zeichen lang, erlaubt sind "_t, std::to_string(höchsteZeilenlänge)));
+                                      " Zeichen lang, erlaubt sind "_t, std::to_string(satzgrenze::zeilenlänge)));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/mappe/Arbeitsmappe.h"
 #include "spreadsheet/Zeilensuche.h"
+#include "spreadsheet/moErstelleHeader.h"
 
 #include <filesystem>
 #include <functional>
@@ -25,27 +26,28 @@ struct HDBlock {
 /// 32,767 characters.
 HDBlock sucheHDBlock(std::string_view satz);
 
-/// The evaluation sheet: one row per diagnosis record with client data, main diagnosis and the care record.
-/// Every column shows what its header says except the comments of the columns 11 to 15, which stand one off
-/// from their columns; users know them that way.
+/// The evaluation sheet: one row per diagnosis record with client data, main diagnosis and the care record
+/// (Auswertungsspalten.h). Every column shows what its header says except the comments of the main diagnosis from its
+/// second column on, which stand one off; users know them that way.
 class Auswertung {
 public:
     /// Adds the sheet `Auswertung` in front of all others. The tables must live as long as the workbook; `diagDat`
     /// names the file of one of them in failures.
     Auswertung(Arbeitsmappe& mappe, const Tabellen& tabellen, std::filesystem::path diagDat);
 
-    /// Columns 1, 2 and 10 to 17. More records than a 16-bit row number counts are a Laufzeitfehler.
+    /// The ids and the main diagnosis. More records than a 16-bit row number counts are a Laufzeitfehler.
     void schreibeHauptdiagnosen();
-    /// Columns 3 to 9, down to the first row without an id.
+    /// The client, down to the first row without an id.
     void schreibeKlienten();
-    /// Columns 18 to 206, down to the first row without an id. `kopf` names the care columns; `beiDatensatz` is
-    /// told of each record, counted from 1.
-    void schreibeBetreuungen(std::string_view kopf, const std::function<void(int nummer)>& beiDatensatz);
+    /// The episode, down to the first row without an id. `köpfe` are those of the care table; `beiDatensatz` is told of
+    /// each record, counted from 1.
+    void schreibeBetreuungen(const Spaltenköpfe& köpfe, const std::function<void(int nummer)>& beiDatensatz);
 
 private:
     bool istBelegt(int zeile) const { return m_blatt.zelle(zeile, 1).art != Zellart::Leer; }
     std::string schlüssel(int zeile, int spalte) const { return alsAnzeigetext(m_blatt.zelle(zeile, spalte)); }
     void schreibeHDKopf();
+    void schreibeBetreuungskopf(const Spaltenköpfe& köpfe);
     void schreibeHD(int zeile, const HDBlock& block);
 
     Blatt& m_blatt;

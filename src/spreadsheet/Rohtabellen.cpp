@@ -7,6 +7,7 @@
 #include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 
+#include <algorithm>
 #include <climits>
 #include <memory>
 #include <utility>
@@ -24,15 +25,20 @@ bool istBlank(std::string_view tabelle)
 
 /// Header rows and table on a blank sheet; `schreibeZeile(zeile, satz, plan)` puts a record into its row.
 template <class F>
-void schreibe(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf, std::vector<int> ohneSpalte,
+void schreibe(Blatt& blatt, std::string_view tabelle, const Spaltenköpfe& köpfe, std::vector<int> ohneSpalte,
               F schreibeZeile)
 {
     if (istBlank(tabelle)) {
         return;
     }
     const auto& plan = blatt.merke({.ohneZelle = std::move(ohneSpalte)});
-    for (int zeile = 1; zeile <= namenszeile; ++zeile) {
-        blatt.setzeFelder(zeile, 1, kopf[static_cast<std::size_t>(zeile)], plan);
+    for (int feld = 1; const auto& kopf : köpfe) {
+        if (!std::ranges::binary_search(plan.ohneZelle, feld)) {
+            blatt.setze(1, plan.zelleVon(feld), kopf.thema);
+            blatt.setze(2, plan.zelleVon(feld), kopf.frage);
+            blatt.setze(namenszeile, plan.zelleVon(feld), kopf.name);
+        }
+        ++feld;
     }
     Zeilen zeilen(tabelle);
     while (const auto satz = zeilen.nächste()) {
@@ -42,22 +48,22 @@ void schreibe(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf, st
     blatt.setzeFett(namenszeile);
 }
 
-void schreibeSätze(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf, std::vector<int> ohneSpalte)
+void schreibeSätze(Blatt& blatt, std::string_view tabelle, const Spaltenköpfe& köpfe, std::vector<int> ohneSpalte)
 {
-    schreibe(blatt, tabelle, kopf, std::move(ohneSpalte), [&](int zeile, std::string_view satz, const Feldplan& plan) {
+    schreibe(blatt, tabelle, köpfe, std::move(ohneSpalte), [&](int zeile, std::string_view satz, const Feldplan& plan) {
         blatt.verweiseFelder(zeile, 1, satz, plan);
     });
 }
 
-/// The fields that no group fills, and what stands behind the last name.
-std::vector<int> ungenutzte(std::string_view spaltennamen)
+/// The fields that no group fills, and the bit field behind the last name.
+std::vector<int> ungenutzte(const Spaltenköpfe& köpfe)
 {
     std::vector<int> felder;
-    const int anzahl = anzahlFelder(spaltennamen);
-    for (int feld = 1; feld <= anzahl; ++feld) {
-        if (feld == anzahl || getFeld(spaltennamen, feld) == "VOID"_t) {
+    for (int feld = 1; const auto& kopf : köpfe) {
+        if (kopf.name.empty() || kopf.name == "VOID"_t) {
             felder.push_back(feld);
         }
+        ++feld;
     }
     return felder;
 }
@@ -106,23 +112,22 @@ std::string_view liesTabelle(Arbeitsmappe& mappe, Dateien& dateien, const std::f
     return inhalt->text();
 }
 
-void schreibeKernDat(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf)
+void schreibeKernDat(Blatt& blatt, std::string_view tabelle, const Spaltenköpfe& köpfe)
 {
-    schreibeSätze(blatt, tabelle, kopf, {feld::kern::leer, feld::kern::memo});
+    schreibeSätze(blatt, tabelle, köpfe, {feld::kern::leer, feld::kern::memo});
 }
 
-void schreibeBetrDat(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf)
+void schreibeBetrDat(Blatt& blatt, std::string_view tabelle, const Spaltenköpfe& köpfe)
 {
-    schreibeSätze(blatt, tabelle, kopf, {feld::betr::memo});
+    schreibeSätze(blatt, tabelle, köpfe, {feld::betr::memo});
 }
 
-void schreibeDiagDat(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf)
+void schreibeDiagDat(Blatt& blatt, std::string_view tabelle, const Spaltenköpfe& köpfe)
 {
     bool mitBuchstaben = true; // down to the first record without an id, as they have always been added
-    schreibe(blatt, tabelle, kopf, ungenutzte(kopf[namenszeile]),
-             [&](int zeile, std::string_view satz, const Feldplan& plan) {
-                 const auto id = feldbereich(satz, feld::diag::kernID, feld::diag::kernID);
-                 mitBuchstaben = mitBuchstaben && leseZelle(id, Zelltyp::Allgemein).art != Zellart::Leer;
-                 schreibeDiagnosesatz(blatt, zeile, satz, plan, mitBuchstaben);
-             });
+    schreibe(blatt, tabelle, köpfe, ungenutzte(köpfe), [&](int zeile, std::string_view satz, const Feldplan& plan) {
+        const auto id = feldbereich(satz, feld::diag::kernID, feld::diag::kernID);
+        mitBuchstaben = mitBuchstaben && leseZelle(id, Zelltyp::Allgemein).art != Zellart::Leer;
+        schreibeDiagnosesatz(blatt, zeile, satz, plan, mitBuchstaben);
+    });
 }

@@ -23,6 +23,6 @@ Rohblätter legeBlätterAn(Arbeitsmappe& mappe);
 /// The content of the table as a view that lives as long as the workbook. Throws Laufzeitfehler.
 std::string_view liesTabelle(Arbeitsmappe& mappe, Dateien& dateien, const std::filesystem::path& pfad);
 
-void schreibeKernDat(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf);
-void schreibeBetrDat(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf);
-void schreibeDiagDat(Blatt& blatt, std::string_view tabelle, const Kopfzeilen& kopf);
+void schreibeKernDat(Blatt& blatt, std::string_view tabelle, const Spaltenköpfe& köpfe);
+void schreibeBetrDat(Blatt& blatt, std::string_view tabelle, const Spaltenköpfe& köpfe);
+void schreibeDiagDat(Blatt& blatt, std::string_view tabelle, const Spaltenköpfe& köpfe);

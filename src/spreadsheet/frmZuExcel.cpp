@@ -71,9 +71,9 @@ void frmZuExcel::platziere()
 
 void frmZuExcel::schreibeTabellen()
 {
-    const Kopfzeilen kern = erstelleKernHeader();
-    const Kopfzeilen betr = erstelleBetrHeader("excel"_t);
-    const Kopfzeilen diag = erstelleDiagHeader();
+    const auto kern = erstelleKernHeader();
+    const auto betr = erstelleBetrHeader("excel"_t);
+    const auto diag = erstelleDiagHeader();
     Umgebung& umgebung = zustand().umgebung;
     if (!umgebung.findeTabellenprogramm()) {
         brichAb();
@@ -100,7 +100,7 @@ void frmZuExcel::schreibeTabellen()
     auswertung.schreibeKlienten();
     zeigeFortschritt("suche Betreuungsdaten"_t);
     const auto anzahl = static_cast<int>(zähleZeilen(tabellen.diag));
-    auswertung.schreibeBetreuungen(betr[3], [&](int nummer) { zeigeDatensatz(nummer, anzahl); });
+    auswertung.schreibeBetreuungen(betr, [&](int nummer) { zeigeDatensatz(nummer, anzahl); });
 
     if (übergib(mappe)) {
         zeigeFortschritt("Fertig"_t);

@@ -3,12 +3,12 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/Diagnosefelder.h"
-#include "satz/Satzaufbau.h"
+#include "satz/Klientenfelder.h"
 #include "satz/moData.h"
-#include "satz/moHelferlein.h"
 #include "spreadsheet/moVariablen.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <string_view>
 #include <utility>
@@ -31,12 +31,6 @@ constexpr std::array<std::string_view, felderJeGruppe> gruppenendungen{
     "1"_t, "2"_t, "3"_t, "4"_t, "5"_t, "6"_t, "_alterErstkonsum"_t, "_HD"_t,
 };
 
-void hängeAn(std::string& zeile, std::string_view spalte)
-{
-    zeile.append(spalte);
-    zeile.push_back(trenner);
-}
-
 bool nutzt(int gruppe, int platz)
 {
     const auto* reihe = gruppenreihe(gruppe);
@@ -51,51 +45,21 @@ std::string spaltenname(int gruppe, int platz)
     return verbinde("icd"_t, gruppencode(gruppe), gruppenendungen[static_cast<std::size_t>(platz - 1)]);
 }
 
-std::string diagnoseBezeichnungen()
-{
-    std::string zeile;
-    hängeAn(zeile, "KernID"_t);
-    hängeAn(zeile, "betrID"_t);
-    for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
-        for (const std::string_view label : gruppenlabels) {
-            hängeAn(zeile, label);
-        }
-    }
-    for (int i = 1; i <= anzahlWeitereDiagnosen; ++i) {
-        hängeAn(zeile, verbinde("ZusatzDiagnose "_t, alsText(i)));
-    }
-    return zeile;
-}
-
-std::string diagnoseSpaltennamen()
-{
-    std::string zeile;
-    hängeAn(zeile, "fallnr"_t);
-    hängeAn(zeile, "betrnr"_t);
-    for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
-        for (int platz = 1; platz <= felderJeGruppe; ++platz) {
-            hängeAn(zeile, spaltenname(gruppe, platz));
-        }
-    }
-    for (const Diagnoseart& reihe : diagnosearten) {
-        for (int i = 1; i <= reihe.anzahl; ++i) {
-            hängeAn(zeile, verbinde(reihe.stamm, alsText(i)));
-        }
-    }
-    return zeile;
-}
-
-/// The names of all care fields in record order; the first one is spelt with a capital in the header.
-std::string betreuungsSpaltennamen()
-{
-    std::string zeile;
-    zeile.append("KernID"_t);
-    for (std::size_t feld = 1; feld < betreuungsfelder().size(); ++feld) {
-        zeile.push_back(trenner);
-        zeile.append(betreuungsfelder()[feld].name);
-    }
-    return zeile;
-}
+/// The fields of the client record.
+constexpr std::array kernköpfe{
+    std::pair{""_t, ""_t},
+    std::pair{"kernID"_t, "kernID"_t},
+    std::pair{""_t, "betrao"_t},
+    std::pair{"Nachname"_t, "nachname"_t},
+    std::pair{"Vorname"_t, "vorname"_t},
+    std::pair{"Strasse"_t, "strasse"_t},
+    std::pair{"PLZ"_t, "plz"_t},
+    std::pair{"Ort"_t, "ort"_t},
+    std::pair{"Geschlecht"_t, "geschlecht"_t},
+    std::pair{"Geburtsdatum"_t, "gebdatum"_t},
+    std::pair{"memoK"_t, ""_t},
+};
+static_assert(kernköpfe.size() == feld::kern::anzahl, "each field of the client record has its column");
 
 /// By the name in lower case; of two rows with one name the first counts.
 const Variable* findeVariable(std::string_view name)
@@ -106,58 +70,54 @@ const Variable* findeVariable(std::string_view name)
 
 } // namespace
 
-Kopfzeilen erstelleKernHeader()
+Spaltenköpfe erstelleKernHeader()
 {
-    Kopfzeilen zeilen;
-    zeilen[2] = "·kernID··Nachname·Vorname·Strasse·PLZ·Ort·Geschlecht·Geburtsdatum·memoK·"_t;
-    zeilen[3] = "·kernID·betrao·nachname·vorname·strasse·plz·ort·geschlecht·gebdatum·"_t;
-    return zeilen;
-}
-
-Kopfzeilen erstelleBetrHeader(std::string_view modus)
-{
-    Kopfzeilen zeilen;
-    zeilen[3] = betreuungsSpaltennamen();
-    if (klein(modus) == "excel"_t) {
-        auto bezeichnungen = sucheBezeichnungen(zeilen[3]);
-        zeilen[1] = std::move(bezeichnungen.erste);
-        zeilen[2] = std::move(bezeichnungen.zweite);
-    } else if (klein(modus) == "word"_t) {
-        auto bezeichnungen = sucheBezeichnungen(zeilen[1], true);
-        zeilen[2] = std::move(bezeichnungen.erste);
-        zeilen[3] = std::move(bezeichnungen.zweite);
+    Spaltenköpfe köpfe;
+    for (const auto& [frage, name] : kernköpfe) {
+        köpfe.push_back({{}, std::string(frage), std::string(name)});
     }
-    return zeilen;
+    return köpfe;
 }
 
-Kopfzeilen erstelleDiagHeader()
+Spaltenköpfe erstelleBetrHeader(std::string_view modus)
 {
-    Kopfzeilen zeilen;
-    hängeAn(zeilen[1], {});
-    hängeAn(zeilen[1], {});
-    for (std::size_t gruppe = 1; gruppe < aryProblem.size(); ++gruppe) {
+    if (klein(modus) == "word"_t) {
+        return {}; // asked for by name, reached by nothing: it looked up a row that is empty
+    }
+    Spaltenköpfe köpfe;
+    for (const auto& feld : betreuungsfelder()) {
+        auto& kopf = köpfe.emplace_back(klein(modus) == "excel"_t ? sucheBezeichnungen(feld.name) : Spaltenkopf{});
+        kopf.name = feld.name;
+    }
+    köpfe.front().name = "KernID"_t; // spelt with a capital in the header
+    return köpfe;
+}
+
+Spaltenköpfe erstelleDiagHeader()
+{
+    Spaltenköpfe köpfe{{{}, std::string("KernID"_t), std::string("fallnr"_t)},
+                       {{}, std::string("betrID"_t), std::string("betrnr"_t)}};
+    for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
         for (int platz = 1; platz <= felderJeGruppe; ++platz) {
-            hängeAn(zeilen[1], aryProblem[gruppe]);
+            köpfe.push_back({std::string(gruppenname(gruppe)),
+                             std::string(gruppenlabels[static_cast<std::size_t>(platz - 1)]),
+                             spaltenname(gruppe, platz)});
         }
     }
-    zeilen[2] = diagnoseBezeichnungen();
-    zeilen[3] = diagnoseSpaltennamen();
-    return zeilen;
+    int nummer = 0;
+    for (const Diagnoseart& reihe : diagnosearten) {
+        for (int i = 1; i <= reihe.anzahl; ++i) {
+            köpfe.push_back({{}, verbinde("ZusatzDiagnose "_t, alsText(++nummer)), verbinde(reihe.stamm, alsText(i))});
+        }
+    }
+    köpfe.emplace_back(); // the bit field
+    return köpfe;
 }
 
-Bezeichnungen sucheBezeichnungen(std::string_view spaltennamen, bool ohneWiederholung)
+Spaltenkopf sucheBezeichnungen(std::string_view spaltenname)
 {
-    Bezeichnungen bezeichnungen;
-    const int anzahl = anzahlFelder(spaltennamen);
-    for (int spalte = 1; spalte <= anzahl; ++spalte) {
-        const std::string name = klein(getFeld(spaltennamen, spalte));
-        if (const auto* variable = findeVariable(name)) {
-            hängeAn(bezeichnungen.erste, ohneWiederholung ? variable->ersteOhneWiederholung() : variable->erste);
-            hängeAn(bezeichnungen.zweite, variable->zweite);
-        } else {
-            hängeAn(bezeichnungen.erste, name);
-            hängeAn(bezeichnungen.zweite, {});
-        }
-    }
-    return bezeichnungen;
+    const auto name = klein(spaltenname);
+    const auto* variable = findeVariable(name);
+    return variable == nullptr ? Spaltenkopf{name, {}, {}}
+                               : Spaltenkopf{std::string(variable->erste), std::string(variable->zweite), {}};
 }

@@ -1,24 +1,26 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
-/// Three header rows of a raw table, index 1 to 3 (index 0 is empty and never used). Each row is one text of
-/// column names joined by the delimiter, position by position the same as the record.
-using Kopfzeilen = std::array<std::string, 4>;
+/// What stands over a column of a raw table.
+struct Spaltenkopf {
+    std::string thema; ///< row 1
+    std::string frage; ///< row 2
+    std::string name;  ///< row 3; the name "VOID" has a field that no group fills
 
-Kopfzeilen erstelleKernHeader();
-/// `modus` is "excel" or "word", in any case: "excel" puts the labels into rows 1 and 2, "word" into rows 2
-/// and 3, where it looks up row 1, which is empty then. Any other mode leaves row 3 alone.
-Kopfzeilen erstelleBetrHeader(std::string_view modus);
-Kopfzeilen erstelleDiagHeader();
-
-/// The first and the second label of each column of the row, each followed by the delimiter.
-struct Bezeichnungen {
-    std::string erste;
-    std::string zweite;
+    bool operator==(const Spaltenkopf&) const = default;
 };
 
-/// Looks the columns up among the variables; a column that is none stands as its own name in lower case.
-Bezeichnungen sucheBezeichnungen(std::string_view spaltennamen, bool ohneWiederholung = false);
+/// One for each field of the record, in its order.
+using Spaltenköpfe = std::vector<Spaltenkopf>;
+
+Spaltenköpfe erstelleKernHeader();
+/// `modus` is "excel" or "word", in any case. Any other leaves the topics and questions out.
+Spaltenköpfe erstelleBetrHeader(std::string_view modus);
+Spaltenköpfe erstelleDiagHeader();
+
+/// Topic and question of the column by its name in any case; a column that is no variable has its own name in lower
+/// case as its topic.
+Spaltenkopf sucheBezeichnungen(std::string_view spaltenname);

@@ -1,6 +1,7 @@
 #include "store/Befund.h"
 
 #include "platform/text/Text.h"
+#include "satz/Satzgrenzen.h"
 #include "satz/Wertpruefung.h"
 
 #include <algorithm>
@@ -14,6 +15,8 @@ constexpr auto laufzeitfehler = "endet beim Lesen mit einem Laufzeitfehler"_t;
 constexpr auto unverändert = "wird unverändert angezeigt und exportiert"_t;
 constexpr auto wirdEntfernt = "wird beim nächsten Start entfernt"_t;
 constexpr auto bleibt = "bleibt, wie es ist"_t;
+static_assert(satzgrenze::zeilenlänge == 32767 && satzgrenze::höchsteNummer == 32767,
+              "the findings ZeileZuLang and SchlüsselAußerhalb below name the old limit: write the new one there");
 
 using enum Befundart;
 using enum Gewicht;
@@ -81,13 +84,11 @@ std::string feldnameAn(const Fundort& ort)
     }
     switch (*ort.tabelle) {
     case Tabelle::Betr:
-        return std::string(betreuungsfeldname(ort.feld));
-    case Tabelle::Diag: {
-        const auto name = diagnosefeldname(ort.feld);
-        return name.frage.empty() ? std::string(name.bereich) : verbinde(name.bereich, ", "_t, name.frage);
-    }
+        return feldOderNichts(betreuungsfelder(), ort.feld).name;
+    case Tabelle::Diag:
+        return diagnosefeldname(ort.feld);
     default:
-        return std::string(klientenfeldname(ort.feld));
+        return feldOderNichts(klientenfelder(), ort.feld).name;
     }
 }
 

@@ -89,9 +89,9 @@ std::string_view folgeFürWert(Tabelle tabelle, int feld)
 {
     switch (tabelle) {
     case Tabelle::Betr:
-        return finde(betreuungsfolgen, betreuungsfeldart(feld));
+        return finde(betreuungsfolgen, feldOderNichts(betreuungsfelder(), feld).art);
     case Tabelle::Diag:
-        return finde(diagnosefolgen, diagnosefeldart(feld));
+        return finde(diagnosefolgen, feldOderNichts(diagnosefelder(), feld).art);
     default:
         return feld == feld::kern::leer ? "wird nicht gelesen, ein OK leert das Feld"_t : wirdGemeldet;
     }

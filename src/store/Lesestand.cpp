@@ -7,10 +7,10 @@
 #include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosefelder.h"
 #include "satz/Klientenfelder.h"
+#include "satz/Satzgrenzen.h"
 #include "satz/moHelferlein.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace fs = std::filesystem;
 
@@ -40,11 +40,10 @@ std::string ortsangabe(const fs::path& tabelle, std::size_t nummer)
 
 void prüfeSatzlänge(std::string_view satz, const fs::path& tabelle, std::size_t nummer)
 {
-    constexpr std::size_t höchstens = std::numeric_limits<std::int16_t>::max();
-    if (satz.size() > höchstens) {
+    if (satz.size() > satzgrenze::zeilenlänge) {
         throw Laufzeitfehler(verbinde(nummer == 0 ? pfadtext(tabelle) : ortsangabe(tabelle, nummer),
                                       ": Überlauf, die Zeile ist "_t, std::to_string(satz.size()),
-                                      " Zeichen lang, erlaubt sind "_t, std::to_string(höchstens)));
+                                      " Zeichen lang, erlaubt sind "_t, std::to_string(satzgrenze::zeilenlänge)));
     }
 }
 

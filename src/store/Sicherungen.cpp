@@ -12,7 +12,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t aufgehobeneSätze = 10;
 /// The contents of three files; nothing for one that is not there.
 using Dreierinhalt = std::array<std::unique_ptr<Dateiinhalt>, 3>;
 

@@ -2,13 +2,15 @@
 
 #include "store/Bestand.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
 
 /// The backups: the `.bak` files hold the tables as they were at the start of the session, `Daten/Sicherungen` what the
-/// `.bak` files held before, a folder for each set, named after the time of that backup. The ten newest stay. No set
-/// that holds records is overwritten before it lies there.
+/// `.bak` files held before, a folder for each set, named after the time of that backup. The newest stay. No set that
+/// holds records is overwritten before it lies there.
+inline constexpr std::size_t aufgehobeneSätze = 10;
 
 /// The session backup: the three tables into the .bak files. A missing `.bak` file is a Laufzeitfehler.
 void sichereDateien(const Bestand& bestand);

@@ -6,15 +6,13 @@
 #include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosefelder.h"
 #include "satz/Klientenfelder.h"
+#include "satz/Satzgrenzen.h"
 #include "store/Bruchstuecke.h"
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace {
-
-constexpr std::size_t höchsteZeilenlänge = std::numeric_limits<std::int16_t>::max();
 
 /// The layout of a table's lines.
 struct Zeilenform {
@@ -142,7 +140,7 @@ bool zerlegeZeile(Tabelle tabelle, std::string_view zeile, std::size_t nummer, S
         befunde.melde(Befundart::ZeileLeer, satz.ort());
         return false;
     }
-    if (zeile.size() > höchsteZeilenlänge) {
+    if (zeile.size() > satzgrenze::zeilenlänge) {
         befunde.melde(Befundart::ZeileZuLang, satz.ort(), std::to_string(zeile.size()));
         return false;
     }

@@ -51,7 +51,7 @@ bool brauchtReparatur(std::string_view zeile, std::span<const Datumsfeldstelle> 
 
 /// What the repair wants to know of a table, in one walk.
 struct Tabellenbefund {
-    std::string ersteZeile;
+    bool beginntLeer = true;
     bool brauchtReparatur = false;
 };
 
@@ -61,10 +61,10 @@ Tabellenbefund besieh(const Bestand& bestand, Tabelle tabelle, std::span<const D
     Tabellenbefund befund;
     bestand.laufe(tabelle, [&](std::string_view zeile, std::size_t nummer) {
         if (nummer == 1) {
-            befund.ersteZeile = zeile;
+            befund.beginntLeer = zeile.empty();
         }
         befund.brauchtReparatur = brauchtReparatur(zeile, stellen);
-        return !befund.brauchtReparatur && !(tabelle == Tabelle::Kern && befund.ersteZeile.empty());
+        return !befund.brauchtReparatur && !(tabelle == Tabelle::Kern && befund.beginntLeer);
     });
     return befund;
 }
@@ -113,16 +113,13 @@ void repariere(const Bestand& bestand, Vorgang& vorgang, Tabelle tabelle, std::s
 
 } // namespace
 
-std::optional<GefundeneFelder> bereinigeDatum(const Bestand& bestand)
+void bereinigeDatum(const Bestand& bestand)
 {
     const auto klienten = besieh(bestand, Tabelle::Kern, klientendaten);
-    if (klienten.ersteZeile.empty()) {
-        return std::nullopt;
+    if (klienten.beginntLeer) {
+        return;
     }
     const auto betreuungen = besieh(bestand, Tabelle::Betr, betreuungsdaten);
-    const auto& betreuung = betreuungen.ersteZeile.empty() ? klienten.ersteZeile : betreuungen.ersteZeile;
-    const GefundeneFelder gefunden{anzahlFelder(klienten.ersteZeile), anzahlFelder(betreuung)};
-
     Vorgang vorgang(bestand);
     if (klienten.brauchtReparatur) {
         repariere(bestand, vorgang, Tabelle::Kern, klientendaten);
@@ -131,5 +128,4 @@ std::optional<GefundeneFelder> bereinigeDatum(const Bestand& bestand)
         repariere(bestand, vorgang, Tabelle::Betr, betreuungsdaten);
     }
     vorgang.bestätige();
-    return gefunden;
 }

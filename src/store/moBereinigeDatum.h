@@ -2,19 +2,9 @@
 
 #include "store/Bestand.h"
 
-#include <cstdint>
-#include <optional>
-
-/// The numbers of fields that the repair found in the first lines of the tables.
-struct GefundeneFelder {
-    std::int16_t kern = 0;
-    std::int16_t betr = 0;
-};
-
 /// Repair at start: widens the years of stored dates to four digits (`Geburtsdatum` of the clients, begin and end
 /// of the care episodes). Does nothing while there is no client, and rewrites a table only if one of its dates
-/// needs it, both in one action. Answers the field counts that it finds, nothing while there is no client. A date
-/// without a point shows the box "Fehler". A line that ends before the date or within it stays as it is: a program that
-/// never starts again over one damaged line helps nobody. A table that can't be read is a Laufzeitfehler; the old table
-/// is then still there.
-std::optional<GefundeneFelder> bereinigeDatum(const Bestand& bestand);
+/// needs it, both in one action. A date without a point shows the box "Fehler". A line that ends before the date or
+/// within it stays as it is: a program that never starts again over one damaged line helps nobody. A table that can't
+/// be read is a Laufzeitfehler; the old table is then still there.
+void bereinigeDatum(const Bestand& bestand);

@@ -107,6 +107,12 @@ class Gegenprobe(unittest.TestCase):
                       "constexpr int feldEnde = 4;"):
             self.erwarte(regeln.positionen, "src/oben/a.cpp:1: name the position", src__oben__a_PUNKT_cpp=zeile + "\n")
 
+    def test_elemente(self):
+        for zeile in ('Auswahlfeld comboOrt{*this, "comboWieder"_t};', 'Textfeld comboOrt{\n    *this, "comboWieder"_t, 3};'):
+            self.erwarte(regeln.elemente, 'src/oben/frmDach.h:2: the element comboOrt calls itself "comboWieder"',
+                         'write comboOrt{*this, "comboOrt"_t', src__oben__frmDach_PUNKT_h="\n" + zeile + "\n")
+        self.assertEqual(self.pruefe(regeln.elemente, src__oben__a_PUNKT_h='Elementreihe<A> triA{*this, "triA"_t, 1, 9};\n'), "")
+
     def test_allein(self):
         self.erwarte(regeln.allein, "src/oben/a.h does not compile alone", "include in it what it uses",
                      src__oben__a_PUNKT_h="Boden f();\n")

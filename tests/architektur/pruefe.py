@@ -9,7 +9,7 @@ import regeln
 from haus import Haus
 
 REGELN = {regel.__name__: regel for regel in (regeln.toolkit, regeln.system, regeln.dateien, regeln.pfeile,
-                                              regeln.positionen, regeln.sauber,
+                                              regeln.positionen, regeln.elemente, regeln.sauber,
                                               regeln.namen, leitfaden.bild, leitfaden.wege, leitfaden.glossar)}
 
 

@@ -113,7 +113,7 @@ STANDARD = {name: kopf for kopf, namen in {
     "algorithm": "ranges", "array": "array", "cmath": "lround", "cstddef": "size_t ptrdiff_t byte nullptr_t",
     "cstdint": "int8_t int16_t int32_t int64_t uint8_t uint16_t uint32_t uint64_t intptr_t uintptr_t", "deque": "deque",
     "filesystem": "filesystem", "functional": "function less hash", "initializer_list": "initializer_list",
-    "iosfwd": "ostream istream", "map": "map multimap", "memory": "unique_ptr shared_ptr weak_ptr make_unique make_shared",
+    "iosfwd": "ostream istream", "limits": "numeric_limits", "map": "map multimap", "memory": "unique_ptr shared_ptr weak_ptr make_unique make_shared",
     "optional": "optional nullopt make_optional", "random": "mt19937_64", "set": "set multiset", "span": "span",
     "stdexcept": "runtime_error logic_error out_of_range invalid_argument",
     "string": "string u32string wstring to_string", "string_view": "string_view u32string_view wstring_view",
@@ -211,6 +211,22 @@ def positionen(baum):
             f"{zeile.strip()}"
             for datei in baum.quellen() if not datei.startswith("platform/")
             for nummer, zeile in baum.zeilen("src/" + datei) if any(muster.search(zeile) for muster in BLANKE_POSITION)]
+
+
+ELEMENT = re.compile(r'\b(\w+)[{(]\s*\*this,\s*"([^"]*)"_t')
+
+
+def elemente(baum):
+    """An element is found by its name, in scenarios and by the surfaces: the name is the one of the member."""
+    funde = []
+    for datei in baum.quellen():
+        text = (baum.wurzel / "src" / datei).read_text(encoding="utf-8")
+        for treffer in ELEMENT.finditer(text):
+            if treffer[1] != treffer[2]:
+                nummer = text.count("\n", 0, treffer.start()) + 1
+                funde.append(f'src/{datei}:{nummer}: the element {treffer[1]} calls itself "{treffer[2]}": write '
+                             f'{treffer[1]}{{*this, "{treffer[1]}"_t, …}}, or give the member the other name.')
+    return funde
 
 
 def sauber(baum):

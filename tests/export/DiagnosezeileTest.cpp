@@ -23,8 +23,7 @@ protected:
 
     std::string zeile(Belegung diagnose, Belegung betreuung = {}) const
     {
-        return erstelleDiagZeile(betreuungssatz(1, 2, betreuung), diagnosesatz(1, 2, diagnose), {},
-                                 lauf.stand.bestandsmeldung);
+        return diagnosezeile(betreuungssatz(1, 2, betreuung), diagnosesatz(1, 2, diagnose), lauf.stand.bestandsmeldung);
     }
     Texte meldungen() const { return lauf.umgebung.meldungstexte(); }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "export/Diagnosezeile.h"
+#include "export/Kernzeile.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/Satzaufbau.h"
@@ -53,6 +55,16 @@ inline std::string betreuungssatz(int kernID, int betrID, Belegung belegung = {}
 inline std::string diagnosesatz(int kernID, int betrID, Belegung belegung = {})
 {
     return mitFeldern(mitFeldern(erstelleDefaultDiagDS(), {{1, alsText(kernID)}, {2, alsText(betrID)}}), belegung);
+}
+
+inline std::string kernzeile(std::string_view kernDS, std::string_view betrDS, const Bestandsmeldung& meldung)
+{
+    return erstelleKernZeile({.meldung = meldung, .klient = Satzsicht(kernDS), .betreuung = Satzsicht(betrDS)});
+}
+
+inline std::string diagnosezeile(std::string_view betrDS, std::string_view diagDS, const Bestandsmeldung& meldung)
+{
+    return erstelleDiagZeile({.meldung = meldung, .betreuung = Satzsicht(betrDS), .diagnose = Satzsicht(diagDS)});
 }
 
 /// Column `nummer` of a row.

@@ -23,8 +23,7 @@ protected:
 
     std::string zeile(Belegung betreuung, Belegung klient = {}) const
     {
-        return erstelleKernZeile(klientensatz(1, klient), betreuungssatz(1, 2, betreuung), {},
-                                 lauf.stand.bestandsmeldung);
+        return kernzeile(klientensatz(1, klient), betreuungssatz(1, 2, betreuung), lauf.stand.bestandsmeldung);
     }
     Texte meldungen() const { return lauf.umgebung.meldungstexte(); }
 
@@ -34,7 +33,7 @@ protected:
 TEST_F(KernzeileTest, HatEinhunderteinundachtzigSpaltenUndEndetMitSemikolon)
 {
     const auto text = zeile({});
-    EXPECT_EQ(std::count(text.begin(), text.end(), ';'), 181);
+    EXPECT_EQ(std::count(text.begin(), text.end(), ';'), std::ssize(kernspalten()));
     EXPECT_EQ(text.back(), ';');
     EXPECT_EQ(meldungen(), Texte{});
 }
@@ -66,8 +65,8 @@ TEST_F(KernzeileTest, Musterzeilen)
     ASSERT_EQ(zeilen.size() % 5, 0U);
     const auto& meldung = lauf.stand.bestandsmeldung;
     const auto baue = [&](std::size_t i) {
-        return std::array{erstelleKernZeile(zeilen[i], zeilen[i + 1], {}, meldung),
-                          erstelleDiagZeile(zeilen[i + 1], zeilen[i + 2], {}, meldung)};
+        return std::array{kernzeile(zeilen[i], zeilen[i + 1], meldung),
+                          diagnosezeile(zeilen[i + 1], zeilen[i + 2], meldung)};
     };
     for (std::size_t i = 0; i < zeilen.size(); i += 5) {
         if (wirdAbgenommen()) {
@@ -108,7 +107,7 @@ TEST_F(KernzeileTest, UnbekanntesGeburtsdatumLäßtDieSpalteLeer)
 {
     const auto text = zeile({}, {{10, "unbekannt"}});
     EXPECT_EQ(spalte(text, 7), "");
-    EXPECT_EQ(std::count(text.begin(), text.end(), ';'), 181);
+    EXPECT_EQ(std::count(text.begin(), text.end(), ';'), std::ssize(kernspalten()));
     EXPECT_EQ(meldungen(), Texte{});
 }
 
@@ -156,7 +155,7 @@ TEST_F(KernzeileTest, LangesJaNeinGiltNurInGenauerSchreibung)
 TEST_F(KernzeileTest, SpracheUndMigrationMeldenFehler)
 {
     const auto text = zeile({{10, "JA"}, {11, "nein"}, {12, ""}});
-    EXPECT_EQ(spalte(text, 55), "99") << "the number of children left of it";
+    EXPECT_EQ(spalte(text, 55), alsText(werte::kinderOhneAngabe)) << "the number of children left of it";
     EXPECT_EQ(spalte(text, 56), "1");
     EXPECT_EQ(spalte(text, 57), "1");
     EXPECT_EQ(meldungen(), (Texte{fehler, fehler}));
@@ -168,7 +167,7 @@ TEST_F(KernzeileTest, KeineAngabenZuZahlen)
     EXPECT_EQ(spalte(text, 26), "");
     EXPECT_EQ(spalte(text, 27), "3");
     EXPECT_EQ(spalte(text, 28), "0");
-    EXPECT_EQ(spalte(text, 52), "99");
+    EXPECT_EQ(spalte(text, 52), alsText(werte::kinderOhneAngabe));
     EXPECT_EQ(spalte(text, 53), "2");
     EXPECT_EQ(spalte(text, 154), "");
 }
@@ -205,24 +204,22 @@ TEST_F(KernzeileTest, MeldungOhneSymbolMitOKUnterDemTitel)
 
 TEST_F(KernzeileTest, KurzerSatzBehältDieSpaltenzahl)
 {
-    const auto text = erstelleKernZeile(klientensatz(1),
-                                        "1\xB7"
-                                        "2",
-                                        {}, lauf.stand.bestandsmeldung);
-    EXPECT_EQ(std::count(text.begin(), text.end(), ';'), 181);
+    const auto text = kernzeile(klientensatz(1),
+                                "1\xB7"
+                                "2",
+                                lauf.stand.bestandsmeldung);
+    EXPECT_EQ(std::count(text.begin(), text.end(), ';'), std::ssize(kernspalten()));
 }
 
 TEST_F(KernzeileTest, ÜberlangerSatzIstEinLaufzeitfehler)
 {
-    EXPECT_THROW(erstelleKernZeile(klientensatz(1), std::string(32768, 'x'), {}, lauf.stand.bestandsmeldung),
-                 Laufzeitfehler);
-    EXPECT_NO_THROW(erstelleKernZeile(klientensatz(1), betreuungssatz(1, 1), {}, lauf.stand.bestandsmeldung));
+    EXPECT_THROW(kernzeile(klientensatz(1), std::string(32768, 'x'), lauf.stand.bestandsmeldung), Laufzeitfehler);
+    EXPECT_NO_THROW(kernzeile(klientensatz(1), betreuungssatz(1, 1), lauf.stand.bestandsmeldung));
 }
 
 TEST_F(KernzeileTest, TsnrStehtVorn)
 {
-    EXPECT_EQ(spalte(erstelleKernZeile(klientensatz(1), betreuungssatz(1, 1), "x", lauf.stand.bestandsmeldung), 1),
-              "x");
+    EXPECT_EQ(spalte(erstelleKernZeile({.meldung = lauf.stand.bestandsmeldung, .tsnr = "x"}), 1), "x");
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "export/Diagnosezeile.h"
-#include "export/Kernzeile.h"
+#include "export/Exportsaetze.h"
 #include "platform/dateien/Zeilen.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
@@ -67,8 +66,8 @@ private:
             const bool klient = zahl(getFeld(*diagDS, 1)) == kernID;
             const bool episode = zahl(getFeld(*diagDS, 2)) == betrID;
             if (klient && episode) {
-                kern += erstelleKernZeile(kernDS, betrDS, {}, zustand().bestandsmeldung) + "\r\n";
-                diagnose += erstelleDiagZeile(betrDS, *diagDS, {}, zustand().bestandsmeldung) + "\r\n";
+                kern += kernzeile(kernDS, betrDS, zustand().bestandsmeldung) + "\r\n";
+                diagnose += diagnosezeile(betrDS, *diagDS, zustand().bestandsmeldung) + "\r\n";
                 return;
             }
         }

@@ -2,16 +2,17 @@
 
 #include "fuzz/Stummeumgebung.h"
 
-#include "export/Diagnosezeile.h"
-#include "export/Kernzeile.h"
+#include "export/Exportsaetze.h"
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
+#include "satz/Satzgrenzen.h"
 #include "satz/moData.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <iterator>
 
 namespace {
 
@@ -38,10 +39,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t lä
     const auto klient = sätze.substr(0, länge / 3);
     const auto rest = sätze.substr(länge / 3);
     try {
-        prüfe(erstelleKernZeile(klient, rest, {}, zustand.bestandsmeldung), sätze, 181);
-        prüfe(erstelleDiagZeile(klient, rest, {}, zustand.bestandsmeldung), sätze, 177);
+        prüfe(kernzeile(klient, rest, zustand.bestandsmeldung), sätze, std::ssize(kernspalten()));
+        prüfe(diagnosezeile(klient, rest, zustand.bestandsmeldung), sätze, std::ssize(diagnosespalten()));
     } catch (const Laufzeitfehler&) {
-        return länge > 32767 ? 0 : (std::abort(), 0);
+        return länge > satzgrenze::zeilenlänge ? 0 : (std::abort(), 0);
     }
     return 0;
 }

@@ -35,14 +35,14 @@ public:
         const Rohblätter blätter = legeBlätterAn(mappe);
         const Tabellen tabellen{lege(m_lauf.pfade().kernDat, kern), lege(m_lauf.pfade().betrDat, betr),
                                 lege(m_lauf.pfade().diagDat, diag)};
-        const Kopfzeilen betrKopf = erstelleBetrHeader("excel");
+        const auto betrKopf = erstelleBetrHeader("excel");
         schreibeKernDat(blätter.kern, tabellen.kern, erstelleKernHeader());
         schreibeBetrDat(blätter.betr, tabellen.betr, betrKopf);
         schreibeDiagDat(blätter.diag, tabellen.diag, erstelleDiagHeader());
         Auswertung auswertung(mappe, tabellen, m_lauf.pfade().diagDat);
         auswertung.schreibeHauptdiagnosen();
         auswertung.schreibeKlienten();
-        auswertung.schreibeBetreuungen(betrKopf[3], [this](int nummer) { gemeldet.push_back(nummer); });
+        auswertung.schreibeBetreuungen(betrKopf, [this](int nummer) { gemeldet.push_back(nummer); });
     }
 
     const Blatt& blatt(std::string_view name) const { return *mappe.finde(name); }

@@ -65,10 +65,10 @@ TEST(Rohtabellen, jedeDiagnosespalteBehältIhrenKopf)
     }
     Mappenlauf lauf;
     lauf.schreibe({}, {}, {zeile});
-    const std::string namen = erstelleDiagHeader()[3];
+    const auto köpfe = erstelleDiagHeader();
     int spalte = 0;
     for (int feld = 1; feld <= 246; ++feld) {
-        const std::string name{getFeld(namen, feld)};
+        const auto& name = köpfe.at(static_cast<std::size_t>(feld - 1)).name;
         if (name == "VOID") {
             continue;
         }

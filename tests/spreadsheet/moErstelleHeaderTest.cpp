@@ -2,8 +2,8 @@
 
 #include "hilfen/Abnahme.h"
 #include "hilfen/Testumgebung.h"
+#include "satz/Satzaufbau.h"
 #include "satz/moData.h"
-#include "satz/moHelferlein.h"
 
 namespace {
 
@@ -11,9 +11,25 @@ class MoErstelleHeader : public testing::Test {
 protected:
     MoErstelleHeader() { baueProblemKatalog(); }
 
-    static std::string alsText(const Kopfzeilen& zeilen)
+    /// A header row as the text that it has always been: so many columns, each followed by the delimiter, or joined.
+    struct Form {
+        std::size_t spalten;
+        bool endetMitTrenner = true;
+    };
+
+    static std::string alsZeile(const Spaltenköpfe& köpfe, std::string Spaltenkopf::*teil, Form form)
     {
-        return verbinde(zeilen[1], '\n', zeilen[2], '\n', zeilen[3], '\n');
+        std::string zeile;
+        for (std::size_t spalte = 0; spalte < form.spalten; ++spalte) {
+            zeile.append(köpfe.at(spalte).*teil).append(1, trenner);
+        }
+        return form.endetMitTrenner ? zeile : zeile.substr(0, zeile.size() - 1);
+    }
+
+    static std::string alsText(const Spaltenköpfe& köpfe, Form thema, Form frage, Form name)
+    {
+        return verbinde(alsZeile(köpfe, &Spaltenkopf::thema, thema), '\n', alsZeile(köpfe, &Spaltenkopf::frage, frage),
+                        '\n', alsZeile(köpfe, &Spaltenkopf::name, name), '\n');
     }
 
     Testlauf lauf;
@@ -21,42 +37,41 @@ protected:
 
 TEST_F(MoErstelleHeader, klienten)
 {
-    vergleicheMitAbnahme("spreadsheet/abgenommen/KernDat.txt", alsText(erstelleKernHeader()));
+    vergleicheMitAbnahme("spreadsheet/abgenommen/KernDat.txt", alsText(erstelleKernHeader(), {0}, {11}, {11, false}));
 }
 
 TEST_F(MoErstelleHeader, betreuungen)
 {
-    vergleicheMitAbnahme("spreadsheet/abgenommen/BetrDat.txt", alsText(erstelleBetrHeader("excel")));
+    vergleicheMitAbnahme("spreadsheet/abgenommen/BetrDat.txt",
+                         alsText(erstelleBetrHeader("excel"), {192}, {192}, {192, false}));
 }
 
 TEST_F(MoErstelleHeader, diagnosen)
 {
-    vergleicheMitAbnahme("spreadsheet/abgenommen/DiagDat.txt", alsText(erstelleDiagHeader()));
+    vergleicheMitAbnahme("spreadsheet/abgenommen/DiagDat.txt", alsText(erstelleDiagHeader(), {234}, {246}, {246}));
 }
 
 TEST_F(MoErstelleHeader, dieSpaltenEntsprechenDenFeldernDerSätze)
 {
-    const Kopfzeilen betr = erstelleBetrHeader("excel");
-    EXPECT_EQ(anzahlFelder(betr[3]), 192);
-    EXPECT_EQ(getFeld(betr[3], 1), "KernID");
-    EXPECT_EQ(getFeld(betr[3], 192), "memoB");
-    // a trailing delimiter: the column behind it is empty
-    const Kopfzeilen diag = erstelleDiagHeader();
-    for (std::size_t zeile = 2; zeile <= 3; ++zeile) {
-        EXPECT_EQ(anzahlFelder(diag[zeile]), 247);
-        EXPECT_EQ(getFeld(diag[zeile], 247), "");
-    }
-    EXPECT_EQ(getFeld(diag[3], 235), "icdpsy1");
-    EXPECT_EQ(getFeld(diag[3], 246), "icdand4");
+    EXPECT_EQ(erstelleKernHeader().size(), klientenfelder().size());
+    const auto betr = erstelleBetrHeader("excel");
+    ASSERT_EQ(betr.size(), betreuungsfelder().size());
+    EXPECT_EQ(betr.front().name, "KernID");
+    EXPECT_EQ(betr.back().name, "memoB");
+    const auto diag = erstelleDiagHeader();
+    ASSERT_EQ(diag.size(), diagnosefelder().size());
+    EXPECT_EQ(diag.back(), Spaltenkopf{}) << "the bit field";
+    EXPECT_EQ(diag[234].name, "icdpsy1");
+    EXPECT_EQ(diag[245].name, "icdand4");
 }
 
 TEST_F(MoErstelleHeader, ungenutzteFelderHeissenVoid)
 {
-    const std::string namen = erstelleDiagHeader()[3];
+    const auto köpfe = erstelleDiagHeader();
     std::vector<int> ungenutzt;
-    for (int spalte = 1; spalte <= 247; ++spalte) {
-        if (getFeld(namen, spalte) == "VOID") {
-            ungenutzt.push_back(spalte);
+    for (int feld = 1; feld <= 247; ++feld) {
+        if (köpfe[static_cast<std::size_t>(feld - 1)].name == "VOID") {
+            ungenutzt.push_back(feld);
         }
     }
     std::vector<int> erwartet;
@@ -73,38 +88,32 @@ TEST_F(MoErstelleHeader, dieArtZähltOhneGrossschreibung)
     EXPECT_EQ(erstelleBetrHeader("EXCEL"), erstelleBetrHeader("excel"));
 }
 
-TEST_F(MoErstelleHeader, fürEinenBriefBleibenDieBezeichnungenLeer)
+TEST_F(MoErstelleHeader, fürEinenBriefBleibtAllesLeer)
 {
-    const Kopfzeilen zeilen = erstelleBetrHeader("word");
-    EXPECT_EQ(zeilen[1], "");
-    EXPECT_EQ(zeilen[2], "");
-    EXPECT_EQ(zeilen[3], "");
+    EXPECT_EQ(erstelleBetrHeader("word"), Spaltenköpfe{});
 }
 
-TEST_F(MoErstelleHeader, dieSucheFindetInBeidenTabellen)
+TEST_F(MoErstelleHeader, eineAndereArtHatNurDieNamen)
 {
-    const auto erste = sucheBezeichnungen("Kosten2");
-    EXPECT_EQ(erste.erste, "Kosten-/ Leistungstr\xE4ger\xB7");
-    EXPECT_EQ(erste.zweite, "Selbstzahler\xB7");
-    const auto zweite = sucheBezeichnungen("kosten2", true);
-    EXPECT_EQ(zweite.erste, "\xB7");
-    EXPECT_EQ(zweite.zweite, "Selbstzahler\xB7");
+    const auto köpfe = erstelleBetrHeader("");
+    EXPECT_EQ(köpfe.at(2), (Spaltenkopf{"", "", "BetrBeg"}));
 }
 
-TEST_F(MoErstelleHeader, famstaHatInBeidenTabellenKeineBezeichnung)
+TEST_F(MoErstelleHeader, dieSucheGehtOhneGrossschreibung)
 {
-    for (const bool ohneWiederholung : {false, true}) {
-        const auto bezeichnungen = sucheBezeichnungen("FamSta", ohneWiederholung);
-        EXPECT_EQ(bezeichnungen.erste, "\xB7");
-        EXPECT_EQ(bezeichnungen.zweite, "\xB7");
-    }
+    const Spaltenkopf erwartet{"Kosten-/ Leistungstr\xE4ger", "Selbstzahler", ""};
+    EXPECT_EQ(sucheBezeichnungen("Kosten2"), erwartet);
+    EXPECT_EQ(sucheBezeichnungen("kosten2"), erwartet);
+}
+
+TEST_F(MoErstelleHeader, famstaHatKeineBezeichnung)
+{
+    EXPECT_EQ(sucheBezeichnungen("FamSta"), Spaltenkopf{});
 }
 
 TEST_F(MoErstelleHeader, unbekannteNamenStehenKlein)
 {
-    const auto bezeichnungen = sucheBezeichnungen("LebenSit0\xB7HDohne0\xB7\xC4nders");
-    EXPECT_EQ(bezeichnungen.erste, "lebensit0\xB7hdohne0\xB7\xE4nders\xB7");
-    EXPECT_EQ(bezeichnungen.zweite, "\xB7\xB7\xB7");
+    EXPECT_EQ(sucheBezeichnungen("\xC4nders"), (Spaltenkopf{"\xE4nders", "", ""}));
 }
 
 } // namespace

@@ -106,19 +106,6 @@ TEST_F(ReparaturenTest, LeererBestandOderLeereErsteZeileWirdNichtRepariert)
     erwarteKlienten({"", klientMitStatus("1", "", "01.01.70")});
 }
 
-TEST_F(ReparaturenTest, FeldzahlenWerdenGemeldet)
-{
-    schreibe({klientMitStatus("1", "")}, {});
-    auto gefunden = bereinigeDatum(lauf.stand.bestand);
-    ASSERT_TRUE(gefunden);
-    EXPECT_EQ(gefunden->kern, 11);
-    EXPECT_EQ(gefunden->betr, 11) << "the client line stands in for the missing care line";
-    schreibe({klientMitStatus("1", "")}, {betreuung("1", "01.01.2005", "offen")});
-    gefunden = bereinigeDatum(lauf.stand.bestand);
-    ASSERT_TRUE(gefunden);
-    EXPECT_EQ(gefunden->betr, 5);
-}
-
 TEST_F(ReparaturenTest, ZeileDieVorOderInDemDatumEndetBleibtWieSieIst)
 {
     const auto kurze = satz({"", "2", ""});

@@ -16,8 +16,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// Registered for all users: wine looks nowhere else.
 constexpr auto typ = L"Tolvek7.Probe";
-const std::wstring klassen = LR"(Software\Classes\)";
 
 /// A folder that stands for the system's temporary folder, and programs registered for workbooks, for one test.
 class Windowsrechnen : public testing::Test {
@@ -31,25 +31,26 @@ protected:
     void TearDown() override
     {
         ::SetEnvironmentVariableW(L"TMP", m_tempVorher.data());
-        ::RegDeleteTreeW(HKEY_CURRENT_USER, (klassen + L".xlsx").c_str());
-        ::RegDeleteTreeW(HKEY_CURRENT_USER, (klassen + typ).c_str());
+        ::RegDeleteTreeW(HKEY_CLASSES_ROOT, L".xlsx");
+        ::RegDeleteTreeW(HKEY_CLASSES_ROOT, typ);
     }
 
     static void setze(const std::wstring& schlüssel, const std::wstring& wert)
     {
-        ASSERT_EQ(::RegSetKeyValueW(HKEY_CURRENT_USER, schlüssel.c_str(), nullptr, REG_SZ, wert.c_str(),
+        ASSERT_EQ(::RegSetKeyValueW(HKEY_CLASSES_ROOT, schlüssel.c_str(), nullptr, REG_SZ, wert.c_str(),
                                     static_cast<DWORD>((wert.size() + 1) * sizeof(wchar_t))),
                   ERROR_SUCCESS);
     }
     /// The program under this name takes workbooks, in these ways ("open", "new").
     void registriere(const std::wstring& name, const std::vector<std::wstring>& wünsche) const
     {
-        const auto programm = platz.pfad() / "Programme mit Blank" / name;
+        auto programm = fs::absolute(platz.pfad() / "Programme mit Blank" / name).make_preferred();
         fs::create_directories(programm.parent_path());
         fs::copy_file(TOLVEK_TABELLENPROBE, programm);
-        setze(klassen + L".xlsx", typ);
+        setze(L".xlsx", typ);
         for (const auto& wunsch : wünsche) {
-            setze(klassen + typ + LR"(\shell\)" + wunsch + LR"(\command)", L'"' + programm.wstring() + LR"(" "%1")");
+            setze(typ + std::wstring(LR"(\shell\)") + wunsch + LR"(\command)",
+                  L'"' + programm.wstring() + LR"(" "%1")");
         }
     }
     /// Takes the thread's messages meanwhile, as a program with windows does.

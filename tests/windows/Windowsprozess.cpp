@@ -30,8 +30,8 @@ Windowsprozess::Windowsprozess(const std::filesystem::path& ordner, const std::s
     const auto eigener = std::to_wstring(::GetCurrentProcessId()) + L"-" + std::to_wstring(++nummer);
     m_ausgabe = std::filesystem::temp_directory_path() / (L"tolvek7-ausgabe-" + eigener);
     HANDLE ausgabe = öffneAusgabe(m_ausgabe);
-    auto zeile = L"\"" + treiber.wstring() + L"\" \"" + ordner.wstring() + L"\" " +
-                 std::filesystem::path(handlung).wstring();
+    auto zeile =
+        L"\"" + treiber.wstring() + L"\" \"" + ordner.wstring() + L"\" " + std::filesystem::path(handlung).wstring();
     if (stelle > 0) {
         zeile += L" " + std::to_wstring(stelle);
     }

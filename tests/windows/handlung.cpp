@@ -4,8 +4,8 @@
 //
 // The process is killed at the file operation with this number of all that change something ("vor" the operation,
 // writes by halves), counted from the start for the action "start", else from the moment before the action. Without a
-// number it says "OPERATIONEN n" at the end. "bleibe" stays until it is killed; "ort" says whether the program's own folder
-// is one for records.
+// number it says "OPERATIONEN n" at the end. "bleibe" stays until it is killed; "ort" says whether the program's own
+// folder is one for records.
 
 #include "ausfall/Handlungsumgebung.h"
 #include "hilfen/Schreibhandlungen.h"

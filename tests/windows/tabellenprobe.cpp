@@ -23,14 +23,14 @@ int main(int anzahl, char** werte)
     if (griff == INVALID_HANDLE_VALUE) {
         return 1;
     }
-    const auto mitschrift = frageSystem().programm / "argumente";
+    const auto ordner = frageSystem().programm;
     {
-        std::ofstream strom(mitschrift.wstring() + L".neu", std::ios::binary);
+        std::ofstream strom(ordner / "argumente.neu", std::ios::binary);
         for (const auto& wort : worte) {
             strom << wort.string() << '\n';
         }
     }
-    ::MoveFileW((mitschrift.wstring() + L".neu").c_str(), mitschrift.c_str());
+    ::MoveFileW((ordner / "argumente.neu").c_str(), (ordner / "argumente").c_str());
     ::Sleep(offenMs);
     ::CloseHandle(griff);
     return 0;

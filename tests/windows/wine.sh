@@ -6,6 +6,8 @@ set -euo pipefail
 export WINEPREFIX=$1 WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
 # neither .NET nor a browser is asked for, and the desktop's menus stay as they are
 export WINEDLLOVERRIDES="mscoree,mshtml=;winemenubuilder.exe=d"
+# the fonts of windows without a screen, which Qt looks for in one folder; wine passes no variable that begins with QT_
+export TOLVEK_SCHRIFTEN=$WINEPREFIX/schriften
 shift
 wine=/usr/lib/wine/wine64 # Debian's wrapper asks for the 32-bit half, which nothing here needs
 server=/usr/lib/wine/wineserver64
@@ -23,6 +25,8 @@ case $1 in
             rm "$verweis"
             mkdir "$verweis"
         done
+        mkdir "$TOLVEK_SCHRIFTEN"
+        cp /usr/share/fonts/truetype/noto/NotoSans-{Regular,Bold,Italic}.ttf "$TOLVEK_SCHRIFTEN/"
         touch "$WINEPREFIX/fertig"
         ;;
     --beenden) "$server" -k || true ;;

@@ -181,22 +181,21 @@ private:
     /// Answers as the dialogue would have written them: what a group does not ask stays empty.
     void füllePlätze(std::vector<std::string>& felder, int gruppe)
     {
-        const bool substanz = istGruppe(gruppe, Gruppenart::Substanz);
-        const bool essstörung = istGruppe(gruppe, Gruppenart::Essstörung);
+        const auto füge = [&](int platz, std::string_view wert) {
+            if (gruppenreihe(gruppe)->frage(platz).gefragt) {
+                feldIn(felder, gruppe, platz) = wert;
+            }
+        };
         const auto zahl = [&](int von, int bis) { return std::to_string(m_zufall.zahl(von, bis)); };
-        if (substanz) {
-            feldIn(felder, gruppe, Konsumart) = werte::konsumart[static_cast<std::size_t>(m_zufall.zahl(1, 5))].text;
-            feldIn(felder, gruppe, Riskant) = m_zufall.aus(janein);
-        }
-        if (!essstörung) {
-            feldIn(felder, gruppe, TageBeginn) = zahl(0, 30);
-            feldIn(felder, gruppe, TageEnde) = zahl(0, 30);
-            feldIn(felder, gruppe, AlterErstkonsum) = zahl(10, 40);
-        }
-        feldIn(felder, gruppe, ICDStelle4) = substanz     ? m_zufall.aus(icdGruppen1bis20)
-                                             : essstörung ? m_zufall.aus(icdGruppe29)
-                                                          : m_zufall.aus(janein);
-        feldIn(felder, gruppe, AlterStörung) = zahl(12, 60);
+        füge(Konsumart, werte::konsumart[static_cast<std::size_t>(m_zufall.zahl(1, 5))].text);
+        füge(Riskant, m_zufall.aus(janein));
+        füge(TageBeginn, zahl(0, werte::konsumtage.bis));
+        füge(TageEnde, zahl(0, werte::konsumtage.bis));
+        füge(AlterErstkonsum, zahl(10, 40));
+        füge(ICDStelle4, istGruppe(gruppe, Gruppenart::Substanz)     ? m_zufall.aus(icdGruppen1bis20)
+                         : istGruppe(gruppe, Gruppenart::Essstörung) ? m_zufall.aus(icdGruppe29)
+                                                                     : m_zufall.aus(janein));
+        füge(AlterStörung, zahl(12, 60));
     }
 
     Zufall m_zufall;

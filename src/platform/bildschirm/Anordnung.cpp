@@ -2,67 +2,46 @@
 
 namespace anordnung {
 
-namespace {
-
-Anordnung wort(Anordnung::Wort w, std::vector<Anordnung> teile = {})
-{
-    Anordnung a;
-    a.wort = w;
-    a.teile = std::move(teile);
-    return a;
-}
-
-} // namespace
+using Wort = Anordnung::Wort;
 
 Anordnung element(Element& e, double breite)
 {
-    auto a = wort(Anordnung::Wort::Element);
-    a.element = &e;
-    a.breite = breite;
-    return a;
+    return {.wort = Wort::Element, .element = &e, .breite = breite};
 }
 
 Anordnung text(std::string_view text)
 {
-    auto a = wort(Anordnung::Wort::Text);
-    a.text = text;
-    return a;
+    return {.wort = Wort::Text, .text = std::string(text)};
 }
 
 Anordnung spalte(std::vector<Anordnung> teile)
 {
-    return wort(Anordnung::Wort::Spalte, std::move(teile));
+    return {.wort = Wort::Spalte, .teile = std::move(teile)};
 }
 
 Anordnung zeile(std::vector<Anordnung> teile)
 {
-    return wort(Anordnung::Wort::Zeile, std::move(teile));
+    return {.wort = Wort::Zeile, .teile = std::move(teile)};
 }
 
 Anordnung dehnung()
 {
-    return wort(Anordnung::Wort::Dehnung);
+    return {.wort = Wort::Dehnung};
 }
 
 Anordnung formular(std::vector<Anordnung> zeilen, double beschriftungsbreite)
 {
-    auto a = wort(Anordnung::Wort::Formular, std::move(zeilen));
-    a.breite = beschriftungsbreite;
-    return a;
+    return {.wort = Wort::Formular, .teile = std::move(zeilen), .breite = beschriftungsbreite};
 }
 
 Anordnung feld(std::string_view beschriftung, std::vector<Anordnung> teile)
 {
-    auto a = wort(Anordnung::Wort::Feld, std::move(teile));
-    a.text = beschriftung;
-    return a;
+    return {.wort = Wort::Feld, .text = std::string(beschriftung), .teile = std::move(teile)};
 }
 
 Anordnung feld(Beschriftung& beschriftung, std::vector<Anordnung> teile)
 {
-    auto a = wort(Anordnung::Wort::Feld, std::move(teile));
-    a.element = &beschriftung;
-    return a;
+    return {.wort = Wort::Feld, .element = &beschriftung, .teile = std::move(teile)};
 }
 
 Anordnung feld(std::string_view beschriftung, Element& e, double breite)
@@ -77,67 +56,59 @@ Anordnung feld(Beschriftung& beschriftung, Element& e, double breite)
 
 Anordnung trennlinie()
 {
-    return wort(Anordnung::Wort::Trennlinie);
+    return {.wort = Wort::Trennlinie};
 }
 
 Anordnung karte(std::string_view titel, Anordnung inhalt, std::vector<Element*> köpfe)
 {
-    auto a = wort(Anordnung::Wort::Karte, {std::move(inhalt)});
-    a.text = titel;
-    a.köpfe = std::move(köpfe);
-    return a;
+    return {.wort = Wort::Karte, .text = std::string(titel), .teile = {std::move(inhalt)}, .köpfe = std::move(köpfe)};
 }
 
 Anordnung karte(Beschriftung& titel, Anordnung inhalt)
 {
-    auto a = wort(Anordnung::Wort::Karte, {std::move(inhalt)});
-    a.element = &titel;
-    return a;
+    return {.wort = Wort::Karte, .element = &titel, .teile = {std::move(inhalt)}};
 }
 
 Anordnung karten(std::vector<Anordnung> spalten)
 {
-    return wort(Anordnung::Wort::Karten, std::move(spalten));
+    return {.wort = Wort::Karten, .teile = std::move(spalten)};
 }
 
 Anordnung tabelle(std::string_view titel, std::vector<Tabellenspalte> spalten, std::vector<Anordnung> zeilen)
 {
-    auto a = wort(Anordnung::Wort::Tabelle, std::move(zeilen));
-    a.text = titel;
-    a.spalten = std::move(spalten);
-    return a;
+    return {
+        .wort = Wort::Tabelle, .text = std::string(titel), .teile = std::move(zeilen), .spalten = std::move(spalten)};
 }
 
 Anordnung tabellenzeile(Beschriftung& beschriftung, std::vector<Element*> zellen)
 {
-    auto a = wort(Anordnung::Wort::Tabellenzeile);
-    a.element = &beschriftung;
+    Anordnung a{.wort = Wort::Tabellenzeile, .element = &beschriftung};
     for (auto* zelle : zellen) {
-        a.teile.push_back(zelle == nullptr ? wort(Anordnung::Wort::Text) : element(*zelle));
+        a.teile.push_back(zelle == nullptr ? text({}) : element(*zelle));
     }
     return a;
 }
 
 Anordnung decke(Anordnung darunter, Schaltfläche& decke)
 {
-    return wort(Anordnung::Wort::Decke, {std::move(darunter), element(decke)});
+    return {.wort = Wort::Decke, .teile = {std::move(darunter), element(decke)}};
 }
 
 Anordnung stapel(std::vector<Anordnung> teile)
 {
-    return wort(Anordnung::Wort::Stapel, std::move(teile));
+    return {.wort = Wort::Stapel, .teile = std::move(teile)};
 }
 
 Anordnung listung(std::vector<Tabellenspalte> spalten, std::string_view überschriftErste,
                   std::string_view überschriftRest, std::vector<Anordnung> zeilen, Bildlaufleiste& leiste,
                   Fläche& vorne, Fläche& hinten)
 {
-    auto a = wort(Anordnung::Wort::Listung, std::move(zeilen));
-    a.spalten = std::move(spalten);
-    a.element = &leiste;
-    a.köpfe = {&vorne, &hinten};
-    a.text = verbinde(überschriftErste, '\n', überschriftRest);
-    return a;
+    return {.wort = Wort::Listung,
+            .text = verbinde(überschriftErste, '\n', überschriftRest),
+            .element = &leiste,
+            .teile = std::move(zeilen),
+            .spalten = std::move(spalten),
+            .köpfe = {&vorne, &hinten}};
 }
 
 Anordnung füllend(Anordnung a)

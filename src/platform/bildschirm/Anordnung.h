@@ -4,7 +4,6 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 /// The head of a column of a Tabelle: title, the group it stands under (two columns with the same group in
@@ -45,14 +44,14 @@ struct Anordnung {
     };
 
     Wort wort = Wort::Spalte;
-    std::string text;           ///< label, title or fixed text
+    std::string text{};         ///< label, title or fixed text
     Element* element = nullptr; ///< Element; label of a Feld or Tabellenzeile; title of a Karte
-    std::vector<Anordnung> teile;
-    double breite = 0;                   ///< em: width of an element or label column, of a card at most
-    bool füllt = false;                  ///< takes the height (or width) that is left
-    bool behältPlatz = false;            ///< a hidden element keeps its place
-    std::vector<Tabellenspalte> spalten; ///< heads of a Tabelle or Listung
-    std::vector<Element*> köpfe;         ///< elements in the title line of a Karte (the "!")
+    std::vector<Anordnung> teile{};
+    double breite = 0;                     ///< em: width of an element or label column, of a card at most
+    bool füllt = false;                    ///< takes the height (or width) that is left
+    bool behältPlatz = false;              ///< a hidden element keeps its place
+    std::vector<Tabellenspalte> spalten{}; ///< heads of a Tabelle or Listung
+    std::vector<Element*> köpfe{};         ///< elements in the title line of a Karte (the "!")
 };
 
 namespace anordnung {

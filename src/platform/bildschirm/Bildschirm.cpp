@@ -11,6 +11,36 @@ void sammle(Element* element, std::vector<Element*>& folge)
     }
 }
 
+void sammle(const Anordnung& a, std::vector<Element*>& folge)
+{
+    for (auto* kopf : a.köpfe) {
+        sammle(kopf, folge);
+    }
+    for (const auto& spalte : a.spalten) {
+        sammle(spalte.füller, folge);
+    }
+    const bool istListung = a.wort == Anordnung::Wort::Listung;
+    if (!istListung) {
+        sammle(a.element, folge);
+    }
+    // a cover is read out where the covered fields would be
+    for (const auto& teil : a.teile) {
+        sammle(teil, folge);
+    }
+    if (istListung) {
+        sammle(a.element, folge);
+    }
+}
+
+bool istUnterDecke(const Anordnung& a, const Element& element, bool verdeckt)
+{
+    const auto* unterDecke =
+        a.wort == Anordnung::Wort::Decke && a.teile.back().element->istSichtbar() ? &a.teile.front() : nullptr;
+    return (verdeckt && a.element == &element) || std::ranges::any_of(a.teile, [&](const Anordnung& teil) {
+               return istUnterDecke(teil, element, verdeckt || &teil == unterDecke);
+           });
+}
+
 } // namespace
 
 void Bildschirm::setzeTitel(std::string_view titel)
@@ -31,31 +61,10 @@ Element* Bildschirm::finde(std::string_view name) const
     return ort == m_nachName.end() ? nullptr : ort->second;
 }
 
-void Bildschirm::sammleTabFolge(const Anordnung& a, std::vector<Element*>& folge) const
-{
-    for (auto* kopf : a.köpfe) {
-        sammle(kopf, folge);
-    }
-    for (const auto& spalte : a.spalten) {
-        sammle(spalte.füller, folge);
-    }
-    const bool istListung = a.wort == Anordnung::Wort::Listung;
-    if (!istListung) {
-        sammle(a.element, folge);
-    }
-    // a cover is read out where the covered fields would be
-    for (const auto& teil : a.teile) {
-        sammleTabFolge(teil, folge);
-    }
-    if (istListung) {
-        sammle(a.element, folge);
-    }
-}
-
 std::vector<Element*> Bildschirm::tabFolge() const
 {
     std::vector<Element*> folge;
-    sammleTabFolge(aufbau, folge);
+    sammle(aufbau, folge);
     // the button in the band belongs to the page, so it comes before the bar that ends the page
     sammle(kopfband.knopf, folge);
     for (auto* element : leiste.links) {
@@ -65,22 +74,6 @@ std::vector<Element*> Bildschirm::tabFolge() const
         sammle(element, folge);
     }
     return folge;
-}
-
-bool Bildschirm::istUnterDecke(const Anordnung& a, const Element& element, bool verdeckt) const
-{
-    if (a.wort == Anordnung::Wort::Decke) {
-        const auto& decke = *a.teile.back().element;
-        if (istUnterDecke(a.teile.front(), element, verdeckt || decke.istSichtbar())) {
-            return true;
-        }
-        return verdeckt && &decke == &element;
-    }
-    if (verdeckt && a.element == &element) {
-        return true;
-    }
-    return std::any_of(a.teile.begin(), a.teile.end(),
-                       [&](const Anordnung& teil) { return istUnterDecke(teil, element, verdeckt); });
 }
 
 bool Bildschirm::istVerdeckt(const Element& element) const
@@ -195,7 +188,7 @@ bool Bildschirm::geheWeiter(bool vor)
     if (folge.empty()) {
         return false;
     }
-    const auto ort = std::find(folge.begin(), folge.end(), m_fokus);
+    const auto ort = std::ranges::find(folge, m_fokus);
     std::size_t stelle = 0;
     if (ort != folge.end()) {
         const auto jetzt = static_cast<std::size_t>(ort - folge.begin());

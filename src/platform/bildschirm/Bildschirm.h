@@ -129,9 +129,6 @@ private:
     /// The element's own constructor registers it.
     void nimmAuf(Element& element) override;
 
-    void sammleTabFolge(const Anordnung& a, std::vector<Element*>& folge) const;
-    bool istUnterDecke(const Anordnung& a, const Element& element, bool verdeckt) const;
-
     bool geheWeiter(bool vor);
     Schaltfläche* findeKürzel(char zeichen) const;
 

@@ -6,8 +6,7 @@
 
 Bildschirmfolge::Stand* Bildschirmfolge::stand(const Bildschirm& bildschirm)
 {
-    const auto ort =
-        std::find_if(m_stände.begin(), m_stände.end(), [&](const Stand& s) { return s.bildschirm == &bildschirm; });
+    const auto ort = std::ranges::find(m_stände, &bildschirm, &Stand::bildschirm);
     return ort == m_stände.end() ? nullptr : &*ort;
 }
 
@@ -138,16 +137,15 @@ Bildschirm* Bildschirmfolge::finde(std::string_view name) const
 std::vector<Bildschirm*> Bildschirmfolge::geladene() const
 {
     std::vector<Bildschirm*> alle;
-    std::transform(m_stände.begin(), m_stände.end(), std::back_inserter(alle),
-                   [](const Stand& s) { return s.bildschirm; });
+    std::ranges::transform(m_stände, std::back_inserter(alle), [](const Stand& s) { return s.bildschirm; });
     return alle;
 }
 
 void Bildschirmfolge::führeAktivierungenAus()
 {
     const auto nächster = [this] {
-        const auto ort = std::find_if(m_stände.begin(), m_stände.end(),
-                                      [](const Stand& s) { return s.sollAktivWerden && s.sichtbar && s.frei; });
+        const auto ort =
+            std::ranges::find_if(m_stände, [](const Stand& s) { return s.sollAktivWerden && s.sichtbar && s.frei; });
         return ort == m_stände.end() ? nullptr : &*ort;
     };
     while (auto* s = nächster()) {

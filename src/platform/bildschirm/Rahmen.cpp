@@ -1,16 +1,5 @@
 #include "platform/bildschirm/Rahmen.h"
 
-namespace {
-
-void rufe(const std::function<void()>& regel)
-{
-    if (regel) {
-        regel();
-    }
-}
-
-} // namespace
-
 void Rahmen::setzeTitel(std::string_view titel)
 {
     m_titel = titel;

@@ -19,7 +19,7 @@ Element* nachbar(const Bildschirm& bildschirm, const Element& element, bool vor)
         return reihenname(*anderes) != reihenname(element) ||
                (anderes != &element && !bildschirm.istErreichbar(*anderes));
     });
-    const auto ort = std::find(reihe.begin(), reihe.end(), &element);
+    const auto ort = std::ranges::find(reihe, &element);
     if (ort == reihe.end() || (vor ? std::next(ort) == reihe.end() : ort == reihe.begin())) {
         return nullptr;
     }

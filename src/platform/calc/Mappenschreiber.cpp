@@ -1,6 +1,5 @@
 #include "platform/calc/Mappenschreiber.h"
 
-#include "platform/calc/Nebenlauf.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Eingabe.h"
 #include "platform/text/Text.h"
@@ -9,8 +8,10 @@
 #include <xlsxwriter.h>
 
 #include <algorithm>
+#include <chrono>
 #include <clocale>
 #include <cstdio>
+#include <future>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -51,7 +52,7 @@ class Utf8Text {
 public:
     const char* von(std::string_view text)
     {
-        const bool schlicht = std::all_of(text.begin(), text.end(), [](char zeichen) { return zeichen > 0; });
+        const bool schlicht = std::ranges::all_of(text, [](char zeichen) { return zeichen > 0; });
         if (schlicht) {
             m_text.assign(text);
         } else {
@@ -116,7 +117,7 @@ constexpr int zeilenJePause = 50;
 constexpr double anteilDerZeilen = 0.4;
 /// The part of the size of its rows to which a workbook is packed, measured on the records of a facility.
 constexpr double packmaß = 0.09;
-constexpr int pauseMs = 30;
+constexpr std::chrono::milliseconds pause{30};
 
 int zeilenAnzahl(const Blatt& blatt)
 {
@@ -187,14 +188,11 @@ public:
     void schließe(const Zwischendurch& zwischendurch)
     {
         lxw_workbook* mappe = std::exchange(m_mappe, nullptr); // closing frees it, also on failure
-        lxw_error fehler = LXW_NO_ERROR;
-        {
-            Nebenlauf packen([&] { fehler = workbook_close(mappe); });
-            while (!packen.endetIn(pauseMs)) {
-                zwischendurch(gepackterAnteil());
-            }
+        auto packen = std::async(std::launch::async, workbook_close, mappe);
+        while (packen.wait_for(pause) != std::future_status::ready) {
+            zwischendurch(gepackterAnteil());
         }
-        prüfe(fehler);
+        prüfe(packen.get());
     }
 
 private:

@@ -8,7 +8,6 @@
 namespace {
 
 constexpr auto dateiname = "Tolvek7.xlsx";
-constexpr auto libreOffice = "soffice";
 
 } // namespace
 
@@ -21,14 +20,14 @@ Rechenprogramm::~Rechenprogramm() = default;
 
 bool Rechenprogramm::istDa()
 {
-    return findeProgramm(libreOffice) || findeProgrammFürXlsx();
+    return findeProgramm(erstesRechenprogramm) || findeProgrammFürXlsx();
 }
 
 bool Rechenprogramm::öffne(Arbeitsmappe& mappe, const Zwischendurch& zwischendurch)
 {
     auto ablage = std::make_unique<Zwischenablage>(dateiname);
     schreibeXlsx(mappe, ablage->datei(), zwischendurch);
-    if (const auto programm = findeProgramm(libreOffice)) {
+    if (const auto programm = findeProgramm(erstesRechenprogramm)) {
         std::vector<std::string> argumente = m_zusätze;
         argumente.emplace_back("-n");
         if (ablage->übergib(*programm, argumente)) {

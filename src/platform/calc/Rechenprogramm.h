@@ -8,6 +8,9 @@
 
 class Zwischenablage;
 
+/// The program that is looked for first: LibreOffice.
+inline constexpr auto erstesRechenprogramm = "soffice";
+
 /// The spreadsheet program of the desktop: LibreOffice, else the program that the desktop has for .xlsx.
 ///
 /// The workbook goes to it through a temporary file that only its owner can read (health data), in a folder of

@@ -37,10 +37,6 @@ void schreibeGanz(OffeneDatei& datei, std::string_view bytes)
     }
 }
 
-} // namespace
-
-namespace {
-
 constexpr auto neueFassung = ".neu";
 
 } // namespace

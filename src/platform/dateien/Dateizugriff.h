@@ -50,6 +50,8 @@ enum class Fund { Nichts, Datei, Ordner, Anderes };
 /// The operations of the system; every one throws Dateifehler.
 class Dateizugriff {
 public:
+    using Pfad = std::filesystem::path;
+
     Dateizugriff() = default;
     Dateizugriff(const Dateizugriff&) = delete;
     Dateizugriff& operator=(const Dateizugriff&) = delete;
@@ -57,27 +59,27 @@ public:
 
     /// The content from byte `ab` on (0: all of it). Never waits: a pipe or a device in the place of a file is a
     /// failure.
-    virtual std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad, std::uint64_t ab) = 0;
-    virtual std::uint64_t länge(const std::filesystem::path& pfad) = 0;
-    virtual std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) = 0;
-    virtual void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach) = 0;
-    virtual void lösche(const std::filesystem::path& pfad) = 0;
+    virtual std::unique_ptr<Dateiinhalt> lies(const Pfad& pfad, std::uint64_t ab) = 0;
+    virtual std::uint64_t länge(const Pfad& pfad) = 0;
+    virtual std::unique_ptr<OffeneDatei> öffne(const Pfad& pfad, Öffnung wie) = 0;
+    virtual void benenneUm(const Pfad& von, const Pfad& nach) = 0;
+    virtual void lösche(const Pfad& pfad) = 0;
     /// A second name for the same content.
-    virtual void verknüpfe(const std::filesystem::path& von, const std::filesystem::path& nach) = 0;
-    virtual void legeOrdnerAn(const std::filesystem::path& pfad) = 0;
-    virtual void entferneOrdner(const std::filesystem::path& pfad) = 0;
-    virtual void sichereOrdnerAufPlatte(const std::filesystem::path& pfad) = 0;
-    virtual void verwehreAnderen(const std::filesystem::path& pfad) = 0;
+    virtual void verknüpfe(const Pfad& von, const Pfad& nach) = 0;
+    virtual void legeOrdnerAn(const Pfad& pfad) = 0;
+    virtual void entferneOrdner(const Pfad& pfad) = 0;
+    virtual void sichereOrdnerAufPlatte(const Pfad& pfad) = 0;
+    virtual void verwehreAnderen(const Pfad& pfad) = 0;
 
     /// Links followed; a link to nothing is a failure.
-    virtual Fund findet(const std::filesystem::path& pfad) = 0;
+    virtual Fund findet(const Pfad& pfad) = 0;
     /// Whether anything, a link to nothing included, has the name.
-    virtual bool istVergeben(const std::filesystem::path& pfad) = 0;
-    virtual std::filesystem::path ziel(const std::filesystem::path& pfad) = 0;
+    virtual bool istVergeben(const Pfad& pfad) = 0;
+    virtual Pfad ziel(const Pfad& pfad) = 0;
     /// Local time, "JJJJ-MM-TT hh.mm.ss".
-    virtual std::string zeitVon(const std::filesystem::path& pfad) = 0;
+    virtual std::string zeitVon(const Pfad& pfad) = 0;
     /// The names in the folder that are folders (or are none), sorted.
-    virtual std::vector<std::filesystem::path> namenIn(const std::filesystem::path& ordner, bool sindOrdner) = 0;
+    virtual std::vector<Pfad> namenIn(const Pfad& ordner, bool sindOrdner) = 0;
 };
 
 /// An access that hands everything on to another one; what is to go otherwise is overridden.
@@ -85,39 +87,28 @@ class Zugriffsweiche : public Dateizugriff {
 public:
     explicit Zugriffsweiche(std::unique_ptr<Dateizugriff> dahinter) : m_dahinter(std::move(dahinter)) {}
 
-    std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad, std::uint64_t ab) override
+    std::unique_ptr<Dateiinhalt> lies(const Pfad& pfad, std::uint64_t ab) override { return dahinter().lies(pfad, ab); }
+    std::uint64_t länge(const Pfad& pfad) override { return dahinter().länge(pfad); }
+    std::unique_ptr<OffeneDatei> öffne(const Pfad& pfad, Öffnung wie) override { return dahinter().öffne(pfad, wie); }
+    void benenneUm(const Pfad& von, const Pfad& nach) override { dahinter().benenneUm(von, nach); }
+    void lösche(const Pfad& pfad) override { dahinter().lösche(pfad); }
+    void verknüpfe(const Pfad& von, const Pfad& nach) override { dahinter().verknüpfe(von, nach); }
+    void legeOrdnerAn(const Pfad& pfad) override { dahinter().legeOrdnerAn(pfad); }
+    void entferneOrdner(const Pfad& pfad) override { dahinter().entferneOrdner(pfad); }
+    void sichereOrdnerAufPlatte(const Pfad& pfad) override { dahinter().sichereOrdnerAufPlatte(pfad); }
+    void verwehreAnderen(const Pfad& pfad) override { dahinter().verwehreAnderen(pfad); }
+    Fund findet(const Pfad& pfad) override { return dahinter().findet(pfad); }
+    bool istVergeben(const Pfad& pfad) override { return dahinter().istVergeben(pfad); }
+    Pfad ziel(const Pfad& pfad) override { return dahinter().ziel(pfad); }
+    std::string zeitVon(const Pfad& pfad) override { return dahinter().zeitVon(pfad); }
+    std::vector<Pfad> namenIn(const Pfad& ordner, bool sindOrdner) override
     {
-        return m_dahinter->lies(pfad, ab);
+        return dahinter().namenIn(ordner, sindOrdner);
     }
-    std::uint64_t länge(const std::filesystem::path& pfad) override { return m_dahinter->länge(pfad); }
-    std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) override
-    {
-        return m_dahinter->öffne(pfad, wie);
-    }
-    void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach) override
-    {
-        m_dahinter->benenneUm(von, nach);
-    }
-    void lösche(const std::filesystem::path& pfad) override { m_dahinter->lösche(pfad); }
-    void verknüpfe(const std::filesystem::path& von, const std::filesystem::path& nach) override
-    {
-        m_dahinter->verknüpfe(von, nach);
-    }
-    void legeOrdnerAn(const std::filesystem::path& pfad) override { m_dahinter->legeOrdnerAn(pfad); }
-    void entferneOrdner(const std::filesystem::path& pfad) override { m_dahinter->entferneOrdner(pfad); }
-    void sichereOrdnerAufPlatte(const std::filesystem::path& pfad) override
-    {
-        m_dahinter->sichereOrdnerAufPlatte(pfad);
-    }
-    void verwehreAnderen(const std::filesystem::path& pfad) override { m_dahinter->verwehreAnderen(pfad); }
-    Fund findet(const std::filesystem::path& pfad) override { return m_dahinter->findet(pfad); }
-    bool istVergeben(const std::filesystem::path& pfad) override { return m_dahinter->istVergeben(pfad); }
-    std::filesystem::path ziel(const std::filesystem::path& pfad) override { return m_dahinter->ziel(pfad); }
-    std::string zeitVon(const std::filesystem::path& pfad) override { return m_dahinter->zeitVon(pfad); }
-    std::vector<std::filesystem::path> namenIn(const std::filesystem::path& ordner, bool sindOrdner) override
-    {
-        return m_dahinter->namenIn(ordner, sindOrdner);
-    }
+
+protected:
+    /// Asked by every operation that goes on to it.
+    virtual Dateizugriff& dahinter() { return *m_dahinter; }
 
 private:
     std::unique_ptr<Dateizugriff> m_dahinter;

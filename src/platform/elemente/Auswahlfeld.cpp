@@ -53,7 +53,7 @@ void Auswahlfeld::gibEin(std::string_view text, std::size_t schreibmarke)
 
 void Auswahlfeld::wähleNachbar(bool vor)
 {
-    const auto ort = std::find(m_liste.begin(), m_liste.end(), m_text);
+    const auto ort = std::ranges::find(m_liste, m_text);
     if (ort == m_liste.end()) {
         if (!m_liste.empty()) {
             wähle(0);
@@ -88,7 +88,7 @@ bool Auswahlfeld::tasteNurWahl(const Taste& taste)
     if (taste.art != Taste::Art::Zeichen) {
         return false;
     }
-    const auto jetzt = std::find(m_liste.begin(), m_liste.end(), m_text);
+    const auto jetzt = std::ranges::find(m_liste, m_text);
     const auto anfang = jetzt == m_liste.end() ? 0 : static_cast<std::size_t>(jetzt - m_liste.begin()) + 1;
     for (std::size_t i = 0; i < m_liste.size(); ++i) {
         const auto stelle = (anfang + i) % m_liste.size();

@@ -22,22 +22,17 @@ Datum imMonat(Datum datum)
     return datum;
 }
 
-enum class Teil { Tag, Monat, Jahr };
-
-/// The date with one of its parts moved, within the calendar.
-Datum verstellt(const Datum& datum, Teil teil, int schritte)
+/// The date with day (0), month (1) or year moved; nothing that would leave the month, the year or the calendar.
+Datum verstellt(const Datum& datum, std::ptrdiff_t teil, int schritte)
 {
-    switch (teil) {
-    case Teil::Tag: {
-        const Datum neu{datum.jahr, datum.monat, datum.tag + schritte};
+    Datum neu = datum;
+    (teil == 0 ? neu.tag : teil == 1 ? neu.monat : neu.jahr) += schritte;
+    if (teil == 0) {
         return istTagImKalender(neu) ? neu : datum;
     }
-    case Teil::Monat:
-        return imMonat({datum.jahr, std::clamp(datum.monat + schritte, 1, letzterMonat), datum.tag});
-    case Teil::Jahr:
-        break;
-    }
-    return imMonat({std::clamp(datum.jahr + schritte, erstesDatumsjahr, letztesDatumsjahr), datum.monat, datum.tag});
+    const bool gibtEs =
+        neu.monat >= 1 && neu.monat <= letzterMonat && neu.jahr >= erstesDatumsjahr && neu.jahr <= letztesDatumsjahr;
+    return gibtEs ? imMonat(neu) : datum;
 }
 
 Datum umTage(const Datum& datum, int tage)
@@ -110,9 +105,9 @@ void Datumsfeld::gibEin(std::string_view text, std::size_t schreibmarke)
 {
     std::string neu(text);
     std::erase(neu, ' ');
-    if (std::all_of(neu.begin(), neu.end(), istDatumszeichen)) {
+    if (std::ranges::all_of(neu, istDatumszeichen)) {
         const auto links = text.substr(0, schreibmarke);
-        const auto blanks = static_cast<std::size_t>(std::count(links.begin(), links.end(), ' '));
+        const auto blanks = static_cast<std::size_t>(std::ranges::count(links, ' '));
         m_getippt = neu == this->text() ? std::nullopt : std::optional(neu);
         setzeStelle(schreibmarke - blanks, schreibmarke - blanks);
         meldeÄnderung();
@@ -170,74 +165,20 @@ void Datumsfeld::fokusErneuert()
     wähleAlles();
 }
 
-void Datumsfeld::ersetzeAuswahl(std::string_view text)
-{
-    const auto von = std::min(m_schreibmarke, m_anker);
-    auto neu = anzeige();
-    neu.replace(von, std::max(m_schreibmarke, m_anker) - von, text);
-    gibEin(neu, von + text.size());
-}
-
-void Datumsfeld::lösche(bool rückwärts)
-{
-    if (m_schreibmarke == m_anker) {
-        const auto ziel = rückwärts ? m_schreibmarke - std::min<std::size_t>(m_schreibmarke, 1) : m_schreibmarke + 1;
-        setzeStelle(m_schreibmarke, ziel);
-    }
-    if (m_schreibmarke != m_anker) {
-        ersetzeAuswahl({});
-    }
-}
-
-void Datumsfeld::bewege(std::size_t ziel, bool erweitert)
-{
-    setzeStelle(ziel, erweitert ? m_anker : ziel);
-    meldeÄnderung();
-}
-
 /// Day, month or year by the points left of the cursor; the cursor stays where it is.
 void Datumsfeld::verstelle(int schritte)
 {
     const bool ganz = istGanzGewählt();
     const auto links = anzeige().substr(0, m_schreibmarke);
-    const auto punkte = ganz ? 0 : std::count(links.begin(), links.end(), '.');
+    const auto punkte = ganz ? 0 : std::ranges::count(links, '.');
     const auto marke = m_schreibmarke;
     if (!schließeAb()) {
         return;
     }
-    wähle(verstellt(m_datum, punkte == 0 ? Teil::Tag : punkte == 1 ? Teil::Monat : Teil::Jahr, schritte));
+    wähle(verstellt(m_datum, punkte, schritte));
     if (!ganz) {
         setzeStelle(marke, marke);
         meldeÄnderung();
-    }
-}
-
-bool Datumsfeld::tasteDesTextes(const Taste& taste)
-{
-    const bool gewählt = m_schreibmarke != m_anker && !taste.umschalt;
-    switch (taste.art) {
-    case Taste::Art::Zeichen:
-        ersetzeAuswahl(std::string_view(&taste.zeichen, 1));
-        return true;
-    case Taste::Art::Rück:
-    case Taste::Art::Entf:
-        lösche(taste.art == Taste::Art::Rück);
-        return true;
-    case Taste::Art::Links:
-        bewege(gewählt ? std::min(m_schreibmarke, m_anker) : m_schreibmarke - std::min<std::size_t>(m_schreibmarke, 1),
-               taste.umschalt);
-        return true;
-    case Taste::Art::Rechts:
-        bewege(gewählt ? std::max(m_schreibmarke, m_anker) : m_schreibmarke + 1, taste.umschalt);
-        return true;
-    case Taste::Art::Pos1:
-        bewege(0, taste.umschalt);
-        return true;
-    case Taste::Art::Ende:
-        bewege(anzeige().size(), taste.umschalt);
-        return true;
-    default:
-        return false;
     }
 }
 
@@ -266,7 +207,7 @@ bool Datumsfeld::taste(const Taste& taste)
         wähleAlles();
         return true;
     default:
-        return tasteDesTextes(taste);
+        return false;
     }
 }
 

@@ -17,14 +17,15 @@
 /// back. The whole text is selected when the focus comes by key or from the program, with the cursor before it,
 /// so that what is typed begins anew.
 ///
-/// F4 and Alt+Down open the calendar; its keys come here too, so that every surface has the same calendar.
+/// F4 and Alt+Down open the calendar; its keys come here too, so that every surface has the same calendar. The keys
+/// that edit the text are the surface's own; what they make of it comes in through `gibEin` and `setzeStelle`.
 ///
 ///     Datumsfeld DTPickerVon{*this, "DTPickerVon"_t};
 ///     DTPickerVon.heute = [] { return zustand().umgebung.heute(); };
 ///     DTPickerVon.setzeDatum({2007, 8, 2});
-class Datumsfeld : public Element {
+class Datumsfeld : public Elementart<Datumsfeld> {
 public:
-    using Element::Element;
+    using Elementart::Elementart;
 
     Datum datum() const { return m_datum; }
     std::string text() const override { return alsDatumstext(m_datum); }
@@ -54,7 +55,6 @@ public:
     void wähle(const Datum& datum);
     bool taste(const Taste& taste) override;
     bool schließeAb() override;
-    void besuche(Elementbesucher& besucher) override;
     void fokusGewechselt(bool gekommen) override;
     void fokusErneuert() override;
 
@@ -68,11 +68,7 @@ private:
     void beanstande(std::string_view text);
     void wähleAlles();
     bool istGanzGewählt() const;
-    void ersetzeAuswahl(std::string_view text);
-    void lösche(bool rückwärts);
-    void bewege(std::size_t ziel, bool erweitert);
     void verstelle(int schritte);
-    bool tasteDesTextes(const Taste& taste);
     bool tasteDesKalenders(const Taste& taste);
     void stelleKalender(const Datum& tag);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/elemente/Elementbesucher.h"
 #include "platform/elemente/Farbe.h"
 #include "platform/elemente/Melder.h"
 #include "platform/elemente/Taste.h"
@@ -10,7 +11,6 @@
 #include <string_view>
 
 class Element;
-class Elementbesucher;
 
 /// What elements live on: a screen (platform/bildschirm). It takes each as it is made and knows which has the focus.
 class Elementträger {
@@ -97,12 +97,6 @@ public:
 
 protected:
     void meldeÄnderung() { geändert.melde(); }
-    static void rufe(const std::function<void()>& regel)
-    {
-        if (regel) {
-            regel();
-        }
-    }
 
 private:
     Elementträger& m_träger;
@@ -111,4 +105,34 @@ private:
     bool m_frei = true;
     std::string m_hinweis;
     std::optional<Farbe> m_hintergrund;
+};
+
+/// What every kind of elements derives from: a visitor meets it as what it is.
+///
+///     class Liste : public Elementart<Liste> { … };
+template <class Art> class Elementart : public Element {
+public:
+    using Element::Element;
+
+    void besuche(Elementbesucher& besucher) override { besucher.besuche(static_cast<Art&>(*this)); }
+};
+
+/// The same for kinds whose text is a caption, which the program alone writes.
+template <class Art> class ElementMitText : public Elementart<Art> {
+public:
+    ElementMitText(Elementträger& träger, std::string_view name, std::string_view text = {})
+        : Elementart<Art>(träger, name), m_text(text)
+    {}
+
+    std::string text() const override { return m_text; }
+    void setzeText(std::string_view text)
+    {
+        if (m_text != text) {
+            m_text = text;
+            this->meldeÄnderung();
+        }
+    }
+
+private:
+    std::string m_text;
 };

@@ -1,15 +1,6 @@
 #include "platform/elemente/Elemente.h"
 
 #include <algorithm>
-#include <string>
-
-void Beschriftung::setzeText(std::string_view text)
-{
-    if (m_text != text) {
-        m_text = text;
-        meldeÄnderung();
-    }
-}
 
 void Beschriftung::setzeZeilenart(Zeilenart art)
 {
@@ -19,16 +10,9 @@ void Beschriftung::setzeZeilenart(Zeilenart art)
     }
 }
 
-void Schaltfläche::setzeText(std::string_view text)
-{
-    m_text = text;
-    meldeÄnderung();
-}
-
 bool Schaltfläche::taste(const Taste& taste)
 {
-    const bool drückt = taste.art == Taste::Art::Eingabe || (taste.art == Taste::Art::Zeichen && taste.zeichen == ' ');
-    if (!drückt) {
+    if (taste.art != Taste::Art::Eingabe && !taste.istLeertaste()) {
         return false;
     }
     klicke();
@@ -71,12 +55,6 @@ void Optionsgruppe::markiereNur(const Optionsfeld& feld)
     }
 }
 
-void Optionsfeld::setzeText(std::string_view text)
-{
-    m_text = text;
-    meldeÄnderung();
-}
-
 void Optionsfeld::setze(bool an)
 {
     if (an && m_gruppe != nullptr) {
@@ -102,7 +80,7 @@ void Optionsfeld::klicke()
 
 bool Optionsfeld::taste(const Taste& taste)
 {
-    if (taste.art == Taste::Art::Zeichen && taste.zeichen == ' ') {
+    if (taste.istLeertaste()) {
         klicke();
         return true;
     }
@@ -124,7 +102,7 @@ void Ankreuzfeld::setze(bool an)
 
 bool Ankreuzfeld::taste(const Taste& taste)
 {
-    if (taste.art != Taste::Art::Zeichen || taste.zeichen != ' ') {
+    if (!taste.istLeertaste()) {
         return false;
     }
     klicke();
@@ -157,11 +135,6 @@ double Fortschrittsbalken::anteil() const
     return std::clamp(m_anteil.value_or(static_cast<double>(m_wert - m_kleinstes) / spanne), 0.0, 1.0);
 }
 
-std::string Fortschrittsbalken::text() const
-{
-    return std::to_string(m_wert);
-}
-
 void Bildlaufleiste::setzeBereich(int kleinstes, int größtes, int kleinerSchritt, int großerSchritt)
 {
     m_kleinstes = kleinstes;
@@ -180,11 +153,6 @@ void Bildlaufleiste::setzeWert(int wert)
         meldeÄnderung();
         rufe(beiÄnderung);
     }
-}
-
-std::string Bildlaufleiste::text() const
-{
-    return std::to_string(m_wert);
 }
 
 bool Bildlaufleiste::taste(const Taste& taste)

@@ -19,16 +19,11 @@
 #include <vector>
 
 /// A label. Clickable where a screen gives it a rule (the rows of the diagnosis listing).
-class Beschriftung : public Element {
+class Beschriftung : public ElementMitText<Beschriftung> {
 public:
-    Beschriftung(Elementträger& träger, std::string_view name, std::string_view text = {})
-        : Element(träger, name), m_text(text)
-    {}
+    using ElementMitText::ElementMitText;
 
-    std::string text() const override { return m_text; }
-    void setzeText(std::string_view text);
     bool nimmtFokus() const override { return false; }
-    void besuche(Elementbesucher& besucher) override;
 
     /// How a listing draws the row of the label.
     enum class Zeilenart { Gewöhnlich, Hauptdiagnose, Markiert };
@@ -36,30 +31,25 @@ public:
     void setzeZeilenart(Zeilenart art);
 
 private:
-    std::string m_text;
     Zeilenart m_zeilenart = Zeilenart::Gewöhnlich;
 };
 
 /// A push button. "&" in the caption marks the mnemonic letter.
-class Schaltfläche : public Element {
+class Schaltfläche : public ElementMitText<Schaltfläche> {
 public:
     enum class Rolle { Gewöhnlich, Haupt, Gefahr, Füller, Weg, Decke, Gedrückt };
 
     Schaltfläche(Elementträger& träger, std::string_view name, std::string_view text = {},
                  Rolle rolle = Rolle::Gewöhnlich)
-        : Element(träger, name), m_text(text), m_rolle(rolle)
+        : ElementMitText(träger, name, text), m_rolle(rolle)
     {}
 
-    std::string text() const override { return m_text; }
-    void setzeText(std::string_view text);
     Rolle rolle() const { return m_rolle; }
     /// A cover without a text has nothing to read out.
-    bool nimmtFokus() const override { return m_rolle != Rolle::Decke || !m_text.empty(); }
+    bool nimmtFokus() const override { return m_rolle != Rolle::Decke || !text().empty(); }
     bool taste(const Taste& taste) override;
-    void besuche(Elementbesucher& besucher) override;
 
 private:
-    std::string m_text;
     Rolle m_rolle;
 };
 
@@ -69,10 +59,10 @@ inline constexpr Zeilenzahl Einzeilig = Zeilenzahl::Einzeilig;
 
 /// A text box. In one of several lines a line break is carriage return and line feed. Its editing keys are the
 /// surface's own; what they make of the text comes in through `gibEin`.
-class Textfeld : public Element {
+class Textfeld : public Elementart<Textfeld> {
 public:
     Textfeld(Elementträger& träger, std::string_view name, Zeilenzahl zeilen = Einzeilig, std::size_t höchstlänge = 0)
-        : Element(träger, name), m_zeilen(zeilen), m_höchstlänge(höchstlänge)
+        : Elementart(träger, name), m_zeilen(zeilen), m_höchstlänge(höchstlänge)
     {}
 
     std::string text() const override { return m_text; }
@@ -84,7 +74,6 @@ public:
 
     /// The user's text replaces the old one (typed or pasted); the text is code page already (nimmÄnderung).
     void gibEin(std::string_view text, std::size_t schreibmarke);
-    void besuche(Elementbesucher& besucher) override;
     void fokusGewechselt(bool gekommen) override;
 
     std::function<void()> beiÄnderung;
@@ -103,12 +92,12 @@ private:
 /// the last, a letter the next entry that begins with it. In a typeable box left, right, Home and End move
 /// the cursor, and backspace and characters go to `beiTastendruck` (the type-ahead), which decides. When the focus
 /// comes, the whole text of a typeable box is selected with the cursor before it, so that the first key begins anew.
-class Auswahlfeld : public Element {
+class Auswahlfeld : public Elementart<Auswahlfeld> {
 public:
     enum class Art { NurWahl, Tippbar };
 
     Auswahlfeld(Elementträger& träger, std::string_view name, Art art = Art::NurWahl)
-        : Element(träger, name), m_art(art)
+        : Elementart(träger, name), m_art(art)
     {}
 
     std::string text() const override { return m_text; }
@@ -133,7 +122,6 @@ public:
     /// The user's own text, past any key handling (pasting).
     void gibEin(std::string_view text, std::size_t schreibmarke);
     bool taste(const Taste& taste) override;
-    void besuche(Elementbesucher& besucher) override;
     void fokusGewechselt(bool gekommen) override;
     void fokusErneuert() override;
 
@@ -174,14 +162,10 @@ private:
 
 /// An option button. A click (or Space) marks it. Arrow keys move the focus within the group; they mark as
 /// well, unless the group was told that a mark has consequences (`pfeileMarkieren` = false).
-class Optionsfeld : public Element {
+class Optionsfeld : public ElementMitText<Optionsfeld> {
 public:
-    Optionsfeld(Elementträger& träger, std::string_view name, std::string_view text = {})
-        : Element(träger, name), m_text(text)
-    {}
+    using ElementMitText::ElementMitText;
 
-    std::string text() const override { return m_text; }
-    void setzeText(std::string_view text);
     bool istAn() const { return m_an; }
     /// Marks or unmarks; marking unmarks the others of the group. Tells no rule.
     void setze(bool an);
@@ -192,42 +176,35 @@ public:
     /// Marks and tells `beiKlick`.
     void klicke() override;
     bool taste(const Taste& taste) override;
-    void besuche(Elementbesucher& besucher) override;
 
     /// Backspace or Delete on the option, where the screen has a use for it.
     std::function<void()> beiLöschtaste;
 
 private:
-    std::string m_text;
     bool m_an = false;
     bool m_pfeileMarkieren = true;
     Optionsgruppe* m_gruppe = nullptr;
 };
 
 /// A check box. `beiÄnderung` is told of every change, the program's own too.
-class Ankreuzfeld : public Element {
+class Ankreuzfeld : public ElementMitText<Ankreuzfeld> {
 public:
-    Ankreuzfeld(Elementträger& träger, std::string_view name, std::string_view text = {})
-        : Element(träger, name), m_text(text)
-    {}
+    using ElementMitText::ElementMitText;
 
-    std::string text() const override { return m_text; }
     bool istAn() const { return m_an; }
     void setze(bool an);
     void klicke() override { setze(!m_an); }
     bool taste(const Taste& taste) override;
-    void besuche(Elementbesucher& besucher) override;
 
     std::function<void()> beiÄnderung;
 
 private:
-    std::string m_text;
     bool m_an = false;
 };
 
-class Fortschrittsbalken : public Element {
+class Fortschrittsbalken : public Elementart<Fortschrittsbalken> {
 public:
-    using Element::Element;
+    using Elementart::Elementart;
 
     int kleinstes() const { return m_kleinstes; }
     int größtes() const { return m_größtes; }
@@ -239,9 +216,8 @@ public:
     /// The share goes on within the step; the value stays.
     void setzeAnteil(double anteil);
     double anteil() const;
-    std::string text() const override;
+    std::string text() const override { return std::to_string(m_wert); }
     bool nimmtFokus() const override { return false; }
-    void besuche(Elementbesucher& besucher) override;
 
 private:
     int m_kleinstes = 0;
@@ -250,9 +226,9 @@ private:
     std::optional<double> m_anteil;
 };
 
-class Bildlaufleiste : public Element {
+class Bildlaufleiste : public Elementart<Bildlaufleiste> {
 public:
-    using Element::Element;
+    using Elementart::Elementart;
 
     int kleinstes() const { return m_kleinstes; }
     int größtes() const { return m_größtes; }
@@ -262,9 +238,8 @@ public:
     void setzeBereich(int kleinstes, int größtes, int kleinerSchritt, int großerSchritt);
     /// Also the user's door; tells `beiÄnderung` when the value changes.
     void setzeWert(int wert);
-    std::string text() const override;
+    std::string text() const override { return std::to_string(m_wert); }
     bool taste(const Taste& taste) override;
-    void besuche(Elementbesucher& besucher) override;
 
     std::function<void()> beiÄnderung;
 
@@ -277,16 +252,15 @@ private:
 };
 
 /// A frame that holds others (`frameVorne`); heights and place in twips, for the scrolled listing.
-class Fläche : public Element {
+class Fläche : public Elementart<Fläche> {
 public:
-    using Element::Element;
+    using Elementart::Elementart;
 
     double höhe() const { return m_höhe; }
     void setzeHöhe(double höhe);
     double oben() const { return m_oben; }
     void setzeOben(double oben);
     bool nimmtFokus() const override { return false; }
-    void besuche(Elementbesucher& besucher) override;
 
     std::function<void()> beiGrößenänderung;
 
@@ -297,10 +271,10 @@ private:
 
 /// A list of rows with columns; one row selected at most. A row is one text whose cells are separated by
 /// `trenner`, so that ten thousand clients are ten thousand small texts and no object per cell.
-class Liste : public Element {
+class Liste : public Elementart<Liste> {
 public:
     Liste(Elementträger& träger, std::string_view name, std::initializer_list<std::string_view> spalten = {})
-        : Element(träger, name), m_spalten(spalten.begin(), spalten.end())
+        : Elementart(träger, name), m_spalten(spalten.begin(), spalten.end())
     {}
 
     const std::vector<std::string>& spalten() const { return m_spalten; }
@@ -334,7 +308,6 @@ public:
     void doppelklicke() override;
     void klickeKopf(std::size_t spalte);
     bool taste(const Taste& taste) override;
-    void besuche(Elementbesucher& besucher) override;
 
     std::function<void(std::size_t spalte)> beiKopfklick;
     /// A key before the list itself moves; true swallows it.
@@ -351,28 +324,21 @@ private:
     std::size_t m_sortierteSpalte = 0;
 };
 
-class Menüeintrag : public Element {
+class Menüeintrag : public ElementMitText<Menüeintrag> {
 public:
-    Menüeintrag(Elementträger& träger, std::string_view name, std::string_view text = {})
-        : Element(träger, name), m_text(text)
-    {}
-    std::string text() const override { return m_text; }
-    bool nimmtFokus() const override { return false; }
-    void besuche(Elementbesucher& besucher) override;
+    using ElementMitText::ElementMitText;
 
-private:
-    std::string m_text;
+    bool nimmtFokus() const override { return false; }
 };
 
 /// A picture of the program's own, by the name of its file among the program's resources.
-class Bild : public Element {
+class Bild : public Elementart<Bild> {
 public:
     Bild(Elementträger& träger, std::string_view name, std::string_view quelle = {})
-        : Element(träger, name), m_quelle(quelle)
+        : Elementart(träger, name), m_quelle(quelle)
     {}
     const std::string& quelle() const { return m_quelle; }
     bool nimmtFokus() const override { return false; }
-    void besuche(Elementbesucher& besucher) override;
 
 private:
     std::string m_quelle;

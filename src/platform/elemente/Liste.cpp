@@ -22,15 +22,8 @@ std::string_view zelleIn(std::string_view zeile, std::size_t spalte)
 std::string sortierschlüssel(std::string_view text)
 {
     std::string schlüssel(text);
-    std::transform(schlüssel.begin(), schlüssel.end(), schlüssel.begin(), sortierzeichen);
+    std::ranges::transform(schlüssel, schlüssel.begin(), sortierzeichen);
     return schlüssel;
-}
-
-/// Tab, Return, Escape and help never belong to the list.
-bool gehörtDemBildschirm(const Taste& taste)
-{
-    return taste.art == Taste::Art::F1 || taste.art == Taste::Art::Tab || taste.art == Taste::Art::RückTab ||
-           taste.art == Taste::Art::Eingabe || taste.art == Taste::Art::Esc;
 }
 
 } // namespace
@@ -119,7 +112,7 @@ void Liste::klickeKopf(std::size_t spalte)
 
 bool Liste::taste(const Taste& taste)
 {
-    if (gehörtDemBildschirm(taste)) {
+    if (taste.gehörtDemBildschirm()) {
         return false;
     }
     if (beiTastendruck && beiTastendruck(taste)) {

@@ -5,6 +5,14 @@
 #include <memory>
 #include <vector>
 
+/// Follows the rule, if there is one.
+inline void rufe(const std::function<void()>& regel)
+{
+    if (regel) {
+        regel();
+    }
+}
+
 /// Keeps a subscription alive; it ends when the handle is destroyed.
 using Abonnement = std::shared_ptr<void>;
 

@@ -33,6 +33,13 @@ struct Taste {
     bool strg = false;
     bool alt = false; ///< Meta is both, which means nothing anywhere
 
+    bool istLeertaste() const { return art == Art::Zeichen && zeichen == ' '; }
+    /// What no text and no list has a use for.
+    bool gehörtDemBildschirm() const
+    {
+        return art == Art::Tab || art == Art::RückTab || art == Art::Eingabe || art == Art::Esc || art == Art::F1 ||
+               art == Art::F4;
+    }
     bool istKombination() const { return strg || alt; }
     /// F4 or Alt+Down: opens the list of a combo box, the calendar of a date.
     bool klapptAuf() const { return !strg && !umschalt && ((art == Art::F4 && !alt) || (art == Art::Ab && alt)); }

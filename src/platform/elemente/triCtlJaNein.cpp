@@ -24,7 +24,7 @@ constexpr Farbe randOhneFokus = 4325412;
 } // namespace
 
 triCtlJaNein::triCtlJaNein(Elementträger& träger, std::string_view name)
-    : Element(träger, name), m_randfarbe(randOhneFokus)
+    : Elementart(träger, name), m_randfarbe(randOhneFokus)
 {
     färbe();
 }
@@ -36,8 +36,7 @@ std::string triCtlJaNein::text() const
 
 void triCtlJaNein::setzeText(std::string_view text)
 {
-    const auto ort =
-        std::find_if(antwortwerte.begin(), antwortwerte.end(), [&](const auto& wert) { return wert.text == text; });
+    const auto ort = std::ranges::find(antwortwerte, text, &Antwortwert::text);
     setzeStelle(ort == antwortwerte.end() ? 0 : static_cast<std::size_t>(ort - antwortwerte.begin()));
 }
 

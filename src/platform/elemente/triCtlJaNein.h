@@ -12,7 +12,7 @@
 ///
 ///     Elementreihe<triCtlJaNein> triJaNeinKosten{*this, "triJaNeinKosten"_t, 1, 9};
 ///     triJaNeinKosten(1).setzeText("ja"_t);
-class triCtlJaNein : public Element {
+class triCtlJaNein : public Elementart<triCtlJaNein> {
 public:
     triCtlJaNein(Elementträger& träger, std::string_view name);
 
@@ -24,7 +24,6 @@ public:
     /// The next value, then DblClick (as the control always did).
     void klicke() override;
     bool taste(const Taste& taste) override;
-    void besuche(Elementbesucher& besucher) override;
     void fokusGewechselt(bool gekommen) override;
 
     /// The colour that tells the focus: (99,99,204) with it, (36,0,66) without.

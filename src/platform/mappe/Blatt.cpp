@@ -29,11 +29,6 @@ void Blatt::verweiseFelder(int zeile, int spalte, std::string_view text, const F
     }
 }
 
-void Blatt::setzeFelder(int zeile, int spalte, std::string_view text, const Feldplan& plan)
-{
-    verweiseFelder(zeile, spalte, kopie(text), plan);
-}
-
 void Blatt::füge(Zeile& z, const Stück& stück)
 {
     const auto ort = std::ranges::lower_bound(z, stück.spalte, {}, &Stück::spalte);

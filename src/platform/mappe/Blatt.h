@@ -52,8 +52,6 @@ public:
     /// Puts the fields of the line into the row, from the cell on, without copying them. The columns that it takes
     /// belong to it: no single cell stands there.
     void verweiseFelder(int zeile, int spalte, std::string_view text, const Feldplan& plan = alleFelder);
-    /// The same with a copy of the line.
-    void setzeFelder(int zeile, int spalte, std::string_view text, const Feldplan& plan);
 
     void kommentiere(int zeile, int spalte, std::string_view text) { m_kommentare[{zeile, spalte}] = text; }
     void setzeFett(int zeile) { m_fett.insert(zeile); }

@@ -29,135 +29,93 @@ std::size_t ziffernAb(std::string_view text, std::size_t ort)
     return ende - ort;
 }
 
-/// A number taken apart: sign, digits in one piece without points, the place of the comma, the exponent.
-class Zahlleser {
-public:
-    Zahlleser(std::string_view text, bool minusHinten) : m_text(text), m_minusHinten(minusHinten) {}
+/// Takes the character from the front, if it stands there.
+bool nimm(std::string_view& text, char zeichen)
+{
+    const bool da = text.starts_with(zeichen);
+    text.remove_prefix(da ? 1 : 0);
+    return da;
+}
 
-    std::optional<double> lies()
-    {
-        if (m_text.size() > höchsteZahllänge || !liesVorzeichen() || !liesGanzteil() || !liesNachkomma() ||
-            !liesExponent()) {
-            return std::nullopt;
-        }
-        if (m_ort != m_text.size() || m_stellen > höchsteStellenzahl) {
-            return std::nullopt;
-        }
-        return alsDouble();
+/// Takes the digits from the front and puts them behind the number; how many they were.
+std::size_t nimmZiffern(std::string_view& text, std::string& zahl)
+{
+    const std::size_t anzahl = ziffernAb(text, 0);
+    zahl += text.substr(0, anzahl);
+    text.remove_prefix(anzahl);
+    return anzahl;
+}
+
+/// Digits, with points between full groups of three, then perhaps a comma with digits, or an exponent where there are
+/// no groups; as std::from_chars reads it, without a sign. False where the front is no number.
+bool nimmBetrag(std::string_view& text, std::string& zahl)
+{
+    const std::size_t erste = nimmZiffern(text, zahl);
+    const bool gruppiert = text.starts_with('.');
+    if (erste == 0 || (gruppiert && erste > 3)) {
+        return false;
     }
-
-private:
-    bool liesVorzeichen()
-    {
-        if (m_text.empty()) {
+    while (nimm(text, '.')) {
+        if (nimmZiffern(text, zahl) != 3) {
             return false;
         }
-        const bool vorne = m_text.front() == '-' || m_text.front() == '+';
-        m_negativ = m_text.front() == '-';
-        m_ort = vorne ? 1 : 0;
-        if (m_minusHinten && !vorne && m_text.back() == '-') {
-            m_negativ = true;
-            m_text.remove_suffix(1);
-        }
-        return true;
     }
-
-    bool liesGanzteil()
-    {
-        const std::size_t erste = ziffernAb(m_text, m_ort);
-        if (erste == 0) {
-            return false;
-        }
-        nimm(erste);
-        if (m_ort == m_text.size() || m_text[m_ort] != '.') {
-            return true;
-        }
-        m_gruppiert = true;
-        return erste <= 3 && liesGruppen();
+    if (nimm(text, ',')) {
+        zahl += '.';
+        return nimmZiffern(text, zahl) > 0;
     }
+    return true;
+}
 
-    bool liesGruppen()
-    {
-        while (m_ort < m_text.size() && m_text[m_ort] == '.') {
-            ++m_ort;
-            if (ziffernAb(m_text, m_ort) != 3) {
-                return false;
-            }
-            nimm(3);
-        }
-        return true;
+bool nimmExponent(std::string_view& text, std::string& zahl)
+{
+    zahl += 'e';
+    if (nimm(text, '-')) {
+        zahl += '-';
+    } else {
+        nimm(text, '+');
     }
+    return nimmZiffern(text, zahl) > 0;
+}
 
-    bool liesNachkomma()
-    {
-        if (m_ort == m_text.size() || m_text[m_ort] != ',') {
-            return true;
-        }
-        ++m_ort;
-        const std::size_t anzahl = ziffernAb(m_text, m_ort);
-        m_ziffern[m_länge++] = '.';
-        m_ganzzahl = false;
-        nimm(anzahl);
-        return anzahl > 0;
+/// Leading zeros don't count.
+std::size_t geltendeStellen(std::string_view zahl)
+{
+    if (zahl.size() <= höchsteStellenzahl) {
+        return zahl.size(); // nearly always; fewer make no difference
     }
+    zahl.remove_prefix(std::min(zahl.find_first_not_of("0."), zahl.size()));
+    return static_cast<std::size_t>(std::ranges::count_if(zahl, istZiffer));
+}
 
-    bool liesExponent()
-    {
-        if (m_ort == m_text.size() || (m_text[m_ort] != 'E' && m_text[m_ort] != 'e')) {
-            return true;
-        }
-        m_ganzzahl = false;
-        m_ziffern[m_länge++] = 'e';
-        ++m_ort;
-        if (m_ort < m_text.size() && (m_text[m_ort] == '-' || m_text[m_ort] == '+')) {
-            if (m_text[m_ort] == '-') {
-                m_ziffern[m_länge++] = '-';
-            }
-            ++m_ort;
-        }
-        const std::size_t anzahl = ziffernAb(m_text, m_ort);
-        std::copy_n(m_text.data() + m_ort, anzahl, m_ziffern.data() + m_länge);
-        m_länge += anzahl;
-        m_ort += anzahl;
-        return anzahl > 0 && !m_gruppiert;
+std::optional<double> liesZahl(std::string_view text, bool minusHinten)
+{
+    if (text.size() > höchsteZahllänge) {
+        return std::nullopt;
     }
-
-    /// Takes digits of the number proper; leading zeros don't count as significant.
-    void nimm(std::size_t anzahl)
-    {
-        for (std::size_t i = 0; i < anzahl; ++i) {
-            const char ziffer = m_text[m_ort++];
-            m_ziffern[m_länge++] = ziffer;
-            m_stellen += (m_stellen > 0 || ziffer != '0') ? 1U : 0U;
-        }
+    const bool mitVorzeichen = text.starts_with('-') || text.starts_with('+');
+    bool negativ = text.starts_with('-');
+    if (mitVorzeichen) {
+        text.remove_prefix(1);
+    } else if (minusHinten && text.ends_with('-')) {
+        negativ = true;
+        text.remove_suffix(1);
     }
-
-    std::optional<double> alsDouble() const
-    {
-        double wert = 0;
-        if (m_ganzzahl) {
-            for (std::size_t i = 0; i < m_länge; ++i) {
-                wert = wert * 10 + (m_ziffern[i] - '0');
-            }
-        } else {
-            const auto [ende, fehler] = std::from_chars(m_ziffern.data(), m_ziffern.data() + m_länge, wert);
-            if (fehler != std::errc{} || !std::isfinite(wert)) {
-                return std::nullopt;
-            }
-        }
-        return m_negativ && wert != 0 ? -wert : wert;
+    std::string zahl;
+    const bool gruppiert = text.find('.') != std::string_view::npos;
+    if (!nimmBetrag(text, zahl) || geltendeStellen(zahl) > höchsteStellenzahl) {
+        return std::nullopt;
     }
-
-    std::string_view m_text;
-    bool m_minusHinten;
-    std::size_t m_ort = 0;
-    bool m_negativ = false;
-    bool m_gruppiert = false;
-    bool m_ganzzahl = true;
-    std::size_t m_stellen = 0;
-    std::array<char, höchsteZahllänge + 2> m_ziffern{};
-    std::size_t m_länge = 0;
-};
+    if (!gruppiert && (nimm(text, 'E') || nimm(text, 'e')) && !nimmExponent(text, zahl)) {
+        return std::nullopt;
+    }
+    double wert = 0;
+    const auto [ende, fehler] = std::from_chars(zahl.data(), zahl.data() + zahl.size(), wert);
+    if (!text.empty() || fehler != std::errc{}) {
+        return std::nullopt;
+    }
+    return negativ && wert != 0 ? -wert : wert;
+}
 
 /// D.M.YYYY or D.M.YY, day and month of one or two digits; leseDatum knows the calendar and the century.
 std::optional<Datum> liesTag(std::string_view text)
@@ -174,7 +132,7 @@ std::optional<Datum> liesTag(std::string_view text)
 
 bool istLeer(std::string_view text)
 {
-    return std::all_of(text.begin(), text.end(), [](char zeichen) { return zeichen == '\0'; });
+    return std::ranges::all_of(text, [](char zeichen) { return zeichen == '\0'; });
 }
 
 std::string alsZahltext(double zahl)
@@ -201,7 +159,7 @@ Zellwert leseZelle(std::string_view text, Zelltyp typ)
     if (kern.empty() || (!istZiffer(kern.front()) && kern.front() != '-' && kern.front() != '+')) {
         return wert;
     }
-    if (const auto zahl = Zahlleser(kern, typ == Zelltyp::AllgemeinMinusHinten).lies()) {
+    if (const auto zahl = liesZahl(kern, typ == Zelltyp::AllgemeinMinusHinten)) {
         wert.art = Zellart::Zahl;
         wert.zahl = *zahl;
     } else if (const auto datum = liesTag(kern)) {
@@ -232,7 +190,7 @@ std::string alsAnzeigetext(const Zellwert& wert)
 {
     std::string text = alsText(wert);
     if (wert.art == Zellart::Zahl) {
-        std::replace(text.begin(), text.end(), '.', ',');
+        std::ranges::replace(text, '.', ',');
     }
     return text;
 }

@@ -16,6 +16,7 @@
 
 #include <QBoxLayout>
 #include <QFrame>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -47,14 +48,14 @@ bool istBefehl(const Anordnung& a)
 /// Several commands in a row, perhaps with a gap.
 bool sindBefehle(const Anordnung& a)
 {
-    return std::count_if(a.teile.begin(), a.teile.end(), istBefehl) > 1 &&
-           std::all_of(a.teile.begin(), a.teile.end(),
-                       [](const Anordnung& teil) { return istBefehl(teil) || teil.wort == Wort::Dehnung; });
+    return std::ranges::count_if(a.teile, istBefehl) > 1 && std::ranges::all_of(a.teile, [](const Anordnung& teil) {
+               return istBefehl(teil) || teil.wort == Wort::Dehnung;
+           });
 }
 
 bool sindOptionen(const Anordnung& a)
 {
-    return std::all_of(a.teile.begin(), a.teile.end(), [](const Anordnung& teil) {
+    return std::ranges::all_of(a.teile, [](const Anordnung& teil) {
         return teil.wort == Wort::Element && dynamic_cast<Optionsfeld*>(teil.element) != nullptr;
     });
 }
@@ -98,7 +99,7 @@ bool Anordner::füge(const Anordnung& a, QBoxLayout& ziel)
     case Wort::Stapel:
         return fügeStapel(a, ziel);
     case Wort::Listung:
-        return fügeWidget(*new Listung(a, m_ansicht, m_eltern), ziel, true);
+        return fügeWidget(*macheListung(a, m_ansicht, m_eltern), ziel, true);
     case Wort::Dehnung:
         ziel.addStretch(1);
         return true;
@@ -178,7 +179,7 @@ bool Anordner::fügeSpalte(const Anordnung& a, QBoxLayout& ziel)
 bool Anordner::fügeBefehle(const Anordnung& a, QBoxLayout& ziel)
 {
     auto* reihe = new Umbruchreihe(m_eltern);
-    const Unter unter(*this, *reihe);
+    const QScopedValueRollback<QWidget*> eltern(m_eltern, reihe);
     std::vector<QWidget*> teile;
     auto lücke = a.teile.size();
     for (const auto& teil : a.teile) {
@@ -231,7 +232,7 @@ QWidget* Anordner::macheWidget(const Anordnung& a, bool& füllt)
         return macheElement(a);
     }
     auto* kasten = new QWidget(m_eltern);
-    const Unter unter(*this, *kasten);
+    const QScopedValueRollback<QWidget*> eltern(m_eltern, kasten);
     füllt = füge(a, *ohneRand(new QVBoxLayout(kasten), kastenabstand));
     return kasten;
 }
@@ -252,7 +253,7 @@ QWidget* Anordner::macheLinie()
 bool Anordner::fügeDecke(const Anordnung& a, QBoxLayout& ziel)
 {
     auto* fläche = new Deckfläche(m_eltern);
-    const Unter unter(*this, *fläche);
+    const QScopedValueRollback<QWidget*> eltern(m_eltern, fläche);
     bool füllt = false;
     auto* darunter = macheWidget(a.teile.front(), füllt);
     auto* decke = zeichneElement(*a.teile.back().element, m_ansicht, m_eltern);
@@ -268,7 +269,7 @@ bool Anordner::fügeDecke(const Anordnung& a, QBoxLayout& ziel)
 bool Anordner::fügeStapel(const Anordnung& a, QBoxLayout& ziel)
 {
     auto* fläche = new Stapelfläche(m_eltern);
-    const Unter unter(*this, *fläche);
+    const QScopedValueRollback<QWidget*> eltern(m_eltern, fläche);
     std::vector<QWidget*> teile;
     bool füllt = a.füllt;
     for (const auto& teil : a.teile) {
@@ -286,7 +287,7 @@ QWidget* Anordner::macheKartenspalte(const Anordnung& a, bool& füllt)
         return macheKarte(a, füllt);
     }
     auto* spalte = new QWidget(m_eltern);
-    const Unter unter(*this, *spalte);
+    const QScopedValueRollback<QWidget*> eltern(m_eltern, spalte);
     auto* layout = ohneRand(new QVBoxLayout(spalte), 0.6);
     for (const auto& teil : a.teile) {
         füllt = füge(teil, *layout) || füllt;
@@ -300,14 +301,14 @@ QWidget* Anordner::macheKartenspalte(const Anordnung& a, bool& füllt)
 bool Anordner::fügeKarten(const Anordnung& a, QBoxLayout& ziel)
 {
     auto* reihe = new Kartenreihe(m_eltern);
-    const Unter unter(*this, *reihe);
+    const QScopedValueRollback<QWidget*> eltern(m_eltern, reihe);
     bool füllt = a.füllt;
     for (const auto& teil : a.teile) {
         bool spalteFüllt = teil.füllt;
         auto* spalte = macheKartenspalte(teil, spalteFüllt);
-        const bool hatKarten =
-            teil.wort == Wort::Karte ||
-            std::any_of(teil.teile.begin(), teil.teile.end(), [](const Anordnung& t) { return t.wort == Wort::Karte; });
+        const bool hatKarten = teil.wort == Wort::Karte || std::ranges::any_of(teil.teile, [](const Anordnung& t) {
+                                   return t.wort == Wort::Karte;
+                               });
         // a column of buttons is as wide as they are
         const int höchstbreite = teil.breite > 0 ? em(teil.breite)
                                  : hatKarten     ? em(kartenbreite)
@@ -338,7 +339,7 @@ bool Anordner::fügeKarte(const Anordnung& a, QBoxLayout& ziel)
 Karte* Anordner::macheKarte(const Anordnung& a, bool& füllt)
 {
     auto* karte = new Karte(m_eltern);
-    const Unter unter(*this, *karte);
+    const QScopedValueRollback<QWidget*> eltern(m_eltern, karte);
     karte->setProperty("rolle", "karte");
     karte->setAccessibleName(alsQString(a.element == nullptr ? a.text : a.element->text()));
     auto* layout = ohneRand(new QVBoxLayout(karte), 0.35);

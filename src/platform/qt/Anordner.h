@@ -2,8 +2,6 @@
 
 #include "platform/bildschirm/Anordnung.h"
 
-#include <utility>
-
 class Ansicht;
 class Karte;
 class QBoxLayout;
@@ -22,21 +20,6 @@ public:
     void baueSeite(const Anordnung& a, QVBoxLayout& ziel);
 
 private:
-    /// For its lifetime, widgets are made under another one.
-    class Unter {
-    public:
-        Unter(Anordner& anordner, QWidget& eltern)
-            : m_anordner(anordner), m_vorher(std::exchange(anordner.m_eltern, &eltern))
-        {}
-        Unter(const Unter&) = delete;
-        Unter& operator=(const Unter&) = delete;
-        ~Unter() { m_anordner.m_eltern = m_vorher; }
-
-    private:
-        Anordner& m_anordner;
-        QWidget* m_vorher;
-    };
-
     /// Appends the part to the layout; returns whether it takes what is left of the layout's direction.
     bool füge(const Anordnung& a, QBoxLayout& ziel);
     bool fügeElement(const Anordnung& a, QBoxLayout& ziel);

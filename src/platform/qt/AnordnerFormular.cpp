@@ -8,6 +8,7 @@
 #include "platform/qt/Vorlesen.h"
 
 #include <QBoxLayout>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -33,7 +34,7 @@ void sammle(const Anordnung& a, std::vector<Element*>& elemente)
 
 bool behältPlatz(const Anordnung& a)
 {
-    return a.behältPlatz || a.wort == Wort::Stapel || std::any_of(a.teile.begin(), a.teile.end(), behältPlatz);
+    return a.behältPlatz || a.wort == Wort::Stapel || std::ranges::any_of(a.teile, behältPlatz);
 }
 
 class Formularzeile : public QWidget {
@@ -107,7 +108,7 @@ QWidget* Anordner::macheFeldbeschriftung(const Anordnung& feld, double breite)
 void Anordner::fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBoxLayout& ziel)
 {
     auto* zeile = new Formularzeile(m_eltern);
-    const Unter unter(*this, *zeile);
+    const QScopedValueRollback<QWidget*> eltern(m_eltern, zeile);
     auto* layout = new QHBoxLayout(zeile);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(em(0.5));
@@ -134,11 +135,10 @@ void Anordner::verbindeFeld(const Anordnung& feld, QWidget& beschriftung, QWidge
         beschrifte(*eines, dynamic_cast<Etikett&>(beschriftung));
     }
     auto regel = zeile.sizePolicy();
-    regel.setRetainSizeWhenHidden(std::any_of(feld.teile.begin(), feld.teile.end(), behältPlatz));
+    regel.setRetainSizeWhenHidden(std::ranges::any_of(feld.teile, behältPlatz));
     zeile.setSizePolicy(regel);
     auto zeige = [elemente, &zeile, &beschriftung, eigene = feld.element] {
-        const bool sichtbar =
-            std::any_of(elemente.begin(), elemente.end(), [](const Element* e) { return e->istSichtbar(); });
+        const bool sichtbar = std::ranges::any_of(elemente, [](const Element* e) { return e->istSichtbar(); });
         zeile.setVisible(sichtbar || (eigene != nullptr && eigene->istSichtbar()));
         if (eigene == nullptr) {
             beschriftung.setVisible(sichtbar);

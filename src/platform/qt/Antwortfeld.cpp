@@ -2,12 +2,10 @@
 
 #include "platform/elemente/triCtlJaNein.h"
 #include "platform/qt/Ansicht.h"
-#include "platform/qt/Farbwert.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 #include "platform/qt/Vorlesen.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <utility>
@@ -18,6 +16,12 @@ constexpr int ring = 3; ///< room around the field for the focus line, in hairli
 constexpr int rundung = 3;
 constexpr float deckungGesperrt = 0.45F;
 constexpr double lesbar = 4.5; ///< least contrast of a text
+
+/// The colour behind the number (red + 256 × green + 65536 × blue).
+QColor alsQColor(Farbe farbe)
+{
+    return {farbe & 0xFF, (farbe >> 8) & 0xFF, (farbe >> 16) & 0xFF};
+}
 
 /// The colour on the ground of the page, through which a disabled field lets it shine.
 QColor blass(const QColor& farbe, const QColor& grund)
@@ -30,9 +34,10 @@ QColor blass(const QColor& farbe, const QColor& grund)
 } // namespace
 
 Antwortfeld::Antwortfeld(triCtlJaNein& element, Ansicht& ansicht, QWidget* eltern)
-    : QWidget(eltern), m_element(element), m_ansicht(ansicht)
+    : QAbstractButton(eltern), m_element(element), m_ansicht(ansicht)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    connect(this, &QAbstractButton::clicked, this, [this] { m_ansicht.ereignis([this] { m_element.klicke(); }); });
     ansicht.binde(element, *this, [this] { übernimm(); });
 }
 
@@ -50,11 +55,6 @@ void Antwortfeld::übernimm()
 QString Antwortfeld::gesprochenerText() const
 {
     return m_text == QStringLiteral("k.A.") ? m_text + QStringLiteral(" (offen)") : m_text;
-}
-
-void Antwortfeld::klicke()
-{
-    m_ansicht.ereignis([this] { m_element.klicke(); });
 }
 
 QSize Antwortfeld::sizeHint() const
@@ -85,21 +85,4 @@ void Antwortfeld::paintEvent(QPaintEvent* /*ereignis*/)
     schriftart.setBold(m_hintergrund == Qt::white);
     maler.setFont(schriftart);
     maler.drawText(feld, Qt::AlignCenter, m_text);
-}
-
-void Antwortfeld::mousePressEvent(QMouseEvent* ereignis)
-{
-    m_gedrückt = ereignis->button() == Qt::LeftButton;
-}
-
-void Antwortfeld::mouseDoubleClickEvent(QMouseEvent* ereignis)
-{
-    m_gedrückt = ereignis->button() == Qt::LeftButton; // two quick clicks are two answers
-}
-
-void Antwortfeld::mouseReleaseEvent(QMouseEvent* ereignis)
-{
-    if (std::exchange(m_gedrückt, false) && rect().contains(ereignis->position().toPoint())) {
-        klicke();
-    }
 }

@@ -1,17 +1,17 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QColor>
-#include <QWidget>
 
 class Ansicht;
 class triCtlJaNein;
 
 /// The answer field, the one painted widget. Its colours are the answer's own and the same in all themes.
-class Antwortfeld : public QWidget {
+class Antwortfeld : public QAbstractButton {
 public:
     Antwortfeld(triCtlJaNein& element, Ansicht& ansicht, QWidget* eltern);
 
-    /// What it shows.
+    /// What it shows. The base class knows no text: it would tell a screen reader of each new one by itself.
     QString text() const { return m_text; }
     /// The same for the ear: "k.A." is said to be open.
     QString gesprochenerText() const;
@@ -23,18 +23,13 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
-    void mousePressEvent(QMouseEvent* ereignis) override;
-    void mouseReleaseEvent(QMouseEvent* ereignis) override;
-    void mouseDoubleClickEvent(QMouseEvent* ereignis) override;
 
 private:
     void übernimm();
-    void klicke();
 
     triCtlJaNein& m_element;
     Ansicht& m_ansicht;
     QString m_text;
     QColor m_hintergrund;
     QColor m_randfarbe;
-    bool m_gedrückt = false;
 };

@@ -2,8 +2,7 @@
 
 #include "platform/elemente/Elemente.h"
 #include "platform/qt/Ansicht.h"
-#include "platform/qt/Auswahlliste.h"
-#include "platform/qt/Eingabefilter.h"
+#include "platform/qt/Feldhinweis.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 #include "platform/qt/Vorlesen.h"
@@ -16,6 +15,7 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStringListModel>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QToolTip>
@@ -30,16 +30,16 @@ constexpr int sichtbareEinträge = 16;
 
 int stelleIn(const std::vector<std::string>& liste, const std::string& text)
 {
-    const auto ort = std::find(liste.begin(), liste.end(), text);
+    const auto ort = std::ranges::find(liste, text);
     return ort == liste.end() ? -1 : static_cast<int>(ort - liste.begin());
 }
 
 } // namespace
 
 Auswahlbox::Auswahlbox(Auswahlfeld& element, Ansicht& ansicht, QWidget* eltern)
-    : QComboBox(eltern), m_element(element), m_ansicht(ansicht)
+    : QComboBox(eltern), m_element(element), m_ansicht(ansicht), m_liste(new QStringListModel(this))
 {
-    setModel(new Auswahlliste(element, ansicht, this));
+    setModel(m_liste);
     setMaxVisibleItems(sichtbareEinträge);
     setMinimumContentsLength(1);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -110,9 +110,7 @@ void Auswahlbox::übernimm()
 {
     m_wirdGefüllt = true;
     const QSignalBlocker still(this);
-    if (auto* liste = dynamic_cast<Auswahlliste*>(model())) {
-        liste->übernimm();
-    }
+    übernimmListe();
     const auto text = m_element.text();
     const bool istNeu = std::exchange(m_text, alsQString(text)) != alsQString(text);
     const int vorher = currentIndex();
@@ -125,6 +123,17 @@ void Auswahlbox::übernimm()
     }
     m_wirdGefüllt = false;
     update();
+}
+
+void Auswahlbox::übernimmListe()
+{
+    QStringList einträge;
+    for (const auto& eintrag : m_element.liste()) {
+        einträge.append(alsQString(eintrag));
+    }
+    if (m_liste->stringList() != einträge) {
+        m_liste->setStringList(einträge);
+    }
 }
 
 void Auswahlbox::übernimmTippbar()

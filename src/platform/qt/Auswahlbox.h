@@ -4,7 +4,7 @@
 
 class Ansicht;
 class Auswahlfeld;
-class QLineEdit;
+class QStringListModel;
 
 /// The combo box: reads list and text from its element, hands every key to it, and never follows the wheel.
 class Auswahlbox : public QComboBox {
@@ -31,12 +31,14 @@ protected:
 private:
     void macheTippbar();
     void übernimm();
+    void übernimmListe();
     void übernimmTippbar();
     void übernimmStelle();
     void gibEin(const QString& text);
 
     Auswahlfeld& m_element;
     Ansicht& m_ansicht;
+    QStringListModel* m_liste;
     QString m_text;
     bool m_wirdGefüllt = false;
 };

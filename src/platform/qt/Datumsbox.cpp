@@ -10,6 +10,7 @@
 
 #include <QCalendarWidget>
 #include <QFocusEvent>
+#include <QFrame>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QTextCharFormat>
@@ -50,48 +51,54 @@ QCalendarWidget* erzeugeKalender(const QDate& heute, QWidget* eltern)
 
 } // namespace
 
-Kalenderfenster::Kalenderfenster(Datumsbox& box)
-    : QFrame(&box, Qt::Popup), m_box(box), m_kalender(erzeugeKalender(alsQDate(box.m_ansicht.heute()), this))
-{
-    setAttribute(Qt::WA_DeleteOnClose);
-    setFrameStyle(QFrame::StyledPanel);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_kalender);
-    for (auto* teil : m_kalender->findChildren<QWidget*>()) {
-        teil->installEventFilter(this);
-    }
-    setFocusProxy(m_kalender);
-    connect(m_kalender, &QCalendarWidget::clicked, this, [this](QDate tag) {
-        m_box.m_ansicht.ereignis([&] {
-            m_box.m_element.schließeKalender();
-            m_box.m_element.wähle(alsDatum(tag));
+/// The open calendar of a date, in a popup below the field. Its keys go to the element; the mouse picks a day.
+class Datumsbox::Kalenderfenster : public QFrame {
+public:
+    explicit Kalenderfenster(Datumsbox& box)
+        : QFrame(&box, Qt::Popup), m_box(box), m_kalender(erzeugeKalender(alsQDate(box.m_ansicht.heute()), this))
+    {
+        setAttribute(Qt::WA_DeleteOnClose);
+        setFrameStyle(QFrame::StyledPanel);
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(m_kalender);
+        for (auto* teil : m_kalender->findChildren<QWidget*>()) {
+            teil->installEventFilter(this);
+        }
+        setFocusProxy(m_kalender);
+        connect(m_kalender, &QCalendarWidget::clicked, this, [this](QDate tag) {
+            m_box.m_ansicht.ereignis([&] {
+                m_box.m_element.schließeKalender();
+                m_box.m_element.wähle(alsDatum(tag));
+            });
         });
-    });
-}
-
-void Kalenderfenster::stelle(const QDate& tag)
-{
-    m_kalender->setSelectedDate(tag);
-}
-
-bool Kalenderfenster::eventFilter(QObject* objekt, QEvent* ereignis)
-{
-    if (ereignis->type() != QEvent::KeyPress || objekt->inherits("QSpinBox")) {
-        return QFrame::eventFilter(objekt, ereignis); // the year is typed into a box of its own
     }
-    if (const auto taste = alsTaste(*static_cast<QKeyEvent*>(ereignis))) {
-        m_box.m_ansicht.ereignis([&] { m_box.m_element.taste(*taste); });
-    }
-    return true;
-}
 
-/// A press beside it closes it too.
-void Kalenderfenster::hideEvent(QHideEvent* ereignis)
-{
-    QFrame::hideEvent(ereignis);
-    m_box.m_ansicht.ereignis([&] { m_box.m_element.schließeKalender(); });
-}
+    QCalendarWidget* kalender() const { return m_kalender; }
+
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override
+    {
+        if (ereignis->type() != QEvent::KeyPress || objekt->inherits("QSpinBox")) {
+            return QFrame::eventFilter(objekt, ereignis); // the year is typed into a box of its own
+        }
+        if (const auto taste = alsTaste(*static_cast<QKeyEvent*>(ereignis))) {
+            m_box.m_ansicht.ereignis([&] { m_box.m_element.taste(*taste); });
+        }
+        return true;
+    }
+
+protected:
+    /// A press beside it closes it too.
+    void hideEvent(QHideEvent* ereignis) override
+    {
+        QFrame::hideEvent(ereignis);
+        m_box.m_ansicht.ereignis([&] { m_box.m_element.schließeKalender(); });
+    }
+
+private:
+    Datumsbox& m_box;
+    QCalendarWidget* m_kalender;
+};
 
 Datumsbox::Datumsbox(Datumsfeld& element, Ansicht& ansicht, QWidget* eltern)
     : QLineEdit(eltern), m_element(element), m_ansicht(ansicht), m_knopf(new QToolButton(this))
@@ -168,7 +175,7 @@ void Datumsbox::übernimmKalender()
     if (neu) {
         m_kalender = new Kalenderfenster(*this);
     }
-    m_kalender->stelle(alsQDate(*tag));
+    m_kalender->kalender()->setSelectedDate(alsQDate(*tag));
     if (neu) {
         m_kalender->adjustSize();
         const QRect platz = screen()->availableGeometry();
@@ -184,7 +191,7 @@ void Datumsbox::übernimmKalender()
 
 QCalendarWidget* Datumsbox::kalender() const
 {
-    return m_kalender == nullptr ? nullptr : m_kalender->findChild<QCalendarWidget*>();
+    return m_kalender == nullptr ? nullptr : m_kalender->kalender();
 }
 
 QWidget& Datumsbox::kalenderknopf() const

@@ -1,30 +1,11 @@
 #pragma once
 
-#include <QFrame>
 #include <QLineEdit>
 
 class Ansicht;
-class Datumsbox;
 class Datumsfeld;
 class QCalendarWidget;
 class QToolButton;
-
-/// The open calendar of a date, in a popup below the field. Its keys go to the element; the mouse picks a day.
-class Kalenderfenster : public QFrame {
-public:
-    explicit Kalenderfenster(Datumsbox& box);
-
-    void stelle(const QDate& tag);
-
-    bool eventFilter(QObject* objekt, QEvent* ereignis) override;
-
-protected:
-    void hideEvent(QHideEvent* ereignis) override;
-
-private:
-    Datumsbox& m_box;
-    QCalendarWidget* m_kalender;
-};
 
 /// The date input. Text, cursor and calendar are the element's; here they are drawn, and the toolkit's editing
 /// (mouse, pasting, words) goes back to it. A date field of the toolkit would edit section by section, and drops
@@ -46,7 +27,7 @@ protected:
     void mousePressEvent(QMouseEvent* ereignis) override;
 
 private:
-    friend class Kalenderfenster;
+    class Kalenderfenster;
 
     void übernimm();
     void übernimmStelle();

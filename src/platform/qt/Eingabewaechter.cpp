@@ -5,7 +5,7 @@
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Auswahlbox.h"
 #include "platform/qt/Datumsbox.h"
-#include "platform/qt/Eingabefilter.h"
+#include "platform/qt/Feldhinweis.h"
 #include "platform/qt/Textbox.h"
 #include "platform/text/Eingabe.h"
 #include "platform/text/Text.h"
@@ -53,17 +53,10 @@ std::optional<char> getipptesZeichen(const QKeyEvent& ereignis, bool kombination
                                                           : std::nullopt;
 }
 
-/// Tab, Return and Escape are the screen's even in a text.
-bool gehörtDemBildschirm(const Taste& taste)
-{
-    return taste.art == Taste::Art::Tab || taste.art == Taste::Art::RückTab || taste.art == Taste::Art::Eingabe ||
-           taste.art == Taste::Art::Esc || taste.art == Taste::Art::F1 || taste.art == Taste::Art::F4;
-}
-
 /// Keys that the element has rules for where the toolkit edits the text of a date.
 bool gehörtDemDatum(const Taste& taste)
 {
-    return gehörtDemBildschirm(taste) || taste.art == Taste::Art::Auf || taste.art == Taste::Art::Ab ||
+    return taste.gehörtDemBildschirm() || taste.art == Taste::Art::Auf || taste.art == Taste::Art::Ab ||
            taste.art == Taste::Art::BildAuf || taste.art == Taste::Art::BildAb;
 }
 
@@ -78,7 +71,7 @@ bool istTextkombination(const QWidget& widget, const Taste& taste)
         return box->isEditable() && taste.art == Taste::Art::Zeichen &&
                kopieren.find(taste.zeichen) != std::string_view::npos;
     }
-    return !gehörtDemBildschirm(taste) &&
+    return !taste.gehörtDemBildschirm() &&
            (dynamic_cast<const QLineEdit*>(&widget) != nullptr || dynamic_cast<const Textblock*>(&widget) != nullptr);
 }
 
@@ -96,12 +89,28 @@ bool istSacheDesWidgets(const QWidget& widget, const Taste& taste)
         return istTextkombination(widget, taste);
     }
     if (dynamic_cast<const Textblock*>(&widget) != nullptr) {
-        return !gehörtDemBildschirm(taste) || taste.art == Taste::Art::Eingabe;
+        return !taste.gehörtDemBildschirm() || taste.art == Taste::Art::Eingabe;
     }
     if (dynamic_cast<const Textzeile*>(&widget) != nullptr) {
-        return !gehörtDemBildschirm(taste);
+        return !taste.gehörtDemBildschirm();
     }
-    return box != nullptr && !box->isEditable() && taste.art == Taste::Art::Zeichen && taste.zeichen == ' ';
+    return box != nullptr && !box->isEditable() && taste.istLeertaste();
+}
+
+/// To the element, and what that has no use for to its screen; whether anybody had.
+bool gibLogik(Ansicht& ansicht, Element* element, const Taste& taste)
+{
+    bool benutzt = false;
+    ansicht.ereignis([&] {
+        auto& bildschirm = ansicht.bildschirm();
+        if (element != nullptr && bildschirm.istErreichbar(*element)) {
+            benutzt = gibTaste(*element, taste) || (ansicht.lebt() && geheInReihe(*element, taste));
+        }
+        if (!benutzt && ansicht.lebt()) {
+            benutzt = bildschirm.taste(taste);
+        }
+    });
+    return benutzt;
 }
 
 } // namespace
@@ -115,8 +124,7 @@ std::optional<Taste> alsTaste(const QKeyEvent& ereignis)
     const auto zeichen = ereignis.text().toUcs4();
     const bool istAltGr = !meta && strg && alt && zeichen.size() == 1 && zeichen.front() > 0x20;
     Taste taste{Taste::Art::Zeichen, 0, zusatz.testFlag(Qt::ShiftModifier), strg && !istAltGr, alt && !istAltGr};
-    const auto ort = std::find_if(sondertasten.begin(), sondertasten.end(),
-                                  [&](const auto& paar) { return paar.first == ereignis.key(); });
+    const auto ort = std::ranges::find_if(sondertasten, [&](const auto& paar) { return paar.first == ereignis.key(); });
     if (ort != sondertasten.end()) {
         taste.art = ort->second;
         return taste;
@@ -171,27 +179,6 @@ bool Eingabewächter::beiMaus(QWidget& widget, const QMouseEvent& ereignis)
     }
     ansicht->ereignis([&] { m_verschluckt = !ansicht->bildschirm().fokussiere(element); });
     return m_verschluckt;
-}
-
-bool Eingabewächter::gibElement(Ansicht& ansicht, Element& element, const Taste& taste)
-{
-    auto& bildschirm = ansicht.bildschirm();
-    if (!bildschirm.istErreichbar(element)) {
-        return false;
-    }
-    return gibTaste(element, taste) || (ansicht.lebt() && geheInReihe(element, taste));
-}
-
-bool Eingabewächter::gibLogik(Ansicht& ansicht, Element* element, const Taste& taste)
-{
-    bool benutzt = false;
-    ansicht.ereignis([&] {
-        benutzt = element != nullptr && gibElement(ansicht, *element, taste);
-        if (!benutzt && ansicht.lebt()) {
-            benutzt = ansicht.bildschirm().taste(taste);
-        }
-    });
-    return benutzt;
 }
 
 bool Eingabewächter::beiTaste(QWidget& widget, const QKeyEvent& ereignis)

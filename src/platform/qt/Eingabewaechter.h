@@ -10,7 +10,6 @@
 #include <optional>
 
 class Ansicht;
-class Element;
 class QKeyEvent;
 class QMouseEvent;
 
@@ -37,8 +36,6 @@ public:
 private:
     bool beiMaus(QWidget& widget, const QMouseEvent& ereignis);
     bool beiTaste(QWidget& widget, const QKeyEvent& ereignis);
-    static bool gibElement(Ansicht& ansicht, Element& element, const Taste& taste);
-    static bool gibLogik(Ansicht& ansicht, Element* element, const Taste& taste);
 
     std::function<Ansicht*(const QWidget*)> m_ansichtVon;
     QPointer<QWidget> m_gedrücktes; ///< what the last press met, that of a double click aside

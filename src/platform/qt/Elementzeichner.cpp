@@ -7,12 +7,18 @@
 #include "platform/qt/Antwortfeld.h"
 #include "platform/qt/Auswahlbox.h"
 #include "platform/qt/Datumsbox.h"
-#include "platform/qt/Einfaches.h"
 #include "platform/qt/Etikett.h"
+#include "platform/qt/Fortschritt.h"
 #include "platform/qt/Knoepfe.h"
 #include "platform/qt/Listenansicht.h"
+#include "platform/qt/Stil.h"
 #include "platform/qt/Textbox.h"
 #include "platform/qt/Vorlesen.h"
+
+#include <QIcon>
+#include <QLabel>
+#include <QScrollBar>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -25,8 +31,6 @@ public:
     void besuche(Ankreuzfeld& feld) override { mache<Ankreuzkästchen>(feld); }
     void besuche(Auswahlfeld& feld) override { mache<Auswahlbox>(feld); }
     void besuche(Beschriftung& feld) override { mache<Etikett>(feld); }
-    void besuche(Bild& feld) override { mache<Bildfläche>(feld); }
-    void besuche(Bildlaufleiste& feld) override { mache<Laufleiste>(feld); }
     void besuche(Datumsfeld& feld) override { mache<Datumsbox>(feld); }
     void besuche(Fortschrittsbalken& feld) override { mache<Fortschritt>(feld); }
     void besuche(Liste& feld) override { mache<Listenansicht>(feld); }
@@ -34,6 +38,30 @@ public:
     void besuche(Optionsfeld& feld) override { mache<Optionsknopf>(feld); }
     void besuche(Schaltfläche& feld) override { mache<Knopf>(feld); }
     void besuche(triCtlJaNein& feld) override { mache<Antwortfeld>(feld); }
+
+    void besuche(Bild& feld) override
+    {
+        auto* bild = new QLabel(m_eltern);
+        bild->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+        bild->setPixmap(programmzeichen().pixmap(QSize(em(6), em(6)), bild->devicePixelRatioF()));
+        m_ansicht.binde(feld, *bild);
+        m_ergebnis = bild;
+    }
+
+    void besuche(Bildlaufleiste& feld) override
+    {
+        auto* leiste = new QScrollBar(Qt::Vertical, m_eltern);
+        QObject::connect(leiste, &QScrollBar::valueChanged, leiste,
+                         [&feld, &ansicht = m_ansicht](int wert) { ansicht.ereignis([&] { feld.setzeWert(wert); }); });
+        m_ansicht.binde(feld, *leiste, [leiste, &feld] {
+            const QSignalBlocker still(leiste);
+            leiste->setRange(feld.kleinstes(), feld.größtes());
+            leiste->setSingleStep(feld.kleinerSchritt());
+            leiste->setPageStep(feld.großerSchritt());
+            leiste->setValue(feld.wert());
+        });
+        m_ergebnis = leiste;
+    }
 
     void besuche(Fläche& feld) override
     {

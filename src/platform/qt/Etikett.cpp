@@ -2,18 +2,71 @@
 
 #include "platform/elemente/Elemente.h"
 #include "platform/qt/Ansicht.h"
-#include "platform/qt/Kuerzung.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 
+#include <QFontMetrics>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStringList>
 #include <QStyle>
+#include <QTextLayout>
 #include <QToolTip>
 
 #include <algorithm>
 #include <utility>
+
+namespace {
+
+QStringList brich(const QString& absatz, const QFont& schriftart, int breite)
+{
+    QTextOption option;
+    option.setWrapMode(QTextOption::WordWrap);
+    QTextLayout satz(absatz, schriftart);
+    satz.setTextOption(option);
+    QStringList zeilen;
+    satz.beginLayout();
+    for (auto zeile = satz.createLine(); zeile.isValid(); zeile = satz.createLine()) {
+        zeile.setLineWidth(breite);
+        zeilen.append(absatz.mid(zeile.textStart(), zeile.textLength()).trimmed());
+    }
+    satz.endLayout();
+    return zeilen;
+}
+
+/// As many lines as have room; a last line that is there for the greater part counts, its rest is white.
+qsizetype zeilenIn(int höhe, const QFontMetrics& maß)
+{
+    return std::max(1, (höhe + maß.leading() + maß.lineSpacing() / 4) / std::max(1, maß.lineSpacing()));
+}
+
+/// The text as it fits into the place: whole where it does, else its lines cut with "…". `bricht`: lines are broken
+/// between words first.
+QString kürze(const QString& text, const QSize& platz, const QFont& schriftart, bool bricht)
+{
+    const QFontMetrics maß(schriftart);
+    QStringList zeilen;
+    for (const auto& absatz : text.split(QChar('\n'))) {
+        zeilen += bricht ? brich(absatz, schriftart, platz.width()) : QStringList{absatz};
+    }
+    bool gekürzt = false;
+    const auto höchstens = zeilenIn(platz.height(), maß);
+    if (zeilen.size() > höchstens) {
+        const auto rest = zeilen.mid(höchstens - 1).join(QChar(' '));
+        zeilen = zeilen.mid(0, höchstens - 1);
+        zeilen.append(rest + QChar(0x2026)); // cut below, where it is too wide
+        gekürzt = true;
+    }
+    for (auto& zeile : zeilen) {
+        const auto kurz = maß.elidedText(zeile, Qt::ElideRight, platz.width());
+        gekürzt = gekürzt || kurz != zeile;
+        zeile = kurz;
+    }
+    return gekürzt ? zeilen.join(QChar('\n')) : text;
+}
+
+} // namespace
 
 Etikett::Etikett(const QString& text, QWidget* eltern) : QLabel(text, eltern)
 {

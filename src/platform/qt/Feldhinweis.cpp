@@ -14,17 +14,17 @@ constexpr int vierSekunden = 4000;
 
 /// A tool tip is a window of its own that takes the next press to itself, and the button that was meant never
 /// hears of it; this label lies in the window of the field and lets every press through.
-class Feldhinweis : public QLabel {
-public:
-    Feldhinweis(const QString& text, QWidget& fenster) : QLabel(&fenster)
-    {
-        setObjectName(QLatin1String(feldhinweis)); // first: a screen reader asks at once what it is
-        setText(text);
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-        setWordWrap(true);
-        setAccessibleName(text);
-    }
-};
+QLabel* macheHinweis(const QString& text, QWidget* fenster)
+{
+    auto* hinweis = new QLabel(fenster);
+    hinweis->setObjectName(QLatin1String(feldhinweis)); // first: a screen reader asks at once what it is
+    hinweis->setText(text);
+    hinweis->setAttribute(Qt::WA_TransparentForMouseEvents);
+    hinweis->setWordWrap(true);
+    hinweis->setAccessibleName(text);
+    hinweis->ensurePolished();
+    return hinweis;
+}
 
 void legeAn(const QWidget& feld, QLabel& hinweis)
 {
@@ -44,12 +44,26 @@ void legeAn(const QWidget& feld, QLabel& hinweis)
 void zeigeFeldhinweis(QWidget& feld, const QString& text)
 {
     delete feld.window()->findChild<QLabel*>(QLatin1String(feldhinweis), Qt::FindDirectChildrenOnly);
-    auto* hinweis = new Feldhinweis(text, *feld.window());
-    hinweis->ensurePolished();
+    auto* hinweis = macheHinweis(text, feld.window());
     legeAn(feld, *hinweis);
     hinweis->show();
     hinweis->raise();
     QAccessibleEvent gemeldet(hinweis, QAccessible::Alert);
     QAccessible::updateAccessibility(&gemeldet);
     QTimer::singleShot(vierSekunden, hinweis, &QObject::deleteLater);
+}
+
+void meldeFilter(QWidget& feld, const Eingabeergebnis& ergebnis, std::size_t höchstlänge)
+{
+    if (ergebnis.gekürzt) {
+        zeigeFeldhinweis(
+            feld, QStringLiteral("Hier haben %1 Zeichen Platz; was darüber hinausging, fehlt.").arg(höchstlänge));
+    } else if (ergebnis.verweigert) {
+        zeigeFeldhinweis(feld,
+                         QStringLiteral("Dieses Zeichen kann nicht gespeichert werden und wurde nicht übernommen."));
+    } else if (ergebnis.ersetzt) {
+        zeigeFeldhinweis(
+            feld, QStringLiteral(
+                      "Dieses Zeichen kann nicht gespeichert werden und wurde durch den nächsten Buchstaben ersetzt."));
+    }
 }

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "platform/text/Eingabe.h"
+
+#include <cstddef>
+
 class QString;
 class QWidget;
 
@@ -9,3 +13,6 @@ void zeigeFeldhinweis(QWidget& feld, const QString& text);
 
 /// The object name of the hint.
 inline constexpr auto feldhinweis = "feldhinweis";
+
+/// Says beside the field that a character was replaced or not taken, or that the text is too long.
+void meldeFilter(QWidget& feld, const Eingabeergebnis& ergebnis, std::size_t höchstlänge);

@@ -1,6 +1,9 @@
 #include "platform/qt/Fenster.h"
 
+#include "platform/qt/Mass.h"
+#include "platform/qt/Seitenbau.h"
 #include "platform/qt/Stil.h"
+#include "platform/qt/Umschrift.h"
 
 #include <QCloseEvent>
 #include <QDateTime>
@@ -47,8 +50,8 @@ QPoint inDenSchirm(QPoint ort, QSize größe)
             klemme(ort.y(), platz.top(), platz.bottom() + 1 - größe.height())};
 }
 
-Rahmenfenster::Rahmenfenster(Fensterereignisse ereignisse)
-    : m_ereignisse(std::move(ereignisse)), m_seiten(new QStackedWidget(this))
+Rahmenfenster::Rahmenfenster(Rahmen& rahmen, Bühne& bühne, std::function<void()> beiAktivierung)
+    : m_rahmen(rahmen), m_bühne(bühne), m_beiAktivierung(std::move(beiAktivierung)), m_seiten(new QStackedWidget(this))
 {
     setCentralWidget(m_seiten);
     menuBar()->setNativeMenuBar(false);
@@ -59,7 +62,7 @@ void Rahmenfenster::moveEvent(QMoveEvent* ereignis)
 {
     QMainWindow::moveEvent(ereignis);
     if (isVisible() && !isMaximized() && m_platzwächter.istVomBenutzer(ereignis->spontaneous())) {
-        m_ereignisse.verschoben(pos());
+        m_bühne.ereignis([this] { m_rahmen.benutzerVerschiebt(alsTwips(y()), alsTwips(x())); });
     }
 }
 
@@ -67,7 +70,7 @@ void Rahmenfenster::resizeEvent(QResizeEvent* ereignis)
 {
     QMainWindow::resizeEvent(ereignis);
     if (isVisible() && !isMaximized() && m_platzwächter.istVomBenutzer(ereignis->spontaneous())) {
-        m_ereignisse.größeGeändert(size());
+        m_bühne.ereignis([this] { m_rahmen.benutzerÄndertGröße(alsTwips(width()), alsTwips(height())); });
     }
 }
 
@@ -75,15 +78,15 @@ void Rahmenfenster::changeEvent(QEvent* ereignis)
 {
     QMainWindow::changeEvent(ereignis);
     if (ereignis->type() == QEvent::WindowStateChange && !isMinimized() && m_platzwächter.istVomBenutzer(false)) {
-        m_ereignisse.maximiert(isMaximized());
+        m_bühne.ereignis([this] { m_rahmen.benutzerMaximiert(isMaximized()); });
     }
 }
 
 bool Rahmenfenster::event(QEvent* ereignis)
 {
     const bool ergebnis = QMainWindow::event(ereignis);
-    if (ereignis->type() == QEvent::WindowActivate && m_ereignisse.aktiviert) {
-        m_ereignisse.aktiviert();
+    if (ereignis->type() == QEvent::WindowActivate) {
+        m_beiAktivierung();
     }
     return ergebnis;
 }
@@ -91,30 +94,28 @@ bool Rahmenfenster::event(QEvent* ereignis)
 void Rahmenfenster::closeEvent(QCloseEvent* ereignis)
 {
     ereignis->ignore();
-    m_ereignisse.schließwunsch();
+    m_bühne.ereignis([this] { m_rahmen.benutzerSchließt(); });
 }
 
-Kindfenster::Kindfenster(Fensterereignisse ereignisse, int breite, QWidget* rahmen)
+Kindfenster::Kindfenster(Ansicht& ansicht, QWidget* rahmen)
     : QWidget(rahmen, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
-      m_ereignisse(std::move(ereignisse)), m_breite(breite)
-{}
-
-void Kindfenster::setzeSeite(QWidget& seite, QScrollArea& blatt)
+      m_ansicht(ansicht), m_blatt(baueSeite(ansicht, this))
 {
-    m_seite = &seite;
-    m_blatt = &blatt;
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(&seite);
-    m_blatt->widget()->installEventFilter(this);
+    layout->addWidget(ansicht.wurzel());
+    const auto betitle = [this, &bildschirm = ansicht.bildschirm()] { setWindowTitle(alsQString(bildschirm.titel())); };
+    betitle();
+    ansicht.abonniere(ansicht.bildschirm().titelGeändert, betitle);
 }
 
 void Kindfenster::passeHöheAn()
 {
     const QRect platz = screen()->availableGeometry();
     m_blatt->widget()->layout()->activate();
-    const int breite = std::min(std::max(m_breite, m_blatt->widget()->minimumSizeHint().width()), platz.width());
-    const int rest = m_seite->layout()->sizeHint().height() - m_blatt->sizeHint().height();
+    const int gewünscht = em(m_ansicht.bildschirm().breiteEm);
+    const int breite = std::min(std::max(gewünscht, m_blatt->widget()->minimumSizeHint().width()), platz.width());
+    const int rest = m_ansicht.wurzel()->layout()->sizeHint().height() - m_blatt->sizeHint().height();
     const int höhe = rest + m_blatt->widget()->sizeHint().height() + 2;
     m_platzwächter.platziere([&] { setFixedSize(breite, std::min(höhe, platz.height() - em(2))); });
 }
@@ -122,15 +123,18 @@ void Kindfenster::passeHöheAn()
 void Kindfenster::moveEvent(QMoveEvent* ereignis)
 {
     QWidget::moveEvent(ereignis);
-    if (isVisible() && m_platzwächter.istVomBenutzer(ereignis->spontaneous())) {
-        m_ereignisse.verschoben(pos());
+    if (isVisible() && m_ansicht.lebt() && m_platzwächter.istVomBenutzer(ereignis->spontaneous())) {
+        m_ansicht.bildschirm().oben = alsTwips(y());
+        m_ansicht.bildschirm().links = alsTwips(x());
     }
 }
 
 void Kindfenster::closeEvent(QCloseEvent* ereignis)
 {
     ereignis->ignore();
-    m_ereignisse.schließwunsch();
+    if (m_ansicht.wurzel()->isEnabled()) {
+        m_ansicht.ereignis([this] { m_ansicht.bildschirm().taste({.art = Taste::Art::Esc}); });
+    }
 }
 
 void Kindfenster::showEvent(QShowEvent* ereignis)

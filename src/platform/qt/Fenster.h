@@ -1,21 +1,14 @@
 #pragma once
 
+#include "platform/bildschirm/Rahmen.h"
+#include "platform/qt/Ansicht.h"
+
 #include <QMainWindow>
 
 #include <functional>
 
-class Ansicht;
 class QScrollArea;
 class QStackedWidget;
-
-/// What the person does with a window; the windows themselves decide nothing.
-struct Fensterereignisse {
-    std::function<void(QPoint)> verschoben;
-    std::function<void(QSize)> größeGeändert;
-    std::function<void(bool)> maximiert;
-    std::function<void()> schließwunsch;
-    std::function<void()> aktiviert = {};
-};
 
 /// Tells a person's placing of a window from the program's own and from what the window manager makes of it.
 class Platzwächter {
@@ -38,10 +31,10 @@ private:
     qint64 m_nachspielBis = 0;
 };
 
-/// The frame: menu bar and pages.
+/// The frame: menu bar and pages. What the person does with it goes to `rahmen`.
 class Rahmenfenster : public QMainWindow {
 public:
-    explicit Rahmenfenster(Fensterereignisse ereignisse);
+    Rahmenfenster(Rahmen& rahmen, Bühne& bühne, std::function<void()> beiAktivierung);
 
     QStackedWidget& seiten() { return *m_seiten; }
     Platzwächter& platzwächter() { return m_platzwächter; }
@@ -54,17 +47,19 @@ protected:
     bool event(QEvent* ereignis) override;
 
 private:
-    Fensterereignisse m_ereignisse;
+    Rahmen& m_rahmen;
+    Bühne& m_bühne;
+    std::function<void()> m_beiAktivierung;
     QStackedWidget* m_seiten;
     Platzwächter m_platzwächter;
 };
 
-/// The window of a screen that stands over another one: of fixed width, as high as its content.
+/// The window of a screen that stands over another one: of fixed width, as high as its content. Its border tells the
+/// screen its place, and closes as the screen's Escape does.
 class Kindfenster : public QWidget {
 public:
-    Kindfenster(Fensterereignisse ereignisse, int breite, QWidget* rahmen);
+    Kindfenster(Ansicht& ansicht, QWidget* rahmen);
 
-    void setzeSeite(QWidget& seite, QScrollArea& blatt);
     Platzwächter& platzwächter() { return m_platzwächter; }
     /// Takes the height that the content has now.
     void passeHöheAn();
@@ -76,9 +71,7 @@ protected:
     bool event(QEvent* ereignis) override;
 
 private:
-    Fensterereignisse m_ereignisse;
-    int m_breite;
-    QWidget* m_seite = nullptr;
+    Ansicht& m_ansicht;
     QScrollArea* m_blatt = nullptr;
     Platzwächter m_platzwächter;
 };

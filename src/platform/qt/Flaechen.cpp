@@ -39,7 +39,7 @@ void Deckfläche::setze(QWidget& darunter, QWidget& decke)
     m_decke = &decke;
     m_decke->raise();
     m_decke->installEventFilter(this);
-    setSizePolicy(m_darunter->sizePolicy());
+    Stapelfläche::setze({&darunter, &decke});
     gleicheAb();
 }
 
@@ -54,22 +54,6 @@ bool Deckfläche::eventFilter(QObject* objekt, QEvent* ereignis)
 void Deckfläche::gleicheAb()
 {
     m_darunter->setEnabled(m_decke->isHidden());
-}
-
-QSize Deckfläche::sizeHint() const
-{
-    return m_darunter->sizeHint().expandedTo({m_decke->minimumSizeHint().width(), 0});
-}
-
-QSize Deckfläche::minimumSizeHint() const
-{
-    return m_darunter->minimumSizeHint().expandedTo({m_decke->minimumSizeHint().width(), 0});
-}
-
-void Deckfläche::ordne()
-{
-    m_darunter->setGeometry(rect());
-    m_decke->setGeometry(rect());
 }
 
 void Karte::setzeBreite(int breite)
@@ -154,12 +138,6 @@ int Umbruchreihe::reihenhöhe() const
                            [](int höhe, const QWidget* teil) { return std::max(höhe, teil->sizeHint().height()); });
 }
 
-QSize Umbruchreihe::sizeHint() const
-{
-    const auto anzahl = static_cast<int>(reihen().size());
-    return {minimumSizeHint().width(), anzahl * reihenhöhe() + (anzahl - 1) * em(reihenabstand)};
-}
-
 QSize Umbruchreihe::minimumSizeHint() const
 {
     const int breite = std::accumulate(m_teile.begin(), m_teile.end(), 0, [](int breiteste, const QWidget* teil) {
@@ -212,16 +190,20 @@ bool Kartenreihe::passtNebeneinander(int breite) const
     return nötig <= breite;
 }
 
-/// What is missing is taken from each column as it can spare it, down to its least width.
-void Kartenreihe::verenge(std::vector<int>& breiten, int fehlt) const
+int summe(const std::vector<int>& werte)
+{
+    return std::accumulate(werte.begin(), werte.end(), 0);
+}
+
+void verenge(std::vector<int>& breiten, const std::vector<int>& mindestens, int fehlt)
 {
     int spielraum = 0;
     for (std::size_t i = 0; i < breiten.size(); ++i) {
-        spielraum += breiten[i] - m_spalten[i].widget->minimumSizeHint().width();
+        spielraum += std::max(0, breiten[i] - mindestens[i]);
     }
-    for (std::size_t i = 0; i < breiten.size() && spielraum > 0; ++i) {
-        const int eigener = breiten[i] - m_spalten[i].widget->minimumSizeHint().width();
-        const int anteil = fehlt * eigener / spielraum;
+    for (std::size_t i = 0; i < breiten.size() && fehlt > 0 && spielraum > 0; ++i) {
+        const int eigener = std::max(0, breiten[i] - mindestens[i]);
+        const int anteil = std::min(eigener, (fehlt * eigener + spielraum - 1) / spielraum);
         breiten[i] -= anteil;
         fehlt -= anteil;
         spielraum -= eigener;
@@ -233,17 +215,16 @@ std::vector<int> Kartenreihe::verteile(int breite) const
 {
     const int frei = breite - em(0.6) * (static_cast<int>(m_spalten.size()) - 1);
     std::vector<int> breiten;
-    std::vector<bool> fest(m_spalten.size(), false);
+    std::vector<int> mindestens;
     for (const auto& spalte : m_spalten) {
-        breiten.push_back(std::max(std::min(spalte.widget->sizeHint().width(), spalte.höchstbreite),
-                                   spalte.widget->minimumSizeHint().width()));
+        mindestens.push_back(spalte.widget->minimumSizeHint().width());
+        breiten.push_back(
+            std::max(std::min(spalte.widget->sizeHint().width(), spalte.höchstbreite), mindestens.back()));
     }
-    if (const int fehlt = std::accumulate(breiten.begin(), breiten.end(), 0) - frei; fehlt > 0) {
-        verenge(breiten, fehlt);
-        return breiten;
-    }
+    verenge(breiten, mindestens, summe(breiten) - frei);
+    std::vector<bool> fest(m_spalten.size(), false);
     for (std::size_t runde = 0; runde < m_spalten.size(); ++runde) {
-        int rest = frei - std::accumulate(breiten.begin(), breiten.end(), 0);
+        int rest = frei - summe(breiten);
         int beweglich = 0;
         for (std::size_t i = 0; i < breiten.size(); ++i) {
             beweglich += fest[i] ? 0 : breiten[i];
@@ -253,11 +234,10 @@ std::vector<int> Kartenreihe::verteile(int breite) const
                 continue;
             }
             const int anteil = rest * breiten[i] / beweglich;
-            const int kleinste = m_spalten[i].widget->minimumSizeHint().width();
-            const int größte = std::max(kleinste, m_spalten[i].höchstbreite);
+            const int größte = std::max(mindestens[i], m_spalten[i].höchstbreite);
             beweglich -= breiten[i];
             rest -= anteil;
-            const int neu = std::clamp(breiten[i] + anteil, kleinste, größte);
+            const int neu = std::clamp(breiten[i] + anteil, mindestens[i], größte);
             fest[i] = neu != breiten[i] + anteil;
             breiten[i] = neu;
         }

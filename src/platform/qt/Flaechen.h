@@ -5,8 +5,6 @@
 
 #include <vector>
 
-class QPushButton;
-
 /// A widget that places its children by itself, and again whenever one of them asks for another size.
 class Handfläche : public QWidget {
 public:
@@ -17,29 +15,6 @@ protected:
     void resizeEvent(QResizeEvent* ereignis) override;
     void showEvent(QShowEvent* ereignis) override;
     bool event(QEvent* ereignis) override;
-};
-
-/// Two parts in one place: the lower is covered, and takes no input, while the cover is visible. The
-/// elements' own state stays as it is.
-class Deckfläche : public Handfläche {
-public:
-    using Handfläche::Handfläche;
-
-    /// Both are its children already.
-    void setze(QWidget& darunter, QWidget& decke);
-
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-    bool eventFilter(QObject* objekt, QEvent* ereignis) override;
-
-protected:
-    void ordne() override;
-
-private:
-    void gleicheAb();
-
-    QWidget* m_darunter = nullptr;
-    QWidget* m_decke = nullptr;
 };
 
 /// A group of fields with a title. One that stands alone on its page is as wide as it was laid out, or as its parts
@@ -73,6 +48,24 @@ private:
     std::vector<QWidget*> m_teile;
 };
 
+/// Two parts in one place: the lower is covered, and takes no input, while the cover is visible. The
+/// elements' own state stays as it is.
+class Deckfläche : public Stapelfläche {
+public:
+    using Stapelfläche::Stapelfläche;
+
+    /// Both are its children already.
+    void setze(QWidget& darunter, QWidget& decke);
+
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override;
+
+private:
+    void gleicheAb();
+
+    QWidget* m_darunter = nullptr;
+    QWidget* m_decke = nullptr;
+};
+
 /// Buttons side by side, those behind the gap at the right; in several rows where they don't fit into one.
 class Umbruchreihe : public Handfläche {
 public:
@@ -80,7 +73,7 @@ public:
 
     /// All are its children already; `lücke` is how many stand before the gap.
     void setze(std::vector<QWidget*> teile, std::size_t lücke);
-    QSize sizeHint() const override;
+    QSize sizeHint() const override { return minimumSizeHint(); }
     QSize minimumSizeHint() const override;
 
 protected:
@@ -94,6 +87,10 @@ private:
     std::vector<QWidget*> m_teile;
     std::size_t m_lücke = 0;
 };
+
+int summe(const std::vector<int>& werte);
+/// What is missing is taken from each width as it can spare it, down to the least.
+void verenge(std::vector<int>& breiten, const std::vector<int>& mindestens, int fehlt);
 
 /// Columns of cards side by side; below each other where their least widths don't fit.
 class Kartenreihe : public Handfläche {
@@ -117,7 +114,6 @@ private:
 
     bool passtNebeneinander(int breite) const;
     std::vector<int> verteile(int breite) const;
-    void verenge(std::vector<int>& breiten, int fehlt) const;
     int höhe(bool kleinste) const;
 
     std::vector<Spalte> m_spalten;

@@ -11,7 +11,9 @@
 #include <QFile>
 #include <QImage>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
@@ -153,15 +155,8 @@ private:
 
 QString markeVon(const QString& überschrift)
 {
-    QString marke;
-    for (const QChar zeichen : überschrift.trimmed().toLower()) {
-        if (zeichen == QLatin1Char(' ')) {
-            marke += QLatin1Char('-');
-        } else if (zeichen.isLetterOrNumber() || zeichen == QLatin1Char('-') || zeichen == QLatin1Char('_')) {
-            marke += zeichen;
-        }
-    }
-    return marke;
+    static const QRegularExpression zeichen(QStringLiteral("[^\\w -]"), QRegularExpression::UseUnicodePropertiesOption);
+    return überschrift.trimmed().toLower().remove(zeichen).replace(QChar(' '), QChar('-'));
 }
 
 QString handbuchordner()
@@ -205,7 +200,7 @@ bool Handbuch::eventFilter(QObject* objekt, QEvent* ereignis)
     }
     const auto& taste = *static_cast<QKeyEvent*>(ereignis);
     const bool gesperrt = QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr;
-    if (taste.key() != Qt::Key_F1 || taste.modifiers() != Qt::NoModifier || gesperrt) {
+    if (QKeySequence(taste.keyCombination()) != QKeySequence(alsQString(handbuchtaste)) || gesperrt) {
         return false;
     }
     const std::string name = m_bildschirm();

@@ -5,6 +5,9 @@
 #include <array>
 #include <string_view>
 
+/// The key that opens the handbook, as the toolkit calls it.
+inline constexpr auto handbuchtaste = "F1"_t;
+
 /// Where the handbook tells about a screen: the mark of a heading (Handbuch.h).
 struct Handbuchstelle {
     std::string_view bildschirm;

@@ -74,13 +74,11 @@ void Knopf::übernimm()
 
 QSize Knopf::sizeHint() const
 {
+    if (m_element.rolle() == Rolle::Decke && !m_istWertdecke) {
+        return {em(2), em(1.4)}; // as large as what it covers
+    }
     const QSize ihre = QPushButton::sizeHint();
     return m_element.rolle() == Rolle::Weg ? ihre.expandedTo({em(13), em(3)}) : ihre;
-}
-
-QSize Knopf::minimumSizeHint() const
-{
-    return m_element.rolle() == Rolle::Decke && !m_istWertdecke ? QSize(em(2), em(1.4)) : sizeHint();
 }
 
 bool Knopf::event(QEvent* ereignis)

@@ -17,7 +17,7 @@ public:
     void seiWertdecke();
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
     bool event(QEvent* ereignis) override;

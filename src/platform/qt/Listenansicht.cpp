@@ -2,9 +2,11 @@
 
 #include "platform/elemente/Elemente.h"
 #include "platform/qt/Ansicht.h"
+#include "platform/qt/Flaechen.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 
+#include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QItemSelectionModel>
@@ -15,7 +17,6 @@
 #include <QToolTip>
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
 
@@ -33,70 +34,52 @@ int schmalerRand(const QWidget& liste)
     return em(0.55) + 2 * (liste.style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 3;
 }
 
-int summe(const QList<int>& werte)
-{
-    return std::accumulate(werte.begin(), werte.end(), 0);
-}
-
-/// What is missing is taken from each width as it can spare it.
-QList<int> verengt(QList<int> breiten, const QList<int>& mindestens, int fehlt)
-{
-    int spielraum = 0;
-    for (int i = 0; i < breiten.size(); ++i) {
-        spielraum += std::max(0, breiten[i] - mindestens[i]);
-    }
-    for (int i = 0; i < breiten.size() && fehlt > 0 && spielraum > 0; ++i) {
-        const int eigener = std::max(0, breiten[i] - mindestens[i]);
-        const int anteil = std::min(eigener, (fehlt * eigener + spielraum - 1) / spielraum);
-        breiten[i] -= anteil;
-        fehlt -= anteil;
-        spielraum -= eigener;
-    }
-    return breiten;
-}
-
 } // namespace
 
-Listenmodell::Listenmodell(const Liste& element, const Ansicht& ansicht, QObject* eltern)
-    : QAbstractTableModel(eltern), m_element(element), m_ansicht(ansicht)
-{}
+/// The rows of a list, read from the element when they are asked for.
+class Listenansicht::Modell : public QAbstractTableModel {
+public:
+    Modell(const Liste& element, const Ansicht& ansicht, QObject* eltern)
+        : QAbstractTableModel(eltern), m_element(element), m_ansicht(ansicht)
+    {}
 
-int Listenmodell::rowCount(const QModelIndex& eltern) const
-{
-    return eltern.isValid() || !m_ansicht.lebt() ? 0 : static_cast<int>(m_element.anzahl());
-}
-
-int Listenmodell::columnCount(const QModelIndex& eltern) const
-{
-    return eltern.isValid() || !m_ansicht.lebt() ? 0 : static_cast<int>(m_element.spalten().size());
-}
-
-QVariant Listenmodell::data(const QModelIndex& ort, int rolle) const
-{
-    if (rolle != Qt::DisplayRole || !ort.isValid() || ort.row() >= rowCount()) {
-        return {};
+    int rowCount(const QModelIndex& eltern = {}) const override
+    {
+        return eltern.isValid() || !m_ansicht.lebt() ? 0 : static_cast<int>(m_element.anzahl());
     }
-    return alsQString(
-        m_element.zelle(static_cast<std::size_t>(ort.row()) + 1, static_cast<std::size_t>(ort.column()) + 1));
-}
-
-QVariant Listenmodell::headerData(int abschnitt, Qt::Orientation richtung, int rolle) const
-{
-    const bool istText = rolle == Qt::DisplayRole || rolle == Qt::ToolTipRole; // a narrow head is cut
-    if (richtung != Qt::Horizontal || !istText || abschnitt >= columnCount()) {
-        return QAbstractTableModel::headerData(abschnitt, richtung, rolle);
+    int columnCount(const QModelIndex& eltern = {}) const override
+    {
+        return eltern.isValid() || !m_ansicht.lebt() ? 0 : static_cast<int>(m_element.spalten().size());
     }
-    return alsQString(m_element.spalten()[static_cast<std::size_t>(abschnitt)]);
-}
+    QVariant data(const QModelIndex& ort, int rolle) const override
+    {
+        if (rolle != Qt::DisplayRole || !ort.isValid() || ort.row() >= rowCount()) {
+            return {};
+        }
+        return alsQString(
+            m_element.zelle(static_cast<std::size_t>(ort.row()) + 1, static_cast<std::size_t>(ort.column()) + 1));
+    }
+    QVariant headerData(int abschnitt, Qt::Orientation richtung, int rolle) const override
+    {
+        const bool istText = rolle == Qt::DisplayRole || rolle == Qt::ToolTipRole; // a narrow head is cut
+        if (richtung != Qt::Horizontal || !istText || abschnitt >= columnCount()) {
+            return QAbstractTableModel::headerData(abschnitt, richtung, rolle);
+        }
+        return alsQString(m_element.spalten()[static_cast<std::size_t>(abschnitt)]);
+    }
+    void übernimm()
+    {
+        beginResetModel();
+        endResetModel();
+    }
 
-void Listenmodell::übernimm()
-{
-    beginResetModel();
-    endResetModel();
-}
+private:
+    const Liste& m_element;
+    const Ansicht& m_ansicht;
+};
 
 Listenansicht::Listenansicht(Liste& element, Ansicht& ansicht, QWidget* eltern)
-    : QTreeView(eltern), m_element(element), m_ansicht(ansicht), m_modell(new Listenmodell(element, ansicht, this))
+    : QTreeView(eltern), m_element(element), m_ansicht(ansicht), m_modell(new Modell(element, ansicht, this))
 {
     setModel(m_modell);
     setRootIsDecorated(false);
@@ -172,8 +155,8 @@ void Listenansicht::messeSpalten()
         for (std::size_t zeile = 1; zeile <= zeilen; ++zeile) {
             breite = std::max(breite, maß.horizontalAdvance(alsQString(m_element.zelle(zeile, spalte))));
         }
-        m_spaltenbreiten.append(std::min(breite, em(16)) + em(spaltenrand));
-        m_mindestbreiten.append((breite <= em(kurzeSpalte) ? breite : kopf) + schmalerRand(*this));
+        m_spaltenbreiten.push_back(std::min(breite, em(16)) + em(spaltenrand));
+        m_mindestbreiten.push_back((breite <= em(kurzeSpalte) ? breite : kopf) + schmalerRand(*this));
     }
     verteileSpalten();
     updateGeometry();
@@ -186,15 +169,15 @@ void Listenansicht::verteileSpalten()
     auto breiten = m_spaltenbreiten;
     if (nötig > platz) {
         // the last column, which takes the rest, has to stay in sight: names give way, numbers and dates do not
-        breiten = verengt(breiten, m_mindestbreiten, nötig - platz);
-        breiten = verengt(breiten, QList<int>(breiten.size(), header()->minimumSectionSize()), summe(breiten) - platz);
+        verenge(breiten, m_mindestbreiten, nötig - platz);
+        verenge(breiten, std::vector(breiten.size(), header()->minimumSectionSize()), summe(breiten) - platz);
     }
     const int übrig = std::max(0, platz - nötig);
     int rest = platz;
-    for (int spalte = 0; spalte < breiten.size(); ++spalte) {
+    for (std::size_t spalte = 0; spalte < breiten.size(); ++spalte) {
         const int breite = breiten[spalte] + übrig * breiten[spalte] / (nötig * 2 + 1);
         const bool istLetzte = spalte + 1 == breiten.size();
-        header()->resizeSection(spalte, istLetzte ? std::max(breite, rest) : breite);
+        header()->resizeSection(static_cast<int>(spalte), istLetzte ? std::max(breite, rest) : breite);
         rest -= breite;
     }
 }

@@ -1,26 +1,11 @@
 #pragma once
 
-#include <QAbstractTableModel>
 #include <QTreeView>
+
+#include <vector>
 
 class Ansicht;
 class Liste;
-
-/// The rows of a list, read from the element when they are asked for.
-class Listenmodell : public QAbstractTableModel {
-public:
-    Listenmodell(const Liste& element, const Ansicht& ansicht, QObject* eltern);
-
-    int rowCount(const QModelIndex& eltern = {}) const override;
-    int columnCount(const QModelIndex& eltern = {}) const override;
-    QVariant data(const QModelIndex& ort, int rolle = Qt::DisplayRole) const override;
-    QVariant headerData(int abschnitt, Qt::Orientation richtung, int rolle = Qt::DisplayRole) const override;
-    void übernimm();
-
-private:
-    const Liste& m_element;
-    const Ansicht& m_ansicht;
-};
 
 /// The list: shows rows and selection of the element; clicks and keys are the element's.
 class Listenansicht : public QTreeView {
@@ -42,6 +27,8 @@ protected:
     bool viewportEvent(QEvent* ereignis) override;
 
 private:
+    class Modell;
+
     void richteKopfEin();
     void übernimm();
     void übernimmZeilen();
@@ -51,9 +38,9 @@ private:
 
     Liste& m_element;
     Ansicht& m_ansicht;
-    Listenmodell* m_modell;
-    QList<int> m_spaltenbreiten; ///< what the texts need
-    QList<int> m_mindestbreiten; ///< what heads, numbers and dates need; names can be cut
+    Modell* m_modell;
+    std::vector<int> m_spaltenbreiten; ///< what the texts need
+    std::vector<int> m_mindestbreiten; ///< what heads, numbers and dates need; names can be cut
     int m_breite = 0;
     bool m_folgtAuswahl = false; ///< the selected row stays in sight when the list changes its size
 };

@@ -3,14 +3,17 @@
 #include "platform/bildschirm/Ablauf.h"
 #include "platform/bildschirm/Bildschirmfolge.h"
 #include "platform/bildschirm/Rahmen.h"
+#include "platform/qt/Ansicht.h"
+#include "platform/qt/Eingabewaechter.h"
+#include "platform/qt/Fenster.h"
+#include "platform/qt/Handbuch.h"
 #include "platform/umgebung/Umgebung.h"
 
 #include <memory>
+#include <vector>
 
-class Fensterwart;
 class QAction;
-class QMainWindow;
-class QWidget;
+class QMenu;
 
 /// The windows: draws the screens of a run with Qt Widgets and passes the person's actions on.
 ///
@@ -32,15 +35,15 @@ class QWidget;
 /// Datumsbox (a QLineEdit), Fortschrittsbalken QProgressBar, Bildlaufleiste QScrollBar, Fläche QWidget, Liste
 /// QTreeView, triCtlJaNein Antwortfeld, Bild QLabel; a Menüeintrag is a QAction. The object name of each is the name of
 /// the element.
-class QtOberfläche {
+class QtOberfläche : public Bühne {
 public:
     /// `umgebung` gives the date for the calendar. QApplication must exist and be prepared by `richteStilEin`.
     QtOberfläche(Ablauf& ablauf, Bildschirmfolge& folge, Rahmen& rahmen, Umgebung& umgebung);
     QtOberfläche(const QtOberfläche&) = delete;
     QtOberfläche& operator=(const QtOberfläche&) = delete;
-    ~QtOberfläche();
+    ~QtOberfläche() override;
 
-    QMainWindow* rahmenfenster() const;
+    QMainWindow* rahmenfenster() { return &m_fenster; }
     /// The widget that draws the element; nullptr while its screen has no widgets, or for a menu entry.
     QWidget* widgetVon(const Element& element) const;
     /// The entry of the menu bar (or the menu's own action); nullptr while its screen has no widgets.
@@ -52,6 +55,47 @@ public:
     /// Lets pending layouts take place, so that what is asked next is what a person would see.
     void ordne() const;
 
+    void ereignis(const std::function<void()>& aktion) override;
+    bool istInEreignis() const override { return m_ablauf.istInEreignis(); }
+    Datum heute() override { return m_umgebung.heute(); }
+
 private:
-    std::unique_ptr<Fensterwart> m_wart;
+    /// A screen with widgets: its tree stands in the frame or in a window of its own.
+    struct Platz {
+        std::shared_ptr<Ansicht> ansicht;
+        QWidget* fenster = nullptr; ///< page or child window
+        Kindfenster* kind = nullptr;
+    };
+
+    const Platz* platzVon(const Bildschirm* bildschirm) const;
+    Platz& baue(Bildschirm& bildschirm);
+    void zeichneBildschirme();
+    void zeichneKind(const Platz& platz);
+    void zeichneSeite(Bildschirm* bildschirm);
+    void zeichneMenü(const Bildschirm* bildschirm);
+    void zeichneRahmen();
+    QSize fensterrand() const;
+    void platziereKind(const Platz& platz);
+    std::string nameInGebrauch() const;
+    void entlade(const Bildschirm& bildschirm);
+    void gibTastaturWeiter();
+    void gleicheFokusAb();
+    void gleicheFokusAb(Bildschirm& bildschirm);
+    void beiFokuswechsel(QWidget* alt, QWidget* neu);
+    void folgeFremdemFokus(const QWidget& widget);
+    Ansicht* ansichtVon(const QWidget* widget) const;
+
+    Ablauf& m_ablauf;
+    Bildschirmfolge& m_folge;
+    Rahmen& m_rahmen;
+    Umgebung& m_umgebung;
+    Rahmenfenster m_fenster;
+    std::vector<Platz> m_plätze;
+    const Bildschirm* m_seite = nullptr; ///< whose page the frame shows
+    std::vector<QMenu*> m_menüs;
+    bool m_setztFokus = false; ///< the focus that changes is the program's own doing
+    Eingabewächter m_wächter;
+    Handbuch m_handbuch;
+    std::vector<Abonnement> m_abonnements;
+    QMetaObject::Connection m_fokusverbindung;
 };

@@ -12,6 +12,7 @@
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QSpacerItem>
 
@@ -21,7 +22,11 @@
 
 namespace {
 
-constexpr std::array<std::pair<Symbol, QMessageBox::Icon>, 5> symbole{{
+struct Symbolbild {
+    Symbol symbol;
+    QMessageBox::Icon bild;
+};
+constexpr std::array<Symbolbild, 5> symbole{{
     {Symbol::Keins, QMessageBox::NoIcon},
     {Symbol::Info, QMessageBox::Information},
     {Symbol::Warnung, QMessageBox::Warning},
@@ -29,7 +34,11 @@ constexpr std::array<std::pair<Symbol, QMessageBox::Icon>, 5> symbole{{
     {Symbol::Frage, QMessageBox::Question},
 }};
 
-constexpr std::array<std::pair<Antwort, QMessageBox::StandardButton>, 4> antworten{{
+struct Antwortknopf {
+    Antwort antwort;
+    QMessageBox::StandardButton knopf;
+};
+constexpr std::array<Antwortknopf, 4> antworten{{
     {Antwort::OK, QMessageBox::Ok},
     {Antwort::Abbrechen, QMessageBox::Cancel},
     {Antwort::Ja, QMessageBox::Yes},
@@ -55,32 +64,12 @@ Antwort vorgabeFür(const Meldung& meldung)
     return meldung.knöpfe == Knöpfe::JaNein && meldung.vorgabe == Antwort::OK ? Antwort::Ja : meldung.vorgabe;
 }
 
-QMessageBox::StandardButton knopfFür(Antwort antwort)
-{
-    for (const auto& [eine, knopf] : antworten) {
-        if (eine == antwort) {
-            return knopf;
-        }
-    }
-    return QMessageBox::Ok;
-}
-
 /// A word longer than a line could not be broken, and would make the box wider than the screen.
 QString mitBruchstellen(const QString& text)
 {
-    constexpr int längstesWort = 40;
-    const QChar bruchstelle(0x200B);
-    QString ergebnis;
-    int länge = 0;
-    for (const auto zeichen : text) {
-        länge = zeichen.isSpace() ? 0 : länge + 1;
-        if (länge > längstesWort) {
-            ergebnis += bruchstelle;
-            länge = 1;
-        }
-        ergebnis += zeichen;
-    }
-    return ergebnis;
+    static const QRegularExpression zeilenlang(QStringLiteral("(\\S{40})(?=\\S)"),
+                                               QRegularExpression::UseUnicodePropertiesOption);
+    return QString(text).replace(zeilenlang, QStringLiteral("\\1\u200B"));
 }
 
 /// Long actions are long because of their files, and come by here again and again.
@@ -88,25 +77,11 @@ class GeduldigerZugriff : public Zugriffsweiche {
 public:
     using Zugriffsweiche::Zugriffsweiche;
 
-    std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad, std::uint64_t ab) override
+protected:
+    Dateizugriff& dahinter() override
     {
         geduld::prüfe();
-        return Zugriffsweiche::lies(pfad, ab);
-    }
-    std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) override
-    {
-        geduld::prüfe();
-        return Zugriffsweiche::öffne(pfad, wie);
-    }
-    void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach) override
-    {
-        geduld::prüfe();
-        Zugriffsweiche::benenneUm(von, nach);
-    }
-    void sichereOrdnerAufPlatte(const std::filesystem::path& pfad) override
-    {
-        geduld::prüfe();
-        Zugriffsweiche::sichereOrdnerAufPlatte(pfad);
+        return Zugriffsweiche::dahinter();
     }
 };
 
@@ -120,13 +95,9 @@ std::unique_ptr<QMessageBox> baueMeldungsfenster(const Meldung& meldung)
     fenster->setTextFormat(Qt::PlainText);
     fenster->setText(mitBruchstellen(alsMehrzeiler(meldung.text)));
     fenster->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    for (const auto& [symbol, bild] : symbole) {
-        if (symbol == meldung.symbol) {
-            fenster->setIcon(bild);
-        }
-    }
+    fenster->setIcon(std::ranges::find(symbole, meldung.symbol, &Symbolbild::symbol)->bild);
     fenster->setStandardButtons(knöpfeFür(meldung.knöpfe));
-    fenster->setDefaultButton(knopfFür(vorgabeFür(meldung)));
+    fenster->setDefaultButton(std::ranges::find(antworten, vorgabeFür(meldung), &Antwortknopf::antwort)->knopf);
     if (meldung.knöpfe != Knöpfe::OK) {
         fenster->setEscapeButton(meldung.knöpfe == Knöpfe::JaNein ? QMessageBox::No : QMessageBox::Cancel);
     }
@@ -139,10 +110,9 @@ std::unique_ptr<QMessageBox> baueMeldungsfenster(const Meldung& meldung)
 Antwort antwortVon(const QMessageBox& fenster)
 {
     const auto gedrückt = fenster.standardButton(fenster.clickedButton());
-    for (const auto& [antwort, knopf] : antworten) {
-        if (knopf == gedrückt) {
-            return antwort;
-        }
+    const auto ort = std::ranges::find(antworten, gedrückt, &Antwortknopf::knopf);
+    if (ort != antworten.end()) {
+        return ort->antwort;
     }
     // closed without a button
     return fenster.standardButtons().testFlag(QMessageBox::No)       ? Antwort::Nein
@@ -150,27 +120,18 @@ Antwort antwortVon(const QMessageBox& fenster)
                                                                      : Antwort::OK;
 }
 
-std::string alsQtFilter(const std::string& filter)
+QString alsQtFilter(const std::string& filter)
 {
-    std::string ergebnis;
-    std::size_t von = 0;
-    while (von < filter.size()) {
-        const auto mitte = filter.find('|', von);
-        if (mitte == std::string::npos) {
-            break;
+    const auto teile = alsQString(filter).split(QChar('|'));
+    QStringList ergebnis;
+    for (qsizetype i = 0; i + 1 < teile.size(); i += 2) {
+        auto muster = QString(teile[i + 1]).replace(QChar(';'), QChar(' '));
+        if (muster == QStringLiteral("*.*")) {
+            muster = QStringLiteral("*"); // files without an extension as well
         }
-        const auto ende = std::min(filter.find('|', mitte + 1), filter.size());
-        auto muster = filter.substr(mitte + 1, ende - mitte - 1);
-        std::replace(muster.begin(), muster.end(), ';', ' ');
-        if (muster == "*.*") {
-            muster = "*"; // files without an extension as well
-        }
-        auto name = filter.substr(von, mitte - von);
-        name = name.substr(0, name.find('('));
-        ergebnis += (ergebnis.empty() ? "" : ";;") + name + '(' + muster + ')';
-        von = ende + 1;
+        ergebnis.append(QStringLiteral("%1(%2)").arg(teile[i].section(QChar('('), 0, 0), muster));
     }
-    return ergebnis;
+    return ergebnis.join(QStringLiteral(";;"));
 }
 
 QtUmgebung::QtUmgebung(Tabellenprogramm& tabellenprogramm, Laufort laufort)
@@ -205,8 +166,7 @@ std::optional<std::filesystem::path> QtUmgebung::wähleDatei(const Dateiwahl& wa
     const geduld::Pause pause;
     const auto utf8 = wahl.anfangsordner.u8string(); // a name that is no Unicode must not end the program
     const auto ordner = QString::fromUtf8(reinterpret_cast<const char*>(utf8.data()), std::ssize(utf8));
-    const auto pfad =
-        QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, ordner, alsQString(alsQtFilter(wahl.filter)));
+    const auto pfad = QFileDialog::getOpenFileName(QApplication::activeWindow(), {}, ordner, alsQtFilter(wahl.filter));
     if (pfad.isEmpty()) {
         return std::nullopt;
     }

@@ -52,4 +52,4 @@ std::unique_ptr<QMessageBox> baueMeldungsfenster(const Meldung& meldung);
 /// What the button of that box means.
 Antwort antwortVon(const QMessageBox& fenster);
 /// The pairs of name and pattern, separated by "|", as Qt's file dialogue takes them.
-std::string alsQtFilter(const std::string& filter);
+QString alsQtFilter(const std::string& filter);

@@ -12,7 +12,6 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QScrollArea>
-#include <QStyle>
 
 namespace {
 
@@ -159,7 +158,7 @@ void baueMenü(Ansicht& ansicht, QWidget& wurzel)
 
 } // namespace
 
-Seite baueSeite(Ansicht& ansicht, QWidget* eltern)
+QScrollArea* baueSeite(Ansicht& ansicht, QWidget* eltern)
 {
     auto* wurzel = new QWidget(eltern);
     wurzel->setObjectName(alsQString(ansicht.bildschirm().name()));
@@ -184,5 +183,5 @@ Seite baueSeite(Ansicht& ansicht, QWidget* eltern)
         nenneSeite();
         ansicht.abonniere(titel->geändert, nenneSeite);
     }
-    return {wurzel, blatt};
+    return blatt;
 }

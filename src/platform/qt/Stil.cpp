@@ -18,27 +18,36 @@
 
 namespace {
 
-constexpr std::array<std::pair<const char*, QColor Farbtafel::*>, 19> farbnamen{{
-    {"grund", &Farbtafel::grund},         {"flaeche", &Farbtafel::flaeche}, {"feld", &Farbtafel::feld},
-    {"zebra", &Farbtafel::zebra},         {"linie", &Farbtafel::linie},     {"rand", &Farbtafel::rand},
-    {"feldrand", &Farbtafel::feldrand},   {"schrift", &Farbtafel::schrift}, {"schrift2", &Farbtafel::schrift2},
-    {"gesperrt", &Farbtafel::gesperrt},   {"akzent", &Farbtafel::akzent},   {"akzentH", &Farbtafel::akzentH},
-    {"aufakzent", &Farbtafel::aufakzent}, {"wahl", &Farbtafel::wahl},       {"band", &Farbtafel::band},
-    {"aufband", &Farbtafel::aufband},     {"band2", &Farbtafel::band2},     {"fokus", &Farbtafel::fokus},
-    {"fehler", &Farbtafel::fehler},
+struct Farbeintrag {
+    const char* name; ///< in the style sheet
+    QColor Farbtafel::*ort;
+    QRgb hell;
+    QRgb dunkel;
+};
+
+constexpr std::array<Farbeintrag, 19> farbeinträge{{
+    {"grund", &Farbtafel::grund, 0xFFEEF2F5, 0xFF12181D},
+    {"flaeche", &Farbtafel::flaeche, 0xFFFFFFFF, 0xFF1B232A},
+    {"feld", &Farbtafel::feld, 0xFFFFFFFF, 0xFF12181D},
+    {"zebra", &Farbtafel::zebra, 0xFFF5F8FA, 0xFF212B33},
+    {"linie", &Farbtafel::linie, 0xFFDDE4EA, 0xFF2B363F},
+    {"rand", &Farbtafel::rand, 0xFFC5D0D9, 0xFF3A4853},
+    {"feldrand", &Farbtafel::feldrand, 0xFF71808D, 0xFF7C8B98},
+    {"schrift", &Farbtafel::schrift, 0xFF17232D, 0xFFE4EBF0},
+    {"schrift2", &Farbtafel::schrift2, 0xFF465664, 0xFFAEBBC6},
+    {"gesperrt", &Farbtafel::gesperrt, 0xFF5E6B77, 0xFF8898A5},
+    {"akzent", &Farbtafel::akzent, 0xFF0A647F, 0xFF5CB6D2},
+    {"akzentH", &Farbtafel::akzentH, 0xFF084C61, 0xFF86CCE1},
+    {"aufakzent", &Farbtafel::aufakzent, 0xFFFFFFFF, 0xFF06222B},
+    {"wahl", &Farbtafel::wahl, 0xFFD0E7EF, 0xFF1F4857},
+    {"band", &Farbtafel::band, 0xFF0F4657, 0xFF0E2E39},
+    {"aufband", &Farbtafel::aufband, 0xFFFFFFFF, 0xFFEAF3F6},
+    {"band2", &Farbtafel::band2, 0xFFC9E0E8, 0xFFA9C6D1},
+    {"fokus", &Farbtafel::fokus, 0xFF6363CC, 0xFFA6A6FF},
+    {"fehler", &Farbtafel::fehler, 0xFFA3241B, 0xFFFF9A90},
 }};
 
-/// In the order of `farbnamen`.
-constexpr std::array<QRgb, 19> hell{0xFFEEF2F5, 0xFFFFFFFF, 0xFFFFFFFF, 0xFFF5F8FA, 0xFFDDE4EA, 0xFFC5D0D9, 0xFF71808D,
-                                    0xFF17232D, 0xFF465664, 0xFF5E6B77, 0xFF0A647F, 0xFF084C61, 0xFFFFFFFF, 0xFFD0E7EF,
-                                    0xFF0F4657, 0xFFFFFFFF, 0xFFC9E0E8, 0xFF6363CC, 0xFFA3241B};
-constexpr std::array<QRgb, 19> dunkel{0xFF12181D, 0xFF1B232A, 0xFF12181D, 0xFF212B33, 0xFF2B363F,
-                                      0xFF3A4853, 0xFF7C8B98, 0xFFE4EBF0, 0xFFAEBBC6, 0xFF8898A5,
-                                      0xFF5CB6D2, 0xFF86CCE1, 0xFF06222B, 0xFF1F4857, 0xFF0E2E39,
-                                      0xFFEAF3F6, 0xFFA9C6D1, 0xFFA6A6FF, 0xFFFF9A90};
-
 struct Stilstand {
-    Thema thema = Thema::Hell;
     Farbtafel farben;
     QFont grundschrift;
     double zeilenhöhe = 18;
@@ -61,37 +70,20 @@ double leuchtdichte(const QColor& farbe)
 Farbtafel tafel(Thema thema)
 {
     Farbtafel ergebnis;
-    const auto& werte = thema == Thema::Hell ? hell : dunkel;
-    for (std::size_t i = 0; i < werte.size(); ++i) {
-        ergebnis.*farbnamen[i].second = QColor::fromRgba(werte[i]);
+    for (const auto& eintrag : farbeinträge) {
+        ergebnis.*eintrag.ort = QColor::fromRgba(thema == Thema::Hell ? eintrag.hell : eintrag.dunkel);
     }
     return ergebnis;
 }
 
-QString farbeNach(const QString& name, const Farbtafel& farben)
+QString fülle(QString vorlage, Thema thema)
 {
-    for (const auto& [farbname, ort] : farbnamen) {
-        if (name == QLatin1String(farbname)) {
-            return (farben.*ort).name();
-        }
+    vorlage.replace(QStringLiteral("@thema"), QLatin1String(thema == Thema::Hell ? "hell" : "dunkel"));
+    for (const auto& eintrag : farbeinträge) {
+        const QRegularExpression platzhalter(QStringLiteral("@%1\\b").arg(QLatin1String(eintrag.name)));
+        vorlage.replace(platzhalter, (stilstand().farben.*eintrag.ort).name());
     }
-    return {};
-}
-
-QString fülle(const QString& vorlage, Thema thema)
-{
-    static const QRegularExpression platzhalter(QStringLiteral("@(\\w+)"));
-    QString ergebnis;
-    qsizetype bis = 0;
-    auto treffer = platzhalter.globalMatch(vorlage);
-    while (treffer.hasNext()) {
-        const auto einer = treffer.next();
-        ergebnis += vorlage.mid(bis, einer.capturedStart() - bis);
-        ergebnis += einer.captured(1) == QStringLiteral("thema") ? (thema == Thema::Hell ? "hell" : "dunkel")
-                                                                 : farbeNach(einer.captured(1), stilstand().farben);
-        bis = einer.capturedEnd();
-    }
-    return ergebnis + vorlage.mid(bis);
+    return vorlage;
 }
 
 QPalette palette(const Farbtafel& f)
@@ -164,14 +156,22 @@ static void nenneProgramm()
     QGuiApplication::setWindowIcon(programmzeichen());
 }
 
+/// A system that lacks the face it names itself would give any other, one with serifs too.
+static void nenneErsatzschriften()
+{
+    QFont::insertSubstitutions(QApplication::font().family(),
+                               {QStringLiteral("Segoe UI"), QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"),
+                                QStringLiteral("Liberation Sans"), QStringLiteral("Arial")});
+}
+
 void richteStilEin(QApplication& anwendung, Thema thema)
 {
     ladeBilder();
     nenneProgramm();
+    nenneErsatzschriften();
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     ladeÜbersetzung(anwendung);
     auto& s = stilstand();
-    s.thema = thema;
     s.farben = tafel(thema);
     s.grundschrift = QApplication::font();
     s.zeilenhöhe = QFontMetrics(s.grundschrift).height();
@@ -195,11 +195,6 @@ QIcon programmzeichen()
 const Farbtafel& farben()
 {
     return stilstand().farben;
-}
-
-Thema thema()
-{
-    return stilstand().thema;
 }
 
 double kontrast(const QColor& eine, const QColor& andere)
@@ -229,16 +224,13 @@ QFont schrift(Schriftrolle rolle)
         {Schriftrolle::Spaltenkopf, 0.9, QFont::DemiBold},
         {Schriftrolle::Wert, 1.0, QFont::DemiBold},
     }};
+    const auto& werte = *std::ranges::find(tabelle, rolle, &Werte::rolle);
     QFont ergebnis = stilstand().grundschrift;
-    for (const auto& werte : tabelle) {
-        if (werte.rolle == rolle) {
-            if (ergebnis.pointSizeF() > 0) {
-                ergebnis.setPointSizeF(ergebnis.pointSizeF() * werte.größe);
-            } else {
-                ergebnis.setPixelSize(static_cast<int>(std::lround(ergebnis.pixelSize() * werte.größe)));
-            }
-            ergebnis.setWeight(werte.gewicht);
-        }
+    if (ergebnis.pointSizeF() > 0) {
+        ergebnis.setPointSizeF(ergebnis.pointSizeF() * werte.größe);
+    } else {
+        ergebnis.setPixelSize(static_cast<int>(std::lround(ergebnis.pixelSize() * werte.größe)));
     }
+    ergebnis.setWeight(werte.gewicht);
     return ergebnis;
 }

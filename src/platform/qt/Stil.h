@@ -25,7 +25,6 @@ QIcon programmzeichen();
 
 /// The colours in use.
 const Farbtafel& farben();
-Thema thema();
 
 /// Contrast of two colours, 1 to 21.
 double kontrast(const QColor& eine, const QColor& andere);

@@ -5,16 +5,17 @@
 #include "platform/qt/Auswahlbox.h"
 #include "platform/qt/Elementzeichner.h"
 #include "platform/qt/Etikett.h"
+#include "platform/qt/Flaechen.h"
 #include "platform/qt/Knoepfe.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 #include "platform/qt/Vorlesen.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QPainter>
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
 
@@ -23,11 +24,6 @@ constexpr double zeileEng = 1.38;
 constexpr double zeileWeit = 1.7;
 constexpr double beschriftungMindestens = 18;
 constexpr double beschriftungHöchstens = 31;
-
-int summe(const std::vector<int>& werte)
-{
-    return std::accumulate(werte.begin(), werte.end(), 0);
-}
 
 std::vector<int> spaltenbreiten(const Anordnung& tabelle)
 {
@@ -76,6 +72,7 @@ void Antwortzeile::setze(Etikett& beschriftung, std::vector<QWidget*> zellen)
     m_beschriftung = &beschriftung;
     m_beschriftung->setWordWrap(true);
     m_zellen = std::move(zellen);
+    setAttribute(Qt::WA_Hover);
 }
 
 int Antwortzeile::bevorzugteBeschriftungsbreite() const
@@ -108,14 +105,6 @@ int Antwortzeile::ordne(int breite, const std::vector<int>& spalten, int mindest
     return höhe;
 }
 
-void Antwortzeile::setzeAktiv(bool aktiv)
-{
-    if (m_aktiv != aktiv) {
-        m_aktiv = aktiv;
-        update();
-    }
-}
-
 void Antwortzeile::beschrifteZellen(const Tabellenkopf& kopf)
 {
     for (std::size_t i = 0; i < m_zellen.size(); ++i) {
@@ -133,7 +122,7 @@ void Antwortzeile::paintEvent(QPaintEvent* /*ereignis*/)
 {
     QPainter maler(this);
     const auto& f = farben();
-    if (m_aktiv && isEnabled()) {
+    if (isAncestorOf(QApplication::focusWidget()) && isEnabled()) {
         maler.fillRect(rect(), f.wahl);
     } else if (underMouse() && isEnabled()) {
         maler.fillRect(rect(), f.zebra);
@@ -141,88 +130,81 @@ void Antwortzeile::paintEvent(QPaintEvent* /*ereignis*/)
     maler.fillRect(0, height() - 1, width(), 1, f.linie);
 }
 
-void Antwortzeile::enterEvent(QEnterEvent* /*ereignis*/)
-{
-    update();
-}
-
-void Antwortzeile::leaveEvent(QEvent* /*ereignis*/)
-{
-    update();
-}
-
-Tabellenblatt::Tabellenblatt(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern)
-    : Handfläche(eltern), m_spalten(spaltenbreiten(tabelle))
-{
-    for (const auto& zeile : tabelle.teile) {
-        fügeZeile(zeile, tabelle.spalten, ansicht);
-    }
-}
-
-void Tabellenblatt::fügeZeile(const Anordnung& zeile, const std::vector<Tabellenspalte>& köpfe, Ansicht& ansicht)
-{
-    auto* neue = new Antwortzeile(this);
-    auto& beschriftung = dynamic_cast<Etikett&>(*zeichneElement(*zeile.element, ansicht, neue)); // read out first
-    std::vector<QWidget*> zellen;
-    for (std::size_t i = 0; i < zeile.teile.size(); ++i) {
-        auto* element = zeile.teile[i].element;
-        zellen.push_back(element == nullptr ? nullptr : baueZelle(*element, m_spalten[i], ansicht, neue));
-        if (zellen.back() != nullptr) {
-            benenneZelle(*zellen.back(), köpfe[i], zeile);
+/// The rows, all of them.
+class Tabelle::Blatt : public Handfläche {
+public:
+    Blatt(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern)
+        : Handfläche(eltern), m_spalten(spaltenbreiten(tabelle))
+    {
+        for (const auto& zeile : tabelle.teile) {
+            fügeZeile(zeile, tabelle.spalten, ansicht);
         }
     }
-    neue->setze(beschriftung, std::move(zellen));
-    m_zeilen.push_back(neue);
-}
 
-void Tabellenblatt::beschrifteZellen(const Tabellenkopf& kopf)
-{
-    for (auto* zeile : m_zeilen) {
-        zeile->beschrifteZellen(kopf);
+    /// Row and column say together what a cell asks.
+    void beschrifteZellen(const Tabellenkopf& kopf)
+    {
+        for (auto* zeile : m_zeilen) {
+            zeile->beschrifteZellen(kopf);
+        }
     }
-}
-
-int Tabellenblatt::zeilenhöhe() const
-{
-    return em(m_zeilen.size() <= zeilenInSicht ? zeileWeit : zeileEng);
-}
-
-int Tabellenblatt::höheBei(int breite) const
-{
-    int höhe = 0;
-    for (auto* zeile : m_zeilen) {
-        höhe += zeile->ordne(breite, m_spalten, zeilenhöhe());
+    int höheBei(int breite) const
+    {
+        int höhe = 0;
+        for (auto* zeile : m_zeilen) {
+            höhe += zeile->ordne(breite, m_spalten, zeilenhöhe());
+        }
+        return höhe;
     }
-    return höhe;
-}
-
-int Tabellenblatt::mindesthöhe() const
-{
-    return static_cast<int>(std::min(zeilenInSicht, m_zeilen.size())) * zeilenhöhe();
-}
-
-int Tabellenblatt::bevorzugteBreite() const
-{
-    int beschriftung = em(beschriftungMindestens);
-    for (const auto* zeile : m_zeilen) {
-        beschriftung = std::max(beschriftung, zeile->bevorzugteBeschriftungsbreite());
+    /// Height of the first rows, as many as must always be in sight.
+    int mindesthöhe() const { return static_cast<int>(std::min(zeilenInSicht, m_zeilen.size())) * zeilenhöhe(); }
+    int bevorzugteBreite() const
+    {
+        int beschriftung = em(beschriftungMindestens);
+        for (const auto* zeile : m_zeilen) {
+            beschriftung = std::max(beschriftung, zeile->bevorzugteBeschriftungsbreite());
+        }
+        return std::min(beschriftung, em(beschriftungHöchstens)) + summe(m_spalten);
     }
-    return std::min(beschriftung, em(beschriftungHöchstens)) + summe(m_spalten);
-}
+    QSize sizeHint() const override { return size(); }
 
-void Tabellenblatt::ordne()
-{
-    int oben = 0;
-    for (auto* zeile : m_zeilen) {
-        const int höhe = zeile->ordne(width(), m_spalten, zeilenhöhe());
-        zeile->setGeometry(0, oben, width(), höhe);
-        oben += höhe;
+protected:
+    void ordne() override
+    {
+        int oben = 0;
+        for (auto* zeile : m_zeilen) {
+            const int höhe = zeile->ordne(width(), m_spalten, zeilenhöhe());
+            zeile->setGeometry(0, oben, width(), höhe);
+            oben += höhe;
+        }
     }
-}
+
+private:
+    void fügeZeile(const Anordnung& zeile, const std::vector<Tabellenspalte>& köpfe, Ansicht& ansicht)
+    {
+        auto* neue = new Antwortzeile(this);
+        auto& beschriftung = dynamic_cast<Etikett&>(*zeichneElement(*zeile.element, ansicht, neue)); // read out first
+        std::vector<QWidget*> zellen;
+        for (std::size_t i = 0; i < zeile.teile.size(); ++i) {
+            auto* element = zeile.teile[i].element;
+            zellen.push_back(element == nullptr ? nullptr : baueZelle(*element, m_spalten[i], ansicht, neue));
+            if (zellen.back() != nullptr) {
+                benenneZelle(*zellen.back(), köpfe[i], zeile);
+            }
+        }
+        neue->setze(beschriftung, std::move(zellen));
+        m_zeilen.push_back(neue);
+    }
+    int zeilenhöhe() const { return em(m_zeilen.size() <= zeilenInSicht ? zeileWeit : zeileEng); }
+
+    std::vector<Antwortzeile*> m_zeilen;
+    std::vector<int> m_spalten;
+};
 
 Tabelle::Tabelle(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern)
-    : QScrollArea(eltern), m_spalten(spaltenbreiten(tabelle)), m_kopf(new Tabellenkopf(tabelle, ansicht, this)),
-      m_blatt(new Tabellenblatt(tabelle, ansicht, viewport()))
+    : QScrollArea(eltern), m_spalten(spaltenbreiten(tabelle)),
+      m_kopf(new Tabellenkopf(tabelle, Tabellenkopf::Form::Tabelle, ansicht, this)),
+      m_blatt(new Blatt(tabelle, ansicht, viewport()))
 {
     m_blatt->beschrifteZellen(*m_kopf);
     setFocusPolicy(Qt::NoFocus);
@@ -249,7 +231,6 @@ QSize Tabelle::minimumSizeHint() const
 void Tabelle::ordne()
 {
     const int breite = viewport()->width();
-    m_kopf->setGeometry(0, 0, breite, m_kopf->höhe());
     m_kopf->ordne(breite, m_spalten);
     m_blatt->resize(breite, m_blatt->höheBei(breite));
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/bildschirm/Anordnung.h"
-#include "platform/qt/Flaechen.h"
 
 #include <QScrollArea>
 
@@ -23,30 +22,33 @@ public:
     /// Places label and cells; returns the height it takes.
     int ordne(int breite, const std::vector<int>& spalten, int mindesthöhe);
     int bevorzugteBeschriftungsbreite() const;
-    void setzeAktiv(bool aktiv);
     void beschrifteZellen(const Tabellenkopf& kopf);
 
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
-    void enterEvent(QEnterEvent* ereignis) override;
-    void leaveEvent(QEvent* ereignis) override;
 
 private:
     Etikett* m_beschriftung = nullptr;
     std::vector<QWidget*> m_zellen; ///< nullptr where the row has no answer
-    bool m_aktiv = false;
 };
 
-/// The head of a table: groups, titles, and the "!" that fill the columns.
+/// In the listing so many columns, the first ones, begin at the left; all others are centred.
+inline constexpr std::size_t linksbündigeSpalten = 2;
+
+/// The head of a table or of the listing: groups, titles, and the "!" that fill the columns.
 class Tabellenkopf : public QWidget {
 public:
-    Tabellenkopf(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern);
+    enum class Form { Tabelle, Listung };
 
-    int höhe() const { return m_höhe; }
+    Tabellenkopf(const Anordnung& tabelle, Form form, Ansicht& ansicht, QWidget* eltern);
+
     /// What stands over the column, from top to bottom.
     std::vector<Etikett*> etiketten(std::size_t spalte) const;
-    /// Places everything; the height does not depend on the width.
+    /// Takes the width and the height that it needs, at the top of its parent, and places everything. The columns end
+    /// at the right edge.
     void ordne(int breite, const std::vector<int>& spalten);
+    /// The height that it took.
+    int höhe() const { return m_höhe; }
 
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
@@ -56,45 +58,19 @@ private:
         Etikett* titel = nullptr;
         std::size_t von = 0;
         std::size_t bis = 0;
-        QRect unterstrich;
     };
 
     void baueFüller(const Anordnung& tabelle, Ansicht& ansicht);
-    void baueGruppen(const Anordnung& tabelle, const std::vector<int>& spalten);
-    void messe(const std::vector<int>& spalten);
+    void baueGruppen(const std::vector<Tabellenspalte>& spalten);
+    int titelhöhe(std::size_t von, std::size_t bis, const std::vector<int>& spalten) const;
 
+    Form m_form;
     Etikett* m_titel;
     std::vector<Etikett*> m_titelzeile; ///< nullptr where the column has no title
     std::vector<QWidget*> m_füller;     ///< nullptr where it has no "!"
     std::vector<Gruppe> m_gruppen;
-    int m_gruppenhöhe = 0;
-    int m_titelhöhe = 0;
     int m_fußhöhe = 0;
     int m_höhe = 0;
-};
-
-/// The rows, all of them.
-class Tabellenblatt : public Handfläche {
-public:
-    Tabellenblatt(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern);
-
-    /// Row and column say together what a cell asks.
-    void beschrifteZellen(const Tabellenkopf& kopf);
-    int höheBei(int breite) const;
-    /// Height of the first rows, as many as must always be in sight.
-    int mindesthöhe() const;
-    int bevorzugteBreite() const;
-    QSize sizeHint() const override { return {width(), height()}; }
-
-protected:
-    void ordne() override;
-
-private:
-    void fügeZeile(const Anordnung& zeile, const std::vector<Tabellenspalte>& köpfe, Ansicht& ansicht);
-    int zeilenhöhe() const;
-
-    std::vector<Antwortzeile*> m_zeilen;
-    std::vector<int> m_spalten;
 };
 
 /// Rows of answers that scroll under a head that stands still.
@@ -110,9 +86,11 @@ protected:
     bool viewportEvent(QEvent* ereignis) override;
 
 private:
+    class Blatt;
+
     void ordne();
 
     std::vector<int> m_spalten;
     Tabellenkopf* m_kopf = nullptr;
-    Tabellenblatt* m_blatt = nullptr;
+    Blatt* m_blatt = nullptr;
 };

@@ -12,43 +12,42 @@
 
 namespace {
 
-Etikett* formeTitel(Etikett* titel)
+Etikett* formeTitel(Etikett* titel, bool linksbündig)
 {
     titel->brichAmBindestrich();
     titel->setFont(schrift(Schriftrolle::Spaltenkopf));
     titel->setProperty("rolle", "kopf");
-    titel->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    titel->setAlignment((linksbündig ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignBottom);
     titel->setWordWrap(true);
-    titel->setIndent(0);
+    titel->setIndent(0); // it would lift the text as well
+    titel->setContentsMargins(linksbündig ? em(0.45) : 0, 0, 0, 0);
     titel->setAccessibleName(gesprochen(titel->text()));
     return titel;
 }
 
-Etikett* macheTitel(const std::string& text, QWidget* eltern)
+Etikett* macheTitel(const std::string& text, QWidget* eltern, bool linksbündig = false)
 {
-    return text.empty() ? nullptr : formeTitel(new Etikett(alsMehrzeiler(text), eltern));
-}
-
-Etikett* macheTitel(const Tabellenspalte& spalte, Ansicht& ansicht, QWidget* eltern)
-{
-    return spalte.kopf == nullptr ? macheTitel(spalte.titel, eltern)
-                                  : formeTitel(dynamic_cast<Etikett*>(zeichneElement(*spalte.kopf, ansicht, eltern)));
+    return text.empty() ? nullptr : formeTitel(new Etikett(alsMehrzeiler(text), eltern), linksbündig);
 }
 
 } // namespace
 
-Tabellenkopf::Tabellenkopf(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern)
-    : QWidget(eltern), m_titel(new Etikett(alsQString(tabelle.text), this))
+Tabellenkopf::Tabellenkopf(const Anordnung& tabelle, Form form, Ansicht& ansicht, QWidget* eltern)
+    : QWidget(eltern), m_form(form),
+      m_titel(new Etikett(form == Form::Tabelle ? alsQString(tabelle.text) : QString(), this))
 {
     m_titel->setFont(schrift(Schriftrolle::Kartentitel));
-    std::vector<int> breiten;
+    m_titel->setHidden(form == Form::Listung);
+    m_fußhöhe = m_titel->text().isEmpty() ? 0 : m_titel->QLabel::sizeHint().height();
     for (const auto& spalte : tabelle.spalten) {
-        breiten.push_back(em(spalte.breite));
-        m_titelzeile.push_back(macheTitel(spalte, ansicht, this));
+        const bool linksbündig = form == Form::Listung && m_titelzeile.size() < linksbündigeSpalten;
+        m_titelzeile.push_back(
+            spalte.kopf == nullptr
+                ? macheTitel(spalte.titel, this, linksbündig)
+                : formeTitel(dynamic_cast<Etikett*>(zeichneElement(*spalte.kopf, ansicht, this)), linksbündig));
     }
     baueFüller(tabelle, ansicht);
-    baueGruppen(tabelle, breiten);
-    messe(breiten);
+    baueGruppen(tabelle.spalten);
 }
 
 void Tabellenkopf::baueFüller(const Anordnung& tabelle, Ansicht& ansicht)
@@ -58,27 +57,20 @@ void Tabellenkopf::baueFüller(const Anordnung& tabelle, Ansicht& ansicht)
         if (m_füller.back() != nullptr) {
             const auto name = verbinde(tabelle.text, ' ', spalte.gruppe, ' ', spalte.titel);
             benenneFüller(*m_füller.back(), name);
+            m_fußhöhe = std::max(m_fußhöhe, m_füller.back()->maximumHeight() + em(0.2));
         }
     }
 }
 
-void Tabellenkopf::baueGruppen(const Anordnung& tabelle, const std::vector<int>& spalten)
+void Tabellenkopf::baueGruppen(const std::vector<Tabellenspalte>& spalten)
 {
-    for (std::size_t i = 0; i < tabelle.spalten.size(); ++i) {
-        const auto& name = tabelle.spalten[i].gruppe;
-        if (name.empty()) {
-            continue;
-        }
-        if (!m_gruppen.empty() && m_gruppen.back().bis + 1 == i && tabelle.spalten[i - 1].gruppe == name) {
+    for (std::size_t i = 0; i < spalten.size(); ++i) {
+        const auto& name = spalten[i].gruppe;
+        if (i > 0 && !name.empty() && spalten[i - 1].gruppe == name) {
             m_gruppen.back().bis = i;
-        } else {
-            m_gruppen.push_back({macheTitel(name, this), i, i, {}});
+        } else if (!name.empty()) {
+            m_gruppen.push_back({macheTitel(name, this), i, i});
         }
-    }
-    for (const auto& gruppe : m_gruppen) {
-        const int breite = std::accumulate(spalten.begin() + static_cast<std::ptrdiff_t>(gruppe.von),
-                                           spalten.begin() + static_cast<std::ptrdiff_t>(gruppe.bis) + 1, 0);
-        m_gruppenhöhe = std::max(m_gruppenhöhe, gruppe.titel->heightForWidth(breite) + em(0.3));
     }
 }
 
@@ -96,32 +88,31 @@ std::vector<Etikett*> Tabellenkopf::etiketten(std::size_t spalte) const
     return alle;
 }
 
-void Tabellenkopf::messe(const std::vector<int>& spalten)
+int Tabellenkopf::titelhöhe(std::size_t von, std::size_t bis, const std::vector<int>& spalten) const
 {
-    for (std::size_t i = 0; i < m_titelzeile.size(); ++i) {
-        if (m_titelzeile[i] != nullptr) {
-            m_titelhöhe = std::max(m_titelhöhe, m_titelzeile[i]->heightForWidth(spalten[i]));
-        }
+    int höhe = 0;
+    for (auto i = von; i <= bis; ++i) {
+        höhe = std::max(höhe, m_titelzeile[i] == nullptr ? 0 : m_titelzeile[i]->heightForWidth(spalten[i]));
     }
-    m_fußhöhe = m_titel->text().isEmpty() ? 0 : m_titel->QLabel::sizeHint().height();
-    for (const auto* füller : m_füller) {
-        if (füller != nullptr) {
-            m_fußhöhe = std::max(m_fußhöhe, füller->maximumHeight() + em(0.2));
-        }
-    }
-    m_höhe = m_gruppenhöhe + m_titelhöhe + m_fußhöhe + em(0.35);
+    return höhe;
 }
 
 void Tabellenkopf::ordne(int breite, const std::vector<int>& spalten)
 {
-    const int fuß = m_gruppenhöhe + m_titelhöhe;
-    const int anfang = breite - std::accumulate(spalten.begin(), spalten.end(), 0);
-    m_titel->setGeometry(em(0.28), m_höhe - em(1.6), anfang - em(0.3), em(1.4));
-    std::vector<int> links{anfang};
+    std::vector<int> links{std::max(0, breite - std::accumulate(spalten.begin(), spalten.end(), 0))};
+    for (const int spalte : spalten) {
+        links.push_back(links.back() + spalte);
+    }
+    const int titel = titelhöhe(0, spalten.size() - 1, spalten);
+    const int abstand = m_form == Form::Tabelle ? em(0.3) : 0; // for the line under a group
+    int fuß = titel;
+    for (const auto& gruppe : m_gruppen) {
+        const int eigene = titelhöhe(gruppe.von, gruppe.bis, spalten);
+        fuß = std::max(fuß, gruppe.titel->heightForWidth(links[gruppe.bis + 1] - links[gruppe.von]) + abstand + eigene);
+    }
     for (std::size_t i = 0; i < spalten.size(); ++i) {
-        links.push_back(links.back() + spalten[i]);
         if (m_titelzeile[i] != nullptr) {
-            m_titelzeile[i]->setGeometry(links[i], m_gruppenhöhe, spalten[i], m_titelhöhe);
+            m_titelzeile[i]->setGeometry(links[i], fuß - titel, spalten[i], titel);
         }
         if (auto* füller = m_füller[i]) {
             const QSize größe = füller->maximumSize();
@@ -129,11 +120,19 @@ void Tabellenkopf::ordne(int breite, const std::vector<int>& spalten)
                                 größe.height());
         }
     }
-    for (auto& gruppe : m_gruppen) {
-        const int gruppenbreite = links[gruppe.bis + 1] - links[gruppe.von];
-        gruppe.titel->setGeometry(links[gruppe.von], 0, gruppenbreite, m_gruppenhöhe - em(0.3));
-        gruppe.unterstrich = QRect(links[gruppe.von] + 4, m_gruppenhöhe - em(0.15), gruppenbreite - 8, 1);
+    for (const auto& gruppe : m_gruppen) {
+        const int eigene = titelhöhe(gruppe.von, gruppe.bis, spalten);
+        gruppe.titel->setGeometry(links[gruppe.von], 0, links[gruppe.bis + 1] - links[gruppe.von],
+                                  fuß - eigene - abstand);
+        for (auto i = gruppe.von; i <= gruppe.bis; ++i) {
+            if (m_titelzeile[i] != nullptr) {
+                m_titelzeile[i]->setGeometry(links[i], fuß - eigene, spalten[i], eigene);
+            }
+        }
     }
+    m_höhe = fuß + m_fußhöhe + em(m_form == Form::Tabelle ? 0.35 : 0.25);
+    m_titel->setGeometry(em(0.28), m_höhe - em(1.6), links.front() - em(0.3), em(1.4));
+    setGeometry(0, 0, breite, m_höhe);
 }
 
 void Tabellenkopf::paintEvent(QPaintEvent* /*ereignis*/)
@@ -142,6 +141,9 @@ void Tabellenkopf::paintEvent(QPaintEvent* /*ereignis*/)
     const auto& f = farben();
     maler.fillRect(0, height() - 1, width(), 1, f.feldrand);
     for (const auto& gruppe : m_gruppen) {
-        maler.fillRect(gruppe.unterstrich, f.feldrand);
+        const QRect titel = gruppe.titel->geometry();
+        if (m_form == Form::Tabelle) {
+            maler.fillRect(titel.left() + 4, titel.height() + em(0.3) - em(0.15), titel.width() - 8, 1, f.feldrand);
+        }
     }
 }

@@ -2,7 +2,7 @@
 
 #include "platform/elemente/Elemente.h"
 #include "platform/qt/Ansicht.h"
-#include "platform/qt/Eingabefilter.h"
+#include "platform/qt/Feldhinweis.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 
@@ -85,13 +85,6 @@ Textblock::Textblock(Textfeld& element, Ansicht& ansicht, QWidget* eltern)
     ansicht.binde(element, *this, [this] { übernimm(); });
 }
 
-void Textblock::setzeText(const QString& text)
-{
-    m_wirdGefüllt = true;
-    setPlainText(text);
-    m_wirdGefüllt = false;
-}
-
 /// As the document holds it; `toPlainText` would make blanks of no-break spaces.
 QString Textblock::rohtext() const
 {
@@ -104,7 +97,9 @@ QString Textblock::rohtext() const
 void Textblock::übernimm()
 {
     if (const auto neu = alsMehrzeiler(m_element.text()); rohtext() != neu) {
-        setzeText(neu);
+        m_wirdGefüllt = true;
+        setPlainText(neu);
+        m_wirdGefüllt = false;
     }
 }
 
@@ -112,15 +107,10 @@ void Textblock::übernimm()
 void Textblock::ersetze(const QString& genommen, int marke)
 {
     const auto roh = rohtext();
-    const auto kürzere = std::min(roh.size(), genommen.size());
-    qsizetype vorn = 0;
-    while (vorn < kürzere && roh[vorn] == genommen[vorn]) {
-        ++vorn;
-    }
-    qsizetype hinten = 0;
-    while (hinten < kürzere - vorn && roh[roh.size() - 1 - hinten] == genommen[genommen.size() - 1 - hinten]) {
-        ++hinten;
-    }
+    const auto vorn = std::ranges::mismatch(roh, genommen).in1 - roh.begin();
+    const auto gleichesEnde = std::mismatch(roh.rbegin(), roh.rend(), genommen.rbegin(), genommen.rend());
+    const qsizetype übrig = std::min(roh.size(), genommen.size()) - vorn;
+    const auto hinten = std::min<qsizetype>(gleichesEnde.first - roh.rbegin(), übrig);
     QTextCursor stelle(document());
     stelle.setPosition(static_cast<int>(vorn));
     stelle.setPosition(static_cast<int>(roh.size() - hinten), QTextCursor::KeepAnchor);

@@ -45,7 +45,6 @@ private:
     void übernimm();
     void übertrage();
     void fügeEin(const QString& getippt);
-    void setzeText(const QString& text);
     QString rohtext() const;
     void ersetze(const QString& genommen, int marke);
 

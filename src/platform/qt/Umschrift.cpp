@@ -1,9 +1,6 @@
 #include "platform/qt/Umschrift.h"
 
-#include "platform/text/Eingabe.h"
 #include "platform/text/Zeichensatz.h"
-
-#include <QList>
 
 QString alsQString(std::string_view text)
 {
@@ -17,10 +14,8 @@ QString alsQString(std::string_view text)
 
 QString alsMehrzeiler(std::string_view text)
 {
-    QString ergebnis = alsQString(text);
-    ergebnis.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    ergebnis.replace(QChar('\r'), QChar('\n'));
-    return ergebnis;
+    const auto zeichen = alsFeldtext(text, true);
+    return QString::fromUcs4(zeichen.data(), std::ssize(zeichen));
 }
 
 std::u32string alsZeichen(const QString& text)
@@ -32,4 +27,9 @@ std::u32string alsZeichen(const QString& text)
 std::string alsText(const QString& text)
 {
     return nimmEingabe(alsZeichen(text), true).text;
+}
+
+Feldänderung filtere(std::string_view bisher, const QString& jetzt, int marke, bool mehrzeilig, std::size_t höchstlänge)
+{
+    return nimmÄnderung(bisher, alsZeichen(jetzt), alsZeichen(jetzt.left(marke)).size(), mehrzeilig, höchstlänge);
 }

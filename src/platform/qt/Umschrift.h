@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/text/Eingabe.h"
+
 #include <QString>
 
 #include <string>
@@ -16,3 +18,8 @@ QString alsMehrzeiler(std::string_view text);
 std::string alsText(const QString& text);
 /// The Unicode characters of the text.
 std::u32string alsZeichen(const QString& text);
+
+/// What the field takes of a change: it held `bisher`, its widget now shows `jetzt` with the cursor behind `marke`
+/// of Qt's characters.
+Feldänderung filtere(std::string_view bisher, const QString& jetzt, int marke, bool mehrzeilig,
+                     std::size_t höchstlänge);

@@ -4,6 +4,8 @@
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Antwortfeld.h"
 #include "platform/qt/Auswahlbox.h"
+#include "platform/qt/Knoepfe.h"
+#include "platform/qt/Vorlesekinder.h"
 #include "platform/qt/Vorlesen.h"
 
 #include <QAbstractItemView>
@@ -75,95 +77,143 @@ void Vorlesefeld::doAction(const QString& aktion)
     }
 }
 
-Vorleseknopf::Vorleseknopf(QAbstractButton& knopf, Ansicht& ansicht, QAccessible::Role rolle)
-    : Vorlesefeld(knopf, ansicht, rolle), m_knopf(knopf)
-{}
+namespace {
 
-QString Vorleseknopf::text(QAccessible::Text art) const
-{
-    if (art == QAccessible::Name && m_knopf.accessibleName().isEmpty()) {
-        const auto name = gesprochen(m_knopf.text());
-        return name.isEmpty() ? QStringLiteral("entfällt") : name; // an empty cover: what it covers is not asked
+/// Buttons: push button, option of a group, check box.
+class Vorleseknopf : public Vorlesefeld {
+public:
+    Vorleseknopf(QAbstractButton& knopf, Ansicht& ansicht, QAccessible::Role rolle)
+        : Vorlesefeld(knopf, ansicht, rolle), m_knopf(knopf)
+    {}
+
+    QString text(QAccessible::Text art) const override
+    {
+        if (art == QAccessible::Name && m_knopf.accessibleName().isEmpty()) {
+            const auto name = gesprochen(m_knopf.text());
+            return name.isEmpty() ? QStringLiteral("entfällt") : name; // an empty cover: what it covers is not asked
+        }
+        return Vorlesefeld::text(art);
     }
-    return Vorlesefeld::text(art);
-}
+    QAccessible::State state() const override
+    {
+        auto zustand = Vorlesefeld::state();
+        zustand.checkable = m_knopf.isCheckable();
+        zustand.checked = m_knopf.isChecked();
+        zustand.pressed = m_knopf.isDown();
+        return zustand;
+    }
 
-QAccessible::State Vorleseknopf::state() const
-{
-    auto zustand = Vorlesefeld::state();
-    zustand.checkable = m_knopf.isCheckable();
-    zustand.checked = m_knopf.isChecked();
-    zustand.pressed = m_knopf.isDown();
-    return zustand;
-}
+private:
+    QAbstractButton& m_knopf;
+};
 
-QString Vorlesewahl::text(QAccessible::Text art) const
-{
+/// A field whose value is picked. As with every choice on Unix its name is the value, and the question is its label;
+/// elsewhere the name is the question.
+class Vorlesewahl : public Vorlesefeld {
+public:
+    Vorlesewahl(QWidget& widget, Ansicht& ansicht) : Vorlesefeld(widget, ansicht, QAccessible::ComboBox) {}
+
+    QString text(QAccessible::Text art) const override
+    {
 #ifdef Q_OS_UNIX
-    const bool istWert = art == QAccessible::Value || art == QAccessible::Name;
+        const bool istWert = art == QAccessible::Value || art == QAccessible::Name;
 #else
-    const bool istWert = art == QAccessible::Value;
+        const bool istWert = art == QAccessible::Value;
 #endif
-    return istWert ? wert() : Vorlesefeld::text(art);
-}
-
-Vorleseantwort::Vorleseantwort(Antwortfeld& feld, Ansicht& ansicht) : Vorlesewahl(feld, ansicht), m_feld(feld)
-{}
-
-QString Vorleseantwort::wert() const
-{
-    return m_feld.gesprochenerText();
-}
-
-Vorleseauswahl::Vorleseauswahl(Auswahlbox& box, Ansicht& ansicht) : Vorlesekinder(box, ansicht), m_box(box)
-{}
-
-QString Vorleseauswahl::wert() const
-{
-    const auto text = m_box.gezeigterText();
-    return text.isEmpty() ? QStringLiteral("leer") : text;
-}
-
-QAccessible::State Vorleseauswahl::state() const
-{
-    auto zustand = Vorlesewahl::state();
-    zustand.hasPopup = true;
-    zustand.expandable = true;
-    zustand.editable = m_box.isEditable();
-    return zustand;
-}
-
-/// The list only while it is open: asking for it would build it, which takes its time with all nations.
-QWidgetList Vorleseauswahl::kinder() const
-{
-    QWidgetList alle;
-    if (m_box.isEditable()) {
-        alle << m_box.lineEdit();
+        return istWert ? wert() : Vorlesefeld::text(art);
     }
-    if (auto* liste = m_box.findChild<QAbstractItemView*>(); liste != nullptr && liste->isVisible()) {
-        alle << liste;
-    }
-    return alle;
-}
 
-QStringList Vorleseauswahl::actionNames() const
-{
-    auto namen = Vorlesewahl::actionNames();
-    if (m_box.isEnabled()) {
-        namen.prepend(showMenuAction());
-    }
-    return namen;
-}
+protected:
+    virtual QString wert() const = 0;
+};
 
-void Vorleseauswahl::doAction(const QString& aktion)
-{
-    if (aktion != showMenuAction() && aktion != pressAction()) {
-        Vorlesewahl::doAction(aktion);
-    } else if (istErreichbar()) {
-        QTimer::singleShot(0, &m_box, [&wege = ansicht(), &box = m_box] {
-            if (fokussiere(wege, box)) {
-                box.showPopup();
-            }
-        });
+/// The answer field: a choice that changes by a press or by left and right, without a list. "k.A." is said to be open.
+class Vorleseantwort : public Vorlesewahl {
+public:
+    Vorleseantwort(Antwortfeld& feld, Ansicht& ansicht) : Vorlesewahl(feld, ansicht), m_feld(feld) {}
+
+protected:
+    QString wert() const override { return m_feld.gesprochenerText(); }
+
+private:
+    Antwortfeld& m_feld;
+};
+
+/// The combo box; a number combo has the text in it as a child, an open list is a child too.
+class Vorleseauswahl : public Vorlesekinder<Vorlesewahl> {
+public:
+    Vorleseauswahl(Auswahlbox& box, Ansicht& ansicht) : Vorlesekinder(box, ansicht), m_box(box) {}
+
+    QAccessible::State state() const override
+    {
+        auto zustand = Vorlesewahl::state();
+        zustand.hasPopup = true;
+        zustand.expandable = true;
+        zustand.editable = m_box.isEditable();
+        return zustand;
     }
+    QStringList actionNames() const override
+    {
+        auto namen = Vorlesewahl::actionNames();
+        if (m_box.isEnabled()) {
+            namen.prepend(showMenuAction());
+        }
+        return namen;
+    }
+    void doAction(const QString& aktion) override
+    {
+        if (aktion != showMenuAction() && aktion != pressAction()) {
+            Vorlesewahl::doAction(aktion);
+        } else if (istErreichbar()) {
+            QTimer::singleShot(0, &m_box, [&wege = ansicht(), &box = m_box] {
+                if (fokussiere(wege, box)) {
+                    box.showPopup();
+                }
+            });
+        }
+    }
+
+protected:
+    QString wert() const override
+    {
+        const auto text = m_box.gezeigterText();
+        return text.isEmpty() ? QStringLiteral("leer") : text;
+    }
+    /// The list only while it is open: asking for it would build it, which takes its time with all nations.
+    QWidgetList kinder() const override
+    {
+        QWidgetList alle;
+        if (m_box.isEditable()) {
+            alle << m_box.lineEdit();
+        }
+        if (auto* liste = m_box.findChild<QAbstractItemView*>(); liste != nullptr && liste->isVisible()) {
+            alle << liste;
+        }
+        return alle;
+    }
+
+private:
+    Auswahlbox& m_box;
+};
+
+} // namespace
+
+QAccessibleInterface* vorlesefeldFür(QWidget& widget, Ansicht& ansicht)
+{
+    if (auto* antwort = dynamic_cast<Antwortfeld*>(&widget)) {
+        return new Vorleseantwort(*antwort, ansicht);
+    }
+    if (auto* box = dynamic_cast<Auswahlbox*>(&widget)) {
+        return new Vorleseauswahl(*box, ansicht);
+    }
+    if (auto* knopf = dynamic_cast<Knopf*>(&widget)) {
+        return new Vorleseknopf(*knopf, ansicht, QAccessible::Button);
+    }
+    if (auto* option = dynamic_cast<Optionsknopf*>(&widget)) {
+        return new Vorleseknopf(*option, ansicht, QAccessible::RadioButton);
+    }
+    if (auto* kästchen = dynamic_cast<Ankreuzkästchen*>(&widget)) {
+        return new Vorleseknopf(*kästchen, ansicht, QAccessible::CheckBox);
+    }
+    return nullptr;
 }

@@ -3,13 +3,130 @@
 #include "platform/elemente/Elemente.h"
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Listenansicht.h"
+#include "platform/qt/Vorlesefeld.h"
 
 #include <QHeaderView>
 #include <QTimer>
 
+#include <unordered_map>
+
 namespace {
 
 constexpr int kopfzeile = -1;
+
+/// The table; its cells are made as they are asked for.
+class Vorleseliste : public Vorlesefeld, public QAccessibleTableInterface {
+public:
+    Vorleseliste(Listenansicht& liste, Ansicht& ansicht)
+        : Vorlesefeld(liste, ansicht, QAccessible::Table), m_liste(liste)
+    {}
+    ~Vorleseliste() override { vergissZellen(); }
+
+    void* interface_cast(QAccessible::InterfaceType art) override
+    {
+        return art == QAccessible::TableInterface ? static_cast<QAccessibleTableInterface*>(this)
+                                                  : Vorlesefeld::interface_cast(art);
+    }
+    QAccessibleInterface* focusChild() const override
+    {
+        const auto jetzt = m_liste.currentIndex();
+        return m_liste.hasFocus() && jetzt.isValid() ? cellAt(jetzt.row(), jetzt.column()) : Vorlesefeld::focusChild();
+    }
+    QAccessibleInterface* childAt(int x, int y) const override
+    {
+        const auto ort = m_liste.indexAt(m_liste.viewport()->mapFromGlobal(QPoint(x, y)));
+        return ort.isValid() ? cellAt(ort.row(), ort.column()) : nullptr;
+    }
+    int childCount() const override { return (rowCount() + 1) * columnCount(); }
+    QAccessibleInterface* child(int stelle) const override;
+    int indexOfChild(const QAccessibleInterface* kind) const override;
+
+    /// The heads are row -1.
+    QAccessibleInterface* cellAt(int zeile, int spalte) const override
+    {
+        const bool gibtEs = zeile >= kopfzeile && zeile < rowCount() && spalte >= 0 && spalte < columnCount();
+        return gibtEs ? child((zeile + 1) * columnCount() + spalte) : nullptr;
+    }
+    QAccessibleInterface* caption() const override { return nullptr; }
+    QAccessibleInterface* summary() const override { return nullptr; }
+    int columnCount() const override { return isValid() ? m_liste.model()->columnCount() : 0; }
+    int rowCount() const override { return isValid() ? m_liste.model()->rowCount() : 0; }
+    QString columnDescription(int spalte) const override
+    {
+        return isValid() ? m_liste.model()->headerData(spalte, Qt::Horizontal).toString() : QString();
+    }
+    QString rowDescription(int /*zeile*/) const override { return {}; }
+    int selectedCellCount() const override { return selectedRowCount() * columnCount(); }
+    QList<QAccessibleInterface*> selectedCells() const override
+    {
+        QList<QAccessibleInterface*> zellen;
+        for (const int zeile : selectedRows()) {
+            for (int spalte = 0; spalte < columnCount(); ++spalte) {
+                zellen.append(cellAt(zeile, spalte));
+            }
+        }
+        return zellen;
+    }
+    int selectedRowCount() const override { return static_cast<int>(selectedRows().size()); }
+    QList<int> selectedRows() const override
+    {
+        QList<int> zeilen;
+        for (const auto& gewählte : m_liste.selectionModel()->selectedRows()) {
+            zeilen.append(gewählte.row());
+        }
+        return zeilen;
+    }
+    bool isRowSelected(int zeile) const override { return selectedRows().contains(zeile); }
+    bool selectRow(int zeile) override
+    {
+        if (zeile < 0 || zeile >= rowCount()) {
+            return false;
+        }
+        klicke(zeile, 0);
+        return true;
+    }
+    bool unselectRow(int /*zeile*/) override { return false; }
+    int selectedColumnCount() const override { return 0; }
+    QList<int> selectedColumns() const override { return {}; }
+    bool isColumnSelected(int /*spalte*/) const override { return false; }
+    bool selectColumn(int /*spalte*/) override { return false; }
+    bool unselectColumn(int /*spalte*/) override { return false; }
+    void modelChange(QAccessibleTableModelChangeEvent* /*ereignis*/) override { vergissZellen(); }
+
+    /// For the cells: the click on row (-1: head) and column.
+    void klicke(int zeile, int spalte)
+    {
+        if (!istErreichbar()) {
+            return;
+        }
+        // the rows may be others when the rule has run: the cell that asked is gone by then
+        QTimer::singleShot(0, &m_liste, [&wege = ansicht(), &liste = m_liste, zeile, spalte] {
+            auto* element = fokussiere(wege, liste) ? dynamic_cast<Liste*>(wege.elementVon(&liste)) : nullptr;
+            if (element == nullptr || zeile >= static_cast<int>(element->anzahl())) {
+                return;
+            }
+            wege.ereignis([&] {
+                if (zeile == kopfzeile) {
+                    element->klickeKopf(static_cast<std::size_t>(spalte) + 1);
+                } else {
+                    element->klickeZeile(static_cast<std::size_t>(zeile) + 1);
+                }
+            });
+        });
+    }
+
+private:
+    void vergissZellen()
+    {
+        for (const auto& [stelle, zelle] : m_zellen) {
+            QAccessible::deleteAccessibleInterface(zelle);
+        }
+        m_zellen.clear();
+    }
+
+    Listenansicht& m_liste;
+    mutable std::unordered_map<int, QAccessible::Id> m_zellen; ///< those that were asked for, by place
+};
 
 /// A cell or the head of a column. It belongs to no object of its own, only to the list.
 class Zelle : public QAccessibleInterface, public QAccessibleTableCellInterface, public QAccessibleActionInterface {
@@ -121,46 +238,6 @@ private:
     int m_spalte;
 };
 
-} // namespace
-
-Vorleseliste::Vorleseliste(Listenansicht& liste, Ansicht& ansicht)
-    : Vorlesefeld(liste, ansicht, QAccessible::Table), m_liste(liste)
-{}
-
-Vorleseliste::~Vorleseliste()
-{
-    vergissZellen();
-}
-
-void Vorleseliste::vergissZellen()
-{
-    for (const auto& [stelle, zelle] : m_zellen) {
-        QAccessible::deleteAccessibleInterface(zelle);
-    }
-    m_zellen.clear();
-}
-
-void* Vorleseliste::interface_cast(QAccessible::InterfaceType art)
-{
-    return art == QAccessible::TableInterface ? static_cast<QAccessibleTableInterface*>(this)
-                                              : Vorlesefeld::interface_cast(art);
-}
-
-int Vorleseliste::columnCount() const
-{
-    return isValid() ? m_liste.model()->columnCount() : 0;
-}
-
-int Vorleseliste::rowCount() const
-{
-    return isValid() ? m_liste.model()->rowCount() : 0;
-}
-
-int Vorleseliste::childCount() const
-{
-    return (rowCount() + 1) * columnCount();
-}
-
 QAccessibleInterface* Vorleseliste::child(int stelle) const
 {
     if (stelle < 0 || stelle >= childCount()) {
@@ -181,98 +258,9 @@ int Vorleseliste::indexOfChild(const QAccessibleInterface* kind) const
     return zelle == nullptr ? -1 : (zelle->rowIndex() + 1) * columnCount() + zelle->columnIndex();
 }
 
-QAccessibleInterface* Vorleseliste::cellAt(int zeile, int spalte) const
-{
-    const bool gibtEs = zeile >= kopfzeile && zeile < rowCount() && spalte >= 0 && spalte < columnCount();
-    return gibtEs ? child((zeile + 1) * columnCount() + spalte) : nullptr;
-}
+} // namespace
 
-QAccessibleInterface* Vorleseliste::childAt(int x, int y) const
+QAccessibleInterface* vorleselisteFür(Listenansicht& liste, Ansicht& ansicht)
 {
-    const auto ort = m_liste.indexAt(m_liste.viewport()->mapFromGlobal(QPoint(x, y)));
-    return ort.isValid() ? cellAt(ort.row(), ort.column()) : nullptr;
-}
-
-QAccessibleInterface* Vorleseliste::focusChild() const
-{
-    const auto jetzt = m_liste.currentIndex();
-    return m_liste.hasFocus() && jetzt.isValid() ? cellAt(jetzt.row(), jetzt.column()) : Vorlesefeld::focusChild();
-}
-
-QString Vorleseliste::columnDescription(int spalte) const
-{
-    return isValid() ? m_liste.model()->headerData(spalte, Qt::Horizontal).toString() : QString();
-}
-
-int Vorleseliste::gewählteZeile() const
-{
-    const auto gewählte = m_liste.selectionModel()->selectedRows();
-    return gewählte.isEmpty() ? kopfzeile : gewählte.first().row();
-}
-
-QList<int> Vorleseliste::selectedRows() const
-{
-    const int zeile = gewählteZeile();
-    return zeile == kopfzeile ? QList<int>() : QList<int>{zeile};
-}
-
-int Vorleseliste::selectedRowCount() const
-{
-    return static_cast<int>(selectedRows().size());
-}
-
-bool Vorleseliste::isRowSelected(int zeile) const
-{
-    return zeile >= 0 && zeile == gewählteZeile();
-}
-
-QList<QAccessibleInterface*> Vorleseliste::selectedCells() const
-{
-    QList<QAccessibleInterface*> zellen;
-    for (const int zeile : selectedRows()) {
-        for (int spalte = 0; spalte < columnCount(); ++spalte) {
-            zellen.append(cellAt(zeile, spalte));
-        }
-    }
-    return zellen;
-}
-
-int Vorleseliste::selectedCellCount() const
-{
-    return selectedRowCount() * columnCount();
-}
-
-bool Vorleseliste::selectRow(int zeile)
-{
-    if (zeile < 0 || zeile >= rowCount()) {
-        return false;
-    }
-    klicke(zeile, 0);
-    return true;
-}
-
-void Vorleseliste::klicke(int zeile, int spalte)
-{
-    if (!istErreichbar()) {
-        return;
-    }
-    // the rows may be others when the rule has run: the cell that asked is gone by then
-    QTimer::singleShot(0, &m_liste, [&wege = ansicht(), &liste = m_liste, zeile, spalte] {
-        auto* element = fokussiere(wege, liste) ? dynamic_cast<Liste*>(wege.elementVon(&liste)) : nullptr;
-        if (element == nullptr || zeile >= static_cast<int>(element->anzahl())) {
-            return;
-        }
-        wege.ereignis([&] {
-            if (zeile == kopfzeile) {
-                element->klickeKopf(static_cast<std::size_t>(spalte) + 1);
-            } else {
-                element->klickeZeile(static_cast<std::size_t>(zeile) + 1);
-            }
-        });
-    });
-}
-
-void Vorleseliste::modelChange(QAccessibleTableModelChangeEvent* /*ereignis*/)
-{
-    vergissZellen();
+    return new Vorleseliste(liste, ansicht);
 }

@@ -1,24 +1,23 @@
 #include "platform/qt/Vorlesen.h"
 
 #include "platform/qt/Ansicht.h"
-#include "platform/qt/Antwortfeld.h"
-#include "platform/qt/Auswahlbox.h"
 #include "platform/qt/Feldhinweis.h"
 #include "platform/qt/Fenster.h"
-#include "platform/qt/Knoepfe.h"
 #include "platform/qt/Listenansicht.h"
 #include "platform/qt/Textbox.h"
 #include "platform/qt/Umschrift.h"
-#include "platform/qt/Vorlesebereich.h"
 #include "platform/qt/Vorlesefeld.h"
+#include "platform/qt/Vorlesekinder.h"
 #include "platform/qt/Vorleseliste.h"
 
 #include <QAbstractItemView>
-#include <QAccessible>
 #include <QCalendarWidget>
+#include <QComboBox>
 #include <QFrame>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 #include <QVariant>
 
@@ -28,6 +27,39 @@ namespace {
 
 constexpr auto schlüsselAnsicht = "ansicht";
 
+/// An area that scrolls, as a screen reader meets it: what stands still in it (the head of a table), then what
+/// scrolls, then the scroll bars that are to be seen.
+class Vorlesebereich : public Vorlesekinder<QAccessibleWidget> {
+public:
+    explicit Vorlesebereich(QWidget* bereich) : Vorlesekinder(bereich, QAccessible::Client) {}
+
+protected:
+    QWidgetList kinder() const override
+    {
+        const auto* bereich = dynamic_cast<QAbstractScrollArea*>(widget());
+        if (bereich == nullptr) {
+            return {}; // it is being taken down
+        }
+        auto* rollendes = bereich->viewport();
+        QWidgetList leisten{bereich->horizontalScrollBar()->parentWidget(),
+                            bereich->verticalScrollBar()->parentWidget()};
+        QWidgetList alle;
+        for (auto* objekt : bereich->children()) {
+            auto* kind = objekt->isWidgetType() ? static_cast<QWidget*>(objekt) : nullptr;
+            if (kind != nullptr && kind != rollendes && !leisten.contains(kind) && !kind->isWindow()) {
+                alle << kind;
+            }
+        }
+        alle << rollendes;
+        for (auto* leiste : leisten) {
+            if (leiste != nullptr && leiste->isVisible()) {
+                alle << leiste;
+            }
+        }
+        return alle;
+    }
+};
+
 QAccessibleInterface* erzeugeFürElement(QWidget& widget)
 {
     auto* ansicht = ansichtUm(widget);
@@ -35,27 +67,13 @@ QAccessibleInterface* erzeugeFürElement(QWidget& widget)
         return nullptr;
     }
     if (ansicht->wurzel() == &widget) {
-        return new Vorleseteil(widget, QAccessible::Grouping); // named, so that the page is said when it is entered
-    }
-    if (auto* antwort = dynamic_cast<Antwortfeld*>(&widget)) {
-        return new Vorleseantwort(*antwort, *ansicht);
-    }
-    if (auto* box = dynamic_cast<Auswahlbox*>(&widget)) {
-        return new Vorleseauswahl(*box, *ansicht);
-    }
-    if (auto* knopf = dynamic_cast<Knopf*>(&widget)) {
-        return new Vorleseknopf(*knopf, *ansicht, QAccessible::Button);
-    }
-    if (auto* option = dynamic_cast<Optionsknopf*>(&widget)) {
-        return new Vorleseknopf(*option, *ansicht, QAccessible::RadioButton);
-    }
-    if (auto* kästchen = dynamic_cast<Ankreuzkästchen*>(&widget)) {
-        return new Vorleseknopf(*kästchen, *ansicht, QAccessible::CheckBox);
+        return new QAccessibleWidget(&widget,
+                                     QAccessible::Grouping); // named, so that the page is said when it is entered
     }
     if (auto* liste = dynamic_cast<Listenansicht*>(&widget)) {
-        return new Vorleseliste(*liste, *ansicht);
+        return vorleselisteFür(*liste, *ansicht);
     }
-    return nullptr;
+    return vorlesefeldFür(widget, *ansicht);
 }
 
 /// Asked by the toolkit once for each object, with the class it is and then with each class it descends from.
@@ -66,18 +84,18 @@ QAccessibleInterface* erzeuge(const QString& /*klasse*/, QObject* objekt)
         return nullptr;
     }
     if (dynamic_cast<QScrollArea*>(widget) != nullptr) {
-        return new Vorlesebereich(*widget);
+        return new Vorlesebereich(widget);
     }
-    if (typeid(*widget) == typeid(QFrame)) {
+    if (typeid(*widget) == typeid(QFrame)) { // header band, button bar, hairline: the toolkit would call it a window
         const bool istLinie = widget->property("rolle").toString() == QStringLiteral("linie") ||
                               widget->property("rolle").toString() == QStringLiteral("bandstrich");
-        return new Vorleseteil(*widget, istLinie ? QAccessible::Separator : QAccessible::Grouping);
+        return new QAccessibleWidget(widget, istLinie ? QAccessible::Separator : QAccessible::Grouping);
     }
     if (widget->objectName() == QLatin1String(feldhinweis)) {
-        return new Vorleseteil(*widget, QAccessible::Notification); // spoken by itself when it appears
+        return new QAccessibleWidget(widget, QAccessible::Notification); // spoken by itself when it appears
     }
     if (dynamic_cast<Kindfenster*>(widget) != nullptr) {
-        return new Vorlesefenster(*widget);
+        return new QAccessibleWidget(widget, QAccessible::Dialog);
     }
     return erzeugeFürElement(*widget);
 }
@@ -182,31 +200,9 @@ void meldeWert(QWidget& feld, const QString& wert)
     }
 }
 
-void meldeMarke(QWidget& feld)
-{
-    if (QAccessible::isActive()) {
-        QAccessible::State anders;
-        anders.checked = true;
-        QAccessibleStateChangeEvent gewechselt(&feld, anders);
-        QAccessible::updateAccessibility(&gewechselt);
-    }
-}
-
 QString gesprochen(const QString& beschriftung)
 {
-    QString ergebnis;
-    for (qsizetype i = 0; i < beschriftung.size(); ++i) {
-        const QChar zeichen = beschriftung[i];
-        const QChar nächstes = i + 1 < beschriftung.size() ? beschriftung[i + 1] : QChar();
-        const QChar übernächstes = i + 2 < beschriftung.size() ? beschriftung[i + 2] : QChar();
-        if (zeichen == QChar('&')) {
-            ergebnis += nächstes == QChar('&') ? QStringLiteral("&") : QString();
-            i += nächstes == QChar('&') ? 1 : 0;
-        } else if (zeichen == QChar('-') && nächstes.isSpace() && übernächstes.isLower()) {
-            ++i; // a word that the drawing breaks
-        } else {
-            ergebnis += zeichen.isSpace() ? QChar(' ') : zeichen;
-        }
-    }
-    return ergebnis.simplified();
+    static const QRegularExpression kürzel(QStringLiteral("&(.?)"));
+    static const QRegularExpression trennung(QStringLiteral("-\\s(?=\\p{Ll})")); // in a word that the drawing breaks
+    return QString(beschriftung).replace(kürzel, QStringLiteral("\\1")).remove(trennung).simplified();
 }

@@ -43,8 +43,6 @@ void sprichKalender(QCalendarWidget& kalender);
 
 /// The widget shows another value now.
 void meldeWert(QWidget& feld, const QString& wert);
-/// The widget is marked or no longer marked.
-void meldeMarke(QWidget& feld);
 
 /// A caption as it is spoken: without mnemonic, and without the hyphens and breaks that only the drawing needs.
 QString gesprochen(const QString& beschriftung);

@@ -94,7 +94,7 @@ std::optional<Datum> leseDatum(std::string_view text)
 std::optional<Datum> leseDatumseingabe(std::string_view text, const Datum& heute)
 {
     auto mitPunkten = std::string(getrimmt(text));
-    const auto punkte = std::count(mitPunkten.begin(), mitPunkten.end(), '.');
+    const auto punkte = std::ranges::count(mitPunkten, '.');
     if (punkte == 0 && (mitPunkten.size() == 6 || mitPunkten.size() == 8)) {
         mitPunkten.insert(4, 1, '.').insert(2, 1, '.');
     } else if (punkte == 1 || (punkte == 2 && mitPunkten.ends_with('.'))) {

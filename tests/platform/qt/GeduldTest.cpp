@@ -1,6 +1,6 @@
 #include "platform/qt/Geduld.h"
 
-#include "platform/qt/Einfaches.h"
+#include "platform/qt/Fortschritt.h"
 #include "platform/qt/Probe.h"
 
 #include <QGuiApplication>

@@ -65,9 +65,9 @@ QStringList quelltexte()
 {
     QStringList texte;
     for (const char* teil :
-         {"app", "clients", "care", "diagnosis", "export", "import", "spreadsheet", "store", "zustand"}) {
+         {"app", "clients", "care", "diagnosis", "export", "import", "spreadsheet", "satz", "store", "zustand"}) {
         const QDir src(quellen + QStringLiteral("/src/") + QString::fromLatin1(teil));
-        for (const auto& name : src.entryList({QStringLiteral("*.cpp")}, QDir::Files)) {
+        for (const auto& name : src.entryList({QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files)) {
             texte.append(inhaltVon(src.filePath(name)));
         }
     }
@@ -118,28 +118,107 @@ TEST(Handbuchtext, EveryLinkAndEveryPictureExists)
     EXPECT_GE(gezeigte.size(), 16U);
 }
 
-/// Each box that the program shows is explained: the longest piece of its text stands in the handbook.
+/// Whether the words are captions, one behind the other: "Datei > Daten > Excel" of a menu and its entry.
+bool istWegAusBeschriftungen(const QString& worte, const QString& quellen)
+{
+    if (quellen.contains(QLatin1Char('"') + worte + QLatin1Char('"'))) {
+        return true;
+    }
+    const auto trennung = worte.indexOf(QStringLiteral(" > "));
+    return trennung > 0 && istWegAusBeschriftungen(worte.left(trennung), quellen) &&
+           istWegAusBeschriftungen(worte.mid(trennung + 3), quellen);
+}
+
+/// What the handbook puts in italics are buttons and menus by the words that stand on them.
+TEST(Handbuchtext, EveryButtonIsCalledAsItIs)
+{
+    auto quellen = quelltexte().join(QString()).remove(QLatin1Char('&'));
+    quellen.remove(
+        QRegularExpression(QStringLiteral("(?<=[a-z])- (?=[a-z])"))); // "Betreuungs- ende" of a narrow button
+    const auto genannte = treffer(handbuch(), "(?<![*\\w])\\*([^*`]+)\\*(?![*\\w])");
+    for (const auto& worte : genannte) {
+        EXPECT_TRUE(istWegAusBeschriftungen(worte.simplified(), quellen))
+            << "docs/handbuch/handbuch.md: no button or menu is called \"" << worte.toStdString() << "\"";
+    }
+    EXPECT_GE(genannte.size(), 40);
+}
+
+/// What stands in the parentheses that open at `anfang`.
+QString klammerinhalt(const QString& text, qsizetype anfang)
+{
+    bool inText = false;
+    int tiefe = 0;
+    for (auto ort = anfang; ort < text.size(); ++ort) {
+        const auto zeichen = text[ort];
+        if (zeichen == QLatin1Char('\\')) {
+            ++ort;
+        } else if (zeichen == QLatin1Char('"')) {
+            inText = !inText;
+        } else if (!inText && zeichen == QLatin1Char('(')) {
+            ++tiefe;
+        } else if (!inText && zeichen == QLatin1Char(')') && --tiefe == 0) {
+            return text.mid(anfang + 1, ort - anfang - 1);
+        }
+    }
+    return {};
+}
+
+/// The sources as far as boxes are made in them: what a call that shows one is given, what it is given in a variable,
+/// and the functions that are called meldungZu…
+QStringList meldungsstellen(const QStringList& quellen)
+{
+    static const QRegularExpression aufruf(
+        QStringLiteral("(?<![\\w.])(zeigeMeldung|[\\w.()]*meldung\\(\\)|m_meldung|melde|frage =\\s*verbinde)(?=\\()"));
+    static const QRegularExpression funktion(QStringLiteral("\\n[^\\n ]* meldung\\w+\\([^)]*\\)\\n\\{(.*?)\\n\\}"),
+                                             QRegularExpression::DotMatchesEverythingOption);
+    QStringList stellen;
+    for (const auto& quelle : quellen) {
+        for (auto suche = aufruf.globalMatch(quelle); suche.hasNext();) {
+            stellen.append(klammerinhalt(quelle, suche.next().capturedEnd()));
+        }
+        for (auto suche = funktion.globalMatch(quelle); suche.hasNext();) {
+            stellen.append(suche.next().captured(1));
+        }
+    }
+    return stellen;
+}
+
+/// Each box that the program shows is explained: every part of its text that does not change stands in the handbook.
 TEST(Handbuchtext, EveryMessageIsExplained)
 {
+    constexpr int zuKurzZumSuchen = 6; // blanks, quotes, a name of a field
     const auto text = handbuch().simplified().remove(QLatin1Char('\\'));
-    int geprüfte = 0;
-    for (const auto& quelle : quelltexte()) {
-        for (const auto& aufruf : treffer(
-                 quelle, "(?:zeigeMeldung|frage =|meldeNichtsVerändert|melde\\(verbinde|meldung\\()\\s*\\(?([^;]*);")) {
-            QString längstes;
-            for (auto stück : treffer(aufruf, "\"((?:[^\"\\\\]|\\\\.)*)\"")) {
-                stück.replace(QStringLiteral("\\\""), QStringLiteral("\""));
-                for (const auto& teil : stück.split(QRegularExpression(QStringLiteral("\\\\[rn]")))) {
-                    längstes = teil.trimmed().size() > längstes.size() ? teil.simplified() : längstes;
-                }
-            }
-            if (längstes.size() >= 6) {
-                EXPECT_TRUE(text.contains(längstes)) << längstes.toStdString();
-                ++geprüfte;
+    std::set<QString> teile;
+    for (const auto& stelle : meldungsstellen(quelltexte())) {
+        for (auto stück : treffer(stelle, "\"((?:[^\"\\\\]|\\\\.)*)\"")) {
+            stück.replace(QStringLiteral("\\\""), QStringLiteral("\""));
+            for (const auto& teil : stück.split(QRegularExpression(QStringLiteral("\\\\[rn]")))) {
+                teile.insert(teil.simplified().remove(QRegularExpression(QStringLiteral("^['\" ]+|['\" ]+$"))));
             }
         }
     }
-    EXPECT_GE(geprüfte, 40);
+    for (const auto& teil : teile) {
+        EXPECT_TRUE(teil.size() < zuKurzZumSuchen || text.contains(teil))
+            << "docs/handbuch/handbuch.md, \"Was eine Meldung bedeutet\": explain the message with \""
+            << teil.toStdString() << "\"";
+    }
+    EXPECT_GE(teile.size(), 60U);
+}
+
+/// The test above reads the text of a box where it is made; this one sees to it that it is made where that test reads.
+TEST(Handbuchtext, EveryMessageIsWrittenWhereItIsLookedFor)
+{
+    static const QRegularExpression bekannte(
+        QStringLiteral("^(\"|verbinde\\(|frage,|meldung\\w+\\(|std::string_view text|text, symbol|fehler\\.text,)"));
+    for (const auto& quelle : quelltexte()) {
+        static const QRegularExpression aufruf(QStringLiteral("\\bzeigeMeldung(?=\\()"));
+        for (auto suche = aufruf.globalMatch(quelle); suche.hasNext();) {
+            const auto inhalt = klammerinhalt(quelle, suche.next().capturedEnd()).simplified();
+            EXPECT_TRUE(bekannte.match(inhalt).hasMatch() || inhalt.startsWith(QLatin1Char('{')))
+                << "zeigeMeldung(" << inhalt.toStdString()
+                << "): give it the text, verbinde(…), a variable named frage or a function named meldungZu…";
+        }
+    }
 }
 
 class Handbuchfenster : public Fensterprobe {

@@ -167,8 +167,8 @@ void OberflächeOhne::wähleDatum(Datumsfeld& feld, const Datum& datum)
 bool OberflächeOhne::gibElement(Element& element, const Tastendruck& druck, const Taste& taste)
 {
     auto* auswahl = dynamic_cast<Auswahlfeld*>(&element);
-    const bool mitLeertaste = auswahl != nullptr && !auswahl->istTippbar() && !taste.istKombination() &&
-                              taste.art == Taste::Art::Zeichen && taste.zeichen == ' ';
+    const bool mitLeertaste =
+        auswahl != nullptr && !auswahl->istTippbar() && !taste.istKombination() && taste.istLeertaste();
     if (auswahl != nullptr && (mitLeertaste || taste.klapptAuf())) {
         m_offeneListe.öffne(*auswahl);
         return true;
@@ -176,7 +176,11 @@ bool OberflächeOhne::gibElement(Element& element, const Tastendruck& druck, con
     if (auto* text = dynamic_cast<Textfeld*>(&element)) {
         return m_schreibhand.drücke(*text, druck);
     }
-    return gibTaste(element, taste) || geheInReihe(element, taste);
+    if (gibTaste(element, taste) || geheInReihe(element, taste)) {
+        return true;
+    }
+    auto* datum = dynamic_cast<Datumsfeld*>(&element);
+    return datum != nullptr && !taste.istKombination() && drückeInDatum(*datum, taste);
 }
 
 void OberflächeOhne::gib(Bildschirm& bildschirm, const Tastendruck& druck)

@@ -41,6 +41,9 @@ QtAnwendung::QtAnwendung(const Schirm& schirm)
         datei.close();
     }
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=bildschirm.json");
+    if (qEnvironmentVariableIsSet("TOLVEK_SCHRIFTEN")) {
+        qputenv("QT_QPA_FONTDIR", qgetenv("TOLVEK_SCHRIFTEN"));
+    }
     if (schirm.schärfe != 1) {
         qputenv("QT_SCALE_FACTOR", QByteArray::number(schirm.schärfe));
     }

@@ -168,3 +168,57 @@ void Schreibhand::ersetzeAlles(Textfeld& feld, std::u32string_view text)
     merke(m_text.size(), 0);
     fügeEin(text);
 }
+
+namespace {
+
+void ersetze(Datumsfeld& feld, std::size_t von, std::size_t bis, std::string_view text)
+{
+    auto neu = feld.anzeige();
+    neu.replace(von, bis - von, text);
+    feld.gibEin(neu, von + text.size());
+}
+
+void löscheIn(Datumsfeld& feld, std::size_t von, std::size_t bis, bool rückwärts)
+{
+    if (von == bis && rückwärts) {
+        von -= std::min<std::size_t>(von, 1);
+    } else if (von == bis) {
+        bis = std::min(bis + 1, feld.anzeige().size());
+    }
+    if (von != bis) {
+        ersetze(feld, von, bis, {});
+    }
+}
+
+} // namespace
+
+bool drückeInDatum(Datumsfeld& feld, const Taste& taste)
+{
+    const auto marke = feld.schreibmarke();
+    const auto von = std::min(marke, feld.anker());
+    const auto bis = std::max(marke, feld.anker());
+    const bool gewählt = von != bis && !taste.umschalt;
+    const auto gehe = [&](std::size_t ziel) {
+        feld.setzeStelle(ziel, taste.umschalt ? feld.anker() : ziel);
+        return true;
+    };
+    switch (taste.art) {
+    case Taste::Art::Zeichen:
+        ersetze(feld, von, bis, std::string_view(&taste.zeichen, 1));
+        return true;
+    case Taste::Art::Rück:
+    case Taste::Art::Entf:
+        löscheIn(feld, von, bis, taste.art == Taste::Art::Rück);
+        return true;
+    case Taste::Art::Links:
+        return gehe(gewählt ? von : marke - std::min<std::size_t>(marke, 1));
+    case Taste::Art::Rechts:
+        return gehe(gewählt ? bis : marke + 1);
+    case Taste::Art::Pos1:
+        return gehe(0);
+    case Taste::Art::Ende:
+        return gehe(feld.anzeige().size());
+    default:
+        return false;
+    }
+}

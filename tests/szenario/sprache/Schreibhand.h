@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+class Datumsfeld;
 class Textfeld;
 
 /// The editing keys of a text box where no toolkit has them: what is typed, pasted, deleted and selected, and where the
@@ -33,3 +34,6 @@ private:
     std::size_t m_schreibmarke = 0;
     std::size_t m_anker = 0; ///< the other end of what is selected
 };
+
+/// The same for a date, whose element keeps cursor and selection itself.
+bool drückeInDatum(Datumsfeld& feld, const Taste& taste);

@@ -1,14 +1,11 @@
 #pragma once
 
-#include <QLabel>
 #include <QProgressBar>
-#include <QScrollBar>
 
 class Ansicht;
-class Bild;
-class Bildlaufleiste;
 class Fortschrittsbalken;
 
+/// The progress bar.
 class Fortschritt : public QProgressBar {
 public:
     Fortschritt(Fortschrittsbalken& element, Ansicht& ansicht, QWidget* eltern);
@@ -21,15 +18,4 @@ protected:
 
 private:
     double m_anteil = 0;
-};
-
-class Laufleiste : public QScrollBar {
-public:
-    Laufleiste(Bildlaufleiste& element, Ansicht& ansicht, QWidget* eltern);
-};
-
-/// A picture that the program draws itself.
-class Bildfläche : public QLabel {
-public:
-    Bildfläche(Bild& element, Ansicht& ansicht, QWidget* eltern);
 };

@@ -1,12 +1,8 @@
-#include "platform/qt/Einfaches.h"
+#include "platform/qt/Fortschritt.h"
 
 #include "platform/elemente/Elemente.h"
 #include "platform/qt/Ansicht.h"
-#include "platform/qt/Stil.h"
 
-#include <QIcon>
-#include <QPixmap>
-#include <QSignalBlocker>
 #include <QStyleOptionProgressBar>
 #include <QStylePainter>
 
@@ -35,24 +31,4 @@ void Fortschritt::paintEvent(QPaintEvent* /*ereignis*/)
     bild.maximum = fein;
     bild.progress = static_cast<int>(m_anteil * fein);
     QStylePainter(this).drawControl(QStyle::CE_ProgressBar, bild);
-}
-
-Laufleiste::Laufleiste(Bildlaufleiste& element, Ansicht& ansicht, QWidget* eltern) : QScrollBar(Qt::Vertical, eltern)
-{
-    connect(this, &QScrollBar::valueChanged, this,
-            [&element, &ansicht](int wert) { ansicht.ereignis([&] { element.setzeWert(wert); }); });
-    ansicht.binde(element, *this, [this, &element] {
-        const QSignalBlocker still(this);
-        setRange(element.kleinstes(), element.größtes());
-        setSingleStep(element.kleinerSchritt());
-        setPageStep(element.großerSchritt());
-        setValue(element.wert());
-    });
-}
-
-Bildfläche::Bildfläche(Bild& element, Ansicht& ansicht, QWidget* eltern) : QLabel(eltern)
-{
-    setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    setPixmap(programmzeichen().pixmap(QSize(em(6), em(6)), devicePixelRatioF()));
-    ansicht.binde(element, *this);
 }
