@@ -88,13 +88,14 @@ hole_quellen() {
     mv "$q" "$arbeit/quellen"
 }
 
-# Qt writes where it is installed into the program: a place of no machine's, so that each builds the same. Configured
-# anew when a build is taken up again: over what it has found before, Qt names some of its folders otherwise.
+# Every machine has to build the same bytes. Qt writes where it is installed into the program: a place of no machine's. Its
+# own way of packing the list of file types keeps the time of the packing, the other one does not. And it is configured
+# anew when a build is taken up again: over what it has found before, it names some of its folders otherwise.
 baue() { # NAME, options
     local name=$1
     shift
     cmake --fresh -G Ninja -S "$arbeit/quellen/$name" -B "$arbeit/bau-$name" -DCMAKE_TOOLCHAIN_FILE="$arbeit/werkzeugkette.cmake" \
-        -DCMAKE_INSTALL_PREFIX=/ziel \
+        -DCMAKE_INSTALL_PREFIX=/ziel -DQT_AVOID_CMAKE_ARCHIVING_API=ON \
         -DCMAKE_C_FLAGS="-ffile-prefix-map=$arbeit=." -DCMAKE_CXX_FLAGS="-ffile-prefix-map=$arbeit=." "$@"
     cmake --build "$arbeit/bau-$name" --parallel "${TOLVEK_JOBS:-$(nproc)}"
     DESTDIR=$arbeit cmake --install "$arbeit/bau-$name" > /dev/null

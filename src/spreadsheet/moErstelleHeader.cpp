@@ -95,22 +95,24 @@ Spaltenköpfe erstelleBetrHeader(std::string_view modus)
 
 Spaltenköpfe erstelleDiagHeader()
 {
-    Spaltenköpfe köpfe{{{}, std::string("KernID"_t), std::string("fallnr"_t)},
-                       {{}, std::string("betrID"_t), std::string("betrnr"_t)}};
+    Spaltenköpfe köpfe;
+    const auto füge = [&](std::string_view thema, std::string_view frage, std::string_view name) {
+        köpfe.push_back({std::string(thema), std::string(frage), std::string(name)});
+    };
+    füge({}, "KernID"_t, "fallnr"_t);
+    füge({}, "betrID"_t, "betrnr"_t);
     for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
         for (int platz = 1; platz <= felderJeGruppe; ++platz) {
-            köpfe.push_back({std::string(gruppenname(gruppe)),
-                             std::string(gruppenlabels[static_cast<std::size_t>(platz - 1)]),
-                             spaltenname(gruppe, platz)});
+            füge(gruppenname(gruppe), gruppenlabels[static_cast<std::size_t>(platz - 1)], spaltenname(gruppe, platz));
         }
     }
     int nummer = 0;
     for (const Diagnoseart& reihe : diagnosearten) {
         for (int i = 1; i <= reihe.anzahl; ++i) {
-            köpfe.push_back({{}, verbinde("ZusatzDiagnose "_t, alsText(++nummer)), verbinde(reihe.stamm, alsText(i))});
+            füge({}, verbinde("ZusatzDiagnose "_t, alsText(++nummer)), verbinde(reihe.stamm, alsText(i)));
         }
     }
-    köpfe.emplace_back(); // the bit field
+    füge({}, {}, {}); // the bit field
     return köpfe;
 }
 

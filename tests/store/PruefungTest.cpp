@@ -333,29 +333,27 @@ TEST_F(PruefungTest, WerteDerBetreuung)
 
 TEST_F(PruefungTest, ZahlenDerBetreuung)
 {
-    struct Fall {
-        std::string_view feld;
-        std::string wert;
-        bool gut;
-    };
-    std::vector<Fall> fälle{{"Nation"_t, "Deutschland", true},
-                            {"Nation"_t, "DEU", false},
-                            {"HDohne2"_t, "WAHR", true},
-                            {"Schulden"_t, std::string("bis 10.000 €"_t), true},
-                            {"Schulden"_t, std::string("bis10.000 €"_t), false}};
-    for (const auto& [name, bereich] :
-         {std::pair{"Zuvor3"_t, werte::maßnahmen}, std::pair{"Kinder1"_t, werte::kinder},
-          std::pair{"Kontakte"_t, werte::kontakte}, std::pair{"LebUnterV"_t, werte::unterhalt}}) {
-        for (const int zahl : {bereich.von - 1, bereich.von, bereich.bis, bereich.bis + 1}) {
-            fälle.push_back({name, std::to_string(zahl), zahl >= bereich.von && zahl <= bereich.bis});
-        }
-    }
-    for (const auto& [name, wert, gut] : fälle) {
+    const auto prüfeWert = [this](std::string_view name, std::string_view wert, bool gut) {
         const int feld = betreuungsfeld(name);
         legeTabellen();
         betreuungen({ersetzeFeld(betreuung, feld, wert)});
         erwarte(gut ? std::vector<Erwartet>{} : std::vector<Erwartet>{{WertUnbekannt, Tabelle::Betr, 1, feld}});
-    }
+    };
+    const auto prüfeGrenzen = [&](std::string_view name, werte::Zahlenbereich bereich) {
+        prüfeWert(name, std::to_string(bereich.von - 1), false);
+        prüfeWert(name, std::to_string(bereich.von), true);
+        prüfeWert(name, std::to_string(bereich.bis), true);
+        prüfeWert(name, std::to_string(bereich.bis + 1), false);
+    };
+    prüfeGrenzen("Zuvor3"_t, werte::maßnahmen);
+    prüfeGrenzen("Kinder1"_t, werte::kinder);
+    prüfeGrenzen("Kontakte"_t, werte::kontakte);
+    prüfeGrenzen("LebUnterV"_t, werte::unterhalt);
+    prüfeWert("Nation"_t, "Deutschland"_t, true);
+    prüfeWert("Nation"_t, "DEU"_t, false);
+    prüfeWert("HDohne2"_t, "WAHR"_t, true);
+    prüfeWert("Schulden"_t, "bis 10.000 €"_t, true);
+    prüfeWert("Schulden"_t, "bis10.000 €"_t, false);
 }
 
 TEST_F(PruefungTest, WerteDerDiagnose)

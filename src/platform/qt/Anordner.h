@@ -3,6 +3,7 @@
 #include "platform/bildschirm/Anordnung.h"
 
 class Ansicht;
+class Etikett;
 class Karte;
 class QBoxLayout;
 class QVBoxLayout;
@@ -36,8 +37,7 @@ private:
     bool fügeWidget(QWidget& widget, QBoxLayout& ziel, bool füllt);
 
     void fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBoxLayout& ziel);
-    QWidget* macheFeldbeschriftung(const Anordnung& feld, double breite);
-    void verbindeFeld(const Anordnung& feld, QWidget& beschriftung, QWidget& zeile);
+    void verbindeFeld(const Anordnung& feld, Etikett& beschriftung, QWidget& zeile);
     Karte* macheKarte(const Anordnung& a, bool& füllt);
     QWidget* macheKartenspalte(const Anordnung& a, bool& füllt);
     /// The part as a widget of its own.

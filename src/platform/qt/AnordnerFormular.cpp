@@ -68,9 +68,9 @@ std::vector<QWidget*> felderIn(const Ansicht& ansicht, const std::vector<Element
 }
 
 /// Fields that share a question are told apart by their number.
-void benenneFelder(const std::vector<QWidget*>& felder, const QWidget& beschriftung)
+void benenneFelder(const std::vector<QWidget*>& felder, const Etikett& beschriftung)
 {
-    const auto name = gesprochen(dynamic_cast<const Etikett&>(beschriftung).text());
+    const auto name = gesprochen(beschriftung.text());
     for (std::size_t i = 0; i < felder.size(); ++i) {
         benenne(*felder[i], felder.size() == 1 ? name : name + QStringLiteral(" %1").arg(i + 1));
     }
@@ -96,15 +96,6 @@ bool Anordner::fügeFormular(const Anordnung& a, QBoxLayout& ziel)
     return füllt;
 }
 
-QWidget* Anordner::macheFeldbeschriftung(const Anordnung& feld, double breite)
-{
-    auto* beschriftung = feld.element != nullptr
-                             ? dynamic_cast<Etikett*>(zeichneElement(*feld.element, m_ansicht, m_eltern))
-                             : new Etikett(alsQString(feld.text), m_eltern);
-    beschriftung->setzeUmbruchbreite(em(breite));
-    return beschriftung;
-}
-
 void Anordner::fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBoxLayout& ziel)
 {
     auto* zeile = new Formularzeile(m_eltern);
@@ -112,7 +103,10 @@ void Anordner::fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBox
     auto* layout = new QHBoxLayout(zeile);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(em(0.5));
-    auto* beschriftung = macheFeldbeschriftung(feld, beschriftungsbreite);
+    auto* beschriftung = feld.element == nullptr
+                             ? new Etikett(alsQString(feld.text), m_eltern)
+                             : dynamic_cast<Etikett*>(zeichneElement(*feld.element, m_ansicht, m_eltern));
+    beschriftung->setzeUmbruchbreite(em(beschriftungsbreite));
     layout->addWidget(beschriftung, 0, Qt::AlignVCenter);
     for (const auto& teil : feld.teile) {
         füge(teil, *layout);
@@ -123,7 +117,7 @@ void Anordner::fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBox
 }
 
 /// The label is the name of its fields; a row whose parts are all hidden goes, unless it keeps its place.
-void Anordner::verbindeFeld(const Anordnung& feld, QWidget& beschriftung, QWidget& zeile)
+void Anordner::verbindeFeld(const Anordnung& feld, Etikett& beschriftung, QWidget& zeile)
 {
     std::vector<Element*> elemente;
     for (const auto& teil : feld.teile) {
@@ -132,7 +126,7 @@ void Anordner::verbindeFeld(const Anordnung& feld, QWidget& beschriftung, QWidge
     const auto felder = felderIn(m_ansicht, elemente);
     benenneFelder(felder, beschriftung);
     for (auto* eines : felder) {
-        beschrifte(*eines, dynamic_cast<Etikett&>(beschriftung));
+        beschrifte(*eines, beschriftung);
     }
     auto regel = zeile.sizePolicy();
     regel.setRetainSizeWhenHidden(std::ranges::any_of(feld.teile, behältPlatz));

@@ -6,7 +6,6 @@
 #include "platform/qt/Umschrift.h"
 
 #include <QCloseEvent>
-#include <QDateTime>
 #include <QGuiApplication>
 #include <QLayout>
 #include <QMenuBar>
@@ -18,22 +17,6 @@
 
 #include <algorithm>
 #include <utility>
-
-namespace {
-
-constexpr qint64 nachspielMillisekunden = 400;
-
-} // namespace
-
-void Platzwächter::beginneNachspiel()
-{
-    m_nachspielBis = QDateTime::currentMSecsSinceEpoch() + nachspielMillisekunden;
-}
-
-bool Platzwächter::istVomBenutzer(bool vomSystem) const
-{
-    return m_eigene == 0 && (!vomSystem || QDateTime::currentMSecsSinceEpoch() > m_nachspielBis);
-}
 
 QPoint inDenSchirm(QPoint ort, QSize größe)
 {

@@ -3,6 +3,7 @@
 #include "platform/bildschirm/Rahmen.h"
 #include "platform/qt/Ansicht.h"
 
+#include <QDeadlineTimer>
 #include <QMainWindow>
 
 #include <functional>
@@ -19,16 +20,16 @@ public:
         ++m_eigene;
         placing();
         --m_eigene;
-        beginneNachspiel();
+        m_nachspiel.setRemainingTime(nachspielMs);
     }
     /// `vomSystem`: the event came from the window system. For a moment after a placing that is its answer.
-    bool istVomBenutzer(bool vomSystem) const;
+    bool istVomBenutzer(bool vomSystem) const { return m_eigene == 0 && (!vomSystem || m_nachspiel.hasExpired()); }
 
 private:
-    void beginneNachspiel();
+    static constexpr qint64 nachspielMs = 400;
 
     int m_eigene = 0;
-    qint64 m_nachspielBis = 0;
+    QDeadlineTimer m_nachspiel;
 };
 
 /// The frame: menu bar and pages. What the person does with it goes to `rahmen`.

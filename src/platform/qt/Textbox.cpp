@@ -2,6 +2,7 @@
 
 #include "platform/elemente/Elemente.h"
 #include "platform/qt/Ansicht.h"
+#include "platform/qt/Eingabewaechter.h"
 #include "platform/qt/Feldhinweis.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
@@ -156,14 +157,9 @@ void Textblock::übertrage()
 
 void Textblock::keyPressEvent(QKeyEvent* ereignis)
 {
-    const bool istKombination =
-        (ereignis->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-    const bool istAltGr =
-        ereignis->modifiers().testFlag(Qt::ControlModifier) && ereignis->modifiers().testFlag(Qt::AltModifier);
-    const auto text = ereignis->text();
-    const bool istZeichen = !text.isEmpty() && text.front().unicode() >= 0x20 && text.front().unicode() != 0x7F;
-    if (istZeichen && (!istKombination || istAltGr)) {
-        fügeEin(text);
+    const auto taste = alsTaste(*ereignis);
+    if (taste && taste->art == Taste::Art::Zeichen && !taste->istKombination()) {
+        fügeEin(ereignis->text());
         ereignis->accept();
     } else {
         QPlainTextEdit::keyPressEvent(ereignis);
