@@ -13,8 +13,8 @@
 /// older care record. They are data of the installation: a facility whose older files are laid out otherwise
 /// changes them and not the program.
 
-inline constexpr auto kernanweisung = "eKernAnweisung.txt";
-inline constexpr auto diagnoseanweisung = "eDiagAnweisung.txt";
+inline constexpr auto kernanweisungsdatei = "eKernAnweisung.txt";
+inline constexpr auto diagnoseanweisungsdatei = "eDiagAnweisung.txt";
 
 enum class Spaltenanweisungsart {
     Wert,

@@ -213,7 +213,8 @@ void moimp2TolvekExportTOaltKDS(const Importort& ort, const std::filesystem::pat
     const Klientenverzeichnis klienten(dateien, kernExp);
     const Eingabedatei betreuungen(dateien, betreuungenExp);
 
-    const auto kern = leseSpaltenanweisungen(dateien, anweisungsdatei(ort, kernanweisung), altspalte::kern::anzahl);
+    const auto kern =
+        leseSpaltenanweisungen(dateien, anweisungsdatei(ort, kernanweisungsdatei), altspalte::kern::anzahl);
     const Zeitraumfelder zeitraum{kern[altspalte::kern::beginn - 1].quelle, kern[altspalte::kern::ende - 1].quelle};
     fürJedenSatz(ort.bestand, betreuungen, aKDSKern, zeitraum, [&](AltKDSZeile& zeile, const Betreuungssatz& satz) {
         baueKernzeile(zeile, klienten.werte(leseAltnummer(satz.feld(altfeld::betreuung::nummer), betreuungenExp)), satz,
@@ -221,7 +222,7 @@ void moimp2TolvekExportTOaltKDS(const Importort& ort, const std::filesystem::pat
     });
 
     const auto diagnose =
-        leseSpaltenanweisungen(dateien, anweisungsdatei(ort, diagnoseanweisung), altspalte::diag::anzahl);
+        leseSpaltenanweisungen(dateien, anweisungsdatei(ort, diagnoseanweisungsdatei), altspalte::diag::anzahl);
     fürJedenSatz(ort.bestand, betreuungen, aKDSDiagnose, zeitraum,
                  [&](AltKDSZeile& zeile, const Betreuungssatz& satz) { baueDiagnosezeile(zeile, satz, diagnose); });
 }

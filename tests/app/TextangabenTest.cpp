@@ -90,8 +90,8 @@ std::vector<Textangabe> ausDenGrenzen()
         {woher, altdaten, "| 1 | fixed | `klientNr` | " + nummern + " |"},
         {"import/Altfelder.h", altdaten, zahl(altfeld::betreuung::alter - 1) + " fields. Kinds:"},
         {"import/Altfelder.h", altdaten,
-         std::string("`") + kernanweisung + "` has " + zahl(altspalte::kern::anzahl) + " records, `" +
-             diagnoseanweisung + "` " + zahl(altspalte::diag::anzahl)},
+         std::string("`") + kernanweisungsdatei + "` has " + zahl(altspalte::kern::anzahl) + " records, `" +
+             diagnoseanweisungsdatei + "` " + zahl(altspalte::diag::anzahl)},
         {"import/Anweisungsdatei.h", altdaten,
          "A record is " + zahl(2 + 2 * static_cast<std::int64_t>(Spaltenanweisung::paarzahl)) + " values"},
         {"import/Anweisungsdatei.h", altdaten,
@@ -187,7 +187,7 @@ std::vector<Textangabe> ausDenDateinamen()
          "liegen `" + name(pfade.kernBak) + "`, `" + name(pfade.betrBak) + "` und `" + name(pfade.diagBak) + "`"},
         {"store/Bestandspfade.cpp", handbuch, "`" + name(pfade.daten) + "/" + name(pfade.sicherungen) + "/JJJJ-MM-TT"},
         {"import/Anweisungsdatei.h", manual,
-         std::string("/usr/share/tolvek7/") + kernanweisung + " \", \" " + diagnoseanweisung},
+         std::string("/usr/share/tolvek7/") + kernanweisungsdatei + " \", \" " + diagnoseanweisungsdatei},
         {"app/Arbeitsort.h", handbuch, std::string("im Ordner `") + ordnername + "` in Ihrem persönlichen Ordner"},
         {"app/Arbeitsort.h", manual, std::string("sonst im Ordner .I ") + ordnername + " des persönlichen Ordners"},
         {"app/Arbeitsort.h", handbuch, std::string("im Ordner `") + ordnername + "` Ihrer Dokumente"},

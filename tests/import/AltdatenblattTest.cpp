@@ -91,8 +91,8 @@ protected:
 
 TEST_F(Altdatenblatt, NamesEveryTargetOfAnInstruction)
 {
-    prüfe(kernanweisung, kernregeln(), altspalte::kern::anzahl, 'K');
-    prüfe(diagnoseanweisung, diagnoseregeln(), altspalte::diag::anzahl, 'D');
+    prüfe(kernanweisungsdatei, kernregeln(), altspalte::kern::anzahl, 'K');
+    prüfe(diagnoseanweisungsdatei, diagnoseregeln(), altspalte::diag::anzahl, 'D');
     EXPECT_GE(geprüfte, 45);
 }
 
