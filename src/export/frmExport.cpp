@@ -49,6 +49,9 @@ frmExport::frmExport() : Bildschirm("frmExport"_t)
     leiste.rechts = {&cmdOK, &cmdExit};
     beiEscape = &cmdExit;
 
+    // any other year can be typed
+    constexpr int erstesJahr = 2006;
+    constexpr int letztesJahr = 2020;
     comboJahr.fülle(werte::zahlen(alsText(erstesJahr), {erstesJahr + 1, letztesJahr}), alsText(erstesJahr));
     ProgressBar1.verberge();
     cmdOK.beiKlick = [this] { beiOK(); };

@@ -9,10 +9,6 @@
 /// child window over the main menu, which is disabled meanwhile.
 class frmExport : public Bildschirm {
 public:
-    /// The years of the list; any other can be typed.
-    static constexpr int erstesJahr = 2006;
-    static constexpr int letztesJahr = 2020;
-
     Beschriftung lblHeader{*this, "lblHeader"_t, "Export"_t};
     Beschriftung Label1{*this, "Label1"_t, "Bitte Exportjahr eingeben:"_t};
     Auswahlfeld comboJahr{*this, "comboJahr"_t, Auswahlfeld::Art::Tippbar};

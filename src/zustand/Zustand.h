@@ -17,9 +17,9 @@
 /// The absolute paths of a run, all below the program folder; those of the store are its own.
 struct Pfade : Bestandspfade {
     std::filesystem::path programm;    ///< the program folder itself
-    std::filesystem::path ini;         ///< Tolvek7.ini
-    std::filesystem::path dummyIni;    ///< Tolvhek7Dummy.ini
-    std::filesystem::path importListe; ///< importDatenListe.txt
+    std::filesystem::path ini;         ///< the settings
+    std::filesystem::path dummyIni;    ///< their next version, while they are written
+    std::filesystem::path importListe; ///< what the import has taken over
 };
 
 /// The paths of a run in the program folder.

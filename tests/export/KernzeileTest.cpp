@@ -30,7 +30,7 @@ protected:
     Testlauf lauf;
 };
 
-TEST_F(KernzeileTest, HatEinhunderteinundachtzigSpaltenUndEndetMitSemikolon)
+TEST_F(KernzeileTest, HatAlleSpaltenUndEndetMitSemikolon)
 {
     const auto text = zeile({});
     EXPECT_EQ(std::count(text.begin(), text.end(), ';'), std::ssize(kernspalten()));

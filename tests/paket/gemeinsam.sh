@@ -92,6 +92,7 @@ erwarte_daten_in() {
     for datei in kernDat betrDat diagDat; do
         erwarte "$1/Daten/$datei.txt is there" test -f "$1/Daten/$datei.txt"
     done
+    erwarte "$1/Tolvek7.ini is there" test -f "$1/Tolvek7.ini"
     local offene
     offene=$(find "$1/Daten" "$1/Tolvek7.ini" \( -type d ! -perm 0700 -o -type f ! -perm 0600 \))
     erwarte "only the owner can read: $offene" test -z "$offene"

@@ -20,16 +20,16 @@ Rechenprogramm::~Rechenprogramm() = default;
 
 bool Rechenprogramm::istDa()
 {
-    return findeProgramm(erstesRechenprogramm) || findeProgrammFürXlsx();
+    return findeProgramm(erstesRechenprogramm.name) || findeProgrammFürXlsx();
 }
 
 bool Rechenprogramm::öffne(Arbeitsmappe& mappe, const Zwischendurch& zwischendurch)
 {
     auto ablage = std::make_unique<Zwischenablage>(dateiname);
     schreibeXlsx(mappe, ablage->datei(), zwischendurch);
-    if (const auto programm = findeProgramm(erstesRechenprogramm)) {
+    if (const auto programm = findeProgramm(erstesRechenprogramm.name)) {
         std::vector<std::string> argumente = m_zusätze;
-        argumente.emplace_back("-n");
+        argumente.emplace_back(erstesRechenprogramm.alsNeues);
         if (ablage->übergib(*programm, argumente)) {
             return true;
         }

@@ -8,8 +8,12 @@
 
 class Zwischenablage;
 
-/// The program that is looked for first: LibreOffice.
-inline constexpr auto erstesRechenprogramm = "soffice";
+/// The program that is looked for first, LibreOffice, and the argument by which it makes a new document of a file.
+struct Rechenaufruf {
+    const char* name;
+    const char* alsNeues;
+};
+inline constexpr Rechenaufruf erstesRechenprogramm{"soffice", "-n"};
 
 /// The spreadsheet program of the desktop: LibreOffice, else the program that the desktop has for .xlsx.
 ///
