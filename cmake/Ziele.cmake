@@ -1,6 +1,6 @@
 # One target a folder: the link graph is the architecture.
 
-# The presets `prüfung` and `windows` (CMAKE_UNITY_BUILD) compile all files of a target as one, which takes a third of the
+# The presets `start`, `prüfung` and `windows` (CMAKE_UNITY_BUILD) compile all files of a target as one, which takes a third of the
 # time; names that only one file should see must differ within a target for that. `entwicklung` compiles file by file,
 # so that a file of the program that includes too little is found, and the packages are built so.
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 0)
