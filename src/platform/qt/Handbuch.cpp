@@ -32,6 +32,8 @@ constexpr double fensterbreite = 44;
 constexpr double fensterhöhe = 42;
 constexpr double bildbreite = 38;
 
+} // namespace
+
 /// The text of the handbook with its pictures, which are fitted to the width of the window.
 class Handbuchblatt : public QTextBrowser {
 public:
@@ -108,8 +110,6 @@ private:
 
     QString m_ordner;
 };
-
-} // namespace
 
 /// A window without a parent, so that it may lie behind the frame as well.
 class Handbuch::Fenster : public QWidget {
