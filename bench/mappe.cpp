@@ -18,6 +18,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -59,6 +60,7 @@ struct Lauf {
         folge.öffneStatt(hauptmenü, schirm);
         folge.führeAktivierungenAus();
         folge.schließe(schirm);
+        folge.entlade(hauptmenü);
     }
 };
 
@@ -175,7 +177,11 @@ double spitzeVon(const std::function<void()>& ruf)
         _exit(0);
     }
     rusage verbrauch{};
-    wait4(kind, nullptr, 0, &verbrauch);
+    int ausgang = 0;
+    wait4(kind, &ausgang, 0, &verbrauch);
+    if (ausgang != 0) {
+        throw std::runtime_error("what is measured has failed");
+    }
     return static_cast<double>(verbrauch.ru_maxrss) * 1024;
 }
 
