@@ -1,6 +1,6 @@
 # The two commands for everyone are `make start` and `make test`; the others are their parts.
 
-.PHONY: start test abnahme demo bilder bauen einrichten pruefung windows windows-test windows-paket bench ausfall format paket freigabe
+.PHONY: start test abnahme demo bilder bauen einrichten pruefung windows windows-qt windows-test windows-paket bench ausfall format paket freigabe
 
 # The program and nothing else; its folder is Tolvek7/.
 start:
@@ -46,15 +46,17 @@ windows: einrichten
 	cmake --build --preset windows
 	ctest --preset windows
 
-# The whole program for Windows, run by wine: its windows, its workbooks, its keys. Builds Qt for Windows once, into a cache.
-windows-test: einrichten
+# The static Qt of the program for Windows, built once into a cache, and the build tree that uses it.
+windows-qt: einrichten
 	cmake --preset windows-paket -DTOLVEK_WINDOWS_QT="$$(werkzeug/windows_qt.sh)"
+
+# The whole program for Windows, run by wine: its windows, its workbooks, its keys.
+windows-test: windows-qt
 	cmake --build --preset windows-test
 	ctest --preset windows-test
 
-# The archive for Windows, in bau/pakete/. Builds Qt for Windows once, into a cache.
-windows-paket: einrichten
-	cmake --preset windows-paket -DTOLVEK_WINDOWS_QT="$$(werkzeug/windows_qt.sh)"
+# The archive for Windows, in bau/pakete/.
+windows-paket: windows-qt
 	paket/windows/packe.sh bau/windows-paket bau/pakete
 
 # Writes the approved files, the guide's picture and the words of the scenarios anew, and shows what has changed.
