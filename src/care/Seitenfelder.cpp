@@ -2,7 +2,6 @@
 
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
-#include "satz/Auswahllisten.h"
 #include "satz/Zeilenfelder.h"
 #include "zustand/Comboregeln.h"
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-Feldreihe namenlos(Spalten spalten, Feldart art, const Werteliste* werte = nullptr)
+Feldreihe namenlos(Spalten spalten, Feldart art, Werteliste werte = {})
 {
     return {{}, einzeln, spalten, art, werte, {}};
 }
@@ -41,13 +41,13 @@ void hängeGruppenAn(std::vector<Feldreihe>& reihen, const Gruppenreihe& gruppen
 std::vector<Feldreihe> diagnosereihen()
 {
     std::vector<Feldreihe> reihen;
-    reihen.push_back({"kernID"_t, einzeln, ohneSpalte, Feldart::idKern, nullptr, ""_t});
-    reihen.push_back({"betrID"_t, einzeln, ohneSpalte, Feldart::idBetr, nullptr, ""_t});
+    reihen.push_back({"kernID"_t, einzeln, ohneSpalte, Feldart::idKern, {}, ""_t});
+    reihen.push_back({"betrID"_t, einzeln, ohneSpalte, Feldart::idBetr, {}, ""_t});
     for (const auto& gruppen : gruppenreihen) {
         hängeGruppenAn(reihen, gruppen);
     }
     for (const auto& art : diagnosearten) {
-        reihen.push_back({art.stamm, {1, art.anzahl}, {'D', art.ersteSpalte}, art.art, nullptr, ""_t});
+        reihen.push_back({art.stamm, {1, art.anzahl}, {'D', art.ersteSpalte}, art.art, {}, ""_t});
     }
     reihen.push_back(namenlos(ohneSpalte, Feldart::leer)); // bit field of the groups
     return reihen;

@@ -30,7 +30,7 @@ struct Feldreihe {
     Nummern nummern = einzeln;
     Spalten spalten;
     Feldart art = Feldart::text;
-    const Werteliste* werte = nullptr;
+    Werteliste werte{};
     std::string_view vorgabe;
 
     constexpr int anzahl() const { return nummern.bis < nummern.von ? 1 : nummern.bis - nummern.von + 1; }
@@ -61,6 +61,3 @@ consteval int stelleIn(std::span<const Feldreihe> reihen, std::string_view stamm
 
 /// The runs of the diagnosis record, made of the kinds of its groups (Problemgruppen.h).
 std::vector<Feldreihe> diagnosereihen();
-
-/// The fields of the runs, one by one.
-std::vector<Satzfeld> entfalte(std::span<const Feldreihe> reihen);

@@ -4,10 +4,37 @@
 #include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosefelder.h"
 #include "satz/Klientenfelder.h"
+#include "satz/moNationen.h"
 
 #include <algorithm>
 
 namespace {
+
+Satzfeld feldAus(const Feldreihe& reihe, int versatz)
+{
+    const auto& spalten = reihe.spalten;
+    const bool istEinzeln = reihe.nummern.bis < reihe.nummern.von;
+    const bool zähltWeiter = spalten.blatt != 0 && !spalten.gemeinsam;
+    const auto nummer = istEinzeln ? std::string() : std::to_string(reihe.nummern.von + versatz);
+    return {.name = verbinde(reihe.stamm, nummer),
+            .art = reihe.art,
+            .blatt = spalten.blatt,
+            .spalte = spalten.erste + (zähltWeiter ? versatz : 0),
+            .werte = reihe.werte,
+            .vorgabe = std::string(reihe.vorgabe)};
+}
+
+/// The fields of the runs, one by one.
+std::vector<Satzfeld> entfalte(std::span<const Feldreihe> reihen)
+{
+    std::vector<Satzfeld> felder;
+    for (const auto& reihe : reihen) {
+        for (int versatz = 0; versatz < reihe.anzahl(); ++versatz) {
+            felder.push_back(feldAus(reihe, versatz));
+        }
+    }
+    return felder;
+}
 
 std::string verbindeVorgaben(const std::vector<Satzfeld>& felder)
 {
@@ -62,4 +89,35 @@ std::string erstelleDefaultBetrDS()
 std::string erstelleDefaultDiagDS()
 {
     return verbindeVorgaben(diagnosefelder());
+}
+
+std::vector<std::string> auswahlliste(const Satzfeld& feld)
+{
+    if (const auto bereich = zahlenbereich(feld.art)) {
+        return werte::zahlen(feld.vorgabe, *bereich);
+    }
+    if (feld.art != Feldart::nation) {
+        return werte::texte(feld.werte);
+    }
+    std::vector<std::string> namen{feld.vorgabe};
+    for (const auto& nation : nationen()) {
+        namen.emplace_back(nation.name);
+    }
+    return namen;
+}
+
+std::optional<werte::Zahlenbereich> zahlenbereich(Feldart art)
+{
+    switch (art) {
+    case Feldart::zuvor:
+        return werte::maßnahmen;
+    case Feldart::kinder:
+        return werte::kinder;
+    case Feldart::kontakte:
+        return werte::kontakte;
+    case Feldart::zahl:
+        return werte::unterhalt;
+    default:
+        return std::nullopt;
+    }
 }

@@ -1,5 +1,6 @@
 #include "store/Bruchstuecke.h"
 
+#include "platform/dateien/Zeilen.h"
 #include "platform/text/Text.h"
 #include "store/Sicherungen.h"
 #include "store/Vorgang.h"
@@ -69,7 +70,7 @@ void stelleBruchstückeBeiseite(const Bestand& bestand)
             continue;
         }
         const auto& pfad = bestand.pfade().von(tabelle);
-        const auto ordner = legeSicherungsordnerAn(dateien, bestand.pfade(), dateien.zeitVon(pfad), " halbe Zeile"_t);
+        const auto ordner = legeSicherungsordnerAn(bestand, verbinde(dateien.zeitVon(pfad), " halbe Zeile"_t));
         dateien.verdopple(dateien.ziel(pfad), ordner / pfad.filename());
         dateien.sichereOrdner(ordner);
         Vorgang vorgang(bestand);

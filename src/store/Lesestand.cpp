@@ -11,6 +11,7 @@
 #include "satz/moHelferlein.h"
 
 #include <algorithm>
+#include <array>
 
 namespace fs = std::filesystem;
 
@@ -21,16 +22,8 @@ std::string Satzschlüssel::text() const
 
 std::string_view satznameIn(Tabelle tabelle)
 {
-    switch (tabelle) {
-    case Tabelle::Betr:
-    case Tabelle::BetrBak:
-        return "BetrDS"_t;
-    case Tabelle::Diag:
-    case Tabelle::DiagBak:
-        return "DiagDS"_t;
-    default:
-        return "KernDS"_t;
-    }
+    constexpr std::array namen{"KernDS"_t, "BetrDS"_t, "DiagDS"_t};
+    return namen.at(static_cast<std::size_t>(tabelle));
 }
 
 std::string ortsangabe(const fs::path& tabelle, std::size_t nummer)
@@ -78,25 +71,11 @@ std::string Lesestand::get(Tabelle tabelle, const Satzschlüssel& schlüssel) co
         return !gefunden;
     });
     if (!gefunden) {
-        melde(verbinde("Fehler in get"_t, satznameIn(tabelle), ": ID "_t, schlüssel.text(), " wurde nicht gefunden"_t),
-              Symbol::Stop);
+        m_meldung(
+            verbinde("Fehler in get"_t, satznameIn(tabelle), ": ID "_t, schlüssel.text(), " wurde nicht gefunden"_t),
+            Symbol::Stop);
     }
     return gefunden.value_or(std::string());
-}
-
-std::string Lesestand::getKernDS(std::int32_t kernID) const
-{
-    return get(Tabelle::Kern, {kernID});
-}
-
-std::string Lesestand::getBetrDS(std::int32_t kernID, std::int32_t betrID) const
-{
-    return get(Tabelle::Betr, {kernID, betrID});
-}
-
-std::string Lesestand::getDiagDS(std::int32_t kernID, std::int32_t betrID) const
-{
-    return get(Tabelle::Diag, {kernID, betrID});
 }
 
 std::int32_t Lesestand::höchsteKernID() const

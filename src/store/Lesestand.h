@@ -33,9 +33,15 @@ public:
     virtual ~Lesestand() = default;
 
     /// The first line with the key; without one the box "Fehler in get…" and an empty text.
-    std::string getKernDS(std::int32_t kernID) const;
-    std::string getBetrDS(std::int32_t kernID, std::int32_t betrID) const;
-    std::string getDiagDS(std::int32_t kernID, std::int32_t betrID) const;
+    std::string getKernDS(std::int32_t kernID) const { return get(Tabelle::Kern, {kernID}); }
+    std::string getBetrDS(std::int32_t kernID, std::int32_t betrID) const
+    {
+        return get(Tabelle::Betr, {kernID, betrID});
+    }
+    std::string getDiagDS(std::int32_t kernID, std::int32_t betrID) const
+    {
+        return get(Tabelle::Diag, {kernID, betrID});
+    }
     /// Highest id, 0 when the table is empty.
     std::int32_t höchsteKernID() const;
     /// Highest betrID of the client, 0 when it has none.
@@ -55,9 +61,6 @@ public:
     const Bestandspfade& pfade() const { return m_pfade; }
     const Bestandsmeldung& meldung() const { return m_meldung; }
 
-protected:
-    void melde(std::string_view text, Symbol symbol) const { m_meldung(text, symbol); }
-
 private:
     std::string get(Tabelle tabelle, const Satzschlüssel& schlüssel) const;
 
@@ -65,7 +68,7 @@ private:
     const Bestandsmeldung& m_meldung;
 };
 
-/// How messages name the records of a table: "KernDS", "BetrDS", "DiagDS".
+/// How messages name the records of one of the three tables: "KernDS", "BetrDS", "DiagDS".
 std::string_view satznameIn(Tabelle tabelle);
 
 /// File and line for the text of a failure.

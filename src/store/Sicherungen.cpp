@@ -80,9 +80,7 @@ void stelleBakBeiseite(const Bestand& bestand, const Dreierinhalt& neue)
     if (dateien.istOrdner(ordner)) {
         return; // a start that was broken off has done it
     }
-    const auto entwurf = fassungNeben(ordner);
-    dateien.sorgeFürOrdner(bestand.pfade().sicherungen);
-    dateien.sorgeFürOrdner(entwurf);
+    const auto entwurf = legeSicherungsordnerAn(bestand, fassungNeben(ordner.filename()));
     for (const auto bak : dieSicherungen) {
         const auto& pfad = bestand.pfade().von(bak);
         if (dateien.istDatei(pfad)) {
@@ -94,11 +92,17 @@ void stelleBakBeiseite(const Bestand& bestand, const Dreierinhalt& neue)
     dateien.sichereOrdner(bestand.pfade().sicherungen);
 }
 
+std::vector<fs::path> ordnernamen(const Bestand& bestand)
+{
+    const auto& sicherungen = bestand.pfade().sicherungen;
+    return bestand.dateien().istOrdner(sicherungen) ? bestand.dateien().ordnerIn(sicherungen) : std::vector<fs::path>{};
+}
+
 /// Names of the sets, the oldest first.
-std::vector<fs::path> sätzeIn(Dateien& dateien, const fs::path& sicherungen)
+std::vector<fs::path> sätzeIn(const Bestand& bestand)
 {
     constexpr std::size_t längeDerZeit = 19;
-    auto sätze = dateien.istOrdner(sicherungen) ? dateien.ordnerIn(sicherungen) : std::vector<fs::path>{};
+    auto sätze = ordnernamen(bestand);
     std::erase_if(sätze, [längeDerZeit](const fs::path& name) {
         const auto text = pfadtext(name);
         const bool istZeit = text.size() >= längeDerZeit &&
@@ -109,10 +113,12 @@ std::vector<fs::path> sätzeIn(Dateien& dateien, const fs::path& sicherungen)
 }
 
 /// Keeps the newest sets. What can't be removed today goes another day.
-void kürzeSicherungen(Dateien& dateien, const fs::path& sicherungen)
+void kürzeSicherungen(const Bestand& bestand)
 {
+    auto& dateien = bestand.dateien();
+    const auto& sicherungen = bestand.pfade().sicherungen;
     try {
-        const auto sätze = sätzeIn(dateien, sicherungen);
+        const auto sätze = sätzeIn(bestand);
         for (std::size_t i = 0; i + aufgehobeneSätze < sätze.size(); ++i) {
             const auto weg = fassungNeben(sicherungen / sätze[i]); // a set under this name is not whole
             dateien.benenneUm(sicherungen / sätze[i], weg);
@@ -125,23 +131,19 @@ void kürzeSicherungen(Dateien& dateien, const fs::path& sicherungen)
 
 } // namespace
 
-fs::path legeSicherungsordnerAn(Dateien& dateien, const Bestandspfade& pfade, std::string_view zeit,
-                                std::string_view zusatz)
+fs::path legeSicherungsordnerAn(const Bestand& bestand, const fs::path& name)
 {
-    const auto ordner = pfade.sicherungen / verbinde(zeit, zusatz);
-    dateien.sorgeFürOrdner(pfade.sicherungen);
-    dateien.sorgeFürOrdner(ordner);
-    return ordner;
+    const auto& sicherungen = bestand.pfade().sicherungen;
+    bestand.dateien().sorgeFürOrdner(sicherungen);
+    bestand.dateien().sorgeFürOrdner(sicherungen / name);
+    return sicherungen / name;
 }
 
-void entferneAngefangeneSicherungen(Dateien& dateien, const Bestandspfade& pfade)
+void entferneAngefangeneSicherungen(const Bestand& bestand)
 {
-    if (!dateien.istOrdner(pfade.sicherungen)) {
-        return;
-    }
-    for (const auto& name : dateien.ordnerIn(pfade.sicherungen)) {
+    for (const auto& name : ordnernamen(bestand)) {
         if (istFassungNeben(name)) {
-            dateien.entferneOrdner(pfade.sicherungen / name);
+            bestand.dateien().entferneOrdner(bestand.pfade().sicherungen / name);
         }
     }
 }
@@ -164,7 +166,7 @@ void sichereDateien(const Bestand& bestand)
         vorgang.setzeInhalt(dieSicherungen[i], std::move(neue[i]));
     }
     vorgang.bestätige();
-    kürzeSicherungen(bestand.dateien(), bestand.pfade().sicherungen);
+    kürzeSicherungen(bestand);
 }
 
 void verwerfeSitzung(const Bestand& bestand)
@@ -194,7 +196,7 @@ std::string ortDerSicherung(const Bestand& bestand)
         if (!bestand.dateien().istDatei(pfade.kernBak)) {
             return {};
         }
-        const auto sätze = sätzeIn(bestand.dateien(), pfade.sicherungen);
+        const auto sätze = sätzeIn(bestand);
         const auto ältere = sätze.empty()
                                 ? std::string()
                                 : verbinde(", ältere in \""_t, pfadtext(pfade.sicherungen / sätze.back()), '"');
