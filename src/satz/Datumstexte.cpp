@@ -27,7 +27,7 @@ struct Datumsteile {
 
 std::int16_t datumsteil(std::string_view datum, int nummer)
 {
-    const auto teil = leseGanzzahl16(getFeldMit(datum, nummer, '.'));
+    const auto teil = leseGanzzahl16(getFeld(datum, nummer, '.'));
     if (!teil) {
         keinDatum(datum);
     }

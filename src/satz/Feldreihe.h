@@ -5,7 +5,6 @@
 #include <span>
 #include <stdexcept>
 #include <string_view>
-#include <vector>
 
 /// The numbers of a run of like fields: {1, 9} for "Kosten1" to "Kosten9".
 struct Nummern {
@@ -58,6 +57,3 @@ consteval int stelleIn(std::span<const Feldreihe> reihen, std::string_view stamm
     }
     throw std::logic_error("no field has this name");
 }
-
-/// The runs of the diagnosis record, made of the kinds of its groups (Problemgruppen.h).
-std::vector<Feldreihe> diagnosereihen();

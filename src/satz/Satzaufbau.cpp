@@ -3,6 +3,7 @@
 #include "platform/text/Text.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosefelder.h"
+#include "satz/Exportspalten.h"
 #include "satz/Klientenfelder.h"
 #include "satz/moNationen.h"
 
@@ -34,6 +35,51 @@ std::vector<Satzfeld> entfalte(std::span<const Feldreihe> reihen)
         }
     }
     return felder;
+}
+
+/// The fields of a block have no names; the headers build theirs from the catalogue.
+Feldreihe namenlos(Spalten spalten, Feldart art, Werteliste werte = {})
+{
+    return {{}, einzeln, spalten, art, werte, {}};
+}
+
+Spalten gemeinsameSpalte(Feldart art)
+{
+    switch (art) {
+    case Feldart::hdAlter:
+        return {'D', exportspalte::diag::alterErstkonsum, true};
+    case Feldart::icd0000:
+        return {'D', exportspalte::diag::hauptdiagnose, true};
+    default:
+        return ohneSpalte;
+    }
+}
+
+void hängeGruppenAn(std::vector<Feldreihe>& reihen, const Gruppenreihe& gruppen)
+{
+    int spalte = gruppen.ersteSpalte;
+    for (int gruppe = gruppen.von; gruppe <= gruppen.bis; ++gruppe) {
+        for (const auto& frage : gruppen.fragen) {
+            reihen.push_back(namenlos(frage.eigeneSpalte ? Spalten{'D', spalte++} : gemeinsameSpalte(frage.art),
+                                      frage.art, frage.werte));
+        }
+    }
+}
+
+/// The runs of the diagnosis record, made of the kinds of its groups.
+std::vector<Feldreihe> diagnosereihen()
+{
+    std::vector<Feldreihe> reihen;
+    reihen.push_back({"kernID"_t, einzeln, ohneSpalte, Feldart::idKern, {}, ""_t});
+    reihen.push_back({"betrID"_t, einzeln, ohneSpalte, Feldart::idBetr, {}, ""_t});
+    for (const auto& gruppen : gruppenreihen) {
+        hängeGruppenAn(reihen, gruppen);
+    }
+    for (const auto& art : diagnosearten) {
+        reihen.push_back({art.stamm, {1, art.anzahl}, {'D', art.ersteSpalte}, art.art, {}, ""_t});
+    }
+    reihen.push_back(namenlos(ohneSpalte, Feldart::leer)); // bit field of the groups
+    return reihen;
 }
 
 std::string verbindeVorgaben(const std::vector<Satzfeld>& felder)

@@ -46,7 +46,7 @@ bool Fassung::ersetze(const Satzschlüssel& schlüssel, std::string_view satz)
     const auto text = behalte(satz);
     bool gefunden = false;
     for (auto& zeile : *m_zeilen) {
-        if (zeile.schlüssel.passtZu(schlüssel)) {
+        if (zeile.schlüssel == schlüssel) {
             zeile.text = text;
             gefunden = true;
         }
@@ -57,7 +57,7 @@ bool Fassung::ersetze(const Satzschlüssel& schlüssel, std::string_view satz)
 bool Fassung::lösche(const Satzschlüssel& schlüssel)
 {
     zerlege();
-    return std::erase_if(*m_zeilen, [&](const Zeile& zeile) { return zeile.schlüssel.passtZu(schlüssel); }) > 0;
+    return std::erase_if(*m_zeilen, [&](const Zeile& zeile) { return zeile.schlüssel == schlüssel; }) > 0;
 }
 
 void Fassung::löscheKlienten(std::int32_t kernID)

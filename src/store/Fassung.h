@@ -40,7 +40,7 @@ public:
 private:
     struct Zeile {
         std::string_view text;
-        Zeilenschlüssel schlüssel;
+        Satzschlüssel schlüssel;
     };
 
     void zerlege();

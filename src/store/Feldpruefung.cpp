@@ -36,7 +36,7 @@ bool istFlagge(std::string_view wert)
 /// Older records leave the infections empty, which the export takes as no answer.
 bool istInfektion(const Satzfeld& feld)
 {
-    return feld.werte.data() == werte::test.data() || feld.werte.data() == werte::hepatitisC.data();
+    return feld.hatListe(werte::test) || feld.hatListe(werte::hepatitisC);
 }
 
 bool istBetreuungswert(const Satzfeld& feld, std::string_view wert)

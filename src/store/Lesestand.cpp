@@ -51,10 +51,10 @@ std::int32_t leseSchlüssel(std::string_view zeile, int feld, int bits, const fs
     return *zahl;
 }
 
-Zeilenschlüssel leseSchlüsselDerZeile(Tabelle tabelle, std::string_view zeile, const fs::path& pfad, std::size_t nummer)
+Satzschlüssel leseSchlüsselDerZeile(Tabelle tabelle, std::string_view zeile, const fs::path& pfad, std::size_t nummer)
 {
     if (tabelle == Tabelle::Kern) {
-        return {leseSchlüssel(zeile, feld::kern::kernID, 16, pfad, nummer), 0};
+        return {leseSchlüssel(zeile, feld::kern::kernID, 16, pfad, nummer)};
     }
     static_assert(feld::betr::kernID == feld::diag::kernID && feld::betr::betrID == feld::diag::betrID);
     const auto kernID = leseSchlüssel(zeile, feld::betr::kernID, 16, pfad, nummer);
@@ -65,7 +65,7 @@ std::string Lesestand::get(Tabelle tabelle, const Satzschlüssel& schlüssel) co
 {
     std::optional<std::string> gefunden;
     laufe(tabelle, [&](std::string_view zeile, std::size_t nummer) {
-        if (leseSchlüsselDerZeile(tabelle, zeile, m_pfade.von(tabelle), nummer).passtZu(schlüssel)) {
+        if (leseSchlüsselDerZeile(tabelle, zeile, m_pfade.von(tabelle), nummer) == schlüssel) {
             gefunden = zeile;
         }
         return !gefunden;
@@ -124,7 +124,7 @@ std::string Lesestand::ortVon(Tabelle tabelle, const Satzschlüssel& schlüssel)
     std::string ort = verbinde("\""_t, pfadtext(m_pfade.von(tabelle)), "\""_t);
     try {
         laufe(tabelle, [&](std::string_view zeile, std::size_t nummer) {
-            const bool trifft = leseSchlüsselDerZeile(tabelle, zeile, m_pfade.von(tabelle), nummer).passtZu(schlüssel);
+            const bool trifft = leseSchlüsselDerZeile(tabelle, zeile, m_pfade.von(tabelle), nummer) == schlüssel;
             if (trifft) {
                 ort = ortsangabe(m_pfade.von(tabelle), nummer);
             }

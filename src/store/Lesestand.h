@@ -23,6 +23,7 @@ struct Satzschlüssel {
     std::optional<std::int32_t> betrID = std::nullopt;
 
     std::string text() const; ///< "3", "3-1"
+    bool operator==(const Satzschlüssel&) const = default;
 };
 
 /// The reading operations on the tables. Keys are compared as 16-bit numbers; a key that is none, a missing file,
@@ -78,16 +79,7 @@ void prüfeSatzlänge(std::string_view satz, const std::filesystem::path& tabell
 /// A key field read as the tables read it. `bits` is 16 or 32. Laufzeitfehler names file, line, field.
 std::int32_t leseSchlüssel(std::string_view zeile, int feld, int bits, const std::filesystem::path& tabelle,
                            std::size_t nummer);
-/// Both keys of a line (the episode's is 0 in the client table). Every key field of a line is read, so that a table
-/// with a damaged key is not read past that line.
-struct Zeilenschlüssel {
-    std::int32_t kernID = 0;
-    std::int32_t betrID = 0;
-
-    bool passtZu(const Satzschlüssel& gesucht) const
-    {
-        return kernID == gesucht.kernID && betrID == gesucht.betrID.value_or(0);
-    }
-};
-Zeilenschlüssel leseSchlüsselDerZeile(Tabelle tabelle, std::string_view zeile, const std::filesystem::path& pfad,
-                                      std::size_t nummer);
+/// What a line of the table is found by. Every key field of it is read, so that a table with a damaged key is not read
+/// past that line.
+Satzschlüssel leseSchlüsselDerZeile(Tabelle tabelle, std::string_view zeile, const std::filesystem::path& pfad,
+                                    std::size_t nummer);

@@ -12,23 +12,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The contents of three files; nothing for one that is not there.
-using Dreierinhalt = std::array<std::unique_ptr<Dateiinhalt>, 3>;
+/// The texts of three files; empty for one that is not there.
+using Dreiertext = std::array<std::string, 3>;
 
-std::string_view textVon(const std::unique_ptr<Dateiinhalt>& inhalt)
+Dreiertext textDerBak(const Bestand& bestand)
 {
-    return inhalt ? inhalt->text() : std::string_view();
-}
-
-Dreierinhalt inhaltDerBak(const Bestand& bestand)
-{
-    Dreierinhalt inhalte;
+    Dreiertext texte;
     for (std::size_t i = 0; i < dieSicherungen.size(); ++i) {
         if (!bestand.dateien().fehlt(bestand.pfade().von(dieSicherungen[i]))) {
-            inhalte[i] = bestand.inhalt(dieSicherungen[i]);
+            texte[i] = bestand.inhalt(dieSicherungen[i])->text();
         }
     }
-    return inhalte;
+    return texte;
 }
 
 /// The time of the backup: that of its newest file.
@@ -44,12 +39,12 @@ std::string zeitDerBak(const Bestand& bestand)
     return zeit;
 }
 
-bool liegtSchonDa(const Bestand& bestand, const fs::path& ordner, const Dreierinhalt& inhalte)
+bool liegtSchonDa(const Bestand& bestand, const fs::path& ordner, const Dreiertext& texte)
 {
     auto& dateien = bestand.dateien();
     for (std::size_t i = 0; i < dieSicherungen.size(); ++i) {
         const auto kopie = ordner / bestand.pfade().von(dieSicherungen[i]).filename();
-        if (!dateien.istDatei(kopie) || dateien.lies(kopie)->text() != textVon(inhalte[i])) {
+        if (!dateien.istDatei(kopie) || dateien.lies(kopie)->text() != texte[i]) {
             return false;
         }
     }
@@ -57,26 +52,25 @@ bool liegtSchonDa(const Bestand& bestand, const fs::path& ordner, const Dreierin
 }
 
 /// A name for the set that no other set has.
-fs::path freierOrdner(const Bestand& bestand, const Dreierinhalt& inhalte)
+fs::path freierOrdner(const Bestand& bestand, const Dreiertext& texte)
 {
     const auto zeit = zeitDerBak(bestand);
     auto ordner = bestand.pfade().sicherungen / zeit;
-    for (int nummer = 2; bestand.dateien().istOrdner(ordner) && !liegtSchonDa(bestand, ordner, inhalte); ++nummer) {
+    for (int nummer = 2; bestand.dateien().istOrdner(ordner) && !liegtSchonDa(bestand, ordner, texte); ++nummer) {
         ordner = bestand.pfade().sicherungen / verbinde(zeit, " ("_t, std::to_string(nummer), ')');
     }
     return ordner;
 }
 
 /// Sets the .bak files aside when they hold records other than `neue`. The set comes under its name when it is whole.
-void stelleBakBeiseite(const Bestand& bestand, const Dreierinhalt& neue)
+void stelleBakBeiseite(const Bestand& bestand, const Dreiertext& neue)
 {
     auto& dateien = bestand.dateien();
-    const auto inhalte = inhaltDerBak(bestand);
-    if (std::ranges::equal(inhalte, neue, {}, textVon, textVon) ||
-        std::ranges::all_of(inhalte, [](const auto& inhalt) { return textVon(inhalt).empty(); })) {
+    const auto texte = textDerBak(bestand);
+    if (texte == neue || texte == Dreiertext()) {
         return;
     }
-    const auto ordner = freierOrdner(bestand, inhalte);
+    const auto ordner = freierOrdner(bestand, texte);
     if (dateien.istOrdner(ordner)) {
         return; // a start that was broken off has done it
     }
@@ -151,9 +145,9 @@ void entferneAngefangeneSicherungen(const Bestand& bestand)
 void sichereDateien(const Bestand& bestand)
 {
     Vorgang vorgang(bestand);
-    Dreierinhalt neue;
+    Dreiertext neue;
     for (std::size_t i = 0; i < dieTabellen.size(); ++i) {
-        neue[i] = bestand.inhalt(dieTabellen[i]);
+        neue[i] = bestand.inhalt(dieTabellen[i])->text();
         const auto& bak = bestand.pfade().von(dieSicherungen[i]);
         // a folder without the file of an earlier backup has been tampered with; going on could overwrite what
         // somebody has moved aside
