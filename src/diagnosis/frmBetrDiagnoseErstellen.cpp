@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr std::string_view keineAngabe = "k.A."_t;
+constexpr auto keineAngabe = antworttext::keine;
 constexpr std::string_view keineAngaben = "keine Angaben"_t;
 
 constexpr std::array<std::string_view, 8> fragen{

@@ -3,6 +3,7 @@
 #include "satz/Satzaufbau.h"
 #include "satz/moData.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -33,11 +34,7 @@ struct Gruppenreihe {
     constexpr const Blockfrage& frage(int platz) const { return fragen[static_cast<std::size_t>(platz - 1)]; }
     constexpr int spaltenJeGruppe() const
     {
-        int anzahl = 0;
-        for (const auto& frage : fragen) {
-            anzahl += frage.eigeneSpalte ? 1 : 0;
-        }
-        return anzahl;
+        return static_cast<int>(std::ranges::count(fragen, true, &Blockfrage::eigeneSpalte));
     }
 };
 

@@ -48,7 +48,7 @@ bool istBetreuungswert(const Satzfeld& feld, std::string_view wert)
     case Feldart::option:
         return istIn(feld.werte, wert) || (wert.empty() && istInfektion(feld));
     case Feldart::nation:
-        return wert == feld.vorgabe || istNation(wert);
+        return wert == feld.vorgabe || !getCodeZuNation(wert).empty();
     case Feldart::hdOhne:
     case Feldart::ivKonsum:
         return istFlagge(wert);
