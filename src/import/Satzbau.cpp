@@ -69,7 +69,7 @@ void Satzbau::füge(const Feldanweisung& anweisung, std::string_view wert, const
     case Feldart::kinder:
     case Feldart::zuvor:
     case Feldart::kontakte:
-        m_satz.append(wert.empty() ? "k.A."_t : wert);
+        m_satz.append(wert.empty() ? antworttext::keine : wert);
         break;
     case Feldart::hdOhne:
         m_satz.append(wahrWenn(führendeZahl(wert) == m_hdOhne++));
