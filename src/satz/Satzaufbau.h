@@ -39,6 +39,8 @@ struct Satzfeld {
     int spalte = 0;      ///< there, from 1
     Werteliste werte;    ///< for Feldart::option
     std::string vorgabe; ///< value in a new record
+
+    bool hatListe(Werteliste liste) const { return werte.data() == liste.data(); }
 };
 
 const std::vector<Satzfeld>& klientenfelder();   ///< 11, named in Klientenfelder.h

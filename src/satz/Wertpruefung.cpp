@@ -43,7 +43,7 @@ bool istIcdStelle(const Satzfeld& feld, std::string_view wert)
 /// Older records leave the infections empty, which the export takes as no answer.
 bool istInfektion(const Satzfeld& feld)
 {
-    return feld.werte.data() == werte::test.data() || feld.werte.data() == werte::hepatitisC.data();
+    return feld.hatListe(werte::test) || feld.hatListe(werte::hepatitisC);
 }
 
 bool istBlockwert(int gruppe, int platz, const Satzfeld& feld, std::string_view wert)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/mappe/Arbeitsmappe.h"
-#include "spreadsheet/Zeilensuche.h"
+#include "platform/dateien/Zeilensuche.h"
 #include "spreadsheet/moErstelleHeader.h"
 
 #include <filesystem>
