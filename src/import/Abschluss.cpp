@@ -1,7 +1,7 @@
 #include "import/Abschluss.h"
 
 #include "import/Altfelder.h"
-#include "import/Eingabedatei.h"
+#include "import/Zeilenverzeichnis.h"
 #include "platform/text/Text.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Klientenfelder.h"
@@ -27,28 +27,6 @@ void schreibeUm(Dateien& dateien, const std::filesystem::path& tabelle, const st
                     [&](Schreiber& aus) { ein.fürJedeZeile([&](std::string_view zeile) { tue(zeile, aus); }); });
 }
 
-void behalteErste(Dateien& dateien, const std::filesystem::path& tabelle, const std::filesystem::path& dummyDat,
-                  std::string_view (*vergleichswert)(std::string_view zeile))
-{
-    std::unordered_set<std::string_view> behaltene;
-    schreibeUm(dateien, tabelle, dummyDat, [&](std::string_view zeile, Schreiber& aus) {
-        if (!behaltene.contains(zeile)) {
-            behaltene.insert(vergleichswert(zeile));
-            aus.zeile(zeile);
-        }
-    });
-}
-
-std::string_view ganzeZeile(std::string_view zeile)
-{
-    return zeile;
-}
-
-std::string_view kernID(std::string_view zeile)
-{
-    return getFeld(zeile, feld::kern::kernID);
-}
-
 /// The care line with its first 191 fields and the mark in place of the last.
 std::string markiert(std::string_view zeile, bool istDeutsch)
 {
@@ -57,30 +35,15 @@ std::string markiert(std::string_view zeile, bool istDeutsch)
     return verbinde(felder(neu, feld::betr::kernID, feld::betr::memo - 1), "Importierter Datensatz"_t);
 }
 
-/// Numbers of the clients that are "Deutsche(r)", by the first line with the number.
-std::unordered_set<std::string_view> deutsche(const Eingabedatei& kernAlt)
-{
-    std::unordered_set<std::string_view> gesehene;
-    std::unordered_set<std::string_view> nummern;
-    kernAlt.fürJedenSatz([&](std::string_view zeile) {
-        const auto nummer = getFeld(zeile, altfeld::klient::nummer);
-        if (gesehene.insert(nummer).second && getFeld(zeile, altfeld::klient::nationalität) == "Deutsche(r)"_t) {
-            nummern.insert(nummer);
-        }
-    });
-    return nummern;
-}
-
 /// "o" or "a" for each client of the care table, by field 1 as text: what `betrStatusVon` would answer, in one
 /// pass for all.
 std::unordered_map<std::string_view, std::string_view> statusAller(const Eingabedatei& betrDat)
 {
     std::unordered_map<std::string_view, std::string_view> status;
     betrDat.fürJedeZeile([&](std::string_view zeile) {
-        const bool offen = getFeld(zeile, feld::betr::ende) == "offen"_t;
-        const auto [ort, neu] = status.try_emplace(getFeld(zeile, feld::betr::kernID), offen ? "o"_t : "a"_t);
-        if (!neu && offen) {
-            ort->second = "o"_t;
+        auto& wert = status[getFeld(zeile, feld::betr::kernID)];
+        if (wert != "o"_t) {
+            wert = getFeld(zeile, feld::betr::ende) == "offen"_t ? "o"_t : "a"_t;
         }
     });
     return status;
@@ -90,52 +53,53 @@ std::unordered_map<std::string_view, std::string_view> statusAller(const Eingabe
 
 void entferneDoppelte(Dateien& dateien, const NeueTabellen& tabellen)
 {
-    behalteErste(dateien, tabellen.kernDat, tabellen.dummyDat, kernID);
-    behalteErste(dateien, tabellen.betrDat, tabellen.dummyDat, ganzeZeile);
-    behalteErste(dateien, tabellen.diagDat, tabellen.dummyDat, ganzeZeile);
+    for (const auto* tabelle : {&tabellen.betrDat, &tabellen.diagDat}) {
+        std::unordered_set<std::string_view> behaltene;
+        schreibeUm(dateien, *tabelle, tabellen.dummyDat, [&](std::string_view zeile, Schreiber& aus) {
+            if (behaltene.insert(zeile).second) {
+                aus.zeile(zeile);
+            }
+        });
+    }
 }
 
 void markiereBetreuungen(Dateien& dateien, const NeueTabellen& tabellen, const std::filesystem::path& kernAlt)
 {
-    const Eingabedatei klienten(dateien, kernAlt);
-    const auto nummern = deutsche(klienten);
+    const Eingabedatei altdatei(dateien, kernAlt);
+    const Zeilenverzeichnis<std::string_view> klienten(
+        altdatei, [](std::string_view zeile) { return getFeld(zeile, altfeld::klient::nummer); });
     schreibeUm(dateien, tabellen.betrDat, tabellen.dummyDat, [&](std::string_view zeile, Schreiber& aus) {
-        aus.zeile(markiert(zeile, nummern.contains(getFeld(zeile, feld::betr::kernID))));
+        const auto klient = klienten.finde(getFeld(zeile, feld::betr::kernID));
+        aus.zeile(markiert(zeile, getFeld(klient, altfeld::klient::nationalität) == "Deutsche(r)"_t));
     });
 }
 
 void fülleStatus(Dateien& dateien, const NeueTabellen& tabellen, const std::filesystem::path& betrDat)
 {
     const Eingabedatei betreuungen(dateien, betrDat);
-    const auto status = statusAller(betreuungen);
+    auto status = statusAller(betreuungen);
     schreibeUm(dateien, tabellen.kernDat, tabellen.dummyDat, [&](std::string_view zeile, Schreiber& aus) {
-        const auto ort = status.find(kernID(zeile));
-        aus.zeile(ersetzeFeld(zeile, feld::kern::betrao, ort == status.end() ? std::string_view{} : ort->second));
+        aus.zeile(ersetzeFeld(zeile, feld::kern::betrao, status[getFeld(zeile, feld::kern::kernID)]));
     });
 }
 
 Importzahlen schreibeImportListe(Dateien& dateien, const NeueTabellen& tabellen, const std::filesystem::path& liste)
 {
-    Importzahlen zahlen;
-    const Eingabedatei klienten(dateien, tabellen.kernDat);
-    const Eingabedatei betreuungen(dateien, tabellen.betrDat);
-    std::unordered_map<std::string_view, std::string_view> klientenzeilen;
-    klienten.fürJedeZeile([&](std::string_view zeile) {
-        ++zahlen.klienten;
-        klientenzeilen.try_emplace(kernID(zeile), zeile);
-    });
+    const Eingabedatei kernDat(dateien, tabellen.kernDat);
+    const Eingabedatei betrDat(dateien, tabellen.betrDat);
+    const Zeilenverzeichnis<std::string_view> klienten(
+        kernDat, [](std::string_view zeile) { return getFeld(zeile, feld::kern::kernID); });
     const auto aus = dateien.schreibeNeu(liste);
     aus->zeile("kernID\tbetrID\tNachname\tVorname"_t);
-    betreuungen.fürJedeZeile([&](std::string_view zeile) {
-        ++zahlen.betreuungen;
-        const auto klient = klientenzeilen.find(getFeld(zeile, feld::betr::kernID));
-        const auto name = klient == klientenzeilen.end() ? std::string()
-                                                         : verbinde(getFeld(klient->second, feld::kern::nachname), '\t',
-                                                                    getFeld(klient->second, feld::kern::vorname));
+    betrDat.fürJedeZeile([&](std::string_view zeile) {
+        const auto klient = klienten.finde(getFeld(zeile, feld::betr::kernID));
+        const auto name = klient.empty() ? std::string()
+                                         : verbinde(getFeld(klient, feld::kern::nachname), '\t',
+                                                    getFeld(klient, feld::kern::vorname));
         aus->zeile(verbinde(getFeld(zeile, feld::betr::kernID), '\t', getFeld(zeile, feld::betr::betrID), '\t', name));
     });
     aus->schließe();
-    return zahlen;
+    return {kernDat.zeilenzahl(), betrDat.zeilenzahl()};
 }
 
 void ersetzeTabellen(const Bestand& bestand, const NeueTabellen& tabellen, const std::function<void()>& davor)

@@ -16,8 +16,7 @@ struct NeueTabellen {
     std::filesystem::path dummyDat;
 };
 
-/// Keeps the first of equal lines of the care and the diagnosis table. A client line is compared with the ids
-/// of those before it, which never equal it: stage 4 writes a client once.
+/// Keeps the first of equal lines of the care and the diagnosis table. Client lines all stay, as they always have.
 void entferneDoppelte(Dateien& dateien, const NeueTabellen& tabellen);
 
 /// Marks the care records as imported, gives them the reason "Eigene Problematik", and those whose client is

@@ -6,6 +6,7 @@
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/WeitereDiagnosen.h"
+#include "satz/Wertelisten.h"
 
 #include <algorithm>
 #include <array>
@@ -27,20 +28,18 @@ constexpr std::array kostenträgerListe{
     Kostenträger{altfeld::betreuung::kostenRV, "46"_t},     Kostenträger{altfeld::betreuung::kostenPauschal, "1"_t},
 };
 
-struct Lebenssituation {
-    std::string_view text;
-    std::array<int, 2> flaggen; ///< 0: none
-};
-
+/// With the six flags.
 constexpr std::array lebenssituationen{
-    Lebenssituation{"alleinlebend"_t, {1, 0}},
-    Lebenssituation{"mit PartnerIn"_t, {2, 0}},
-    Lebenssituation{"mit Kindern"_t, {3, 0}},
-    Lebenssituation{"mit Elternteil"_t, {4, 0}},
-    Lebenssituation{"mit Freunden / Bekannten"_t, {5, 0}},
-    Lebenssituation{"mit sonstigen Personen"_t, {6, 0}},
-    Lebenssituation{"mit PartnerIn und Kind(ern)"_t, {2, 3}},
+    Wertepaar{""_t, "000000"_t},
+    Wertepaar{"alleinlebend"_t, "211111"_t},
+    Wertepaar{"mit PartnerIn"_t, "121111"_t},
+    Wertepaar{"mit Kindern"_t, "112111"_t},
+    Wertepaar{"mit Elternteil"_t, "111211"_t},
+    Wertepaar{"mit Freunden / Bekannten"_t, "111121"_t},
+    Wertepaar{"mit sonstigen Personen"_t, "111112"_t},
+    Wertepaar{"mit PartnerIn und Kind(ern)"_t, "122111"_t},
 };
+constexpr auto unbekannteLebenssituation = "111111"_t;
 
 /// Codes of the groups from F55.0 on; those before depend on further fields.
 constexpr std::array<std::string_view, 8> festeHauptdiagnosen{"550", "551", "552", "554", "555", "556", "558", "630"};
@@ -127,20 +126,11 @@ void AltKDSZeile::icdZusatz(std::string_view text, int spalte)
 // Twelve columns, every second one empty.
 void AltKDSZeile::lebensSituation(std::string_view text)
 {
-    std::array<char, 6> flaggen;
-    flaggen.fill(text.empty() ? '0' : '1');
-    const auto ort = std::find_if(lebenssituationen.begin(), lebenssituationen.end(),
-                                  [&](const Lebenssituation& l) { return l.text == text; });
-    if (ort != lebenssituationen.end()) {
-        for (const int flagge : ort->flaggen) {
-            if (flagge != 0) {
-                flaggen.at(static_cast<std::size_t>(flagge - 1)) = '2';
-            }
-        }
-    } else if (!getrimmt(text).empty()) {
+    const auto* flaggen = werte::codeZu(lebenssituationen, text);
+    if (flaggen == nullptr && !getrimmt(text).empty()) {
         melde("ParseFehler: lebSit"_t);
     }
-    for (const char flagge : flaggen) {
+    for (const char flagge : flaggen == nullptr ? unbekannteLebenssituation : *flaggen) {
         wert({&flagge, 1});
         wert({});
     }

@@ -49,7 +49,7 @@ void Satzbau::füge(const Feldanweisung& anweisung, std::string_view wert, const
         m_satz.append(schlageNach(anweisung, wert, m_ablage));
         break;
     case Feldart::zahl:
-        m_satz.append(zahl(wert));
+        m_satz.append(m_art == Art::Diagnose && wert == "0" ? std::string_view{} : wert);
         break;
     case Feldart::text:
         m_satz.append(wert);
@@ -102,9 +102,4 @@ void Satzbau::fügeHauptdiagnose(const Feldanweisung& anweisung, std::string_vie
     }
     m_letztesFeld = m_satz.size();
     m_satz.append(ergebnis).push_back(trenner);
-}
-
-std::string_view Satzbau::zahl(std::string_view wert) const
-{
-    return m_art == Art::Diagnose && wert == "0" ? std::string_view{} : wert;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "export/Satzsicht.h"
-#include "import/Feldanweisung.h"
+#include "import/moAnweisungen.h"
 
 #include <cstdint>
 #include <string>
@@ -30,7 +30,6 @@ public:
 private:
     void füge(const Feldanweisung& anweisung, std::string_view wert, const Episodenzeilen& zeilen);
     void fügeHauptdiagnose(const Feldanweisung& anweisung, std::string_view wert, const Episodenzeilen& zeilen);
-    std::string_view zahl(std::string_view wert) const;
 
     Art m_art;
     std::vector<Feldanweisung> m_anweisungen;

@@ -1,8 +1,6 @@
 #include "import/moImp4KDStoMorvek.h"
 
 #include "import/Altfelder.h"
-#include "import/Altnummer.h"
-#include "import/Eingabedatei.h"
 #include "import/Satzbau.h"
 #include "import/Zeilenverzeichnis.h"
 #include "import/moAnweisungen.h"
@@ -38,24 +36,12 @@ std::string_view schlüssel(std::string_view zeile)
 }
 
 /// The diagnosis rows by their ids; an episode can have several.
-class Diagnosezeilen {
-public:
-    Diagnosezeilen(Dateien& dateien, const std::filesystem::path& pfad) : m_datei(dateien, pfad)
-    {
-        m_datei.fürJedeZeile([this](std::string_view zeile) { m_zeilen[schlüssel(zeile)].push_back(zeile); });
-    }
-
-    const std::vector<std::string_view>& zu(std::string_view kernzeile) const
-    {
-        static const std::vector<std::string_view> keine;
-        const auto ort = m_zeilen.find(schlüssel(kernzeile));
-        return ort == m_zeilen.end() ? keine : ort->second;
-    }
-
-private:
-    Eingabedatei m_datei;
-    std::unordered_map<std::string_view, std::vector<std::string_view>> m_zeilen;
-};
+std::unordered_map<std::string_view, std::vector<std::string_view>> nachSchlüssel(const Eingabedatei& diagnosen)
+{
+    std::unordered_map<std::string_view, std::vector<std::string_view>> zeilen;
+    diagnosen.fürJedeZeile([&](std::string_view zeile) { zeilen[schlüssel(zeile)].push_back(zeile); });
+    return zeilen;
+}
 
 /// The three tables being written.
 class Ausgabe {
@@ -102,12 +88,11 @@ void moImp4KDStoMorvek(Dateien& dateien, const std::filesystem::path& kdsKern, c
                        const std::filesystem::path& diagDat, const std::filesystem::path& extraExp)
 {
     const Eingabedatei kernzeilen(dateien, kdsKern);
-    const Diagnosezeilen diagnosen(dateien, kdsDiagnose);
+    const Eingabedatei diagnosedatei(dateien, kdsDiagnose);
+    auto diagnosezeilen = nachSchlüssel(diagnosedatei);
     const Eingabedatei extra(dateien, extraExp);
-    Zeilenverzeichnis<std::int32_t> personen; // the clients' personal data by number
-    extra.fürJedeZeile([&](std::string_view zeile) {
-        personen.nimm(leseAltnummer(getFeld(zeile, altfeld::klient::nummer), extraExp), zeile);
-    });
+    const Zeilenverzeichnis<std::int32_t> personen(
+        extra, [&](std::string_view zeile) { return extra.leseNummer(getFeld(zeile, altfeld::klient::nummer)); });
     Ausgabe ausgabe(dateien, kernDat, betrDat, diagDat);
 
     std::unordered_set<std::int32_t> bekannte;
@@ -117,13 +102,13 @@ void moImp4KDStoMorvek(Dateien& dateien, const std::filesystem::path& kdsKern, c
     Satzsicht diagnose;
     kernzeilen.fürJedeZeile([&](std::string_view zeile) {
         kern.lies(zeile, spaltentrenner);
-        const auto kernID = leseAltnummer(kern.feld(exportspalte::kernID), kdsKern);
+        const auto kernID = kernzeilen.leseNummer(kern.feld(exportspalte::kernID));
         if (bekannte.insert(kernID).second) {
             kernGeschrieben = false;
-            person = personen.zeile(kernID);
+            person = personen.findeOderLetzte(kernID);
         }
-        for (const auto diagnosezeile : diagnosen.zu(zeile)) {
-            const auto betrID = leseAltnummer(kern.feld(exportspalte::betrID), kdsKern);
+        for (const auto diagnosezeile : diagnosezeilen[schlüssel(zeile)]) {
+            const auto betrID = kernzeilen.leseNummer(kern.feld(exportspalte::betrID));
             diagnose.lies(diagnosezeile, spaltentrenner);
             if (!kernGeschrieben) {
                 ausgabe.schreibeKlient(kern, person);
