@@ -61,13 +61,6 @@ constexpr std::array kernköpfe{
 };
 static_assert(kernköpfe.size() == feld::kern::anzahl, "each field of the client record has its column");
 
-/// By the name in lower case; of two rows with one name the first counts.
-const Variable* findeVariable(std::string_view name)
-{
-    const auto ort = std::ranges::find_if(variablen(), [&](const Variable& v) { return klein(v.name) == name; });
-    return ort == variablen().end() ? nullptr : &*ort;
-}
-
 } // namespace
 
 Spaltenköpfe erstelleKernHeader()
@@ -119,7 +112,7 @@ Spaltenköpfe erstelleDiagHeader()
 Spaltenkopf sucheBezeichnungen(std::string_view spaltenname)
 {
     const auto name = klein(spaltenname);
-    const auto* variable = findeVariable(name);
-    return variable == nullptr ? Spaltenkopf{name, {}, {}}
-                               : Spaltenkopf{std::string(variable->erste), std::string(variable->zweite), {}};
+    const auto ort = std::ranges::find(variablen(), name, &Variable::name);
+    return ort == variablen().end() ? Spaltenkopf{name, {}, {}}
+                                    : Spaltenkopf{std::string(ort->erste), std::string(ort->zweite), {}};
 }
