@@ -83,11 +83,6 @@ private:
     std::vector<Altregel> m_regeln;
 };
 
-struct Feldregel {
-    std::string_view feld;
-    Altregel regel;
-};
-
 std::vector<Altregel> baueKernregeln()
 {
     const auto leer = [](int) { return fest({}); };
@@ -101,45 +96,45 @@ std::vector<Altregel> baueKernregeln()
     reihe.setzeReihe("Zuvor"_t, 1, 18, leer);
     reihe.setzeReihe("Kinder"_t, 1, 2, leer);
     reihe.setzeReihe("LebenSit"_t, 0, 5, [](int nummer) { return kopie(63 + 2 * nummer); });
-    for (const auto& [feld, regel] : {
-             Feldregel{"BetrBeg"_t, kopie(altspalte::kern::beginn)},
-             Feldregel{"BetrEnd"_t, kopie(altspalte::kern::ende)},
-             Feldregel{"BetrGru"_t, kopie(16)},
-             Feldregel{"zuvorNULL"_t, kopie(18)},
-             Feldregel{"Wieder"_t, kopie(11)},
-             Feldregel{"Vermitt"_t, codes(17, vermittCodes, null)},
-             Feldregel{"Auflagen1"_t, codes(14, auflagenCodes)},
-             Feldregel{"Kosten1"_t, gleich(12, "1"_t)},
-             Feldregel{"Kosten2"_t, gleich(12, "2"_t)},
-             Feldregel{"Kosten3"_t, gleich(12, "46"_t)},
-             Feldregel{"Kosten4"_t, gleich(12, "47"_t)},
-             Feldregel{"Kosten5"_t, gleich(12, "48"_t)},
-             Feldregel{"Kosten9"_t, gleich(12, "45"_t)},
-             Feldregel{"Zuvor2"_t, kopie(30)},
-             Feldregel{"Zuvor5"_t, kopie(25)},
-             Feldregel{"Zuvor7"_t, kopie(36)},
-             Feldregel{"Zuvor9"_t, kopie(46)},
-             Feldregel{"FamSta"_t, kopie(60)},
-             Feldregel{"Partner"_t, kopie(61)},
-             Feldregel{"Nation"_t, fest({})},
-             Feldregel{"Schule"_t, codes(77, schuleCodes)},
-             Feldregel{"Wohnung1"_t, codes(75, wohnungCodes)},
-             Feldregel{"Wohnung3"_t, codes(76, wohnungCodes)},
-             Feldregel{"Erwerb1"_t, codes(78, erwerbCodes)},
-             Feldregel{"MasInt2"_t, gleich(93, ja)},
-             Feldregel{"MasInt3"_t, gleich(87, ja, 112)},
-             Feldregel{"MasInt5"_t, gleich(84, ja)},
-             Feldregel{"MasInt6"_t, gleich(87, ja)},
-             Feldregel{"MasInt9"_t, gleich(92, ja)},
-             Feldregel{"MasExt2"_t, gleich(112, ja)},
-             Feldregel{"MasExt3"_t, gleich(106, ja, 93)},
-             Feldregel{"MasExt5"_t, gleich(103, ja)},
-             Feldregel{"MasExt6"_t, gleich(106, ja)},
-             Feldregel{"MasExt9"_t, gleich(111, ja)},
-             Feldregel{"Kontakte"_t, {.art = Regelart::OhneNull, .spalte = 160}},
-             Feldregel{"ArtEnd1"_t, codes(161, artEndeCodes)},
-             Feldregel{"ArtEnd2"_t, {.art = Regelart::FührendeAcht, .spalte = 161}},
-             Feldregel{"ProblEnde"_t, codes(162, problEndeCodes)},
+    for (const auto& [feld, regel] : std::initializer_list<std::pair<std::string_view, Altregel>>{
+             {"BetrBeg"_t, kopie(altspalte::kern::beginn)},
+             {"BetrEnd"_t, kopie(altspalte::kern::ende)},
+             {"BetrGru"_t, kopie(16)},
+             {"zuvorNULL"_t, kopie(18)},
+             {"Wieder"_t, kopie(11)},
+             {"Vermitt"_t, codes(17, vermittCodes, null)},
+             {"Auflagen1"_t, codes(14, auflagenCodes)},
+             {"Kosten1"_t, gleich(12, "1"_t)},
+             {"Kosten2"_t, gleich(12, "2"_t)},
+             {"Kosten3"_t, gleich(12, "46"_t)},
+             {"Kosten4"_t, gleich(12, "47"_t)},
+             {"Kosten5"_t, gleich(12, "48"_t)},
+             {"Kosten9"_t, gleich(12, "45"_t)},
+             {"Zuvor2"_t, kopie(30)},
+             {"Zuvor5"_t, kopie(25)},
+             {"Zuvor7"_t, kopie(36)},
+             {"Zuvor9"_t, kopie(46)},
+             {"FamSta"_t, kopie(60)},
+             {"Partner"_t, kopie(61)},
+             {"Nation"_t, fest({})},
+             {"Schule"_t, codes(77, schuleCodes)},
+             {"Wohnung1"_t, codes(75, wohnungCodes)},
+             {"Wohnung3"_t, codes(76, wohnungCodes)},
+             {"Erwerb1"_t, codes(78, erwerbCodes)},
+             {"MasInt2"_t, gleich(93, ja)},
+             {"MasInt3"_t, gleich(87, ja, 112)},
+             {"MasInt5"_t, gleich(84, ja)},
+             {"MasInt6"_t, gleich(87, ja)},
+             {"MasInt9"_t, gleich(92, ja)},
+             {"MasExt2"_t, gleich(112, ja)},
+             {"MasExt3"_t, gleich(106, ja, 93)},
+             {"MasExt5"_t, gleich(103, ja)},
+             {"MasExt6"_t, gleich(106, ja)},
+             {"MasExt9"_t, gleich(111, ja)},
+             {"Kontakte"_t, {.art = Regelart::OhneNull, .spalte = 160}},
+             {"ArtEnd1"_t, codes(161, artEndeCodes)},
+             {"ArtEnd2"_t, {.art = Regelart::FührendeAcht, .spalte = 161}},
+             {"ProblEnde"_t, codes(162, problEndeCodes)},
          }) {
         reihe.setze(feld, regel);
     }

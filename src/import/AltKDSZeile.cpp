@@ -8,7 +8,6 @@
 #include "satz/WeitereDiagnosen.h"
 #include "satz/Wertelisten.h"
 
-#include <algorithm>
 #include <array>
 #include <limits>
 
@@ -93,23 +92,18 @@ void AltKDSZeile::führeAus(const Spaltenanweisung& anweisung, int spalte)
     }
 }
 
-void AltKDSZeile::meldeFehlendeOption(std::string_view text, int spalte, int quelle) const
-{
-    melde(verbinde("Fehler in Optionsparsing ! \r"_t, m_satz.zeile(), "\r\rakt.parseSatz: "_t,
-                   std::to_string(m_satz.gelesene()), "\rebis-Arg#: "_t, alsText(spalte), "\rTolvek-Arg#: "_t,
-                   alsText(quelle), "\rTolvek: '"_t, text, "' nicht gefunden"_t));
-}
-
 void AltKDSZeile::option(const Spaltenanweisung& anweisung, int spalte)
 {
     const auto text = m_satz.feldOhneLeerzeichen(anweisung.quelle);
-    const auto ort = std::find_if(anweisung.paare.begin(), anweisung.paare.end(),
-                                  [&](const auto& paar) { return paar.first == text; });
-    if (ort == anweisung.paare.end()) {
-        meldeFehlendeOption(text, spalte, anweisung.quelle);
-        return;
+    for (const auto& [quelltext, zieltext] : anweisung.paare) {
+        if (quelltext == text) {
+            wert(zieltext);
+            return;
+        }
     }
-    wert(ort->second);
+    melde(verbinde("Fehler in Optionsparsing ! \r"_t, m_satz.zeile(), "\r\rakt.parseSatz: "_t,
+                   std::to_string(m_satz.gelesene()), "\rebis-Arg#: "_t, alsText(spalte), "\rTolvek-Arg#: "_t,
+                   alsText(anweisung.quelle), "\rTolvek: '"_t, text, "' nicht gefunden"_t));
 }
 
 void AltKDSZeile::icdZusatz(std::string_view text, int spalte)

@@ -77,17 +77,6 @@ std::optional<std::string_view> festeKernspalte(std::string_view klient, const B
     }
 }
 
-/// Whether the digits of any group from `von` to `bis` hold something.
-bool istEineBelegt(const Betreuungssatz& satz, int von, int bis)
-{
-    for (int gruppe = von; gruppe <= bis; ++gruppe) {
-        if (!satz.istLeer(altfeld::betreuung::gruppe(gruppe))) {
-            return true;
-        }
-    }
-    return false;
-}
-
 std::string_view klassencode(const Betreuungssatz& satz, int spalte)
 {
     const int feld = altfeld::betreuung::gruppe(altfeld::gruppe::f10 + spalte - altspalte::diag::f10);
@@ -100,7 +89,13 @@ std::string_view klassencode(const Betreuungssatz& satz, int spalte)
 /// The same for the diagnosis row.
 std::optional<std::string_view> festeDiagnosespalte(const Betreuungssatz& satz, int spalte)
 {
-    const auto belegt = [&](int von, int bis) { return istEineBelegt(satz, von, bis) ? zwei : ohneEintrag; };
+    const auto belegt = [&](int von, int bis) { // whether the digits of any group hold something
+        bool eine = false;
+        for (int gruppe = von; gruppe <= bis; ++gruppe) {
+            eine = eine || !satz.istLeer(altfeld::betreuung::gruppe(gruppe));
+        }
+        return eine ? zwei : ohneEintrag;
+    };
     if (spalte >= altspalte::diag::f10 && spalte <= altspalte::diag::f19) {
         return klassencode(satz, spalte);
     }
