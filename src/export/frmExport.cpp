@@ -8,8 +8,6 @@
 #include "zustand/Zustand.h"
 
 #include <optional>
-#include <string>
-#include <vector>
 
 namespace {
 

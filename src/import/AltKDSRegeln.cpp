@@ -83,7 +83,9 @@ private:
     std::vector<Altregel> m_regeln;
 };
 
-std::vector<Altregel> baueKernregeln()
+} // namespace
+
+std::vector<Altregel> kernregeln()
 {
     const auto leer = [](int) { return fest({}); };
     Regelreihe reihe(kernspalten().size());
@@ -141,7 +143,7 @@ std::vector<Altregel> baueKernregeln()
     return reihe.nimmRegeln();
 }
 
-std::vector<Altregel> baueDiagnoseregeln()
+std::vector<Altregel> diagnoseregeln()
 {
     using namespace feld::diag;
     constexpr std::array ersteSpalten{19, 25, 32, 39,  46,  53,  59,  65,  71,  77,
@@ -167,18 +169,4 @@ std::vector<Altregel> baueDiagnoseregeln()
         reihe.setzeDiagnose(weitere(nummer), fehlt ? fest({}) : kopie(altspalte::diag::weitere + nummer - 1));
     }
     return reihe.nimmRegeln();
-}
-
-} // namespace
-
-const std::vector<Altregel>& kernregeln()
-{
-    static const auto regeln = baueKernregeln();
-    return regeln;
-}
-
-const std::vector<Altregel>& diagnoseregeln()
-{
-    static const auto regeln = baueDiagnoseregeln();
-    return regeln;
 }

@@ -24,6 +24,6 @@ struct Altregel {
     int zweite = 0; ///< second column of Gleich
 };
 
-/// Rule n-1 makes column n.
-const std::vector<Altregel>& kernregeln();
-const std::vector<Altregel>& diagnoseregeln();
+/// Rule n-1 makes column n; made at each call.
+std::vector<Altregel> kernregeln();
+std::vector<Altregel> diagnoseregeln();

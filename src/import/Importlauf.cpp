@@ -131,7 +131,10 @@ Importzahlen Importlauf::führeAus()
 {
     const NeueTabellen tabellen{datei("KernDat.txt"), datei("BetrDat.txt"), datei("DiagDat.txt"),
                                 datei("dummyDat.txt")};
-    bereiteVor();
+    if (dateien().istOrdner(m_ordner)) {
+        dateien().entferneOrdner(m_ordner);
+    }
+    dateien().legeOrdnerAn(m_ordner);
     führeStufenAus(tabellen.kernDat, tabellen.betrDat, tabellen.diagDat);
     entferneDoppelte(dateien(), tabellen);
     beiSchritt("Markiere importierte Datensätze, import: NATION und BETRGRU"_t, 6);
@@ -158,14 +161,6 @@ void Importlauf::entferneReste(const Bestand& bestand)
     } catch (const Laufzeitfehler&) {
         // whoever broke off has been told; the next run or start tries again
     }
-}
-
-void Importlauf::bereiteVor() const
-{
-    if (dateien().istOrdner(m_ordner)) {
-        dateien().entferneOrdner(m_ordner);
-    }
-    dateien().legeOrdnerAn(m_ordner);
 }
 
 void Importlauf::führeStufenAus(const std::filesystem::path& kernDat, const std::filesystem::path& betrDat,

@@ -31,7 +31,6 @@ public:
     static void entferneReste(const Bestand& bestand);
 
 private:
-    void bereiteVor() const;
     /// The three tables as stage 4 makes them.
     void führeStufenAus(const std::filesystem::path& kernDat, const std::filesystem::path& betrDat,
                         const std::filesystem::path& diagDat) const;

@@ -10,7 +10,6 @@
 #include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
 
-#include <string>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>

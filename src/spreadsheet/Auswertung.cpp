@@ -14,7 +14,6 @@
 #include <climits>
 #include <cstdint>
 #include <utility>
-#include <vector>
 
 namespace {
 
