@@ -64,7 +64,13 @@ std::int32_t Exportlauf::führeAus()
         m_diagnose = dateien().schreibeNeu(m_ordner / exportort::diagnose);
     });
     try {
-        exportiereAlle();
+        Zeilen klienten(m_klienten->text());
+        while (const auto zeile = klienten.nächste()) {
+            if (beiKlient) {
+                beiKlient(static_cast<std::int32_t>(klienten.nummer()));
+            }
+            exportiereKlient(*zeile, klienten.nummer());
+        }
     } catch (const Laufzeitfehler&) {
         behalteGeschriebenes();
         throw;
@@ -74,17 +80,6 @@ std::int32_t Exportlauf::führeAus()
         m_diagnose->schließe();
     });
     return m_exportierte;
-}
-
-void Exportlauf::exportiereAlle()
-{
-    Zeilen klienten(m_klienten->text());
-    while (const auto zeile = klienten.nächste()) {
-        if (beiKlient) {
-            beiKlient(static_cast<std::int32_t>(klienten.nummer()));
-        }
-        exportiereKlient(*zeile, klienten.nummer());
-    }
 }
 
 /// What ends the program is told to the person, not whether these rows could be kept as well.

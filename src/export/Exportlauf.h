@@ -57,7 +57,6 @@ public:
     std::int32_t führeAus();
 
 private:
-    void exportiereAlle();
     void exportiereKlient(std::string_view zeile, std::size_t nummer);
     /// Notes the episodes of the year and exports those of the first client on the way.
     void sucheBetreuungen(std::int32_t erster);

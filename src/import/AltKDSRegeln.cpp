@@ -16,7 +16,7 @@
 namespace {
 
 constexpr auto null = "0"_t;
-constexpr auto ja = "2"_t;
+constexpr auto gesetzt = "2"_t;
 constexpr auto fehler = "FEHLER"_t;
 
 constexpr Wertepaar vermittCodes[]{{"0", "0"},   {"1", "1"},   {"2", "2"},  {"3", "3"},   {"15", "4"},
@@ -123,16 +123,16 @@ std::vector<Altregel> kernregeln()
              {"Wohnung1"_t, codes(75, wohnungCodes)},
              {"Wohnung3"_t, codes(76, wohnungCodes)},
              {"Erwerb1"_t, codes(78, erwerbCodes)},
-             {"MasInt2"_t, gleich(93, ja)},
-             {"MasInt3"_t, gleich(87, ja, 112)},
-             {"MasInt5"_t, gleich(84, ja)},
-             {"MasInt6"_t, gleich(87, ja)},
-             {"MasInt9"_t, gleich(92, ja)},
-             {"MasExt2"_t, gleich(112, ja)},
-             {"MasExt3"_t, gleich(106, ja, 93)},
-             {"MasExt5"_t, gleich(103, ja)},
-             {"MasExt6"_t, gleich(106, ja)},
-             {"MasExt9"_t, gleich(111, ja)},
+             {"MasInt2"_t, gleich(93, gesetzt)},
+             {"MasInt3"_t, gleich(87, gesetzt, 112)},
+             {"MasInt5"_t, gleich(84, gesetzt)},
+             {"MasInt6"_t, gleich(87, gesetzt)},
+             {"MasInt9"_t, gleich(92, gesetzt)},
+             {"MasExt2"_t, gleich(112, gesetzt)},
+             {"MasExt3"_t, gleich(106, gesetzt, 93)},
+             {"MasExt5"_t, gleich(103, gesetzt)},
+             {"MasExt6"_t, gleich(106, gesetzt)},
+             {"MasExt9"_t, gleich(111, gesetzt)},
              {"Kontakte"_t, {.art = Regelart::OhneNull, .spalte = 160}},
              {"ArtEnd1"_t, codes(161, artEndeCodes)},
              {"ArtEnd2"_t, {.art = Regelart::FührendeAcht, .spalte = 161}},

@@ -10,21 +10,17 @@
 
 #include <array>
 #include <limits>
+#include <utility>
 
 namespace {
 
 constexpr auto offen = "OFFEN"_t;
 
-struct Kostenträger {
-    int feld;
-    std::string_view code;
-};
-
-/// Of several bearers the last one in this order counts.
+/// Field and code. Of several bearers the last one in this order counts.
 constexpr std::array kostenträgerListe{
-    Kostenträger{altfeld::betreuung::kostenSelbst, "2"_t},  Kostenträger{altfeld::betreuung::kostenSonst, "45"_t},
-    Kostenträger{altfeld::betreuung::kostenSozial, "48"_t}, Kostenträger{altfeld::betreuung::kostenKV, "47"_t},
-    Kostenträger{altfeld::betreuung::kostenRV, "46"_t},     Kostenträger{altfeld::betreuung::kostenPauschal, "1"_t},
+    std::pair{altfeld::betreuung::kostenSelbst, "2"_t},  std::pair{altfeld::betreuung::kostenSonst, "45"_t},
+    std::pair{altfeld::betreuung::kostenSozial, "48"_t}, std::pair{altfeld::betreuung::kostenKV, "47"_t},
+    std::pair{altfeld::betreuung::kostenRV, "46"_t},     std::pair{altfeld::betreuung::kostenPauschal, "1"_t},
 };
 
 /// With the six flags.
@@ -133,9 +129,9 @@ void AltKDSZeile::lebensSituation(std::string_view text)
 void AltKDSZeile::kostenträger()
 {
     std::string_view code = "0"_t;
-    for (const auto& träger : kostenträgerListe) {
-        if (m_satz.feld(träger.feld) == "1") {
-            code = träger.code;
+    for (const auto& [feld, trägercode] : kostenträgerListe) {
+        if (m_satz.feld(feld) == "1") {
+            code = trägercode;
         }
     }
     wert(code);

@@ -42,43 +42,14 @@ std::unordered_map<std::string_view, std::vector<std::string_view>> nachSchlüss
     return zeilen;
 }
 
-/// The three tables being written.
-class Ausgabe {
-public:
-    Ausgabe(Dateien& dateien, const std::filesystem::path& kernDat, const std::filesystem::path& betrDat,
-            const std::filesystem::path& diagDat)
-        : m_kern(dateien.schreibeNeu(kernDat)), m_betreuung(dateien.schreibeNeu(betrDat)),
-          m_diagnose(dateien.schreibeNeu(diagDat))
-    {}
-
-    void schreibeKlient(const Satzsicht& kernzeile, std::string_view person)
-    {
-        m_kern->zeile(verbinde(trenner, kernzeile.feld(exportspalte::kernID), trenner, trenner,
-                               felder(person, altfeld::klient::nachname, altfeld::klient::ort),
-                               geschlecht(kernzeile.feld(feldAus(klientenfelder(), feld::kern::geschlecht).spalte)),
-                               trenner, getFeld(person, altfeld::klient::geburt), trenner));
-    }
-
-    void schreibeEpisode(const Episodenzeilen& zeilen)
-    {
-        m_betreuung->zeile(m_betreuungssatz.baue(zeilen));
-        m_diagnose->zeile(m_diagnosesatz.baue(zeilen));
-    }
-
-    void schließe()
-    {
-        m_kern->schließe();
-        m_betreuung->schließe();
-        m_diagnose->schließe();
-    }
-
-private:
-    std::unique_ptr<Schreiber> m_kern;
-    std::unique_ptr<Schreiber> m_betreuung;
-    std::unique_ptr<Schreiber> m_diagnose;
-    Satzbau m_betreuungssatz{Satzbau::Art::Betreuung, betreuungsanweisungen()};
-    Satzbau m_diagnosesatz{Satzbau::Art::Diagnose, diagnoseanweisungen()};
-};
+/// The client record, still without a status.
+std::string klientensatz(const Satzsicht& kernzeile, std::string_view person)
+{
+    return verbinde(trenner, kernzeile.feld(exportspalte::kernID), trenner, trenner,
+                    felder(person, altfeld::klient::nachname, altfeld::klient::ort),
+                    geschlecht(kernzeile.feld(feldAus(klientenfelder(), feld::kern::geschlecht).spalte)), trenner,
+                    getFeld(person, altfeld::klient::geburt), trenner);
+}
 
 } // namespace
 
@@ -92,7 +63,11 @@ void moImp4KDStoMorvek(Dateien& dateien, const std::filesystem::path& kdsKern, c
     const Eingabedatei extra(dateien, extraExp);
     const Zeilenverzeichnis<std::int32_t> personen(
         extra, [&](std::string_view zeile) { return extra.leseNummer(getFeld(zeile, altfeld::klient::nummer)); });
-    Ausgabe ausgabe(dateien, kernDat, betrDat, diagDat);
+    const auto klientenAus = dateien.schreibeNeu(kernDat);
+    const auto betreuungenAus = dateien.schreibeNeu(betrDat);
+    const auto diagnosenAus = dateien.schreibeNeu(diagDat);
+    Satzbau betreuungssatz(Satzbau::Art::Betreuung, betreuungsanweisungen());
+    Satzbau diagnosesatz(Satzbau::Art::Diagnose, diagnoseanweisungen());
 
     std::unordered_set<std::int32_t> bekannte;
     bool kernGeschrieben = true; // not tied to an id: a client without diagnosis row leaves it to the next pair
@@ -110,11 +85,15 @@ void moImp4KDStoMorvek(Dateien& dateien, const std::filesystem::path& kdsKern, c
             const auto betrID = kernzeilen.leseNummer(kern.feld(exportspalte::betrID));
             diagnose.lies(diagnosezeile, spaltentrenner);
             if (!kernGeschrieben) {
-                ausgabe.schreibeKlient(kern, person);
+                klientenAus->zeile(klientensatz(kern, person));
+                kernGeschrieben = true;
             }
-            ausgabe.schreibeEpisode({kern, diagnose, kernID, betrID});
-            kernGeschrieben = true;
+            const Episodenzeilen episode{kern, diagnose, kernID, betrID};
+            betreuungenAus->zeile(betreuungssatz.baue(episode));
+            diagnosenAus->zeile(diagnosesatz.baue(episode));
         }
     });
-    ausgabe.schließe();
+    for (const auto* aus : {&klientenAus, &betreuungenAus, &diagnosenAus}) {
+        (*aus)->schließe();
+    }
 }

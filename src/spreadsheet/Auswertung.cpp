@@ -19,16 +19,6 @@ namespace {
 
 constexpr int höchsteZeile = INT16_MAX;
 
-std::string klientenschlüssel(std::string_view zeile)
-{
-    return std::string(getFeld(zeile, feld::kern::kernID));
-}
-
-std::string betreuungsschlüssel(std::string_view zeile)
-{
-    return verbinde(getFeld(zeile, feld::betr::kernID), trenner, getFeld(zeile, feld::betr::betrID));
-}
-
 /// The cells of a record: the fields of the table's columns and no others.
 Feldplan planZu(std::span<const auswertungsspalte::Spalte> spalten)
 {
@@ -65,7 +55,10 @@ HDBlock sucheHDBlock(std::string_view satz)
 
 Auswertung::Auswertung(Arbeitsmappe& mappe, const Tabellen& tabellen, std::filesystem::path diagDat)
     : m_blatt(mappe.fügeBlattEinVor(1, "Auswertung"_t)), m_diag(tabellen.diag), m_diagDat(std::move(diagDat)),
-      m_klienten(tabellen.kern, klientenschlüssel), m_betreuungen(tabellen.betr, betreuungsschlüssel)
+      m_klienten(tabellen.kern, [](std::string_view zeile) { return std::string(getFeld(zeile, feld::kern::kernID)); }),
+      m_betreuungen(tabellen.betr, [](std::string_view zeile) {
+          return verbinde(getFeld(zeile, feld::betr::kernID), trenner, getFeld(zeile, feld::betr::betrID));
+      })
 {
     schreibeKöpfe(auswertungsspalte::fall, auswertungsspalte::kennungen);
 }
