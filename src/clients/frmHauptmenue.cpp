@@ -40,6 +40,10 @@ void frmHauptmenü::baueMenü()
     menü = {{.titel = &mnDatei, .einträge = {&mnHandakte, &mnExcel, &mnBeenden}},
             {.titel = &Export, .einträge = {&mnExport}},
             {.titel = &mnFragezeichen, .einträge = {&mnInfo}}};
+    mnExcel.beiKlick = [this] { zeigeExcel(); };
+    mnBeenden.beiKlick = [this] { beende(); };
+    mnExport.beiKlick = [this] { zeigeExport(); };
+    mnInfo.beiKlick = [this] { zeigeInfo(); };
 }
 
 void frmHauptmenü::ordneAn()
@@ -81,11 +85,6 @@ void frmHauptmenü::verbindeRegeln()
     cmdRollback.beiKlick = [this] { verwerfeEingaben(); };
     cmdDatenübernahme.beiKlick = [this] { zustand().folge.öffneStatt(*this, m_datenÜbernahme.neu()); };
     cmdExit.beiKlick = [this] { beende(); };
-
-    mnExport.beiKlick = [this] { zeigeExport(); };
-    mnExcel.beiKlick = [this] { zeigeExcel(); };
-    mnInfo.beiKlick = [this] { zeigeInfo(); };
-    mnBeenden.beiKlick = [this] { beende(); };
 }
 
 void frmHauptmenü::beiAktivierung()

@@ -7,7 +7,12 @@
 using Farbe = std::int32_t;
 
 namespace farbe {
-inline constexpr Farbe rot = 255;
-inline constexpr Farbe weiß = 16777215;
-inline constexpr Farbe grau = 8947848;
+/// Each part from 0 to 255.
+constexpr Farbe aus(int rot, int grün, int blau)
+{
+    return rot + 256 * grün + 65536 * blau;
+}
+inline constexpr Farbe rot = aus(255, 0, 0);
+inline constexpr Farbe weiß = aus(255, 255, 255);
+inline constexpr Farbe grau = aus(136, 136, 136);
 } // namespace farbe

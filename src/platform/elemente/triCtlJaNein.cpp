@@ -18,8 +18,8 @@ constexpr std::array<Antwortwert, 3> antwortwerte{{
     {antworttext::nein, farbe::grau},
 }};
 
-constexpr Farbe randMitFokus = 13394787;
-constexpr Farbe randOhneFokus = 4325412;
+constexpr Farbe randMitFokus = farbe::aus(99, 99, 204);
+constexpr Farbe randOhneFokus = farbe::aus(36, 0, 66);
 
 } // namespace
 
