@@ -174,21 +174,20 @@ void start(benchmark::State& stand)
 }
 
 /// The run is killed when the commit record lies there and no table is replaced yet.
-class Abbruch : public Zugriffsweiche {
+class Abbruch : public Dateizugriff {
 public:
-    using Zugriffsweiche::Zugriffsweiche;
     void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach) override
     {
         if (nach.extension() == ".txt" && nach.filename() != "Vorgang.txt") {
             throw Dateifehler("broken off");
         }
-        Zugriffsweiche::benenneUm(von, nach);
+        Dateizugriff::benenneUm(von, nach);
     }
 };
 
 void wiederanlauf(benchmark::State& stand)
 {
-    Dateien abbrechende(std::make_unique<Abbruch>(erzeugeDateizugriff()));
+    Dateien abbrechende(std::make_unique<Abbruch>());
     const Bestandsmeldung stumm = [](std::string_view, Symbol) {};
     const Bestand abgebrochener(abbrechende, lauf().pfade(), stumm);
     const Bestand wiederangelaufener(lauf().umgebung.dateien(), lauf().pfade(), stumm);

@@ -214,7 +214,7 @@ std::string alsBerichtszeile(const Befund& befund, const Bestandspfade& pfade)
 int pruefe(const fs::path& programmordner, std::ostream& aus)
 {
     const auto pfade = bildeBestandspfade(fs::absolute(programmordner / ".").lexically_normal());
-    Dateien dateien(erzeugeDateizugriff());
+    Dateien dateien;
     try {
         const auto bericht = prüfeBestand(dateien, pfade);
         for (const auto& befund : bericht.befunde) {

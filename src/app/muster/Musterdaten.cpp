@@ -4,11 +4,11 @@
 
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Datum.h"
-#include "platform/text/Ressourcen.h"
 #include "platform/text/Text.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosefelder.h"
 #include "satz/moNationen.h"
+#include "store/Bestandspfade.h"
 
 #include <array>
 #include <string_view>
@@ -214,17 +214,15 @@ Mustertabellen erzeugeMusterdaten(const Mustervorgabe& vorgabe)
 
 void schreibeProgrammordner(const std::filesystem::path& ordner, const Mustertabellen& tabellen)
 {
-    Dateien dateien(erzeugeDateizugriff());
-    for (const auto& pfad : {ordner, ordner / "Daten"}) {
+    Dateien dateien;
+    const auto pfade = bildeBestandspfade(ordner);
+    for (const auto& pfad : {ordner, pfade.daten}) {
         dateien.sorgeFürOrdner(pfad);
     }
-    const std::array<std::pair<std::string_view, const std::string*>, 3> namen{
-        {{"kernDat", &tabellen.kern}, {"betrDat", &tabellen.betr}, {"diagDat", &tabellen.diag}}};
-    for (const auto& [name, inhalt] : namen) {
-        for (const auto* endung : {".txt", ".bak"}) {
-            const auto schreiber = dateien.schreibeNeu(ordner / "Daten" / (std::string(name) + endung));
-            schreiber->text(*inhalt);
-            schreiber->schließe();
-        }
+    const std::array inhalte{&tabellen.kern, &tabellen.betr, &tabellen.diag};
+    for (std::size_t i = 0; i < alleSechs.size(); ++i) {
+        const auto schreiber = dateien.schreibeNeu(pfade.von(alleSechs[i]));
+        schreiber->text(*inhalte[i % inhalte.size()]);
+        schreiber->schließe();
     }
 }

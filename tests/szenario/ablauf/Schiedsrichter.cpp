@@ -20,7 +20,7 @@ bool betrifftAngaben(const Befundart& art)
 std::vector<Befund> Schiedsrichter::finde() const
 {
     try {
-        Dateien dateien(erzeugeDateizugriff());
+        Dateien dateien;
         auto befunde = prüfeBestand(dateien, bildeBestandspfade(m_ordner)).befunde;
         std::erase_if(befunde, [](const Befund& befund) { return befund.istHinweis(); });
         return befunde;
