@@ -5,26 +5,6 @@
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/moHelferlein.h"
 
-#include <cstddef>
-
-namespace {
-
-/// Where the text goes on behind its delimiter number `anzahl`; its end if it has fewer.
-std::size_t hinterTrenner(std::string_view text, int anzahl)
-{
-    std::size_t ort = 0;
-    for (; anzahl > 0; --anzahl) {
-        const std::size_t fund = text.find(trenner, ort);
-        if (fund == std::string_view::npos) {
-            return text.size();
-        }
-        ort = fund + 1;
-    }
-    return ort;
-}
-
-} // namespace
-
 // Imported records write an answer that was not given as a number of its own: 9 for eating disorders, 99 for
 // gaming machines (the other forms of gambling don't), 0 everywhere else.
 bool istLeerwert(int gruppe, int platz, std::string_view wert)
@@ -43,10 +23,9 @@ bool istLeerwert(int gruppe, int platz, std::string_view wert)
 
 Blockteile zerlegeDSDiag(std::string_view dsDiag, int gruppe)
 {
-    const std::size_t anfang = hinterTrenner(dsDiag, felderJeGruppe * (gruppe - 1));
-    const std::string_view rest = dsDiag.substr(anfang);
-    const std::size_t länge = hinterTrenner(rest, felderJeGruppe);
-    return {dsDiag.substr(0, anfang), rest.substr(0, länge), rest.substr(länge)};
+    const auto rest = abFeld(dsDiag, blockposition(gruppe, Konsumart)).value_or(std::string_view());
+    const auto dahinter = abFeld(rest, felderJeGruppe + 1).value_or(std::string_view());
+    return {dsDiag.substr(0, dsDiag.size() - rest.size()), rest.substr(0, rest.size() - dahinter.size()), dahinter};
 }
 
 std::string_view blockfeld(std::string_view dsDiag, int gruppe, int platz)

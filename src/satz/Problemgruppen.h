@@ -1,5 +1,6 @@
 #pragma once
 
+#include "satz/Exportspalten.h"
 #include "satz/Satzaufbau.h"
 #include "satz/moData.h"
 
@@ -19,8 +20,9 @@ enum Blockfeld { Konsumart = 1, TageBeginn, TageEnde, ICDStelle4, AlterStörung,
 struct Blockfrage {
     Feldart art = Feldart::leer;
     Werteliste werte{};
-    bool gefragt = false; ///< a person can answer it
-    bool eigeneSpalte = false;
+    bool gefragt = false;      ///< a person can answer it
+    bool eigeneSpalte = false; ///< in each group
+    int gemeinsameSpalte = 0;  ///< of all groups: an answer of the main diagnosis
 };
 
 /// The groups from one to another, which ask the same.
@@ -47,11 +49,11 @@ constexpr Blockfrage option(Werteliste werte)
 }
 inline constexpr Blockfrage zahl{Feldart::zahl, {}, true, true};
 inline constexpr Blockfrage nichts{};
-/// One column for all groups: they are answers of the main diagnosis.
-inline constexpr Blockfrage erstkonsum{Feldart::hdAlter, {}, true, false};
+inline constexpr Blockfrage erstkonsum{Feldart::hdAlter, {}, true, false, exportspalte::diag::alterErstkonsum};
 /// The import fills it, nobody is asked.
-inline constexpr Blockfrage erstkonsumUngefragt{Feldart::hdAlter, {}, false, false};
-inline constexpr Blockfrage marke{Feldart::icd0000, {}, true, false};
+inline constexpr Blockfrage erstkonsumUngefragt{
+    Feldart::hdAlter, {}, false, false, exportspalte::diag::alterErstkonsum};
+inline constexpr Blockfrage marke{Feldart::icd0000, {}, true, false, exportspalte::diag::hauptdiagnose};
 
 inline constexpr std::array<Gruppenreihe, 3> gruppenreihen{{
     {Gruppenart::Substanz,

@@ -3,7 +3,6 @@
 #include "platform/text/Text.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosefelder.h"
-#include "satz/Exportspalten.h"
 #include "satz/Klientenfelder.h"
 #include "satz/moNationen.h"
 
@@ -43,16 +42,9 @@ Feldreihe namenlos(Spalten spalten, Feldart art, Werteliste werte = {})
     return {{}, einzeln, spalten, art, werte, {}};
 }
 
-Spalten gemeinsameSpalte(Feldart art)
+Spalten gemeinsameSpalte(const Blockfrage& frage)
 {
-    switch (art) {
-    case Feldart::hdAlter:
-        return {'D', exportspalte::diag::alterErstkonsum, true};
-    case Feldart::icd0000:
-        return {'D', exportspalte::diag::hauptdiagnose, true};
-    default:
-        return ohneSpalte;
-    }
+    return frage.gemeinsameSpalte == 0 ? ohneSpalte : Spalten{'D', frage.gemeinsameSpalte, true};
 }
 
 void hängeGruppenAn(std::vector<Feldreihe>& reihen, const Gruppenreihe& gruppen)
@@ -60,8 +52,8 @@ void hängeGruppenAn(std::vector<Feldreihe>& reihen, const Gruppenreihe& gruppen
     int spalte = gruppen.ersteSpalte;
     for (int gruppe = gruppen.von; gruppe <= gruppen.bis; ++gruppe) {
         for (const auto& frage : gruppen.fragen) {
-            reihen.push_back(namenlos(frage.eigeneSpalte ? Spalten{'D', spalte++} : gemeinsameSpalte(frage.art),
-                                      frage.art, frage.werte));
+            reihen.push_back(namenlos(frage.eigeneSpalte ? Spalten{'D', spalte++} : gemeinsameSpalte(frage), frage.art,
+                                      frage.werte));
         }
     }
 }

@@ -6,11 +6,15 @@
 #include <algorithm>
 #include <climits>
 #include <limits>
-#include <optional>
 
-namespace {
+void prüfeZeilenlänge(std::string_view zeile)
+{
+    if (zeile.size() > satzgrenze::zeilenlänge) {
+        throw Laufzeitfehler(verbinde("Überlauf: Eine Zeile ist "_t, std::to_string(zeile.size()),
+                                      " Zeichen lang, erlaubt sind "_t, std::to_string(satzgrenze::zeilenlänge)));
+    }
+}
 
-/// What is left of the line from field `nummer` on, without a value when there is no such field.
 std::optional<std::string_view> abFeld(std::string_view zeile, int nummer, char trennzeichen)
 {
     if (nummer < 1) {
@@ -26,16 +30,6 @@ std::optional<std::string_view> abFeld(std::string_view zeile, int nummer, char 
     return zeile;
 }
 
-} // namespace
-
-void prüfeZeilenlänge(std::string_view zeile)
-{
-    if (zeile.size() > satzgrenze::zeilenlänge) {
-        throw Laufzeitfehler(verbinde("Überlauf: Eine Zeile ist "_t, std::to_string(zeile.size()),
-                                      " Zeichen lang, erlaubt sind "_t, std::to_string(satzgrenze::zeilenlänge)));
-    }
-}
-
 std::string_view getFeld(std::string_view zeile, int nummer, char trennzeichen)
 {
     prüfeZeilenlänge(zeile);
@@ -45,7 +39,7 @@ std::string_view getFeld(std::string_view zeile, int nummer, char trennzeichen)
 
 std::string ersetzeFeld(std::string_view zeile, int nummer, std::string_view neu)
 {
-    const auto rest = abFeld(zeile, std::max(nummer, 2), trenner);
+    const auto rest = abFeld(zeile, std::max(nummer, 2));
     if (!rest) {
         throw Laufzeitfehler(verbinde("Die Zeile hat kein Feld "_t, std::to_string(nummer), ", sie beginnt mit \""_t,
                                       zeile.substr(0, 40), "\""_t));
@@ -79,20 +73,20 @@ std::string felder(std::string_view zeile, int von, int bis)
 {
     prüfeZeilenlänge(zeile);
     std::string ergebnis;
-    auto rest = abFeld(zeile, von, trenner);
+    auto rest = abFeld(zeile, von);
     for (int feld = von; feld <= bis; ++feld) {
         ergebnis.append(rest ? rest->substr(0, rest->find(trenner)) : std::string_view()).push_back(trenner);
-        rest = rest ? abFeld(*rest, 2, trenner) : rest;
+        rest = rest ? abFeld(*rest, 2) : rest;
     }
     return ergebnis;
 }
 
 std::string_view feldbereich(std::string_view zeile, int von, int bis)
 {
-    const auto bereich = abFeld(zeile, von, trenner).value_or(std::string_view{});
+    const auto bereich = abFeld(zeile, von).value_or(std::string_view{});
     if (bis == INT_MAX) {
         return bereich;
     }
-    const auto dahinter = abFeld(bereich, bis - von + 2, trenner);
+    const auto dahinter = abFeld(bereich, bis - von + 2);
     return dahinter ? bereich.substr(0, bereich.size() - dahinter->size() - 1) : bereich;
 }

@@ -3,6 +3,7 @@
 #include "platform/text/Text.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,8 @@
 /// Field `nummer` (from 1) of the line; empty beyond the last, below 1 and in an empty line. A line of more
 /// than 32,767 characters is a Laufzeitfehler.
 std::string_view getFeld(std::string_view zeile, int nummer, char trennzeichen = trenner);
+/// What is left of the line from field `nummer` on, without a value when there is no such field.
+std::optional<std::string_view> abFeld(std::string_view zeile, int nummer, char trennzeichen = trenner);
 /// The line with field `nummer` (from 2) replaced. Too few delimiters are a Laufzeitfehler. For field 1 it
 /// would replace field 2, so no caller uses it there.
 std::string ersetzeFeld(std::string_view zeile, int nummer, std::string_view neu);

@@ -11,18 +11,11 @@ Fassung::Fassung(Tabelle tabelle, std::filesystem::path pfad, std::unique_ptr<Da
     : m_tabelle(tabelle), m_pfad(std::move(pfad)), m_inhalt(std::move(inhalt)), m_alteLänge(alteLänge)
 {}
 
-std::string_view Fassung::behalte(std::string_view satz)
-{
-    return m_neue.emplace_back(satz);
-}
-
 void Fassung::anfüge(std::string_view satz)
 {
-    const auto text = behalte(satz);
+    const std::string_view text = m_neue.emplace_back(satz);
     if (m_zeilen) {
         m_zeilen->push_back({text, leseSchlüsselDerZeile(m_tabelle, text, m_pfad, m_zeilen->size() + 1)});
-    } else {
-        m_anhang.push_back(text);
     }
 }
 
@@ -37,13 +30,12 @@ void Fassung::zerlege()
         return true;
     });
     m_zeilen = std::move(zeilen);
-    m_anhang.clear();
 }
 
 bool Fassung::ersetze(const Satzschlüssel& schlüssel, std::string_view satz)
 {
     zerlege();
-    const auto text = behalte(satz);
+    const std::string_view text = m_neue.emplace_back(satz);
     bool gefunden = false;
     for (auto& zeile : *m_zeilen) {
         if (zeile.schlüssel == schlüssel) {
@@ -84,7 +76,7 @@ void Fassung::laufe(const Zeilenbesuch& besuch) const
             return;
         }
     }
-    static_cast<void>(std::ranges::all_of(m_anhang, gib));
+    static_cast<void>(std::ranges::all_of(m_neue, gib));
 }
 
 void Fassung::schreibe(Schreiber& schreiber) const
@@ -97,10 +89,10 @@ void Fassung::schreibe(Schreiber& schreiber) const
     }
     const auto inhalt = m_inhalt->text();
     schreiber.text(inhalt);
-    if (!m_anhang.empty() && !inhalt.empty() && !inhalt.ends_with('\n') && !inhalt.ends_with('\r')) {
+    if (!m_neue.empty() && !inhalt.empty() && !inhalt.ends_with('\n') && !inhalt.ends_with('\r')) {
         schreiber.text("\r\n");
     }
-    for (const auto zeile : m_anhang) {
+    for (const auto& zeile : m_neue) {
         schreiber.zeile(zeile);
     }
 }

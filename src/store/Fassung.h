@@ -44,13 +44,11 @@ private:
     };
 
     void zerlege();
-    std::string_view behalte(std::string_view satz);
 
     Tabelle m_tabelle;
     std::filesystem::path m_pfad;
     std::unique_ptr<Dateiinhalt> m_inhalt;
     std::optional<std::uint64_t> m_alteLänge;
-    std::deque<std::string> m_neue;         ///< owns the texts of new lines
-    std::vector<std::string_view> m_anhang; ///< new lines at the end, while the table is in one piece
+    std::deque<std::string> m_neue; ///< new lines; while the table is in one piece they stand at its end
     std::optional<std::vector<Zeile>> m_zeilen;
 };

@@ -16,6 +16,10 @@ constexpr std::string_view schlußwort = "Prüfsumme"_t;
 constexpr std::string_view keineLänge = "-";
 constexpr int hexadezimal = 16;
 
+/// What a line of the record tells of its file. The last line has the word for the checksum in the place of a name, and
+/// that of the whole record behind it.
+enum Angabe { Dateiname = 1, AlteLänge, NeueLänge, Dateisumme, Gesamtsumme = 2 };
+
 std::string alsZiffern(std::uint64_t zahl, int basis = 10)
 {
     std::array<char, 24> ziffern{};
@@ -40,11 +44,11 @@ std::optional<Tabelle> tabelleZu(std::string_view name, const Bestandspfade& pfa
 
 std::optional<Vermerk> vermerkAus(std::string_view zeile, const Bestandspfade& pfade)
 {
-    const auto tabelle = tabelleZu(getFeld(zeile, 1, ';'), pfade);
-    const auto alt = getFeld(zeile, 2, ';');
+    const auto tabelle = tabelleZu(getFeld(zeile, Dateiname, ';'), pfade);
+    const auto alt = getFeld(zeile, AlteLänge, ';');
     const auto alteLänge = zahlAus(alt);
-    const auto neueLänge = zahlAus(getFeld(zeile, 3, ';'));
-    const auto prüfsumme = zahlAus(getFeld(zeile, 4, ';'), hexadezimal);
+    const auto neueLänge = zahlAus(getFeld(zeile, NeueLänge, ';'));
+    const auto prüfsumme = zahlAus(getFeld(zeile, Dateisumme, ';'), hexadezimal);
     if (!tabelle || (!alteLänge && alt != keineLänge) || !neueLänge || !prüfsumme) {
         return std::nullopt;
     }
@@ -72,9 +76,9 @@ std::optional<std::vector<Vermerk>> leseVermerke(std::string_view text, const Be
         return std::nullopt;
     }
     for (auto anfang = zeilen.position(); const auto zeile = zeilen.nächste(); anfang = zeilen.position()) {
-        if (getFeld(*zeile, 1, ';') == schlußwort) {
+        if (getFeld(*zeile, Dateiname, ';') == schlußwort) {
             const bool istGanz =
-                zahlAus(getFeld(*zeile, 2, ';'), hexadezimal) == Prüfsumme::von(text.substr(0, anfang));
+                zahlAus(getFeld(*zeile, Gesamtsumme, ';'), hexadezimal) == Prüfsumme::von(text.substr(0, anfang));
             return istGanz ? std::optional(vermerke) : std::nullopt;
         }
         const auto vermerk = vermerkAus(*zeile, pfade);
