@@ -1,10 +1,8 @@
 #include "platform/calc/Zwischenablage.h"
 
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <sstream>
 #include <system_error>
 
@@ -30,33 +28,6 @@ constexpr int fristMs = 600'000;
 /// What a process has open besides input, output and messages of errors.
 constexpr unsigned ersteEigene = 3;
 
-/// How often the file is open right now, from the messages of the system.
-struct Zugriffe {
-    int offen = 0;
-    bool gesehen = false;
-    bool entfernt = false;
-
-    void zähle(std::uint32_t art)
-    {
-        gesehen = gesehen || (art & IN_OPEN) != 0;
-        entfernt = entfernt || (art & IN_IGNORED) != 0;
-        offen += (art & IN_OPEN) != 0 ? 1 : 0;
-        offen -= (art & IN_CLOSE) != 0 ? 1 : 0;
-    }
-};
-
-void liesMeldungen(int melder, Zugriffe& zugriffe)
-{
-    alignas(inotify_event) std::array<char, 4096> puffer;
-    const ssize_t länge = read(melder, puffer.data(), puffer.size());
-    for (ssize_t ort = 0; ort < länge;) {
-        inotify_event meldung{};
-        std::memcpy(&meldung, puffer.data() + ort, sizeof meldung);
-        zugriffe.zähle(meldung.mask);
-        ort += static_cast<ssize_t>(sizeof meldung + meldung.len);
-    }
-}
-
 /// What the guard process needs.
 struct Wache {
     const char* datei;
@@ -70,16 +41,19 @@ struct Wache {
 [[noreturn]] void bewache(const Wache& wache)
 {
     dup2(wache.schloss, STDIN_FILENO);
-    dup2(wache.melder, STDOUT_FILENO);
+    const int melder = dup2(wache.melder, STDOUT_FILENO); // where there is none, the time alone ends the waiting
     close_range(ersteEigene, ~0U, 0);
-    Zugriffe zugriffe;
-    pollfd warten{STDOUT_FILENO, POLLIN, 0};
-    while (!zugriffe.entfernt) {
-        const bool gelesen = zugriffe.gesehen && zugriffe.offen <= 0;
-        if (poll(&warten, 1, gelesen ? ruheMs : fristMs) <= 0) {
+    int offen = 0; // so many have the file open
+    bool gesehen = false;
+    pollfd warten{melder, POLLIN, 0};
+    while (poll(&warten, 1, gesehen && offen <= 0 ? ruheMs : fristMs) > 0) {
+        inotify_event meldung{}; // about one file, so without a name behind it
+        if (read(melder, &meldung, sizeof meldung) < 0 || (meldung.mask & IN_IGNORED) != 0) {
             break;
         }
-        liesMeldungen(STDOUT_FILENO, zugriffe);
+        gesehen = gesehen || (meldung.mask & IN_OPEN) != 0;
+        offen += (meldung.mask & IN_OPEN) != 0 ? 1 : 0;
+        offen -= (meldung.mask & IN_CLOSE) != 0 ? 1 : 0;
     }
     unlink(wache.datei);
     rmdir(wache.ordner);

@@ -173,13 +173,6 @@ void Dateizugriff::sichereOrdnerAufPlatte(const fs::path& pfad)
     prüfeSystem(gelungen || kannOrdnerNichtSichern(::GetLastError()));
 }
 
-void Dateizugriff::verwehreAnderen(const fs::path& pfad)
-{
-    if (const auto fehler = schließeAndereAus(pfad); fehler != ERROR_SUCCESS) {
-        throw Dateifehler(systemgrund(fehler));
-    }
-}
-
 Fund Dateizugriff::findet(const fs::path& pfad)
 {
     const auto name = systempfad(pfad);
