@@ -1,6 +1,6 @@
 #include "platform/calc/Zwischenablage.h"
 
-#include <cerrno>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <sstream>
@@ -69,8 +69,8 @@ void löseVonEinUndAusgabe()
     dup2(nichts, STDERR_FILENO);
 }
 
-/// Starts the program as a grandchild, which nobody has to wait for, and with `wache` a guard beside it. False when the
-/// program can't be started.
+/// Starts the program from a grandchild, which nobody has to wait for and which with `wache` becomes the guard. False
+/// when the program can't be started.
 bool starte(const fs::path& programm, const std::vector<std::string>& argumente, const Wache* wache)
 {
     std::vector<char*> zeiger{const_cast<char*>(programm.c_str())};
@@ -78,22 +78,34 @@ bool starte(const fs::path& programm, const std::vector<std::string>& argumente,
         zeiger.push_back(const_cast<char*>(argument.c_str()));
     }
     zeiger.push_back(nullptr);
+    std::array<int, 2> rohr{};
+    if (pipe2(rohr.data(), O_CLOEXEC) != 0) {
+        return false;
+    }
     const pid_t kind = fork();
     if (kind == 0) {
+        if (fork() != 0) {
+            _exit(0);
+        }
         setsid();
         löseVonEinUndAusgabe();
         close_range(ersteEigene, ~0U, CLOSE_RANGE_CLOEXEC);
-        pid_t enkel = 0;
-        const int fehler = posix_spawn(&enkel, programm.c_str(), nullptr, nullptr, zeiger.data(), environ);
-        if (fehler == 0 && wache != nullptr && fork() == 0) {
+        pid_t nummer = 0;
+        const bool gestartet = posix_spawn(&nummer, programm.c_str(), nullptr, nullptr, zeiger.data(), environ) == 0;
+        (void)!write(rohr[1], &gestartet, sizeof gestartet);
+        if (gestartet && wache != nullptr) {
             bewache(*wache);
         }
-        _exit(fehler);
+        _exit(0);
     }
-    int ende = 0;
-    while (kind > 0 && waitpid(kind, &ende, 0) < 0 && errno == EINTR) {
+    close(rohr[1]);
+    bool gestartet = false;
+    (void)!read(rohr[0], &gestartet, sizeof gestartet); // nothing comes where nobody could be asked
+    close(rohr[0]);
+    if (kind > 0) {
+        waitpid(kind, nullptr, 0);
     }
-    return kind > 0 && ende == 0;
+    return gestartet;
 }
 
 } // namespace
