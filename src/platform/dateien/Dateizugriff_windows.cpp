@@ -103,14 +103,17 @@ std::uint64_t längeVon(const Systemgriff& griff)
     return static_cast<std::uint64_t>(länge.QuadPart);
 }
 
-std::size_t liesAb(const Systemgriff& griff, std::uint64_t ab, std::span<char> ziel)
+void springe(const Systemgriff& griff, std::uint64_t ab)
 {
-    OVERLAPPED stelle = {};
-    stelle.Offset = static_cast<DWORD>(ab & 0xFFFFFFFFU);
-    stelle.OffsetHigh = static_cast<DWORD>(ab >> 32U);
+    LARGE_INTEGER stelle = {};
+    stelle.QuadPart = static_cast<LONGLONG>(ab);
+    prüfeSystem(::SetFilePointerEx(nummer(griff), stelle, nullptr, FILE_BEGIN) != 0);
+}
+
+std::size_t liesWeiter(const Systemgriff& griff, std::span<char> ziel)
+{
     DWORD gelesen = 0;
-    const bool gelungen = ::ReadFile(nummer(griff), ziel.data(), stückVon(ziel.size()), &gelesen, &stelle) != 0;
-    prüfeSystem(gelungen || ::GetLastError() == ERROR_HANDLE_EOF);
+    prüfeSystem(::ReadFile(nummer(griff), ziel.data(), stückVon(ziel.size()), &gelesen, nullptr) != 0);
     return gelesen;
 }
 
