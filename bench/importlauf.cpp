@@ -81,13 +81,14 @@ private:
         }
     }
 
-    /// The tables are written by stage 4, without duplicates, with mark or status, and over the live ones.
+    /// The tables are written by stage 4 and over the live ones; between that the episodes without duplicates and with
+    /// their mark, the diagnoses without duplicates, the clients with their status.
     static int wieOft(const fs::path& name)
     {
-        if (name == "KernDat.txt" || name == "BetrDat.txt") {
+        if (name == "BetrDat.txt") {
             return 4;
         }
-        return name == "DiagDat.txt" ? 3 : 1;
+        return name == "KernDat.txt" || name == "DiagDat.txt" ? 3 : 1;
     }
 
     Messumgebung m_umgebung{leer};

@@ -19,54 +19,44 @@ std::string_view ersatzFürLeereZahl(int nummer)
     return istGruppe(gruppeVon(nummer), Gruppenart::Substanz) ? "99"_t : " 99"_t;
 }
 
-Exportspalte optionAus(const Satzfeld& feld, int nummer)
-{
-    const auto mit = [&](Kodierung kodierung, std::string_view leer) {
-        return Exportspalte{
-            .kodierung = kodierung, .satz = Satzart::Diagnose, .feld = nummer, .werte = feld.werte, .leer = leer};
-    };
-    if (feld.werte.data() == werte::icdZusatz.data()) {
-        return mit(Kodierung::Zusatzziffern, "0"_t);
-    }
-    if (feld.werte.data() == werte::essstörung.data()) {
-        return mit(Kodierung::Essstörung, "9"_t); // 0 is anorexia
-    }
-    return mit(Kodierung::Tabelle, "0"_t);
-}
-
 Exportspalte diagnosespalteAus(const Satzfeld& feld, int nummer)
 {
-    Exportspalte spalte{.satz = Satzart::Diagnose, .feld = nummer};
+    Exportspalte spalte{.satz = &Exportsätze::diagnose, .feld = nummer, .werte = feld.werte};
+    const bool istEssstörung = feld.hatListe(werte::essstörung);
     switch (feld.art) {
     case Feldart::option:
-        return optionAus(feld, nummer);
+        spalte.kodierung =
+            istEssstörung || feld.hatListe(werte::icdZusatz) ? &Zeilenbauer::ziffern : &Zeilenbauer::tabelle;
+        spalte.leer = istEssstörung ? "9"_t : "0"_t; // there 0 is anorexia
+        break;
     case Feldart::zahl:
-        spalte.kodierung = Kodierung::ErsatzFürLeer;
+        spalte.kodierung = &Zeilenbauer::ersatzFürLeer;
         spalte.leer = ersatzFürLeereZahl(nummer);
-        return spalte;
+        break;
     case Feldart::icdPsy:
     case Feldart::icdNeu:
-        spalte.kodierung = Kodierung::MitBuchstabe;
+        spalte.kodierung = &Zeilenbauer::mitBuchstabe;
         spalte.ersatz = diagnoseartVon(nummer - feld::diag::weitere(0)).buchstabe;
-        return spalte;
+        break;
     case Feldart::icd0000:
-        spalte.kodierung = Kodierung::Hauptdiagnose;
-        return spalte;
+        spalte.kodierung = &Zeilenbauer::hauptdiagnose;
+        break;
     case Feldart::hdAlter:
-        spalte.kodierung = Kodierung::AlterHauptdiagnose;
-        return spalte;
+        spalte.kodierung = &Zeilenbauer::alterHauptdiagnose;
+        break;
     default: // as stored
-        return spalte;
+        break;
     }
+    return spalte;
 }
 
 Exportspalte diagnosespalteAusBetreuung(const Satzfeld& feld, int nummer)
 {
-    Exportspalte spalte{.kodierung = Kodierung::Tabelle, .feld = nummer, .werte = feld.werte};
+    Exportspalte spalte{.kodierung = &Zeilenbauer::tabelle, .feld = nummer, .werte = feld.werte};
     if (feld.art == Feldart::hdOhne || feld.art == Feldart::ivKonsum) {
-        spalte.kodierung = Kodierung::Flaggenplatz;
+        spalte.kodierung = &Zeilenbauer::flaggenplatz;
         spalte.anzahl = static_cast<int>(std::ranges::count(betreuungsfelder(), feld.art, &Satzfeld::art));
-    } else if (feld.werte.data() != werte::lang.data()) {
+    } else if (!feld.hatListe(werte::lang)) {
         spalte.leer = "0"_t; // infections admit an empty text; addiction to several substances does not
     }
     return spalte;
@@ -77,8 +67,8 @@ std::vector<Exportspalte> baueDiagnosespalten()
     std::vector<Exportspalte> spalten;
     trageFelderEin(spalten, 'D', diagnosefelder(), diagnosespalteAus);
     trageFelderEin(spalten, 'D', betreuungsfelder(), diagnosespalteAusBetreuung);
-    trageAnfangEin(spalten, {.satz = Satzart::Diagnose, .feld = feld::diag::kernID},
-                   {.satz = Satzart::Diagnose, .feld = feld::diag::betrID});
+    trageAnfangEin(spalten, {.satz = &Exportsätze::diagnose, .feld = feld::diag::kernID},
+                   {.satz = &Exportsätze::diagnose, .feld = feld::diag::betrID});
     return spalten;
 }
 
@@ -92,7 +82,5 @@ const std::vector<Exportspalte>& diagnosespalten()
 
 std::string erstelleDiagZeile(const Exportsätze& sätze)
 {
-    std::string zeile;
-    Zeilenbauer(zeile, sätze).baue(diagnosespalten());
-    return zeile;
+    return Zeilenbauer(sätze).baue(diagnosespalten());
 }

@@ -1,6 +1,5 @@
 #include "export/Exportlauf.h"
 
-#include "export/Datumspruefung.h"
 #include "export/Diagnosezeile.h"
 #include "export/Kernzeile.h"
 #include "platform/text/Text.h"
@@ -11,9 +10,28 @@
 #include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int bits = 32;
+
+int jahrVon(std::string_view datum, int feld, std::string_view bezeichnung)
+{
+    constexpr std::size_t stellen = 4;
+    const auto jahr = leseGanzzahl16(datum.substr(datum.size() - std::min(datum.size(), stellen)));
+    if (!jahr) {
+        throw Laufzeitfehler(verbinde("Feld "_t, std::to_string(feld), ": Das Datum \""_t, datum, "\" der Betreuung "_t,
+                                      bezeichnung, " hat keine Jahreszahl."_t));
+    }
+    return *jahr;
+}
+
+/// Both ids as the diagnosis table is searched for them.
+std::string episode(std::int32_t kernID, std::int32_t betrID)
+{
+    return verbinde(alsText(kernID), '-', alsText(betrID));
+}
 
 } // namespace
 
@@ -26,30 +44,12 @@ void beimSchreiben(const std::function<void()>& operation)
     }
 }
 
-Diagnosesuche::Diagnosesuche(Dateien& dateien, const std::filesystem::path& pfad)
-    : m_pfad(pfad), m_inhalt(dateien.lies(pfad)), m_zeilen(m_inhalt->text())
-{}
-
-Diagnosesuche::Schlüssel Diagnosesuche::schlüssel(std::int32_t kernID, std::int32_t betrID)
+bool berührtJahr(std::string_view beginn, std::string_view ende, int jahr, std::string_view bezeichnung)
 {
-    return (static_cast<Schlüssel>(static_cast<std::uint32_t>(kernID)) << 32U) | static_cast<std::uint32_t>(betrID);
-}
-
-std::optional<std::string_view> Diagnosesuche::finde(std::int32_t kernID, std::int32_t betrID)
-{
-    const auto gesucht = schlüssel(kernID, betrID);
-    if (const auto ort = m_gelesene.find(gesucht); ort != m_gelesene.end()) {
-        return ort->second;
+    if (jahr < jahrVon(beginn, feld::betr::beginn, bezeichnung)) {
+        return false;
     }
-    while (const auto zeile = m_zeilen.nächste()) {
-        const auto gelesen = schlüssel(leseSchlüssel(*zeile, feld::diag::kernID, bits, m_pfad, m_zeilen.nummer()),
-                                       leseSchlüssel(*zeile, feld::diag::betrID, bits, m_pfad, m_zeilen.nummer()));
-        m_gelesene.try_emplace(gelesen, *zeile);
-        if (gelesen == gesucht) {
-            return zeile;
-        }
-    }
-    return std::nullopt;
+    return klein(ende) == "offen"_t || jahr <= jahrVon(ende, feld::betr::ende, bezeichnung);
 }
 
 Exportlauf::Exportlauf(const Bestand& bestand, int jahr, const std::filesystem::path& ordner)
@@ -64,7 +64,13 @@ std::int32_t Exportlauf::führeAus()
         m_diagnose = dateien().schreibeNeu(m_ordner / exportort::diagnose);
     });
     try {
-        exportiereAlle();
+        Zeilen klienten(m_klienten->text());
+        while (const auto zeile = klienten.nächste()) {
+            if (beiKlient) {
+                beiKlient(static_cast<std::int32_t>(klienten.nummer()));
+            }
+            exportiereKlient(*zeile, klienten.nummer());
+        }
     } catch (const Laufzeitfehler&) {
         behalteGeschriebenes();
         throw;
@@ -74,17 +80,6 @@ std::int32_t Exportlauf::führeAus()
         m_diagnose->schließe();
     });
     return m_exportierte;
-}
-
-void Exportlauf::exportiereAlle()
-{
-    Zeilen klienten(m_klienten->text());
-    while (const auto zeile = klienten.nächste()) {
-        if (beiKlient) {
-            beiKlient(static_cast<std::int32_t>(klienten.nummer()));
-        }
-        exportiereKlient(*zeile, klienten.nummer());
-    }
 }
 
 /// What ends the program is told to the person, not whether these rows could be kept as well.
@@ -143,17 +138,27 @@ bool Exportlauf::berührtJahrDesExports(std::string_view betrDS, std::size_t num
 void Exportlauf::exportiere(std::int32_t kernID, std::string_view betrDS, std::size_t nummer)
 {
     ++m_exportierte;
-    const auto betrID = leseSchlüssel(betrDS, feld::betr::betrID, bits, pfade().betrDat, nummer);
-    if (!m_diagnosen) {
-        m_diagnosen.emplace(dateien(), pfade().diagDat);
+    const auto gesucht = episode(kernID, leseSchlüssel(betrDS, feld::betr::betrID, bits, pfade().betrDat, nummer));
+    if (!m_diagnosesuche) {
+        beginneDiagnosesuche();
     }
-    if (const auto diagDS = m_diagnosen->finde(kernID, betrID)) {
-        schreibe(betrDS, *diagDS);
+    if (const auto diagDS = m_diagnosesuche->finde(gesucht); !diagDS.empty()) {
+        schreibe(betrDS, diagDS);
     } else {
-        m_bestand.meldung()(
-            verbinde("Fehler im Export: zu "_t, alsText(kernID), '-', alsText(betrID), " wurde kein diagDS gefunden"_t),
-            Symbol::Keins);
+        m_bestand.meldung()(verbinde("Fehler im Export: zu "_t, gesucht, " wurde kein diagDS gefunden"_t),
+                            Symbol::Keins);
     }
+}
+
+/// Ids are compared as numbers; one on the way to the record that is none ends the run.
+void Exportlauf::beginneDiagnosesuche()
+{
+    m_diagnosen = dateien().lies(pfade().diagDat);
+    m_diagnosesuche.emplace(m_diagnosen->text(), [this, nummer = std::size_t{0}](std::string_view zeile) mutable {
+        ++nummer;
+        return episode(leseSchlüssel(zeile, feld::diag::kernID, bits, pfade().diagDat, nummer),
+                       leseSchlüssel(zeile, feld::diag::betrID, bits, pfade().diagDat, nummer));
+    });
 }
 
 void Exportlauf::schreibe(std::string_view betrDS, std::string_view diagDS)

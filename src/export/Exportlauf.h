@@ -2,7 +2,7 @@
 
 #include "export/Zeilenbauer.h"
 #include "platform/dateien/Dateien.h"
-#include "platform/dateien/Zeilen.h"
+#include "platform/dateien/Zeilensuche.h"
 #include "store/Bestand.h"
 
 #include <cstdint>
@@ -32,25 +32,10 @@ struct Exportfehler {
 /// Runs an operation on the export's own files and turns its failure into an Exportfehler.
 void beimSchreiben(const std::function<void()>& operation);
 
-/// The diagnosis table, read as far as the searches had to go: each search finds what a walk from the top
-/// would have found, and meets a damaged line exactly when that walk would have met it.
-class Diagnosesuche {
-public:
-    Diagnosesuche(Dateien& dateien, const std::filesystem::path& pfad);
-
-    /// The first record with both ids (compared as numbers), or nothing. A key on the way there that is no
-    /// number is a Laufzeitfehler.
-    std::optional<std::string_view> finde(std::int32_t kernID, std::int32_t betrID);
-
-private:
-    using Schlüssel = std::uint64_t;
-    static Schlüssel schlüssel(std::int32_t kernID, std::int32_t betrID);
-
-    std::filesystem::path m_pfad;
-    std::unique_ptr<Dateiinhalt> m_inhalt;
-    Zeilen m_zeilen;
-    std::unordered_map<Schlüssel, std::string_view> m_gelesene;
-};
+/// Whether an episode touches the year: begun in it or before, and open or ended in it or later. Day and month
+/// play no part; a year is the last four characters of the date text. One that is no number is a
+/// Laufzeitfehler, which calls the episode by `bezeichnung`.
+bool berührtJahr(std::string_view beginn, std::string_view ende, int jahr, std::string_view bezeichnung);
 
 /// One run of the yearly export: picks the episodes that touch the year and writes a core and a diagnosis row
 /// for each, clients in the order of their table, episodes in the order of theirs.
@@ -72,12 +57,12 @@ public:
     std::int32_t führeAus();
 
 private:
-    void exportiereAlle();
     void exportiereKlient(std::string_view zeile, std::size_t nummer);
     /// Notes the episodes of the year and exports those of the first client on the way.
     void sucheBetreuungen(std::int32_t erster);
     bool berührtJahrDesExports(std::string_view betrDS, std::size_t nummer) const;
     void exportiere(std::int32_t kernID, std::string_view betrDS, std::size_t nummer);
+    void beginneDiagnosesuche();
     void schreibe(std::string_view betrDS, std::string_view diagDS);
     void behalteGeschriebenes();
 
@@ -98,7 +83,8 @@ private:
 
     std::unique_ptr<Dateiinhalt> m_betreuungen; ///< read with the first client
     std::unordered_map<std::int32_t, std::vector<Betreuung>> m_imJahr;
-    std::optional<Diagnosesuche> m_diagnosen; ///< read with the first episode
+    std::unique_ptr<Dateiinhalt> m_diagnosen; ///< read with the first episode
+    std::optional<Zeilensuche> m_diagnosesuche;
 
     std::unique_ptr<Schreiber> m_kern;
     std::unique_ptr<Schreiber> m_diagnose;

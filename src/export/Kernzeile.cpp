@@ -9,44 +9,40 @@
 
 namespace {
 
-/// The box of these columns lacks the word "hier": the short yes/no, language and migration.
-std::string_view meldungZu(const Satzfeld& feld, int nummer)
-{
-    const bool istSpracheOderMigration = nummer >= feld::betr::sprache && nummer <= feld::betr::migrant + 1;
-    return istSpracheOderMigration || feld.werte.data() == werte::kurz.data() ? "Fehler"_t : Exportspalte{}.meldung;
-}
-
 Exportspalte betreuungsspalteAus(const Satzfeld& feld, int nummer)
 {
     static const auto kinderOhneAngabe = alsText(werte::kinderOhneAngabe);
-    const auto mit = [&](Kodierung kodierung, std::string_view ersatz = {}) {
-        return Exportspalte{.kodierung = kodierung,
-                            .feld = nummer,
-                            .werte = feld.werte,
-                            .ersatz = ersatz,
-                            .meldung = meldungZu(feld, nummer)};
-    };
+    const bool istKurz = feld.hatListe(werte::kurz);
+    Exportspalte spalte{.feld = nummer, .werte = feld.werte};
+    if (istKurz || (nummer >= feld::betr::sprache && nummer <= feld::betr::migrant + 1)) {
+        spalte.meldung = "Fehler"_t; // the box of these lacks the word "hier"
+    }
     switch (feld.art) {
     case Feldart::option:
-        return mit(feld.werte.data() == werte::kurz.data() ? Kodierung::KurzJaNein : Kodierung::Tabelle);
+        spalte.kodierung = istKurz ? &Zeilenbauer::kurzJaNein : &Zeilenbauer::tabelle;
+        break;
+    case Feldart::kinder:
+        spalte.ersatz = kinderOhneAngabe;
+        [[fallthrough]];
     case Feldart::zuvor:
     case Feldart::kontakte:
-        return mit(Kodierung::ErsatzFürKA);
-    case Feldart::kinder:
-        return mit(Kodierung::ErsatzFürKA, kinderOhneAngabe);
+        spalte.kodierung = &Zeilenbauer::ersatzFürKA;
+        break;
     case Feldart::nation:
-        return mit(Kodierung::Nation);
-    default:
-        return mit(Kodierung::Gespeichert);
+        spalte.kodierung = &Zeilenbauer::nation;
+        break;
+    default: // as stored
+        break;
     }
+    return spalte;
 }
 
 Exportspalte klientenspalteAus(const Satzfeld& feld, int nummer)
 {
-    const auto kodierung = nummer == feld::kern::geburtsdatum ? Kodierung::Alter
-                           : feld.werte.empty()               ? Kodierung::Gespeichert
-                                                              : Kodierung::Tabelle;
-    return {.kodierung = kodierung, .satz = Satzart::Klient, .feld = nummer, .werte = feld.werte};
+    const auto kodierung = nummer == feld::kern::geburtsdatum ? &Zeilenbauer::alter
+                           : feld.werte.empty()               ? &Zeilenbauer::gespeichert
+                                                              : &Zeilenbauer::tabelle;
+    return {.kodierung = kodierung, .satz = &Exportsätze::klient, .feld = nummer, .werte = feld.werte};
 }
 
 std::vector<Exportspalte> baueKernspalten()
@@ -55,7 +51,7 @@ std::vector<Exportspalte> baueKernspalten()
     trageFelderEin(spalten, 'K', betreuungsfelder(), betreuungsspalteAus);
     trageFelderEin(spalten, 'K', klientenfelder(), klientenspalteAus);
     trageAnfangEin(spalten, {.feld = feld::betr::kernID}, {.feld = feld::betr::betrID});
-    spaltenplatz(spalten, exportspalte::kern::dauer) = {.kodierung = Kodierung::Dauer};
+    spaltenplatz(spalten, exportspalte::kern::dauer) = {.kodierung = &Zeilenbauer::dauer};
     return spalten;
 }
 
@@ -69,7 +65,5 @@ const std::vector<Exportspalte>& kernspalten()
 
 std::string erstelleKernZeile(const Exportsätze& sätze)
 {
-    std::string zeile;
-    Zeilenbauer(zeile, sätze).baue(kernspalten());
-    return zeile;
+    return Zeilenbauer(sätze).baue(kernspalten());
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "export/Exportspalte.h"
 #include "export/Zeilenbauer.h"
 
 #include <string>

@@ -5,21 +5,12 @@
 #include <algorithm>
 
 void trageFelderEin(std::vector<Exportspalte>& spalten, char blatt, const std::vector<Satzfeld>& satzfelder,
-                    const std::function<Exportspalte(const Satzfeld& feld, int nummer)>& kodierung)
+                    Exportspalte (*spalteAus)(const Satzfeld& feld, int nummer))
 {
-    std::vector<bool> belegt;
-    int nummer = 0;
-    for (const auto& feld : satzfelder) {
-        ++nummer;
-        if (feld.blatt != blatt) {
-            continue;
-        }
-        const auto ort = static_cast<std::size_t>(feld.spalte - 1);
-        spalten.resize(std::max(spalten.size(), ort + 1));
-        belegt.resize(spalten.size());
-        if (!belegt[ort]) {
-            spalten[ort] = kodierung(feld, nummer);
-            belegt[ort] = true;
+    for (int nummer = static_cast<int>(satzfelder.size()); nummer > 0; --nummer) { // backwards: the first one stays
+        const auto& feld = feldAus(satzfelder, nummer);
+        if (feld.blatt == blatt) {
+            spaltenplatz(spalten, feld.spalte) = spalteAus(feld, nummer);
         }
     }
 }
@@ -33,7 +24,7 @@ Exportspalte& spaltenplatz(std::vector<Exportspalte>& spalten, int nummer)
 
 void trageAnfangEin(std::vector<Exportspalte>& spalten, const Exportspalte& kernID, const Exportspalte& betrID)
 {
-    spaltenplatz(spalten, exportspalte::tsnr) = {.kodierung = Kodierung::Tsnr};
+    spaltenplatz(spalten, exportspalte::tsnr) = {.kodierung = &Zeilenbauer::tsnr};
     spaltenplatz(spalten, exportspalte::kernID) = kernID;
     spaltenplatz(spalten, exportspalte::betrID) = betrID;
 }

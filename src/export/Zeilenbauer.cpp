@@ -8,34 +8,29 @@
 #include "satz/moNationen.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <optional>
+#include <utility>
 
 namespace {
 
-constexpr auto kA = "k.A."_t;
+constexpr auto kA = antworttext::keine;
 constexpr auto offen = "offen"_t;
 constexpr auto unbekannt = "unbekannt"_t;
 
-bool istGleichOhneGroß(std::string_view text, std::string_view kleinesWort)
+bool istGleichOhneGroß(std::string_view a, std::string_view b)
 {
-    return std::equal(text.begin(), text.end(), kleinesWort.begin(), kleinesWort.end(),
-                      [](char a, char b) { return klein(a) == b; });
+    return a == b || std::ranges::equal(a, b, [](char x, char y) { return klein(x) == klein(y); });
 }
 
 /// The code of the list that reads as the number.
 const std::string_view* codeMitZahl(Werteliste werte, std::int64_t zahl)
 {
-    const auto ort =
-        std::find_if(werte.begin(), werte.end(), [&](const Wertepaar& p) { return leseGanzzahl64(p.code) == zahl; });
+    const auto ort = std::ranges::find_if(werte, [&](const Wertepaar& p) { return leseGanzzahl64(p.code) == zahl; });
     return ort == werte.end() ? nullptr : &ort->code;
 }
 
 int altersjahre(const Datum& geburt, const Datum& beginn)
 {
-    const bool vorDemGeburtstag =
-        geburt.monat > beginn.monat || (geburt.monat == beginn.monat && geburt.tag > beginn.tag);
+    const bool vorDemGeburtstag = std::pair(beginn.monat, beginn.tag) < std::pair(geburt.monat, geburt.tag);
     return beginn.jahr - geburt.jahr - (vorDemGeburtstag ? 1 : 0);
 }
 
@@ -52,102 +47,49 @@ std::string_view klasseVon(int gruppe)
 
 } // namespace
 
-void Zeilenbauer::baue(const std::vector<Exportspalte>& spalten)
+std::string Zeilenbauer::baue(const std::vector<Exportspalte>& spalten)
 {
     for (const auto& spalte : spalten) {
-        schreibe(spalte, satz(spalte).feld(spalte.feld));
-        m_ziel.push_back(';');
+        (this->*spalte.kodierung)(spalte, (m_sätze.*spalte.satz).feld(spalte.feld));
+        m_zeile.push_back(';');
     }
-}
-
-const Satzsicht& Zeilenbauer::satz(const Exportspalte& spalte) const
-{
-    switch (spalte.satz) {
-    case Satzart::Klient:
-        return m_sätze.klient;
-    case Satzart::Diagnose:
-        return m_sätze.diagnose;
-    case Satzart::Betreuung:
-        break;
-    }
-    return m_sätze.betreuung;
-}
-
-void Zeilenbauer::schreibe(const Exportspalte& spalte, std::string_view text)
-{
-    switch (spalte.kodierung) {
-    case Kodierung::Tsnr:
-        m_ziel.append(m_sätze.tsnr);
-        break;
-    case Kodierung::Gespeichert:
-        m_ziel.append(text);
-        break;
-    case Kodierung::Dauer:
-        dauer(spalte);
-        break;
-    case Kodierung::Alter:
-        alter(spalte, text);
-        break;
-    case Kodierung::KurzJaNein:
-        kurzJaNein(spalte, text);
-        break;
-    case Kodierung::Tabelle:
-        tabelle(spalte, text);
-        break;
-    case Kodierung::Zusatzziffern:
-        zusatzziffern(spalte, text);
-        break;
-    case Kodierung::Essstörung:
-        essstörung(spalte, text);
-        break;
-    case Kodierung::ErsatzFürKA:
-        schreibeArbeitswert(text == kA ? spalte.ersatz : text);
-        break;
-    case Kodierung::ErsatzFürLeer:
-        m_ziel.append(text.empty() ? *spalte.leer : text);
-        break;
-    case Kodierung::Nation:
-        m_ziel.append(getCodeZuNation(text));
-        break;
-    case Kodierung::MitBuchstabe:
-        m_ziel.append(text.empty() ? text : spalte.ersatz).append(text);
-        break;
-    case Kodierung::Flaggenplatz:
-        flaggenplatz(spalte);
-        break;
-    case Kodierung::Hauptdiagnose:
-        hauptdiagnose();
-        break;
-    case Kodierung::AlterHauptdiagnose:
-        alterHauptdiagnose();
-        break;
-    }
-}
-
-void Zeilenbauer::schreibeZahl(std::int64_t zahl)
-{
-    std::array<char, 24> ziffern;
-    const auto [ende, fehler] = std::to_chars(ziffern.data(), ziffern.data() + ziffern.size(), zahl);
-    m_ziel.append(ziffern.data(), ende);
+    return std::move(m_zeile);
 }
 
 void Zeilenbauer::schreibeArbeitswert(std::string_view wert)
 {
     m_arbeitswert = wert;
-    m_ziel.append(wert);
+    m_zeile.append(wert);
 }
 
-void Zeilenbauer::schreibeFehlgriff(const Exportspalte& spalte)
+void Zeilenbauer::schreibeCode(const Exportspalte& spalte, const std::string_view* code)
 {
-    melde(spalte);
-    m_ziel.append(m_arbeitswert);
+    if (code == nullptr) {
+        melde(spalte);
+    }
+    schreibeArbeitswert(code == nullptr ? m_arbeitswert : *code);
 }
 
-void Zeilenbauer::dauer(const Exportspalte& spalte)
+void Zeilenbauer::melde(const Exportspalte& spalte) const
+{
+    m_sätze.meldung(spalte.meldung, Symbol::Keins);
+}
+
+void Zeilenbauer::tsnr(const Exportspalte&, std::string_view)
+{
+    m_zeile.append(m_sätze.tsnr);
+}
+
+void Zeilenbauer::gespeichert(const Exportspalte&, std::string_view text)
+{
+    m_zeile.append(text);
+}
+
+void Zeilenbauer::dauer(const Exportspalte& spalte, std::string_view)
 {
     const auto ende = m_sätze.betreuung.feld(feld::betr::ende);
     if (ende == offen) {
-        m_ziel.append(offen);
+        m_zeile.append(offen);
         return;
     }
     const auto von = leseDatum(m_sätze.betreuung.feld(feld::betr::beginn));
@@ -156,7 +98,7 @@ void Zeilenbauer::dauer(const Exportspalte& spalte)
         melde(spalte);
         return;
     }
-    schreibeZahl(alsTageszahl(*bis) - alsTageszahl(*von));
+    m_zeile.append(alsText(alsTageszahl(*bis) - alsTageszahl(*von)));
 }
 
 void Zeilenbauer::alter(const Exportspalte& spalte, std::string_view geburtsdatum)
@@ -170,71 +112,65 @@ void Zeilenbauer::alter(const Exportspalte& spalte, std::string_view geburtsdatu
         melde(spalte);
         return;
     }
-    schreibeZahl(altersjahre(*geburt, *beginn));
+    m_zeile.append(alsText(altersjahre(*geburt, *beginn)));
 }
 
 void Zeilenbauer::kurzJaNein(const Exportspalte& spalte, std::string_view text)
 {
-    const auto* code = werte::codeZu(spalte.werte, text);
-    if (code == nullptr) {
-        const auto ort = std::find_if(spalte.werte.begin(), spalte.werte.end(),
-                                      [&](const Wertepaar& p) { return istGleichOhneGroß(text, klein(p.text)); });
-        code = ort == spalte.werte.end() ? nullptr : &ort->code;
-    }
-    if (code == nullptr) {
+    const auto ort =
+        std::ranges::find_if(spalte.werte, [&](const Wertepaar& p) { return istGleichOhneGroß(p.text, text); });
+    if (ort == spalte.werte.end()) {
         melde(spalte);
         return;
     }
-    m_ziel.append(*code);
+    m_zeile.append(ort->code);
 }
 
 void Zeilenbauer::tabelle(const Exportspalte& spalte, std::string_view text)
 {
-    if (text.empty() && spalte.leer) {
-        schreibeArbeitswert(*spalte.leer);
-    } else if (const auto* code = werte::codeZu(spalte.werte, text)) {
-        schreibeArbeitswert(*code);
-    } else {
-        schreibeFehlgriff(spalte);
-    }
+    schreibeCode(spalte, text.empty() && spalte.leer ? &*spalte.leer : werte::codeZu(spalte.werte, text));
 }
 
-void Zeilenbauer::zusatzziffern(const Exportspalte& spalte, std::string_view text)
+void Zeilenbauer::ziffern(const Exportspalte& spalte, std::string_view text)
 {
     const auto zahl = führendeZahl(text);
-    if (zahl == 0) {
-        schreibeArbeitswert("0"_t);
-    } else if (const auto* code = codeMitZahl(spalte.werte, zahl)) {
-        schreibeArbeitswert(*code);
-    } else {
-        schreibeFehlgriff(spalte);
-    }
+    const auto* code = text.empty() || text == kA ? nullptr : codeMitZahl(spalte.werte, zahl);
+    schreibeCode(spalte, code == nullptr && zahl == 0 ? &*spalte.leer : code);
 }
 
-void Zeilenbauer::essstörung(const Exportspalte& spalte, std::string_view text)
+void Zeilenbauer::ersatzFürKA(const Exportspalte& spalte, std::string_view text)
 {
-    if (text.empty() || text == kA) {
-        schreibeArbeitswert(*spalte.leer);
-    } else if (const auto* code = codeMitZahl(spalte.werte, führendeZahl(text))) {
-        schreibeArbeitswert(*code);
-    } else {
-        schreibeFehlgriff(spalte);
-    }
+    schreibeArbeitswert(text == kA ? spalte.ersatz : text);
 }
 
-void Zeilenbauer::flaggenplatz(const Exportspalte& spalte)
+void Zeilenbauer::ersatzFürLeer(const Exportspalte& spalte, std::string_view text)
+{
+    m_zeile.append(text.empty() ? *spalte.leer : text);
+}
+
+void Zeilenbauer::nation(const Exportspalte&, std::string_view text)
+{
+    m_zeile.append(getCodeZuNation(text));
+}
+
+void Zeilenbauer::mitBuchstabe(const Exportspalte& spalte, std::string_view text)
+{
+    m_zeile.append(text.empty() ? text : spalte.ersatz).append(text);
+}
+
+void Zeilenbauer::flaggenplatz(const Exportspalte& spalte, std::string_view)
 {
     int platz = 0;
     for (int i = 0; i < spalte.anzahl; ++i) {
-        if (istGleichOhneGroß(satz(spalte).feld(spalte.feld + i), "wahr"_t)) {
+        if (istGleichOhneGroß((m_sätze.*spalte.satz).feld(spalte.feld + i), "wahr"_t)) {
             platz = i;
         }
     }
-    schreibeZahl(platz);
+    m_zeile.append(alsText(platz));
 }
 
 // Of two groups that are marked, which the screens prevent, this speaks of the first and the age of the last.
-void Zeilenbauer::hauptdiagnose()
+void Zeilenbauer::hauptdiagnose(const Exportspalte&, std::string_view)
 {
     const auto& diagnose = m_sätze.diagnose;
     int gruppe = 1;
@@ -242,23 +178,23 @@ void Zeilenbauer::hauptdiagnose()
         ++gruppe;
     }
     if (gruppe > höchsteGruppe) {
-        m_ziel.append("0"_t);
+        m_zeile.append("0"_t);
         return;
     }
     const auto klasse = klasseVon(gruppe);
     const auto zusatz = diagnose.feld(feld::diag::antwort(gruppe, ICDStelle4));
     if (klasse == "55") {
-        m_ziel.append(klasse).push_back(aryICD.at(static_cast<std::size_t>(gruppe)).back());
+        m_zeile.append(klasse).push_back(aryICD.at(static_cast<std::size_t>(gruppe)).back());
     } else if (klasse == "63") {
-        m_ziel.append("630"_t);
+        m_zeile.append("630"_t);
     } else if (zusatz == kA) {
-        m_ziel.append("0"_t);
+        m_zeile.append("0"_t);
     } else {
-        m_ziel.append(klasse).append(zusatz.substr(0, 1));
+        m_zeile.append(klasse).append(zusatz.substr(0, 1));
     }
 }
 
-void Zeilenbauer::alterHauptdiagnose()
+void Zeilenbauer::alterHauptdiagnose(const Exportspalte&, std::string_view)
 {
     std::string_view alter = "0"_t;
     for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
@@ -267,5 +203,5 @@ void Zeilenbauer::alterHauptdiagnose()
             alter = (text == kA || getrimmt(text).empty()) ? "0"_t : text;
         }
     }
-    m_ziel.append(alter);
+    m_zeile.append(alter);
 }

@@ -8,8 +8,6 @@
 #include "zustand/Zustand.h"
 
 #include <optional>
-#include <string>
-#include <vector>
 
 namespace {
 
@@ -21,18 +19,6 @@ std::optional<int> leseJahr(std::string_view text)
     const auto jahr = leseGanzzahl16(text);
     return jahr && *jahr >= 1 && *jahr <= 9999 ? std::optional<int>(*jahr) : std::nullopt;
 }
-
-/// Sets a flag for as long as it lives.
-class Merker {
-public:
-    explicit Merker(bool& merker) : m_merker(merker) { m_merker = true; }
-    Merker(const Merker&) = delete;
-    Merker& operator=(const Merker&) = delete;
-    ~Merker() { m_merker = false; }
-
-private:
-    bool& m_merker;
-};
 
 } // namespace
 
@@ -74,6 +60,7 @@ void frmExport::beiOK()
         zeigeMeldung("Nichts wurde verändert"_t);
         return;
     }
+    m_läuft = true;
     try {
         exportiere(*jahr);
     } catch (const Exportfehler& fehler) {
@@ -81,6 +68,7 @@ void frmExport::beiOK()
         lblMeldung.setzeText(bereit);
         zeigeMeldung(fehler.text, Symbol::Stop);
     }
+    m_läuft = false;
 }
 
 void frmExport::exportiere(int jahr)
@@ -93,7 +81,9 @@ void frmExport::exportiere(int jahr)
     ProgressBar1.zeige();
     lblMeldung.setzeText("Export wird erstellt..."_t);
     zustand().umgebung.zeichne();
-    const auto anzahl = führeAus(jahr, ordner);
+    Exportlauf lauf(zustand().bestand, jahr, ordner);
+    lauf.beiKlient = [&](std::int32_t nummer) { zeigeFortschritt(nummer, lauf.klientenzahl()); };
+    const auto anzahl = lauf.führeAus();
     ProgressBar1.verberge();
     lblMeldung.setzeText(bereit);
     zeigeMeldung(verbinde("Exportierte Datensätze: "_t, alsText(anzahl)), Symbol::Info);
@@ -114,14 +104,6 @@ std::filesystem::path frmExport::richteOrdnerEin(int jahr)
     }
     const auto frage = verbinde("Es gibt schon einen Export für das Jahr "_t, alsText(jahr), "\rÜberschreiben ?"_t);
     return zeigeMeldung(frage, Symbol::Frage, Knöpfe::OKAbbrechen) == Antwort::OK ? ordner : std::filesystem::path();
-}
-
-std::int32_t frmExport::führeAus(int jahr, const std::filesystem::path& ordner)
-{
-    const Merker läuft(m_läuft);
-    Exportlauf lauf(zustand().bestand, jahr, ordner);
-    lauf.beiKlient = [&](std::int32_t nummer) { zeigeFortschritt(nummer, lauf.klientenzahl()); };
-    return lauf.führeAus();
 }
 
 void frmExport::zeigeFortschritt(std::int32_t nummer, std::int32_t anzahl)

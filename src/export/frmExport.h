@@ -26,7 +26,6 @@ private:
     void exportiere(int jahr);
     /// The year's folder, made or confirmed; empty when the user does not want the old export replaced.
     std::filesystem::path richteOrdnerEin(int jahr);
-    std::int32_t führeAus(int jahr, const std::filesystem::path& ordner);
     void zeigeFortschritt(std::int32_t nummer, std::int32_t anzahl);
 
     bool m_läuft = false;

@@ -16,50 +16,29 @@
 namespace {
 
 constexpr auto null = "0"_t;
+constexpr auto gesetzt = "2"_t;
 constexpr auto fehler = "FEHLER"_t;
 
-constexpr std::array<Altcode, 13> vermittCodes{{{"0", "0"},
-                                                {"1", "1"},
-                                                {"2", "2"},
-                                                {"3", "3"},
-                                                {"15", "4"},
-                                                {"18", "5"},
-                                                {"9", "7"},
-                                                {"6", "11"},
-                                                {"19", "13"},
-                                                {"20", "20"},
-                                                {"21", "25"},
-                                                {"16", "26"},
-                                                {"17", "27"}}};
-constexpr std::array<Altcode, 6> auflagenCodes{
-    {{"0", "0"}, {"4", "0"}, {"1", "1"}, {"2", "2"}, {"5", "3"}, {"3", "4"}}};
-constexpr std::array<Altcode, 8> schuleCodes{
-    {{"0", "0"}, {"2", "2"}, {"3", "3"}, {"4", "4"}, {"5", "5"}, {"6", "6"}, {"7", "6"}, {"8", "7"}}};
-constexpr std::array<Altcode, 8> wohnungCodes{
-    {{"0", "0"}, {"1", "1"}, {"2", "2"}, {"3", "3"}, {"4", "4"}, {"5", "6"}, {"8", "8"}, {"9", "9"}}};
-constexpr std::array<Altcode, 13> erwerbCodes{{{"0", "0"},
-                                               {"1", "1"},
-                                               {"15", "2"},
-                                               {"16", "2"},
-                                               {"6", "3"},
-                                               {"7", "4"},
-                                               {"8", "5"},
-                                               {"9", "6"},
-                                               {"10", "8"},
-                                               {"11", "9"},
-                                               {"12", "10"},
-                                               {"13", "11"},
-                                               {"14", "0"}}};
-constexpr std::array<Altcode, 8> artEndeCodes{
-    {{"0", "0"}, {"10", "0"}, {"1", "1"}, {"6", "4"}, {"7", "5"}, {"8", "6"}, {"2", "7"}, {"9", "8"}}};
-constexpr std::array<Altcode, 6> problEndeCodes{
-    {{"0", "0"}, {"1", "0"}, {"2", "1"}, {"3", "2"}, {"4", "3"}, {"5", "4"}}};
+constexpr Wertepaar vermittCodes[]{{"0", "0"},   {"1", "1"},   {"2", "2"},  {"3", "3"},   {"15", "4"},
+                                   {"18", "5"},  {"9", "7"},   {"6", "11"}, {"19", "13"}, {"20", "20"},
+                                   {"21", "25"}, {"16", "26"}, {"17", "27"}};
+constexpr Wertepaar auflagenCodes[]{{"0", "0"}, {"4", "0"}, {"1", "1"}, {"2", "2"}, {"5", "3"}, {"3", "4"}};
+constexpr Wertepaar schuleCodes[]{{"0", "0"}, {"2", "2"}, {"3", "3"}, {"4", "4"},
+                                  {"5", "5"}, {"6", "6"}, {"7", "6"}, {"8", "7"}};
+constexpr Wertepaar wohnungCodes[]{{"0", "0"}, {"1", "1"}, {"2", "2"}, {"3", "3"},
+                                   {"4", "4"}, {"5", "6"}, {"8", "8"}, {"9", "9"}};
+constexpr Wertepaar erwerbCodes[]{{"0", "0"},   {"1", "1"},   {"15", "2"}, {"16", "2"}, {"6", "3"},
+                                  {"7", "4"},   {"8", "5"},   {"9", "6"},  {"10", "8"}, {"11", "9"},
+                                  {"12", "10"}, {"13", "11"}, {"14", "0"}};
+constexpr Wertepaar artEndeCodes[]{{"0", "0"}, {"10", "0"}, {"1", "1"}, {"6", "4"},
+                                   {"7", "5"}, {"8", "6"},  {"2", "7"}, {"9", "8"}};
+constexpr Wertepaar problEndeCodes[]{{"0", "0"}, {"1", "0"}, {"2", "1"}, {"3", "2"}, {"4", "3"}, {"5", "4"}};
 /// Main diagnoses that have no group in the new layout.
-constexpr std::array<Altcode, 5> ohneGruppe{{{"553", {}}, {"554", {}}, {"555", {}}, {"556", {}}, {"558", {}}}};
+constexpr Wertepaar ohneGruppe[]{{"553", {}}, {"554", {}}, {"555", {}}, {"556", {}}, {"558", {}}};
 
 Altregel fest(std::string_view text)
 {
-    return {.art = Regelart::Fest, .sonst = text};
+    return {.art = Regelart::Fest, .wert = text};
 }
 
 Altregel kopie(int spalte)
@@ -67,14 +46,14 @@ Altregel kopie(int spalte)
     return {.art = Regelart::Spalte, .spalte = spalte};
 }
 
-Altregel codes(int spalte, std::span<const Altcode> liste, std::string_view sonst = fehler)
+Altregel codes(int spalte, Werteliste liste, std::string_view sonst = fehler)
 {
-    return {.art = Regelart::Codes, .spalte = spalte, .codes = liste, .sonst = sonst};
+    return {.art = Regelart::Codes, .spalte = spalte, .codes = liste, .wert = sonst};
 }
 
-Altregel beide(int spalte, int zweite = 0)
+Altregel gleich(int spalte, std::string_view wert, int zweite = 0)
 {
-    return {.art = Regelart::Beide, .spalte = spalte, .zweite = zweite};
+    return {.art = Regelart::Gleich, .spalte = spalte, .wert = wert, .zweite = zweite};
 }
 
 /// A row being built; what the older layout does not know is 0.
@@ -104,12 +83,9 @@ private:
     std::vector<Altregel> m_regeln;
 };
 
-struct Feldregel {
-    std::string_view feld;
-    Altregel regel;
-};
+} // namespace
 
-std::vector<Altregel> baueKernregeln()
+std::vector<Altregel> kernregeln()
 {
     const auto leer = [](int) { return fest({}); };
     Regelreihe reihe(kernspalten().size());
@@ -121,49 +97,53 @@ std::vector<Altregel> baueKernregeln()
     reihe.setze(feldAus(klientenfelder(), feld::kern::geschlecht).spalte, kopie(altspalte::kern::geschlecht));
     reihe.setzeReihe("Zuvor"_t, 1, 18, leer);
     reihe.setzeReihe("Kinder"_t, 1, 2, leer);
-    reihe.setzeReihe("Kosten"_t, 1, 9,
-                     [](int nummer) { return Altregel{.art = Regelart::Kosten, .spalte = 12, .position = nummer}; });
     reihe.setzeReihe("LebenSit"_t, 0, 5, [](int nummer) { return kopie(63 + 2 * nummer); });
-    for (const auto& [feld, regel] : {
-             Feldregel{"BetrBeg"_t, kopie(altspalte::kern::beginn)},
-             Feldregel{"BetrEnd"_t, kopie(altspalte::kern::ende)},
-             Feldregel{"BetrGru"_t, kopie(16)},
-             Feldregel{"zuvorNULL"_t, kopie(18)},
-             Feldregel{"Wieder"_t, kopie(11)},
-             Feldregel{"Vermitt"_t, codes(17, vermittCodes, null)},
-             Feldregel{"Auflagen1"_t, codes(14, auflagenCodes)},
-             Feldregel{"Zuvor2"_t, kopie(30)},
-             Feldregel{"Zuvor5"_t, kopie(25)},
-             Feldregel{"Zuvor7"_t, kopie(36)},
-             Feldregel{"Zuvor9"_t, kopie(46)},
-             Feldregel{"FamSta"_t, kopie(60)},
-             Feldregel{"Partner"_t, kopie(61)},
-             Feldregel{"Nation"_t, fest({})},
-             Feldregel{"Schule"_t, codes(77, schuleCodes)},
-             Feldregel{"Wohnung1"_t, codes(75, wohnungCodes)},
-             Feldregel{"Wohnung3"_t, codes(76, wohnungCodes)},
-             Feldregel{"Erwerb1"_t, codes(78, erwerbCodes)},
-             Feldregel{"MasInt2"_t, beide(93)},
-             Feldregel{"MasInt3"_t, beide(87, 112)},
-             Feldregel{"MasInt5"_t, beide(84)},
-             Feldregel{"MasInt6"_t, beide(87)},
-             Feldregel{"MasInt9"_t, beide(92)},
-             Feldregel{"MasExt2"_t, beide(112)},
-             Feldregel{"MasExt3"_t, beide(106, 93)},
-             Feldregel{"MasExt5"_t, beide(103)},
-             Feldregel{"MasExt6"_t, beide(106)},
-             Feldregel{"MasExt9"_t, beide(111)},
-             Feldregel{"Kontakte"_t, {.art = Regelart::OhneNull, .spalte = 160}},
-             Feldregel{"ArtEnd1"_t, codes(161, artEndeCodes)},
-             Feldregel{"ArtEnd2"_t, {.art = Regelart::FührendeAcht, .spalte = 161}},
-             Feldregel{"ProblEnde"_t, codes(162, problEndeCodes)},
+    for (const auto& [feld, regel] : std::initializer_list<std::pair<std::string_view, Altregel>>{
+             {"BetrBeg"_t, kopie(altspalte::kern::beginn)},
+             {"BetrEnd"_t, kopie(altspalte::kern::ende)},
+             {"BetrGru"_t, kopie(16)},
+             {"zuvorNULL"_t, kopie(18)},
+             {"Wieder"_t, kopie(11)},
+             {"Vermitt"_t, codes(17, vermittCodes, null)},
+             {"Auflagen1"_t, codes(14, auflagenCodes)},
+             {"Kosten1"_t, gleich(12, "1"_t)},
+             {"Kosten2"_t, gleich(12, "2"_t)},
+             {"Kosten3"_t, gleich(12, "46"_t)},
+             {"Kosten4"_t, gleich(12, "47"_t)},
+             {"Kosten5"_t, gleich(12, "48"_t)},
+             {"Kosten9"_t, gleich(12, "45"_t)},
+             {"Zuvor2"_t, kopie(30)},
+             {"Zuvor5"_t, kopie(25)},
+             {"Zuvor7"_t, kopie(36)},
+             {"Zuvor9"_t, kopie(46)},
+             {"FamSta"_t, kopie(60)},
+             {"Partner"_t, kopie(61)},
+             {"Nation"_t, fest({})},
+             {"Schule"_t, codes(77, schuleCodes)},
+             {"Wohnung1"_t, codes(75, wohnungCodes)},
+             {"Wohnung3"_t, codes(76, wohnungCodes)},
+             {"Erwerb1"_t, codes(78, erwerbCodes)},
+             {"MasInt2"_t, gleich(93, gesetzt)},
+             {"MasInt3"_t, gleich(87, gesetzt, 112)},
+             {"MasInt5"_t, gleich(84, gesetzt)},
+             {"MasInt6"_t, gleich(87, gesetzt)},
+             {"MasInt9"_t, gleich(92, gesetzt)},
+             {"MasExt2"_t, gleich(112, gesetzt)},
+             {"MasExt3"_t, gleich(106, gesetzt, 93)},
+             {"MasExt5"_t, gleich(103, gesetzt)},
+             {"MasExt6"_t, gleich(106, gesetzt)},
+             {"MasExt9"_t, gleich(111, gesetzt)},
+             {"Kontakte"_t, {.art = Regelart::OhneNull, .spalte = 160}},
+             {"ArtEnd1"_t, codes(161, artEndeCodes)},
+             {"ArtEnd2"_t, {.art = Regelart::FührendeAcht, .spalte = 161}},
+             {"ProblEnde"_t, codes(162, problEndeCodes)},
          }) {
         reihe.setze(feld, regel);
     }
     return reihe.nimmRegeln();
 }
 
-std::vector<Altregel> baueDiagnoseregeln()
+std::vector<Altregel> diagnoseregeln()
 {
     using namespace feld::diag;
     constexpr std::array ersteSpalten{19, 25, 32, 39,  46,  53,  59,  65,  71,  77,
@@ -181,7 +161,7 @@ std::vector<Altregel> baueDiagnoseregeln()
         reihe.setzeDiagnose(antwort(gruppe, ICDStelle4), regel);
     }
     reihe.setze(exportspalte::diag::hauptdiagnose,
-                {.art = Regelart::Auszunehmen, .spalte = 4, .codes = ohneGruppe, .sonst = null});
+                {.art = Regelart::Auszunehmen, .spalte = 4, .codes = ohneGruppe, .wert = null});
     reihe.setze(exportspalte::diag::alterErstkonsum, fest({}));
     for (int nummer = 1; nummer <= anzahlWeitereDiagnosen; ++nummer) {
         // of each four with a letter of their own the older layout fills two
@@ -189,18 +169,4 @@ std::vector<Altregel> baueDiagnoseregeln()
         reihe.setzeDiagnose(weitere(nummer), fehlt ? fest({}) : kopie(altspalte::diag::weitere + nummer - 1));
     }
     return reihe.nimmRegeln();
-}
-
-} // namespace
-
-const std::vector<Altregel>& kernregeln()
-{
-    static const auto regeln = baueKernregeln();
-    return regeln;
-}
-
-const std::vector<Altregel>& diagnoseregeln()
-{
-    static const auto regeln = baueDiagnoseregeln();
-    return regeln;
 }

@@ -6,41 +6,35 @@
 #include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/WeitereDiagnosen.h"
+#include "satz/Wertelisten.h"
 
-#include <algorithm>
 #include <array>
 #include <limits>
+#include <utility>
 
 namespace {
 
 constexpr auto offen = "OFFEN"_t;
 
-struct Kostenträger {
-    int feld;
-    std::string_view code;
-};
-
-/// Of several bearers the last one in this order counts.
+/// Field and code. Of several bearers the last one in this order counts.
 constexpr std::array kostenträgerListe{
-    Kostenträger{altfeld::betreuung::kostenSelbst, "2"_t},  Kostenträger{altfeld::betreuung::kostenSonst, "45"_t},
-    Kostenträger{altfeld::betreuung::kostenSozial, "48"_t}, Kostenträger{altfeld::betreuung::kostenKV, "47"_t},
-    Kostenträger{altfeld::betreuung::kostenRV, "46"_t},     Kostenträger{altfeld::betreuung::kostenPauschal, "1"_t},
+    std::pair{altfeld::betreuung::kostenSelbst, "2"_t},  std::pair{altfeld::betreuung::kostenSonst, "45"_t},
+    std::pair{altfeld::betreuung::kostenSozial, "48"_t}, std::pair{altfeld::betreuung::kostenKV, "47"_t},
+    std::pair{altfeld::betreuung::kostenRV, "46"_t},     std::pair{altfeld::betreuung::kostenPauschal, "1"_t},
 };
 
-struct Lebenssituation {
-    std::string_view text;
-    std::array<int, 2> flaggen; ///< 0: none
-};
-
+/// With the six flags.
 constexpr std::array lebenssituationen{
-    Lebenssituation{"alleinlebend"_t, {1, 0}},
-    Lebenssituation{"mit PartnerIn"_t, {2, 0}},
-    Lebenssituation{"mit Kindern"_t, {3, 0}},
-    Lebenssituation{"mit Elternteil"_t, {4, 0}},
-    Lebenssituation{"mit Freunden / Bekannten"_t, {5, 0}},
-    Lebenssituation{"mit sonstigen Personen"_t, {6, 0}},
-    Lebenssituation{"mit PartnerIn und Kind(ern)"_t, {2, 3}},
+    Wertepaar{""_t, "000000"_t},
+    Wertepaar{"alleinlebend"_t, "211111"_t},
+    Wertepaar{"mit PartnerIn"_t, "121111"_t},
+    Wertepaar{"mit Kindern"_t, "112111"_t},
+    Wertepaar{"mit Elternteil"_t, "111211"_t},
+    Wertepaar{"mit Freunden / Bekannten"_t, "111121"_t},
+    Wertepaar{"mit sonstigen Personen"_t, "111112"_t},
+    Wertepaar{"mit PartnerIn und Kind(ern)"_t, "122111"_t},
 };
+constexpr auto unbekannteLebenssituation = "111111"_t;
 
 /// Codes of the groups from F55.0 on; those before depend on further fields.
 constexpr std::array<std::string_view, 8> festeHauptdiagnosen{"550", "551", "552", "554", "555", "556", "558", "630"};
@@ -94,23 +88,18 @@ void AltKDSZeile::führeAus(const Spaltenanweisung& anweisung, int spalte)
     }
 }
 
-void AltKDSZeile::meldeFehlendeOption(std::string_view text, int spalte, int quelle) const
-{
-    melde(verbinde("Fehler in Optionsparsing ! \r"_t, m_satz.zeile(), "\r\rakt.parseSatz: "_t,
-                   std::to_string(m_satz.gelesene()), "\rebis-Arg#: "_t, alsText(spalte), "\rTolvek-Arg#: "_t,
-                   alsText(quelle), "\rTolvek: '"_t, text, "' nicht gefunden"_t));
-}
-
 void AltKDSZeile::option(const Spaltenanweisung& anweisung, int spalte)
 {
     const auto text = m_satz.feldOhneLeerzeichen(anweisung.quelle);
-    const auto ort = std::find_if(anweisung.paare.begin(), anweisung.paare.end(),
-                                  [&](const auto& paar) { return paar.first == text; });
-    if (ort == anweisung.paare.end()) {
-        meldeFehlendeOption(text, spalte, anweisung.quelle);
-        return;
+    for (const auto& [quelltext, zieltext] : anweisung.paare) {
+        if (quelltext == text) {
+            wert(zieltext);
+            return;
+        }
     }
-    wert(ort->second);
+    melde(verbinde("Fehler in Optionsparsing ! \r"_t, m_satz.zeile(), "\r\rakt.parseSatz: "_t,
+                   std::to_string(m_satz.gelesene()), "\rebis-Arg#: "_t, alsText(spalte), "\rTolvek-Arg#: "_t,
+                   alsText(anweisung.quelle), "\rTolvek: '"_t, text, "' nicht gefunden"_t));
 }
 
 void AltKDSZeile::icdZusatz(std::string_view text, int spalte)
@@ -127,20 +116,11 @@ void AltKDSZeile::icdZusatz(std::string_view text, int spalte)
 // Twelve columns, every second one empty.
 void AltKDSZeile::lebensSituation(std::string_view text)
 {
-    std::array<char, 6> flaggen;
-    flaggen.fill(text.empty() ? '0' : '1');
-    const auto ort = std::find_if(lebenssituationen.begin(), lebenssituationen.end(),
-                                  [&](const Lebenssituation& l) { return l.text == text; });
-    if (ort != lebenssituationen.end()) {
-        for (const int flagge : ort->flaggen) {
-            if (flagge != 0) {
-                flaggen.at(static_cast<std::size_t>(flagge - 1)) = '2';
-            }
-        }
-    } else if (!getrimmt(text).empty()) {
+    const auto* flaggen = werte::codeZu(lebenssituationen, text);
+    if (flaggen == nullptr && !getrimmt(text).empty()) {
         melde("ParseFehler: lebSit"_t);
     }
-    for (const char flagge : flaggen) {
+    for (const char flagge : flaggen == nullptr ? unbekannteLebenssituation : *flaggen) {
         wert({&flagge, 1});
         wert({});
     }
@@ -149,9 +129,9 @@ void AltKDSZeile::lebensSituation(std::string_view text)
 void AltKDSZeile::kostenträger()
 {
     std::string_view code = "0"_t;
-    for (const auto& träger : kostenträgerListe) {
-        if (m_satz.feld(träger.feld) == "1") {
-            code = träger.code;
+    for (const auto& [feld, trägercode] : kostenträgerListe) {
+        if (m_satz.feld(feld) == "1") {
+            code = trägercode;
         }
     }
     wert(code);

@@ -32,7 +32,6 @@ public:
 
 private:
     void melde(std::string_view text) const { m_meldung(text, Symbol::Keins); }
-    void meldeFehlendeOption(std::string_view text, int spalte, int quelle) const;
     void option(const Spaltenanweisung& anweisung, int spalte);
     void icdZusatz(std::string_view text, int spalte);
     void lebensSituation(std::string_view text);

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
-#include <filesystem>
 #include <string_view>
 
 /// A care line of the older system, cut into its fields.

@@ -3,6 +3,7 @@
 #include "platform/dateien/Dateien.h"
 #include "platform/dateien/Zeilen.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string_view>
@@ -15,6 +16,11 @@ public:
     Eingabedatei(Dateien& dateien, const std::filesystem::path& pfad) : m_pfad(pfad), m_inhalt(dateien.lies(pfad)) {}
 
     const std::filesystem::path& pfad() const { return m_pfad; }
+    std::size_t zeilenzahl() const { return zähleZeilen(m_inhalt->text()); }
+
+    /// A number of the file that the older system gave a client or an episode and that is taken over as id. One that
+    /// is no number from 1 to 32767 is a Laufzeitfehler: the tables could not be read past it.
+    std::int32_t leseNummer(std::string_view text) const;
 
     /// Calls `tue(zeile)` for each line in file order.
     template <class F> void fürJedeZeile(F tue) const

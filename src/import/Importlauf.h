@@ -1,11 +1,16 @@
 #pragma once
 
-#include "import/Abschluss.h"
 #include "import/Importort.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <string_view>
+
+struct Importzahlen {
+    std::size_t klienten = 0;
+    std::size_t betreuungen = 0;
+};
 
 /// The course of an import: four stages in the work folder, the closing steps, and the replacement of the live
 /// tables. It either takes over everything or leaves the live tables as they were; the work folder, which holds
@@ -26,8 +31,9 @@ public:
     static void entferneReste(const Bestand& bestand);
 
 private:
-    void bereiteVor() const;
-    void führeStufenAus() const;
+    /// The three tables as stage 4 makes them.
+    void führeStufenAus(const std::filesystem::path& kernDat, const std::filesystem::path& betrDat,
+                        const std::filesystem::path& diagDat) const;
     Dateien& dateien() const { return m_ort.bestand.dateien(); }
     std::filesystem::path datei(std::string_view name) const { return m_ordner / name; }
 
@@ -35,5 +41,4 @@ private:
     std::filesystem::path m_kernAlt;
     std::filesystem::path m_betreuungenAlt;
     std::filesystem::path m_ordner;
-    NeueTabellen m_tabellen;
 };

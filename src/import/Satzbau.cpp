@@ -26,85 +26,64 @@ const std::string& Satzbau::baue(const Episodenzeilen& zeilen)
     m_hdOhne = 0;
     m_ivKonsum = 0;
     for (const auto& anweisung : m_anweisungen) {
-        const auto wert = (anweisung.blatt == 'K' ? zeilen.kern : zeilen.diagnose).feld(anweisung.spalte);
-        if (anweisung.art == Feldart::icd0000) {
-            fügeHauptdiagnose(anweisung, wert, zeilen);
-            continue;
-        }
+        const auto spaltenwert = (anweisung.blatt == 'K' ? zeilen.kern : zeilen.diagnose).feld(anweisung.spalte);
+        const auto wert = anweisung.blatt == 0 && !entstehtHier(anweisung.art)
+                              ? std::string_view(anweisung.vorgabe)
+                              : feldwert(anweisung, spaltenwert, zeilen);
         m_letztesFeld = m_satz.size();
-        if (anweisung.blatt == 0 && !entstehtHier(anweisung.art)) {
-            m_satz.append(anweisung.vorgabe);
-        } else {
-            füge(anweisung, wert, zeilen);
-        }
-        m_satz.push_back(trenner);
+        m_satz.append(wert).push_back(trenner);
     }
     return m_satz;
 }
 
-void Satzbau::füge(const Feldanweisung& anweisung, std::string_view wert, const Episodenzeilen& zeilen)
+std::string_view Satzbau::feldwert(const Feldanweisung& anweisung, std::string_view wert, const Episodenzeilen& zeilen)
 {
     switch (anweisung.art) {
     case Feldart::option:
-        m_satz.append(schlageNach(anweisung, wert, m_ablage));
-        break;
+        return schlageNach(anweisung, wert, m_ablage);
     case Feldart::zahl:
-        m_satz.append(zahl(wert));
-        break;
+        return m_art == Art::Diagnose && wert == "0" ? std::string_view{} : wert;
     case Feldart::text:
-        m_satz.append(wert);
-        break;
+        return wert;
     case Feldart::datum:
-        m_satz.append(wert.empty() ? "offen"_t : wert);
-        break;
+        return wert.empty() ? "offen"_t : wert;
     case Feldart::idKern:
-        m_satz.append(alsText(zeilen.kernID));
-        break;
+        return m_ablage = alsText(zeilen.kernID);
     case Feldart::idBetr:
-        m_satz.append(alsText(zeilen.betrID));
-        break;
+        return m_ablage = alsText(zeilen.betrID);
     case Feldart::nation:
-        m_satz.append(getNationZuCode(wert));
-        break;
+        return m_ablage = getNationZuCode(wert);
     case Feldart::kinder:
     case Feldart::zuvor:
     case Feldart::kontakte:
-        m_satz.append(wert.empty() ? "k.A."_t : wert);
-        break;
+        return wert.empty() ? antworttext::keine : wert;
     case Feldart::hdOhne:
-        m_satz.append(wahrWenn(führendeZahl(wert) == m_hdOhne++));
-        break;
+        return wahrWenn(führendeZahl(wert) == m_hdOhne++);
     case Feldart::ivKonsum:
-        m_satz.append(wahrWenn(führendeZahl(wert) == m_ivKonsum++));
-        break;
+        return wahrWenn(führendeZahl(wert) == m_ivKonsum++);
     case Feldart::icdPsy:
     case Feldart::icdNeu:
-        m_satz.append(wert.substr(wert.empty() ? 0 : 1));
-        break;
-    case Feldart::hdAlter: // filled by the icd0000 behind it
+        return wert.substr(wert.empty() ? 0 : 1);
     case Feldart::icd0000:
+        return hauptdiagnose(anweisung, wert, zeilen);
+    case Feldart::hdAlter: // filled by the icd0000 behind it
     case Feldart::leer:
-        break;
+        return {};
     case Feldart::memo: // the marking of the imported records fills this field
     case Feldart::klient:
-        m_satz.push_back('?');
         break;
     }
+    return "?"_t;
 }
 
 // The main diagnosis brings its age of first consumption into the field before it.
-void Satzbau::fügeHauptdiagnose(const Feldanweisung& anweisung, std::string_view wert, const Episodenzeilen& zeilen)
+std::string_view Satzbau::hauptdiagnose(const Feldanweisung& anweisung, std::string_view wert,
+                                        const Episodenzeilen& zeilen)
 {
     const auto ergebnis = schlageNach(anweisung, wert, m_ablage);
     if (ergebnis == "1") {
         m_satz.resize(m_letztesFeld);
         m_satz.append(zeilen.diagnose.feld(exportspalte::diag::alterErstkonsum)).push_back(trenner);
     }
-    m_letztesFeld = m_satz.size();
-    m_satz.append(ergebnis).push_back(trenner);
-}
-
-std::string_view Satzbau::zahl(std::string_view wert) const
-{
-    return m_art == Art::Diagnose && wert == "0" ? std::string_view{} : wert;
+    return ergebnis;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "export/Satzsicht.h"
-#include "import/Feldanweisung.h"
+#include "import/moAnweisungen.h"
 
 #include <cstdint>
 #include <string>
@@ -28,9 +28,9 @@ public:
     const std::string& baue(const Episodenzeilen& zeilen);
 
 private:
-    void füge(const Feldanweisung& anweisung, std::string_view wert, const Episodenzeilen& zeilen);
-    void fügeHauptdiagnose(const Feldanweisung& anweisung, std::string_view wert, const Episodenzeilen& zeilen);
-    std::string_view zahl(std::string_view wert) const;
+    /// What the field becomes; valid until the next one.
+    std::string_view feldwert(const Feldanweisung& anweisung, std::string_view wert, const Episodenzeilen& zeilen);
+    std::string_view hauptdiagnose(const Feldanweisung& anweisung, std::string_view wert, const Episodenzeilen& zeilen);
 
     Art m_art;
     std::vector<Feldanweisung> m_anweisungen;

@@ -3,7 +3,6 @@
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Eingabe.h"
 #include "platform/text/Text.h"
-#include "platform/text/Zahl.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "store/Niederschrift.h"
 #include "zustand/Zustand.h"
@@ -76,34 +75,26 @@ void frmDatenÜbernahme::beiOK()
     const auto& stand = zustand();
     Importlauf lauf({stand.bestand, stand.pfade.programm, stand.umgebung.installation(), stand.pfade.importListe},
                     pfadIn(tbKernDatAlt, m_kernDatAlt), pfadIn(tbBetrDatAlt, m_betrDatAlt));
-    lauf.beiSchritt = [this](std::string_view was, int schritt) { melde(was, schritt); };
+    lauf.beiSchritt = [this](std::string_view was, int schritt) {
+        lblStatus.setzeText(was);
+        ProgressBar1.setzeWert(schritt);
+        zustand().umgebung.zeichne();
+    };
     lauf.nachSchritt = [this] { lblStatus.setzeText(bereit); };
     ProgressBar1.setzeWert(0);
     cmdBeiDerArbeit.zeige();
     try {
-        importiere(lauf);
+        const auto zahlen = lauf.führeAus();
+        cmdOK.sperre();
+        cmdBeiDerArbeit.verberge();
+        lblStatus.setzeText(verbinde("Import erfolgreich. #Klienten: "_t, std::to_string(zahlen.klienten),
+                                     ", #Betreuungen: "_t, std::to_string(zahlen.betreuungen)));
     } catch (const UnvollendeterVorgang&) {
         throw; // the data are taken over; to say the contrary would have them typed in
     } catch (const Laufzeitfehler&) {
         Importlauf::entferneReste(zustand().bestand);
         zeigeFehlschlag();
     }
-}
-
-void frmDatenÜbernahme::importiere(Importlauf& lauf)
-{
-    const auto zahlen = lauf.führeAus();
-    cmdOK.sperre();
-    cmdBeiDerArbeit.verberge();
-    lblStatus.setzeText(verbinde("Import erfolgreich. #Klienten: "_t, std::to_string(zahlen.klienten),
-                                 ", #Betreuungen: "_t, std::to_string(zahlen.betreuungen)));
-}
-
-void frmDatenÜbernahme::melde(std::string_view status, int fortschritt)
-{
-    lblStatus.setzeText(status);
-    ProgressBar1.setzeWert(fortschritt);
-    zustand().umgebung.zeichne();
 }
 
 void frmDatenÜbernahme::zeigeFehlschlag()

@@ -28,8 +28,6 @@ private:
     void beiOK();
     void wähle(Textfeld& ziel, std::filesystem::path& gewählt);
 
-    void importiere(Importlauf& lauf);
-    void melde(std::string_view status, int fortschritt);
     void zeigeFehlschlag();
     /// The path in the box: the chosen one while it still stands there, else the typed one.
     std::filesystem::path pfadIn(const Textfeld& feld, const std::filesystem::path& gewählt) const;

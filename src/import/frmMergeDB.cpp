@@ -11,11 +11,8 @@ frmMergeDB::frmMergeDB() : Bildschirm("frmMergeDB"_t)
     leiste.rechts = {&cmdOK, &cmdExit};
     beiEscape = &cmdExit;
     cmdOK.beiKlick = [] { zeigeMeldung("OK"_t); };
-    cmdExit.beiKlick = [this] { beiExit(); };
-}
-
-void frmMergeDB::beiExit()
-{
-    zeigeMeldung("exit"_t);
-    zustand().folge.entlade(*this);
+    cmdExit.beiKlick = [this] {
+        zeigeMeldung("exit"_t);
+        zustand().folge.entlade(*this);
+    };
 }

@@ -12,7 +12,4 @@ public:
     Schaltfläche cmdExit{*this, "cmdExit"_t, "&Exit"_t};
 
     frmMergeDB();
-
-private:
-    void beiExit();
 };

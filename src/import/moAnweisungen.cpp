@@ -8,9 +8,6 @@
 
 #include <algorithm>
 #include <array>
-#include <string>
-#include <string_view>
-#include <vector>
 
 namespace {
 
@@ -18,73 +15,56 @@ using Paare = std::vector<Feldanweisung::Paar>;
 
 constexpr auto leer = "<leer>"_t;
 constexpr auto sonst = "<sonst>"_t;
-constexpr auto kA = "k.A."_t;
+constexpr auto kA = antworttext::keine;
 
 /// What a kind is called in the string form.
 struct Typ {
     Feldart art;
     std::string_view name;
-    std::vector<std::string> anmerkungen; ///< expected form, for whoever reads the table; no rule
+    std::string anmerkung{}; ///< expected form, for whoever reads the table; no rule
 };
-
-template <class... T> std::vector<std::string> texte(const T&... werte)
-{
-    return {std::string(werte)...};
-}
 
 // A function, since one of the compilers ends on the table as an initialiser.
 std::vector<Typ> macheTypen()
 {
-    const auto kinder = verbinde("<0.."_t, alsText(werte::kinder.bis), '>');
-    const auto kontakte = verbinde("<1-"_t, alsText(werte::kontakte.bis), '>');
     const auto ziffern = verbinde('<', diagnosemuster.back(), '>');
     return {
-        Typ{Feldart::idKern, "idKern"_t, {}},
-        Typ{Feldart::idBetr, "idBetr"_t, {}},
-        Typ{Feldart::datum, "datum"_t, texte("<NN.NN.NNNN>"_t, "<offen>"_t)},
-        Typ{Feldart::option, "option"_t, {}},
-        Typ{Feldart::zuvor, "zuvor"_t, texte(kA, "<0..N>"_t)},
-        Typ{Feldart::kinder, "kinder"_t, texte(kA, kinder)},
-        Typ{Feldart::zahl, "zahl"_t, texte("<N>"_t)},
-        Typ{Feldart::kontakte, "kontakte"_t, texte(kA, kontakte)},
-        Typ{Feldart::nation, "nation"_t, texte("<XXX> "_t)},
-        Typ{Feldart::hdOhne, "hdOhne"_t, texte("<WAHR, FALSCH>"_t)},
-        Typ{Feldart::ivKonsum, "ivKonsum"_t, texte("<WAHR, FALSCH>"_t)},
-        Typ{Feldart::hdAlter, "hdAlter"_t, {}},
-        Typ{Feldart::icd0000, "icd0000"_t, {}},
-        Typ{Feldart::icdPsy, "icdPsy"_t, texte(ziffern)},
-        Typ{Feldart::icdNeu, "icdNeu"_t, texte(ziffern)},
-        Typ{Feldart::text, "text"_t, texte(verbinde("<?"_t, diagnosemuster.back(), '>'))},
-        Typ{Feldart::leer, leer, {}},
-        Typ{Feldart::memo, {}, {}},
+        Typ{Feldart::idKern, "idKern"_t},
+        Typ{Feldart::idBetr, "idBetr"_t},
+        Typ{Feldart::datum, "datum"_t, verbinde("<NN.NN.NNNN>"_t, trenner, "<offen>"_t)},
+        Typ{Feldart::option, "option"_t},
+        Typ{Feldart::zuvor, "zuvor"_t, verbinde(kA, trenner, "<0..N>"_t)},
+        Typ{Feldart::kinder, "kinder"_t, verbinde(kA, trenner, "<0.."_t, alsText(werte::kinder.bis), '>')},
+        Typ{Feldart::zahl, "zahl"_t, std::string("<N>"_t)},
+        Typ{Feldart::kontakte, "kontakte"_t, verbinde(kA, trenner, "<1-"_t, alsText(werte::kontakte.bis), '>')},
+        Typ{Feldart::nation, "nation"_t, std::string("<XXX> "_t)},
+        Typ{Feldart::hdOhne, "hdOhne"_t, std::string("<WAHR, FALSCH>"_t)},
+        Typ{Feldart::ivKonsum, "ivKonsum"_t, std::string("<WAHR, FALSCH>"_t)},
+        Typ{Feldart::hdAlter, "hdAlter"_t},
+        Typ{Feldart::icd0000, "icd0000"_t},
+        Typ{Feldart::icdPsy, "icdPsy"_t, ziffern},
+        Typ{Feldart::icdNeu, "icdNeu"_t, ziffern},
+        Typ{Feldart::text, "text"_t, verbinde("<?"_t, diagnosemuster.back(), '>')},
+        Typ{Feldart::leer, leer},
+        Typ{Feldart::memo, {}},
     };
-}
-
-const Typ& typVon(Feldart art)
-{
-    static const auto typen = macheTypen();
-    return *std::ranges::find(typen, art, &Typ::art);
 }
 
 /// Fields joined by the delimiter, padded with empty ones.
 std::string alsZeile(const Feldanweisung& anweisung)
 {
-    const auto& typ = typVon(anweisung.art);
-    auto zeile = verbinde(anweisung.blatt == 0 ? std::string() : verbinde(anweisung.blatt, alsText(anweisung.spalte)),
-                          trenner, typ.name);
-    std::size_t werte = 0;
-    const auto hänge = [&](std::string_view wert) {
-        zeile.append(1, trenner).append(wert);
-        ++werte;
-    };
+    static const auto typen = macheTypen();
+    const auto& typ = *std::ranges::find(typen, anweisung.art, &Typ::art);
+    const auto quelle = anweisung.blatt == 0 ? std::string() : verbinde(anweisung.blatt, alsText(anweisung.spalte));
+    auto zeile = verbinde(quelle, trenner, typ.name);
     for (const auto& [ergebnis, code] : anweisung.paare) {
-        hänge(ergebnis);
-        hänge(code);
+        zeile += verbinde(trenner, ergebnis, trenner, code);
     }
-    if (anweisung.paare.empty()) {
-        std::ranges::for_each(typ.anmerkungen, hänge);
+    if (anweisung.paare.empty() && !typ.anmerkung.empty()) {
+        zeile += trenner + typ.anmerkung;
     }
-    return zeile.append(static_cast<std::size_t>(felderJeAnweisung) - 2 - werte, trenner);
+    const auto gefüllte = 1 + std::ranges::count(zeile, trenner);
+    return zeile.append(static_cast<std::size_t>(felderJeAnweisung - gefüllte), trenner);
 }
 
 /// The list's pairs without the older spellings, which nothing new is to be written with.
@@ -99,20 +79,15 @@ Paare paareAus(Werteliste liste)
     return paare;
 }
 
-bool istListe(const Satzfeld& feld, Werteliste liste)
-{
-    return feld.werte.data() == liste.data();
-}
-
 /// The pairs of a care field: its value list, and the two lists that differ from it.
 Paare betreuungspaare(const Satzfeld& feld)
 {
     auto paare = paareAus(feld.werte);
-    if (istListe(feld, werte::betrGru)) {
+    if (feld.hatListe(werte::betrGru)) {
         paare.insert(paare.begin(),
                      {std::string("keine Angaben"_t), {}}); // an empty column too is "keine Angaben" here
     }
-    if (istListe(feld, werte::schulden)) {
+    if (feld.hatListe(werte::schulden)) {
         const auto zweites = std::ranges::find(paare, "2", &Feldanweisung::Paar::code);
         zweites->ergebnis = "bis10.000 €"_t; // a slip that stays: no imported row carries the code
     }
@@ -132,19 +107,17 @@ Paare diagnosepaare(const Satzfeld& feld, bool istSubstanz)
 {
     const std::string nichts(leer);
     Paare paare;
-    if (istListe(feld, werte::konsumart)) {
-        paare = paareAus(feld.werte);
-        paare.insert(paare.begin(), {nichts, "0"});
-    } else if (istListe(feld, werte::icdZusatz)) {
+    if (feld.hatListe(werte::icdZusatz)) {
         paare = {{nichts, nichts}, {"0", "0"}};
         hängeCodesAn(paare, feld.werte);
-    } else if (istListe(feld, werte::essstörung)) {
+    } else if (feld.hatListe(werte::essstörung)) {
         paare = {{nichts, "9"}};
         hängeCodesAn(paare, feld.werte);
     } else {
-        // risky consumption of a substance is "k.A.", the answer of the other areas stays empty
+        // risky consumption of a substance is "k.A.", all other answers stay empty
+        const bool istRiskant = istSubstanz && feld.hatListe(werte::kurz);
         paare = paareAus(feld.werte);
-        paare.insert(paare.begin() + (istSubstanz ? 1 : 0), {nichts, "0"});
+        paare.insert(paare.begin() + (istRiskant ? 1 : 0), {nichts, "0"});
     }
     return paare;
 }
@@ -154,7 +127,7 @@ constexpr std::array aufnehmende{1, 2, 6, 8, 10, 12, 15, 18, 19, 20, 21, 22, 23,
 
 bool nimmtAuf(int gruppe)
 {
-    return std::find(aufnehmende.begin(), aufnehmende.end(), gruppe) != aufnehmende.end();
+    return std::ranges::find(aufnehmende, gruppe) != aufnehmende.end();
 }
 
 /// The codes of column 159 by which an area is the main diagnosis, with the result for each.
@@ -220,6 +193,23 @@ std::vector<Feldanweisung> alle(int anzahl, Feldanweisung (*anweisung)(int numme
 }
 
 } // namespace
+
+std::string_view schlageNach(const Feldanweisung& anweisung, std::string_view wert, std::string& ablage)
+{
+    for (const auto& [ergebnis, code] : anweisung.paare) {
+        if (code == sonst) {
+            return ergebnis == "<text>" ? wert : std::string_view(ergebnis);
+        }
+        if (code == wert) {
+            return ergebnis == leer ? std::string_view{} : std::string_view(ergebnis);
+        }
+    }
+    if (wert.empty()) {
+        return {};
+    }
+    ablage = verbinde('\'', wert, "' nicht gefunden"_t);
+    return ablage;
+}
 
 std::vector<Feldanweisung> betreuungsanweisungen()
 {

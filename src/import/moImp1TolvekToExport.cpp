@@ -1,8 +1,6 @@
 #include "import/moImp1TolvekToExport.h"
 
 #include "import/Altfelder.h"
-#include "import/Altnummer.h"
-#include "import/Eingabedatei.h"
 #include "import/Zeilenverzeichnis.h"
 #include "platform/text/Datum.h"
 #include "platform/text/Text.h"
@@ -36,7 +34,7 @@ void teileKlienten(const Eingabedatei& klienten, Schreiber& kernExp, Schreiber& 
     const std::string leereFelder(altfeld::klient::geburt - altfeld::klient::nummer, trenner);
     klienten.fürJedenSatz([&](std::string_view zeile) {
         const auto nummer = getFeld(zeile, altfeld::klient::nummer);
-        leseAltnummer(nummer, klienten.pfad());
+        klienten.leseNummer(nummer);
         kernExp.zeile(verbinde(
             nummer, leereFelder, geburtsjahr(getFeld(zeile, altfeld::klient::geburt), klienten.pfad()), trenner,
             getFeld(zeile, altfeld::klient::geschlecht), trenner, getFeld(zeile, altfeld::klient::nationalität)));
@@ -65,13 +63,12 @@ std::string alterswert(std::string_view klient, std::string_view betreuung, cons
 
 void ergänzeBetreuungen(const Eingabedatei& betreuungen, const Eingabedatei& klienten, Schreiber& betreuungenExp)
 {
-    Zeilenverzeichnis<std::string_view> verzeichnis;
-    klienten.fürJedenSatz(
-        [&](std::string_view zeile) { verzeichnis.nimm(getFeld(zeile, altfeld::klient::nummer), zeile); });
+    const Zeilenverzeichnis<std::string_view> verzeichnis(
+        klienten, [](std::string_view zeile) { return getFeld(zeile, altfeld::klient::nummer); });
     betreuungen.fürJedenSatz([&](std::string_view zeile) {
         const auto nummer = getFeld(zeile, altfeld::betreuung::nummer);
-        leseAltnummer(nummer, betreuungen.pfad());
-        const auto klient = verzeichnis.zeile(nummer);
+        betreuungen.leseNummer(nummer);
+        const auto klient = verzeichnis.findeOderLetzte(nummer);
         betreuungenExp.zeile(verbinde(zeile, trenner, alterswert(klient, zeile, klienten, betreuungen)));
     });
 }

@@ -6,38 +6,15 @@
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 
-#include <algorithm>
-#include <array>
-
 namespace {
 
 constexpr auto ja = "2"_t;
 constexpr auto nein = "0"_t;
 
-struct Kostenposition {
-    std::string_view code;
-    int position;
-};
-constexpr std::array kostenpositionen{Kostenposition{"1"_t, 1},  Kostenposition{"2"_t, 2},  Kostenposition{"46"_t, 3},
-                                      Kostenposition{"47"_t, 4}, Kostenposition{"48"_t, 5}, Kostenposition{"45"_t, 9}};
-
-int kostenposition(std::string_view code)
-{
-    const auto ort = std::find_if(kostenpositionen.begin(), kostenpositionen.end(),
-                                  [&](const Kostenposition& p) { return p.code == code; });
-    return ort == kostenpositionen.end() ? 0 : ort->position;
-}
-
-const Altcode* findeCode(const Altregel& regel, std::string_view alt)
-{
-    const auto ort =
-        std::find_if(regel.codes.begin(), regel.codes.end(), [&](const Altcode& c) { return c.alt == alt; });
-    return ort == regel.codes.end() ? nullptr : &*ort;
-}
-
 std::string_view spaltenwert(const Altregel& regel, const Satzsicht& zeile)
 {
     const auto text = zeile.feld(regel.spalte);
+    const auto* code = werte::codeZu(regel.codes, text);
     const auto wenn = [](bool bedingung) { return bedingung ? ja : nein; };
     switch (regel.art) {
     case Regelart::Fest:
@@ -45,55 +22,35 @@ std::string_view spaltenwert(const Altregel& regel, const Satzsicht& zeile)
     case Regelart::Spalte:
         return text;
     case Regelart::Codes:
-        if (const auto* code = findeCode(regel, text)) {
-            return code->neu;
-        }
-        break;
-    case Regelart::Kosten:
-        return wenn(kostenposition(text) == regel.position);
-    case Regelart::Beide:
-        return wenn(text == ja && (regel.zweite == 0 || zeile.feld(regel.zweite) == ja));
+        return code == nullptr ? regel.wert : *code;
+    case Regelart::Gleich:
+        return wenn(text == regel.wert && (regel.zweite == 0 || zeile.feld(regel.zweite) == regel.wert));
     case Regelart::OhneNull:
         return getrimmt(text) == "0" ? std::string_view{} : getrimmt(text);
     case Regelart::FührendeAcht:
         return wenn(führendeZahl(text) == 8);
     case Regelart::Auszunehmen:
-        if (findeCode(regel, text) == nullptr) {
-            return text;
-        }
-        break;
+        return code == nullptr ? text : regel.wert;
     }
-    return regel.sonst;
+    return regel.wert;
 }
 
-/// Turns row after row, with the room of the one before.
-class Umsetzer {
-public:
-    explicit Umsetzer(const std::vector<Altregel>& regeln) : m_regeln(regeln) {}
-
-    const std::string& setzeUm(std::string_view alt)
-    {
-        m_alt.lies(alt, ',');
-        m_neu.clear();
-        for (const auto& regel : m_regeln) {
-            m_neu.append(spaltenwert(regel, m_alt)).push_back(';');
-        }
-        return m_neu;
+std::string setzeUm(std::string_view zeile, const std::vector<Altregel>& regeln)
+{
+    const Satzsicht alt(zeile, ',');
+    std::string neu;
+    for (const auto& regel : regeln) {
+        neu.append(spaltenwert(regel, alt)).push_back(';');
     }
-
-private:
-    const std::vector<Altregel>& m_regeln;
-    Satzsicht m_alt;
-    std::string m_neu;
-};
+    return neu;
+}
 
 void setzeDateiUm(Dateien& dateien, const std::filesystem::path& von, const std::filesystem::path& nach,
                   const std::vector<Altregel>& regeln)
 {
     const Eingabedatei ein(dateien, von);
     const auto aus = dateien.schreibeNeu(nach);
-    Umsetzer umsetzer(regeln);
-    ein.fürJedeZeile([&](std::string_view zeile) { aus->zeile(umsetzer.setzeUm(zeile)); });
+    ein.fürJedeZeile([&](std::string_view zeile) { aus->zeile(setzeUm(zeile, regeln)); });
     aus->schließe();
 }
 
@@ -101,12 +58,12 @@ void setzeDateiUm(Dateien& dateien, const std::filesystem::path& von, const std:
 
 std::string kernAltNachNeu(std::string_view zeile)
 {
-    return Umsetzer(kernregeln()).setzeUm(zeile);
+    return setzeUm(zeile, kernregeln());
 }
 
 std::string diagAltNachNeu(std::string_view zeile)
 {
-    return Umsetzer(diagnoseregeln()).setzeUm(zeile);
+    return setzeUm(zeile, diagnoseregeln());
 }
 
 void moImp3AltKDStoKDS(Dateien& dateien, const std::filesystem::path& aKDSKern,

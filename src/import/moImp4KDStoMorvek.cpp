@@ -1,8 +1,6 @@
 #include "import/moImp4KDStoMorvek.h"
 
 #include "import/Altfelder.h"
-#include "import/Altnummer.h"
-#include "import/Eingabedatei.h"
 #include "import/Satzbau.h"
 #include "import/Zeilenverzeichnis.h"
 #include "import/moAnweisungen.h"
@@ -12,7 +10,6 @@
 #include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
 
-#include <string>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>
@@ -38,62 +35,21 @@ std::string_view schlüssel(std::string_view zeile)
 }
 
 /// The diagnosis rows by their ids; an episode can have several.
-class Diagnosezeilen {
-public:
-    Diagnosezeilen(Dateien& dateien, const std::filesystem::path& pfad) : m_datei(dateien, pfad)
-    {
-        m_datei.fürJedeZeile([this](std::string_view zeile) { m_zeilen[schlüssel(zeile)].push_back(zeile); });
-    }
+std::unordered_map<std::string_view, std::vector<std::string_view>> nachSchlüssel(const Eingabedatei& diagnosen)
+{
+    std::unordered_map<std::string_view, std::vector<std::string_view>> zeilen;
+    diagnosen.fürJedeZeile([&](std::string_view zeile) { zeilen[schlüssel(zeile)].push_back(zeile); });
+    return zeilen;
+}
 
-    const std::vector<std::string_view>& zu(std::string_view kernzeile) const
-    {
-        static const std::vector<std::string_view> keine;
-        const auto ort = m_zeilen.find(schlüssel(kernzeile));
-        return ort == m_zeilen.end() ? keine : ort->second;
-    }
-
-private:
-    Eingabedatei m_datei;
-    std::unordered_map<std::string_view, std::vector<std::string_view>> m_zeilen;
-};
-
-/// The three tables being written.
-class Ausgabe {
-public:
-    Ausgabe(Dateien& dateien, const std::filesystem::path& kernDat, const std::filesystem::path& betrDat,
-            const std::filesystem::path& diagDat)
-        : m_kern(dateien.schreibeNeu(kernDat)), m_betreuung(dateien.schreibeNeu(betrDat)),
-          m_diagnose(dateien.schreibeNeu(diagDat))
-    {}
-
-    void schreibeKlient(const Satzsicht& kernzeile, std::string_view person)
-    {
-        m_kern->zeile(verbinde(trenner, kernzeile.feld(exportspalte::kernID), trenner, trenner,
-                               felder(person, altfeld::klient::nachname, altfeld::klient::ort),
-                               geschlecht(kernzeile.feld(feldAus(klientenfelder(), feld::kern::geschlecht).spalte)),
-                               trenner, getFeld(person, altfeld::klient::geburt), trenner));
-    }
-
-    void schreibeEpisode(const Episodenzeilen& zeilen)
-    {
-        m_betreuung->zeile(m_betreuungssatz.baue(zeilen));
-        m_diagnose->zeile(m_diagnosesatz.baue(zeilen));
-    }
-
-    void schließe()
-    {
-        m_kern->schließe();
-        m_betreuung->schließe();
-        m_diagnose->schließe();
-    }
-
-private:
-    std::unique_ptr<Schreiber> m_kern;
-    std::unique_ptr<Schreiber> m_betreuung;
-    std::unique_ptr<Schreiber> m_diagnose;
-    Satzbau m_betreuungssatz{Satzbau::Art::Betreuung, betreuungsanweisungen()};
-    Satzbau m_diagnosesatz{Satzbau::Art::Diagnose, diagnoseanweisungen()};
-};
+/// The client record, still without a status.
+std::string klientensatz(const Satzsicht& kernzeile, std::string_view person)
+{
+    return verbinde(trenner, kernzeile.feld(exportspalte::kernID), trenner, trenner,
+                    felder(person, altfeld::klient::nachname, altfeld::klient::ort),
+                    geschlecht(kernzeile.feld(feldAus(klientenfelder(), feld::kern::geschlecht).spalte)), trenner,
+                    getFeld(person, altfeld::klient::geburt), trenner);
+}
 
 } // namespace
 
@@ -102,13 +58,16 @@ void moImp4KDStoMorvek(Dateien& dateien, const std::filesystem::path& kdsKern, c
                        const std::filesystem::path& diagDat, const std::filesystem::path& extraExp)
 {
     const Eingabedatei kernzeilen(dateien, kdsKern);
-    const Diagnosezeilen diagnosen(dateien, kdsDiagnose);
+    const Eingabedatei diagnosedatei(dateien, kdsDiagnose);
+    auto diagnosezeilen = nachSchlüssel(diagnosedatei);
     const Eingabedatei extra(dateien, extraExp);
-    Zeilenverzeichnis<std::int32_t> personen; // the clients' personal data by number
-    extra.fürJedeZeile([&](std::string_view zeile) {
-        personen.nimm(leseAltnummer(getFeld(zeile, altfeld::klient::nummer), extraExp), zeile);
-    });
-    Ausgabe ausgabe(dateien, kernDat, betrDat, diagDat);
+    const Zeilenverzeichnis<std::int32_t> personen(
+        extra, [&](std::string_view zeile) { return extra.leseNummer(getFeld(zeile, altfeld::klient::nummer)); });
+    const auto klientenAus = dateien.schreibeNeu(kernDat);
+    const auto betreuungenAus = dateien.schreibeNeu(betrDat);
+    const auto diagnosenAus = dateien.schreibeNeu(diagDat);
+    Satzbau betreuungssatz(Satzbau::Art::Betreuung, betreuungsanweisungen());
+    Satzbau diagnosesatz(Satzbau::Art::Diagnose, diagnoseanweisungen());
 
     std::unordered_set<std::int32_t> bekannte;
     bool kernGeschrieben = true; // not tied to an id: a client without diagnosis row leaves it to the next pair
@@ -117,20 +76,24 @@ void moImp4KDStoMorvek(Dateien& dateien, const std::filesystem::path& kdsKern, c
     Satzsicht diagnose;
     kernzeilen.fürJedeZeile([&](std::string_view zeile) {
         kern.lies(zeile, spaltentrenner);
-        const auto kernID = leseAltnummer(kern.feld(exportspalte::kernID), kdsKern);
+        const auto kernID = kernzeilen.leseNummer(kern.feld(exportspalte::kernID));
         if (bekannte.insert(kernID).second) {
             kernGeschrieben = false;
-            person = personen.zeile(kernID);
+            person = personen.findeOderLetzte(kernID);
         }
-        for (const auto diagnosezeile : diagnosen.zu(zeile)) {
-            const auto betrID = leseAltnummer(kern.feld(exportspalte::betrID), kdsKern);
+        for (const auto diagnosezeile : diagnosezeilen[schlüssel(zeile)]) {
+            const auto betrID = kernzeilen.leseNummer(kern.feld(exportspalte::betrID));
             diagnose.lies(diagnosezeile, spaltentrenner);
             if (!kernGeschrieben) {
-                ausgabe.schreibeKlient(kern, person);
+                klientenAus->zeile(klientensatz(kern, person));
+                kernGeschrieben = true;
             }
-            ausgabe.schreibeEpisode({kern, diagnose, kernID, betrID});
-            kernGeschrieben = true;
+            const Episodenzeilen episode{kern, diagnose, kernID, betrID};
+            betreuungenAus->zeile(betreuungssatz.baue(episode));
+            diagnosenAus->zeile(diagnosesatz.baue(episode));
         }
     });
-    ausgabe.schließe();
+    for (const auto* aus : {&klientenAus, &betreuungenAus, &diagnosenAus}) {
+        (*aus)->schließe();
+    }
 }

@@ -2,73 +2,40 @@
 
 #include "import/AltKDSZeile.h"
 #include "import/Altfelder.h"
-#include "import/Altnummer.h"
 #include "import/Anweisungsdatei.h"
-#include "import/Eingabedatei.h"
+#include "import/Zeilenverzeichnis.h"
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Datum.h"
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
+#include "satz/Wertelisten.h"
 #include "satz/moHelferlein.h"
 
 #include <algorithm>
 #include <array>
 #include <functional>
 #include <optional>
-#include <unordered_map>
+#include <vector>
 
 namespace {
 
 constexpr auto ohneEintrag = "0"_t;
 constexpr auto zwei = "2"_t;
 
-/// The client's values that the core row needs; empty for a client that is missing.
-struct Klientenwerte {
-    std::string_view gebJahr;
-    std::string_view geschl;
-    std::string_view natio;
-};
+constexpr std::array geschlechter{Wertepaar{"Männlich"_t, "1"_t}, Wertepaar{"Weiblich"_t, zwei}};
+constexpr std::array nationalitäten{Wertepaar{"Deutsche(r)"_t, "1"_t}, Wertepaar{"Bürger eines EU-Landes"_t, zwei},
+                                    Wertepaar{"Sonstige"_t, "3"_t}};
 
-struct Codewort {
-    std::string_view text;
-    std::string_view code;
-};
-constexpr std::array geschlechter{Codewort{"Männlich"_t, "1"_t}, Codewort{"Weiblich"_t, "2"_t}};
-constexpr std::array nationalitäten{Codewort{"Deutsche(r)"_t, "1"_t}, Codewort{"Bürger eines EU-Landes"_t, "2"_t},
-                                    Codewort{"Sonstige"_t, "3"_t}};
-
-template <std::size_t N> std::string_view codeVon(const std::array<Codewort, N>& liste, std::string_view text)
+std::string_view codeVon(Werteliste liste, std::string_view text)
 {
-    const auto ort = std::find_if(liste.begin(), liste.end(), [&](const Codewort& w) { return w.text == text; });
-    return ort == liste.end() ? ohneEintrag : ort->code;
+    const auto* code = werte::codeZu(liste, text);
+    return code == nullptr ? ohneEintrag : *code;
 }
-
-class Klientenverzeichnis {
-public:
-    Klientenverzeichnis(Dateien& dateien, const std::filesystem::path& pfad) : m_datei(dateien, pfad)
-    {
-        m_datei.fürJedeZeile([this](std::string_view zeile) {
-            m_werte.try_emplace(führendeZahl(zeile), Klientenwerte{getFeld(zeile, altfeld::klient::geburt),
-                                                                   getFeld(zeile, altfeld::klient::geschlecht),
-                                                                   getFeld(zeile, altfeld::klient::nationalität)});
-        });
-    }
-
-    Klientenwerte werte(std::int64_t nummer) const
-    {
-        const auto ort = m_werte.find(nummer);
-        return ort == m_werte.end() ? Klientenwerte{} : ort->second;
-    }
-
-private:
-    Eingabedatei m_datei;
-    std::unordered_map<std::int64_t, Klientenwerte> m_werte;
-};
 
 /// Day, month, year; a year of two digits as the older core data set took it.
 std::optional<Datum> leseDatumDesAltKDS(std::string_view text)
 {
-    const auto teil = [&](int nummer) { return getFeldMit(text, nummer, '.'); };
+    const auto teil = [&](int nummer) { return getFeld(text, nummer, '.'); };
     const auto tag = leseGanzzahl16(teil(1));
     const auto monat = leseGanzzahl16(teil(2));
     const auto jahr = leseGanzzahl16(teil(3));
@@ -83,47 +50,31 @@ std::optional<Datum> leseDatumDesAltKDS(std::string_view text)
 
 /// The age value, unless the client is born behind the begin by its year alone: the first of July stands for
 /// the unknown day.
-std::string_view alter(const Klientenwerte& klient, const Betreuungssatz& satz)
+std::string_view alter(std::string_view klient, const Betreuungssatz& satz)
 {
-    const bool ohneJahr = klein(klient.gebJahr) == "unbekannt"_t || klient.gebJahr.empty() || klient.gebJahr == " ";
-    if (ohneJahr || !istNichtNach(verbinde("01.07."_t, klient.gebJahr), satz.feld(altfeld::betreuung::beginn))) {
+    const auto jahr = getFeld(klient, altfeld::klient::geburt);
+    const bool ohneJahr = klein(jahr) == "unbekannt"_t || jahr.empty() || jahr == " ";
+    if (ohneJahr || !istNichtNach(verbinde("01.07."_t, jahr), satz.feld(altfeld::betreuung::beginn))) {
         return {};
     }
     return satz.feld(altfeld::betreuung::alter);
 }
 
-void baueKernzeile(AltKDSZeile& zeile, const Klientenwerte& klient, const Betreuungssatz& satz,
-                   const std::vector<Spaltenanweisung>& anweisungen)
+/// A column that no instruction fills; nothing for the others. An episode without client has an empty line for it.
+std::optional<std::string_view> festeKernspalte(std::string_view klient, const Betreuungssatz& satz, int spalte)
 {
-    for (int spalte = 1; spalte <= altspalte::kern::anzahl; ++spalte) {
-        switch (spalte) {
-        case altspalte::tsnr:
-            zeile.wert(zwei);
-            break;
-        case altspalte::kern::geschlecht:
-            zeile.wert(codeVon(geschlechter, klient.geschl));
-            break;
-        case altspalte::kern::alter:
-            zeile.wert(alter(klient, satz));
-            break;
-        case altspalte::kern::nationalität:
-            zeile.wert(codeVon(nationalitäten, klient.natio));
-            break;
-        default:
-            zeile.führeAus(anweisungen[static_cast<std::size_t>(spalte - 1)], spalte);
-        }
+    switch (spalte) {
+    case altspalte::tsnr:
+        return zwei;
+    case altspalte::kern::geschlecht:
+        return codeVon(geschlechter, getFeld(klient, altfeld::klient::geschlecht));
+    case altspalte::kern::alter:
+        return alter(klient, satz);
+    case altspalte::kern::nationalität:
+        return codeVon(nationalitäten, getFeld(klient, altfeld::klient::nationalität));
+    default:
+        return std::nullopt;
     }
-}
-
-/// Whether the digits of any group from `von` to `bis` hold something.
-bool istEineBelegt(const Betreuungssatz& satz, int von, int bis)
-{
-    for (int gruppe = von; gruppe <= bis; ++gruppe) {
-        if (!satz.istLeer(altfeld::betreuung::gruppe(gruppe))) {
-            return true;
-        }
-    }
-    return false;
 }
 
 std::string_view klassencode(const Betreuungssatz& satz, int spalte)
@@ -135,10 +86,16 @@ std::string_view klassencode(const Betreuungssatz& satz, int spalte)
     return satz.feld(feld) == "10" ? "1"_t : zwei;
 }
 
-/// The columns of the diagnosis row that no instruction fills; nothing for the others.
+/// The same for the diagnosis row.
 std::optional<std::string_view> festeDiagnosespalte(const Betreuungssatz& satz, int spalte)
 {
-    const auto belegt = [&](int von, int bis) { return istEineBelegt(satz, von, bis) ? zwei : ohneEintrag; };
+    const auto belegt = [&](int von, int bis) { // whether the digits of any group hold something
+        bool eine = false;
+        for (int gruppe = von; gruppe <= bis; ++gruppe) {
+            eine = eine || !satz.istLeer(altfeld::betreuung::gruppe(gruppe));
+        }
+        return eine ? zwei : ohneEintrag;
+    };
     if (spalte >= altspalte::diag::f10 && spalte <= altspalte::diag::f19) {
         return klassencode(satz, spalte);
     }
@@ -156,17 +113,6 @@ std::optional<std::string_view> festeDiagnosespalte(const Betreuungssatz& satz, 
     }
 }
 
-void baueDiagnosezeile(AltKDSZeile& zeile, const Betreuungssatz& satz, const std::vector<Spaltenanweisung>& anweisungen)
-{
-    for (int spalte = 1; spalte <= altspalte::diag::anzahl; ++spalte) {
-        if (const auto wert = festeDiagnosespalte(satz, spalte)) {
-            zeile.wert(*wert);
-        } else {
-            zeile.führeAus(anweisungen[static_cast<std::size_t>(spalte - 1)], spalte);
-        }
-    }
-}
-
 /// The facility's own file goes before the one that the installation brings.
 std::filesystem::path anweisungsdatei(const Importort& ort, const std::filesystem::path& name)
 {
@@ -174,6 +120,19 @@ std::filesystem::path anweisungsdatei(const Importort& ort, const std::filesyste
     const auto eigene = ort.programm / name;
     const auto mitgebrachte = ort.installation / name;
     return !dateien.istDatei(eigene) && dateien.istDatei(mitgebrachte) ? mitgebrachte : eigene;
+}
+
+/// The columns that `feste` knows, all others by their instructions.
+template <class F> void baueZeile(AltKDSZeile& zeile, const std::vector<Spaltenanweisung>& anweisungen, F feste)
+{
+    for (int spalte = 1; const auto& anweisung : anweisungen) {
+        if (const std::optional<std::string_view> wert = feste(spalte)) {
+            zeile.wert(*wert);
+        } else {
+            zeile.führeAus(anweisung, spalte);
+        }
+        ++spalte;
+    }
 }
 
 /// One pass over the care lines: each becomes the row that `baue` makes of it.
@@ -210,19 +169,21 @@ void moimp2TolvekExportTOaltKDS(const Importort& ort, const std::filesystem::pat
                                 const std::filesystem::path& aKDSDiagnose)
 {
     auto& dateien = ort.bestand.dateien();
-    const Klientenverzeichnis klienten(dateien, kernExp);
+    const Eingabedatei klienten(dateien, kernExp);
     const Eingabedatei betreuungen(dateien, betreuungenExp);
+    const Zeilenverzeichnis<std::int64_t> klientenzeilen(klienten, führendeZahl);
 
     const auto kern =
         leseSpaltenanweisungen(dateien, anweisungsdatei(ort, kernanweisungsdatei), altspalte::kern::anzahl);
     const Zeitraumfelder zeitraum{kern[altspalte::kern::beginn - 1].quelle, kern[altspalte::kern::ende - 1].quelle};
     fürJedenSatz(ort.bestand, betreuungen, aKDSKern, zeitraum, [&](AltKDSZeile& zeile, const Betreuungssatz& satz) {
-        baueKernzeile(zeile, klienten.werte(leseAltnummer(satz.feld(altfeld::betreuung::nummer), betreuungenExp)), satz,
-                      kern);
+        const auto klient = klientenzeilen.finde(betreuungen.leseNummer(satz.feld(altfeld::betreuung::nummer)));
+        baueZeile(zeile, kern, [&](int spalte) { return festeKernspalte(klient, satz, spalte); });
     });
 
     const auto diagnose =
         leseSpaltenanweisungen(dateien, anweisungsdatei(ort, diagnoseanweisungsdatei), altspalte::diag::anzahl);
-    fürJedenSatz(ort.bestand, betreuungen, aKDSDiagnose, zeitraum,
-                 [&](AltKDSZeile& zeile, const Betreuungssatz& satz) { baueDiagnosezeile(zeile, satz, diagnose); });
+    fürJedenSatz(ort.bestand, betreuungen, aKDSDiagnose, zeitraum, [&](AltKDSZeile& zeile, const Betreuungssatz& satz) {
+        baueZeile(zeile, diagnose, [&](int spalte) { return festeDiagnosespalte(satz, spalte); });
+    });
 }

@@ -9,25 +9,26 @@
 #include "satz/Diagnosefelder.h"
 #include "satz/Klientenfelder.h"
 #include "satz/moHelferlein.h"
-#include "spreadsheet/Auswertungsspalten.h"
 
+#include <algorithm>
 #include <climits>
 #include <cstdint>
 #include <utility>
-#include <vector>
 
 namespace {
 
 constexpr int höchsteZeile = INT16_MAX;
 
-std::string klientenschlüssel(std::string_view zeile)
+/// The cells of a record: the fields of the table's columns and no others.
+Feldplan planZu(std::span<const auswertungsspalte::Spalte> spalten)
 {
-    return std::string(getFeld(zeile, feld::kern::kernID));
-}
-
-std::string betreuungsschlüssel(std::string_view zeile)
-{
-    return verbinde(getFeld(zeile, feld::betr::kernID), trenner, getFeld(zeile, feld::betr::betrID));
+    Feldplan plan;
+    for (int feld = 1; feld < spalten.back().feld; ++feld) {
+        if (std::ranges::find(spalten, feld, &auswertungsspalte::Spalte::feld) == spalten.end()) {
+            plan.ohneZelle.push_back(feld);
+        }
+    }
+    return plan;
 }
 
 [[noreturn]] void meldeÜberlauf(const std::filesystem::path& datei, int zeile)
@@ -54,15 +55,31 @@ HDBlock sucheHDBlock(std::string_view satz)
 
 Auswertung::Auswertung(Arbeitsmappe& mappe, const Tabellen& tabellen, std::filesystem::path diagDat)
     : m_blatt(mappe.fügeBlattEinVor(1, "Auswertung"_t)), m_diag(tabellen.diag), m_diagDat(std::move(diagDat)),
-      m_klienten(tabellen.kern, klientenschlüssel), m_betreuungen(tabellen.betr, betreuungsschlüssel)
+      m_klienten(tabellen.kern, [](std::string_view zeile) { return std::string(getFeld(zeile, feld::kern::kernID)); }),
+      m_betreuungen(tabellen.betr, [](std::string_view zeile) {
+          return verbinde(getFeld(zeile, feld::betr::kernID), trenner, getFeld(zeile, feld::betr::betrID));
+      })
 {
-    m_blatt.setze(1, auswertungsspalte::fall, "fallnr"_t);
-    m_blatt.setze(1, auswertungsspalte::betreuungsnummer, "betrnr"_t);
+    schreibeKöpfe(auswertungsspalte::fall, auswertungsspalte::kennungen);
+}
+
+void Auswertung::schreibeKöpfe(int spalte, std::span<const auswertungsspalte::Spalte> spalten)
+{
+    for (const auto& [kopf, feld, kommentar] : spalten) {
+        m_blatt.setze(1, spalte, kopf);
+        if (!kommentar.empty()) {
+            m_blatt.kommentiere(1, spalte, kommentar);
+        }
+        ++spalte;
+    }
 }
 
 void Auswertung::schreibeHauptdiagnosen()
 {
-    schreibeHDKopf();
+    using namespace auswertungsspalte;
+    schreibeKöpfe(hauptdiagnose, hdSpalten);
+    const auto& kennungsplan = m_blatt.merke(planZu(kennungen));
+    const auto& hdPlan = m_blatt.merke(planZu(hdSpalten));
     Zeilen zeilen(m_diag);
     int zeile = 1;
     while (const auto satz = zeilen.nächste()) {
@@ -70,42 +87,22 @@ void Auswertung::schreibeHauptdiagnosen()
             meldeÜberlauf(m_diagDat, zeile);
         }
         ++zeile;
-        m_blatt.verweiseFelder(zeile, auswertungsspalte::fall,
-                               feldbereich(*satz, feld::diag::kernID, feld::diag::betrID));
-        schreibeHD(zeile, sucheHDBlock(*satz));
-    }
-}
-
-void Auswertung::schreibeHDKopf()
-{
-    int spalte = auswertungsspalte::hauptdiagnose;
-    for (const auto& kopf : auswertungsspalte::hdSpalten) {
-        m_blatt.setze(1, spalte, kopf.kopf);
-        if (!kopf.kommentar.empty()) {
-            m_blatt.kommentiere(1, spalte, kopf.kommentar);
+        m_blatt.verweiseFelder(zeile, fall, feldbereich(*satz, 1, kennungen.back().feld), kennungsplan);
+        if (const auto block = sucheHDBlock(*satz); block.gruppe != 0) {
+            m_blatt.verweiseFelder(zeile, hauptdiagnose, block.antworten, hdPlan);
+            m_blatt.verweise(zeile, gruppe, gruppenname(block.gruppe));
         }
-        ++spalte;
     }
-}
-
-void Auswertung::schreibeHD(int zeile, const HDBlock& block)
-{
-    if (block.gruppe == 0) {
-        return;
-    }
-    m_blatt.verweiseFelder(zeile, auswertungsspalte::hauptdiagnose, block.antworten);
-    m_blatt.verweise(zeile, auswertungsspalte::hauptdiagnose + AlterErstkonsum, gruppenname(block.gruppe));
 }
 
 void Auswertung::schreibeKlienten()
 {
-    for (int spalte = auswertungsspalte::klient; const auto kopf : auswertungsspalte::klientenköpfe) {
-        m_blatt.setze(1, spalte++, kopf);
-    }
+    using namespace auswertungsspalte;
+    schreibeKöpfe(klient, klientenspalten);
+    const auto& plan = m_blatt.merke(planZu(klientenspalten));
     for (int zeile = 2; istBelegt(zeile); ++zeile) {
-        const auto satz = m_klienten.finde(schlüssel(zeile, auswertungsspalte::fall));
-        m_blatt.verweiseFelder(zeile, auswertungsspalte::klient,
-                               feldbereich(satz, feld::kern::nachname, feld::kern::geburtsdatum));
+        const auto satz = m_klienten.finde(schlüssel(zeile, fall));
+        m_blatt.verweiseFelder(zeile, klient, feldbereich(satz, 1, klientenspalten.back().feld), plan);
     }
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "platform/dateien/Zeilensuche.h"
 #include "platform/mappe/Arbeitsmappe.h"
-#include "spreadsheet/Zeilensuche.h"
+#include "spreadsheet/Auswertungsspalten.h"
 #include "spreadsheet/moErstelleHeader.h"
 
 #include <filesystem>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -46,9 +48,8 @@ public:
 private:
     bool istBelegt(int zeile) const { return m_blatt.zelle(zeile, 1).art != Zellart::Leer; }
     std::string schlüssel(int zeile, int spalte) const { return alsAnzeigetext(m_blatt.zelle(zeile, spalte)); }
-    void schreibeHDKopf();
+    void schreibeKöpfe(int spalte, std::span<const auswertungsspalte::Spalte> spalten);
     void schreibeBetreuungskopf(const Spaltenköpfe& köpfe);
-    void schreibeHD(int zeile, const HDBlock& block);
 
     Blatt& m_blatt;
     std::string_view m_diag;

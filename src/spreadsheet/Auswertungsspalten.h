@@ -2,8 +2,8 @@
 
 #include "platform/text/Text.h"
 #include "satz/Betreuungsfelder.h"
+#include "satz/Diagnosefelder.h"
 #include "satz/Klientenfelder.h"
-#include "satz/Problemgruppen.h"
 
 #include <array>
 #include <string_view>
@@ -11,34 +11,49 @@
 /// The columns of the evaluation sheet, from 1: the ids, the client, the main diagnosis, the episode.
 namespace auswertungsspalte {
 
-/// In the order of the client record.
-inline constexpr std::array klientenköpfe{"v_Nachname"_t, "v_Vorname"_t,    "v_Strasse"_t,     "v_PLZ"_t,
-                                          "v_Ort"_t,      "v_Geschlecht"_t, "v_Geburtsdatum"_t};
-static_assert(klientenköpfe.size() == feld::kern::geburtsdatum - feld::kern::nachname + 1);
-
-struct HDSpalte {
+/// A column: what stands over it, and the field that it shows. The fields of a table ascend; those between have no
+/// column.
+struct Spalte {
     std::string_view kopf;
-    std::string_view kommentar; ///< empty: none
+    int feld;
+    std::string_view kommentar{}; ///< empty: none
 };
 
-/// The answers of the block in their order, and the name of its group.
-inline constexpr std::array hdSpalten{
-    HDSpalte{"ICDxxx1"_t, "Überwiegende Konsumart letzte 30 Tage vor BetrBeg"_t},
-    HDSpalte{"ICDxxx2"_t, "# KonsumTage 30 Tage am BetrEnd"_t},
-    HDSpalte{"ICDxxx3"_t, "ICD10 4. und 5. Stelle"_t},
-    HDSpalte{"ICDxxx4"_t, "Alter bei Störungsbeginn"_t},
-    HDSpalte{"ICDxxx5"_t, "Riskanter Konsum"_t},
-    HDSpalte{"ICDxxx6"_t, "Alter Erstkonsum"_t},
-    HDSpalte{"v_AlterErstkonsum"_t, {}},
-    HDSpalte{"v_Hauptdiagnose"_t, {}},
+/// Of the diagnosis record.
+inline constexpr std::array kennungen{
+    Spalte{"fallnr"_t, feld::diag::kernID},
+    Spalte{"betrnr"_t, feld::diag::betrID},
 };
-static_assert(hdSpalten.size() == AlterErstkonsum + 1);
+
+/// Of the client record.
+inline constexpr std::array klientenspalten{
+    Spalte{"v_Nachname"_t, feld::kern::nachname},
+    Spalte{"v_Vorname"_t, feld::kern::vorname},
+    Spalte{"v_Strasse"_t, feld::kern::straße},
+    Spalte{"v_PLZ"_t, feld::kern::plz},
+    Spalte{"v_Ort"_t, feld::kern::ort},
+    Spalte{"v_Geschlecht"_t, feld::kern::geschlecht},
+    Spalte{"v_Geburtsdatum"_t, feld::kern::geburtsdatum},
+};
+
+/// Of the block of the main diagnosis. In place of its mark the last column shows the name of its group.
+inline constexpr std::array hdSpalten{
+    Spalte{"ICDxxx1"_t, Konsumart, "Überwiegende Konsumart letzte 30 Tage vor BetrBeg"_t},
+    Spalte{"ICDxxx2"_t, TageBeginn, "# KonsumTage 30 Tage am BetrEnd"_t},
+    Spalte{"ICDxxx3"_t, TageEnde, "ICD10 4. und 5. Stelle"_t},
+    Spalte{"ICDxxx4"_t, ICDStelle4, "Alter bei Störungsbeginn"_t},
+    Spalte{"ICDxxx5"_t, AlterStörung, "Riskanter Konsum"_t},
+    Spalte{"ICDxxx6"_t, Riskant, "Alter Erstkonsum"_t},
+    Spalte{"v_AlterErstkonsum"_t, AlterErstkonsum},
+    Spalte{"v_Hauptdiagnose"_t, HDMarke},
+};
 
 inline constexpr int fall = 1;
 inline constexpr int betreuungsnummer = 2;
-inline constexpr int klient = 3;
-inline constexpr int hauptdiagnose = klient + static_cast<int>(klientenköpfe.size());
-inline constexpr int betreuung = hauptdiagnose + static_cast<int>(hdSpalten.size());
+inline constexpr int klient = fall + static_cast<int>(kennungen.size());
+inline constexpr int hauptdiagnose = klient + static_cast<int>(klientenspalten.size());
+inline constexpr int gruppe = hauptdiagnose + static_cast<int>(hdSpalten.size()) - 1;
+inline constexpr int betreuung = gruppe + 1;
 inline constexpr int letzte = betreuung + feld::betr::memo - 1 - feld::betr::beginn;
 
 } // namespace auswertungsspalte

@@ -18,17 +18,12 @@ namespace {
 constexpr int namenszeile = 3;
 constexpr std::size_t gewünschteBlätter = 3;
 
-bool istBlank(std::string_view tabelle)
-{
-    return Zeilen(tabelle).nächste().value_or(std::string_view{}).empty();
-}
-
 /// Header rows and table on a blank sheet; `schreibeZeile(zeile, satz, plan)` puts a record into its row.
 template <class F>
 void schreibe(Blatt& blatt, std::string_view tabelle, const Spaltenköpfe& köpfe, std::vector<int> ohneSpalte,
               F schreibeZeile)
 {
-    if (istBlank(tabelle)) {
+    if (Zeilen(tabelle).nächste().value_or(std::string_view{}).empty()) {
         return;
     }
     const auto& plan = blatt.merke({.ohneZelle = std::move(ohneSpalte)});

@@ -9,40 +9,29 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
 #include <string_view>
 #include <utility>
 
 namespace {
 
-/// What stands in the eight fields of a problem group, over each group of the diagnosis table.
-constexpr std::array<std::string_view, felderJeGruppe> gruppenlabels{
-    "Überwiegende Konsumart letzte 30 Tage vor BetrBeg"_t,
-    "# KonsumTage 30 Tage vor BetrBeg"_t,
-    "# KonsumTage 30 Tage am BetrEnd"_t,
-    "ICD10-4+5"_t,
-    "Alter bei Störungsbeginn"_t,
-    "Riskanter Konsum"_t,
-    "Alter Erstkonsum"_t,
-    "Hauptdiagnose"_t,
+/// What stands in the eight fields of a problem group: label and, behind the group's code, the name.
+constexpr std::array gruppenköpfe{
+    std::pair{"Überwiegende Konsumart letzte 30 Tage vor BetrBeg"_t, "1"_t},
+    std::pair{"# KonsumTage 30 Tage vor BetrBeg"_t, "2"_t},
+    std::pair{"# KonsumTage 30 Tage am BetrEnd"_t, "3"_t},
+    std::pair{"ICD10-4+5"_t, "4"_t},
+    std::pair{"Alter bei Störungsbeginn"_t, "5"_t},
+    std::pair{"Riskanter Konsum"_t, "6"_t},
+    std::pair{"Alter Erstkonsum"_t, "_alterErstkonsum"_t},
+    std::pair{"Hauptdiagnose"_t, "_HD"_t},
 };
+static_assert(gruppenköpfe.size() == felderJeGruppe, "each field of a group has its column");
 
-constexpr std::array<std::string_view, felderJeGruppe> gruppenendungen{
-    "1"_t, "2"_t, "3"_t, "4"_t, "5"_t, "6"_t, "_alterErstkonsum"_t, "_HD"_t,
-};
-
-bool nutzt(int gruppe, int platz)
+std::string spaltenname(int gruppe, int platz, std::string_view endung)
 {
     const auto* reihe = gruppenreihe(gruppe);
-    return reihe != nullptr && reihe->frage(platz).gefragt;
-}
-
-std::string spaltenname(int gruppe, int platz)
-{
-    if (!nutzt(gruppe, platz)) {
-        return std::string("VOID"_t);
-    }
-    return verbinde("icd"_t, gruppencode(gruppe), gruppenendungen[static_cast<std::size_t>(platz - 1)]);
+    const bool istGenutzt = reihe != nullptr && reihe->frage(platz).gefragt;
+    return istGenutzt ? verbinde("icd"_t, gruppencode(gruppe), endung) : std::string("VOID"_t);
 }
 
 /// The fields of the client record.
@@ -60,13 +49,6 @@ constexpr std::array kernköpfe{
     std::pair{"memoK"_t, ""_t},
 };
 static_assert(kernköpfe.size() == feld::kern::anzahl, "each field of the client record has its column");
-
-/// By the name in lower case; of two rows with one name the first counts.
-const Variable* findeVariable(std::string_view name)
-{
-    const auto ort = std::ranges::find_if(variablen(), [&](const Variable& v) { return klein(v.name) == name; });
-    return ort == variablen().end() ? nullptr : &*ort;
-}
 
 } // namespace
 
@@ -102,8 +84,8 @@ Spaltenköpfe erstelleDiagHeader()
     füge({}, "KernID"_t, "fallnr"_t);
     füge({}, "betrID"_t, "betrnr"_t);
     for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
-        for (int platz = 1; platz <= felderJeGruppe; ++platz) {
-            füge(gruppenname(gruppe), gruppenlabels[static_cast<std::size_t>(platz - 1)], spaltenname(gruppe, platz));
+        for (int platz = 1; const auto& [label, endung] : gruppenköpfe) {
+            füge(gruppenname(gruppe), label, spaltenname(gruppe, platz++, endung));
         }
     }
     int nummer = 0;
@@ -119,7 +101,7 @@ Spaltenköpfe erstelleDiagHeader()
 Spaltenkopf sucheBezeichnungen(std::string_view spaltenname)
 {
     const auto name = klein(spaltenname);
-    const auto* variable = findeVariable(name);
-    return variable == nullptr ? Spaltenkopf{name, {}, {}}
-                               : Spaltenkopf{std::string(variable->erste), std::string(variable->zweite), {}};
+    const auto ort = std::ranges::find(variablen(), name, &Variable::name);
+    return ort == variablen().end() ? Spaltenkopf{name, {}, {}}
+                                    : Spaltenkopf{std::string(ort->erste), std::string(ort->zweite), {}};
 }

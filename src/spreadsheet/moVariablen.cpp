@@ -17,11 +17,11 @@ struct Variablengruppe {
     std::string_view stamm;
     int ersteNummer; ///< behind the stem, counted up row by row; 0: the name is the stem alone
     std::string_view erste;
-    std::span<const std::string_view> zweite; ///< one row each
-    bool überschriftBleibt = false;           ///< the second table keeps the first label although it repeats
+    std::string_view zweite{};                         ///< of a single row
+    std::span<const std::string_view> zweiteJeZeile{}; ///< of several rows, one each
+    bool überschriftBleibt = false;                    ///< the second table keeps the first label although it repeats
 };
 
-constexpr std::array ohne{""_t};
 constexpr std::array kostenträger{
     "Pauschal/ institutionell finanziert (z.B.ÖGD)"_t,
     "Selbstzahler"_t,
@@ -156,67 +156,60 @@ constexpr std::array weitervermittlungen{
     "Kosten-, Leistungsträger"_t,
     "Sonstige"_t,
 };
-constexpr std::array inTagen{"in Tagen"_t};
-constexpr std::array ausAngehörigensicht{"aus Sicht des Angehörigen"_t};
-constexpr std::array allein{"Alleinlebend"_t};
-constexpr std::array partner{"Partner/in"_t};
-constexpr std::array nationencode{"Internationaler Code"_t};
-constexpr std::array wocheVorher{"in der Woche vor Betreuungsbeginn"_t};
-constexpr std::array wocheNachher{"in der Woche nach Betreuungsende"_t};
 
 constexpr Variablengruppe gruppen[]{
-    {"tsnr"_t, 0, "Teilstellennummer"_t, ohne},
-    {"fallnr"_t, 0, "Fallnummer"_t, ohne},
-    {"betrnr"_t, 0, "Betreuungsnummer"_t, ohne},
-    {"betbeg"_t, 0, "Datum des Betreuungsbeginns"_t, ohne},
-    {"betend"_t, 0, "Datum des Betreuungsendes"_t, ohne},
-    {"betdau"_t, 0, "Dauer der Betreuung"_t, inTagen},
-    {"alter"_t, 0, "Alter bei Betreuungsbeginn (in Jahren)"_t, ohne},
-    {"geschl"_t, 0, "Geschlecht"_t, ohne},
-    {"betrgru"_t, 0, "Betreuungsgrund "_t, ohne},
-    {"angeho"_t, 0, "Angehöriger kommt als"_t, ohne},
-    {"problem"_t, 0, "(Vorrangiges) Suchtproblem"_t, ausAngehörigensicht},
-    {"zuvor"_t, 0, "Jemals zuvor suchtbezogene Hilfe beansprucht"_t, ohne},
-    {"wieder"_t, 0, "Wiederaufnahme in dieser Einrichtung"_t, ohne},
-    {"vermitt"_t, 0, "Vermittelnde Instanz"_t, ohne},
-    {"kosten"_t, 1, "Kosten-/ Leistungsträger"_t, kostenträger},
-    {"auflagen1"_t, 0, "Auflagen durch Gerichtsbeschluss zur Abwendung freiheitseinschränkender Folgen"_t, ohne},
-    {"auflagen2"_t, 0, "Weitere Auflagen durch "_t, ohne},
-    {"zuvor"_t, 1, "Anzahl bisheriger Maßnahmen (inkl. aktuelle)"_t, bisherigeMaßnahmen},
-    {"famsta"_t, 0, ""_t, ohne},
-    {"partner"_t, 0, "Partnerbeziehung "_t, ohne},
-    {"lebensit"_t, 0, "Lebenssituation"_t, allein},
-    {"lebensit"_t, 1, "Lebenssituation"_t, partner, true},
-    {"lebensit"_t, 2, "Zusammenlebend mit"_t, mitbewohner, true},
-    {"kinder1"_t, 0, "Anzahl eigener Kinder unter 18 Jahren"_t, ohne},
-    {"kinder2"_t, 0, "Anzahl Kinder im Haushalt unter 18 Jahren"_t, ohne},
-    {"nation"_t, 0, "Aktuelle Staatsangehörigkeit des Klienten"_t, nationencode},
-    {"sprache"_t, 0, "Klient ist der Deutschen Sprache mächtig"_t, ohne},
-    {"migrant1"_t, 0, "Klient ist selbst migriert"_t, ohne},
-    {"migrant2"_t, 0, "Klient ist als Kind von Migranten geboren"_t, ohne},
-    {"schule"_t, 0, "Höchster bisher erreichter allg. Schulabschluss"_t, ohne},
-    {"ausbild"_t, 0, "Höchster Ausbildungsabschluss"_t, ohne},
-    {"wohnung"_t, 1, "Wohnverhältnis"_t, zeitpunkte, true},
-    {"erwerb"_t, 1, "Erwerbssituation"_t, zeitpunkte, true},
-    {"lebuntv"_t, 1, "Lebensunterhalt in der Woche vor Betreuungsbeginn"_t, unterhaltsquellen},
-    {"lebunterv"_t, 0, "Hauptebensunterhalt"_t, wocheVorher},
-    {"lebuntn"_t, 1, "Lebensunterhalt in der Woche nach Betreuungsende"_t, unterhaltsquellen},
-    {"lebuntern"_t, 0, "Hauptebensunterhalt"_t, wocheNachher},
-    {"schulden"_t, 0, "Problematische Schulden"_t, ohne},
-    {"masint"_t, 1, "Art der Betreuung (intern)"_t, interneMaßnahmen},
-    {"masext"_t, 1, "Art der Betreuung (extern)"_t, externeMaßnahmen},
-    {"substitut"_t, 0, "Wenn Substitution welches Mittel"_t, ohne},
-    {"kooper"_t, 1, "Kooperation während der Betreuung mit"_t, kooperationspartner},
-    {"kontakte"_t, 0, "Kontaktzahl"_t, ohne},
-    {"artend1"_t, 0, "Art der Beendigung"_t, ohne},
-    {"artend2"_t, 0, "Steht die vorzeitige Beendigung im Zusammenhang mit "_t, ohne},
-    {"weiter"_t, 0, "Weitervermittlung am Betreuungsende"_t, ohne},
-    {"vermitt"_t, 1, "Weitervermittlung in / zu"_t, weitervermittlungen},
-    {"problende"_t, 0, "Problematik am Tag des Betreuungsendes"_t, ohne},
-    {"plz"_t, 0, "Postleitzahl der Klientenadresse"_t, ohne},
-    {"migration"_t, 0, "Migrationsstatus"_t, ohne},
-    {"aufenthalt"_t, 0, "Aufenthaltsstatus"_t, ohne},
-    {"hivcode"_t, 0, "HIV-Code"_t, ohne},
+    {"tsnr"_t, 0, "Teilstellennummer"_t},
+    {"fallnr"_t, 0, "Fallnummer"_t},
+    {"betrnr"_t, 0, "Betreuungsnummer"_t},
+    {"betbeg"_t, 0, "Datum des Betreuungsbeginns"_t},
+    {"betend"_t, 0, "Datum des Betreuungsendes"_t},
+    {"betdau"_t, 0, "Dauer der Betreuung"_t, "in Tagen"_t},
+    {"alter"_t, 0, "Alter bei Betreuungsbeginn (in Jahren)"_t},
+    {"geschl"_t, 0, "Geschlecht"_t},
+    {"betrgru"_t, 0, "Betreuungsgrund "_t},
+    {"angeho"_t, 0, "Angehöriger kommt als"_t},
+    {"problem"_t, 0, "(Vorrangiges) Suchtproblem"_t, "aus Sicht des Angehörigen"_t},
+    {"zuvor"_t, 0, "Jemals zuvor suchtbezogene Hilfe beansprucht"_t},
+    {"wieder"_t, 0, "Wiederaufnahme in dieser Einrichtung"_t},
+    {"vermitt"_t, 0, "Vermittelnde Instanz"_t},
+    {"kosten"_t, 1, "Kosten-/ Leistungsträger"_t, {}, kostenträger},
+    {"auflagen1"_t, 0, "Auflagen durch Gerichtsbeschluss zur Abwendung freiheitseinschränkender Folgen"_t},
+    {"auflagen2"_t, 0, "Weitere Auflagen durch "_t},
+    {"zuvor"_t, 1, "Anzahl bisheriger Maßnahmen (inkl. aktuelle)"_t, {}, bisherigeMaßnahmen},
+    {"famsta"_t, 0, ""_t},
+    {"partner"_t, 0, "Partnerbeziehung "_t},
+    {"lebensit"_t, 0, "Lebenssituation"_t, "Alleinlebend"_t},
+    {"lebensit"_t, 1, "Lebenssituation"_t, "Partner/in"_t, {}, true},
+    {"lebensit"_t, 2, "Zusammenlebend mit"_t, {}, mitbewohner, true},
+    {"kinder1"_t, 0, "Anzahl eigener Kinder unter 18 Jahren"_t},
+    {"kinder2"_t, 0, "Anzahl Kinder im Haushalt unter 18 Jahren"_t},
+    {"nation"_t, 0, "Aktuelle Staatsangehörigkeit des Klienten"_t, "Internationaler Code"_t},
+    {"sprache"_t, 0, "Klient ist der Deutschen Sprache mächtig"_t},
+    {"migrant1"_t, 0, "Klient ist selbst migriert"_t},
+    {"migrant2"_t, 0, "Klient ist als Kind von Migranten geboren"_t},
+    {"schule"_t, 0, "Höchster bisher erreichter allg. Schulabschluss"_t},
+    {"ausbild"_t, 0, "Höchster Ausbildungsabschluss"_t},
+    {"wohnung"_t, 1, "Wohnverhältnis"_t, {}, zeitpunkte, true},
+    {"erwerb"_t, 1, "Erwerbssituation"_t, {}, zeitpunkte, true},
+    {"lebuntv"_t, 1, "Lebensunterhalt in der Woche vor Betreuungsbeginn"_t, {}, unterhaltsquellen},
+    {"lebunterv"_t, 0, "Hauptebensunterhalt"_t, "in der Woche vor Betreuungsbeginn"_t},
+    {"lebuntn"_t, 1, "Lebensunterhalt in der Woche nach Betreuungsende"_t, {}, unterhaltsquellen},
+    {"lebuntern"_t, 0, "Hauptebensunterhalt"_t, "in der Woche nach Betreuungsende"_t},
+    {"schulden"_t, 0, "Problematische Schulden"_t},
+    {"masint"_t, 1, "Art der Betreuung (intern)"_t, {}, interneMaßnahmen},
+    {"masext"_t, 1, "Art der Betreuung (extern)"_t, {}, externeMaßnahmen},
+    {"substitut"_t, 0, "Wenn Substitution welches Mittel"_t},
+    {"kooper"_t, 1, "Kooperation während der Betreuung mit"_t, {}, kooperationspartner},
+    {"kontakte"_t, 0, "Kontaktzahl"_t},
+    {"artend1"_t, 0, "Art der Beendigung"_t},
+    {"artend2"_t, 0, "Steht die vorzeitige Beendigung im Zusammenhang mit "_t},
+    {"weiter"_t, 0, "Weitervermittlung am Betreuungsende"_t},
+    {"vermitt"_t, 1, "Weitervermittlung in / zu"_t, {}, weitervermittlungen},
+    {"problende"_t, 0, "Problematik am Tag des Betreuungsendes"_t},
+    {"plz"_t, 0, "Postleitzahl der Klientenadresse"_t},
+    {"migration"_t, 0, "Migrationsstatus"_t},
+    {"aufenthalt"_t, 0, "Aufenthaltsstatus"_t},
+    {"hivcode"_t, 0, "HIV-Code"_t},
 };
 
 std::vector<Variable> baueVariablen()
@@ -224,7 +217,8 @@ std::vector<Variable> baueVariablen()
     std::vector<Variable> zeilen;
     for (const Variablengruppe& gruppe : gruppen) {
         int nummer = gruppe.ersteNummer;
-        for (const std::string_view zweite : gruppe.zweite) {
+        const auto labels = gruppe.zweiteJeZeile.empty() ? std::span(&gruppe.zweite, 1) : gruppe.zweiteJeZeile;
+        for (const std::string_view zweite : labels) {
             const bool wiederholt = !zeilen.empty() && zeilen.back().erste == gruppe.erste && !gruppe.überschriftBleibt;
             zeilen.push_back({verbinde(gruppe.stamm, nummer == 0 ? std::string{} : alsText(nummer)), gruppe.erste,
                               zweite, wiederholt});

@@ -3,8 +3,7 @@
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/Betreuungsfelder.h"
-#include "satz/Datumstexte.h"
-#include "satz/Zeilenfelder.h"
+#include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
 namespace {

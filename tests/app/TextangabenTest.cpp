@@ -164,8 +164,8 @@ std::vector<Textangabe> ausDerAuswertung()
         {woher, handbuch, "| " + zahl(fall) + " | fallnr |"},
         {woher, handbuch, "| " + zahl(betreuungsnummer) + " | betrnr |"},
         {woher, handbuch,
-         "| " + spannen(klient, hauptdiagnose - 1) + " | " + utf8(klientenköpfe.front()) + " … " +
-             utf8(klientenköpfe.back()) + " |"},
+         "| " + spannen(klient, hauptdiagnose - 1) + " | " + utf8(klientenspalten.front().kopf) + " … " +
+             utf8(klientenspalten.back().kopf) + " |"},
         {woher, handbuch, "| " + spannen(betreuung, letzte) + " | wie im Blatt `BetrDat` |"},
         {woher, handbuch, "bleiben die Spalten " + spannen(hauptdiagnose, betreuung - 1) + " leer"},
         {woher, handbuch, "an den Köpfen der Spalten " + spannen(hauptdiagnose + 1, hauptdiagnose + 5) + " gehören"},

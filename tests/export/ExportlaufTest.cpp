@@ -1,5 +1,4 @@
 #include "export/Exportlauf.h"
-#include "export/Datumspruefung.h"
 #include "export/Exportsaetze.h"
 #include "export/ZeilenweiserExport.h"
 #include "hilfen/Stoerzugriff.h"

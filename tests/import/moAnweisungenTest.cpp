@@ -1,7 +1,6 @@
 #include "import/moAnweisungen.h"
 #include "hilfen/Abnahme.h"
 #include "hilfen/Testumgebung.h"
-#include "import/Feldanweisung.h"
 
 #include "satz/moData.h"
 #include "satz/moHelferlein.h"

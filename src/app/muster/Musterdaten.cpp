@@ -29,7 +29,7 @@ constexpr std::array straßen{"Amselweg"_t,     "Musterweg"_t,  "Am Brunnen"_t, 
 constexpr std::array orte{"Musterstadt"_t, "Beispielhausen"_t, "Probeheim"_t};
 constexpr std::array icdGruppen1bis20{"10"_t, "20"_t, "21"_t, "22"_t, "24"_t, "25"_t, "26"_t};
 constexpr std::array icdGruppe29{"0"_t, "1"_t, "2"_t, "3"_t, "8"_t};
-constexpr std::array janein{"ja"_t, "nein"_t};
+constexpr std::array janein{antworttext::ja, antworttext::nein};
 
 constexpr int ersterTagDerEpisoden = 37622;  // 01.01.2003
 constexpr int letzterTagDerEpisoden = 44196; // 31.12.2020

@@ -8,9 +8,9 @@
 #include <algorithm>
 #include <array>
 
-bool betrifftAngaben(Befundart art)
+bool betrifftAngaben(const Befundart& art)
 {
-    using enum Befundart;
+    using namespace befundart;
     constexpr std::array arten{WertUnbekannt, Überschneidung, MehrereOffen,
                                EndeVorBeginn, DatumUngültig,  DatumZweistellig};
     return std::ranges::find(arten, art) != arten.end();

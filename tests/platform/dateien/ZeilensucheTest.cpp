@@ -1,4 +1,4 @@
-#include "spreadsheet/Zeilensuche.h"
+#include "platform/dateien/Zeilensuche.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "spreadsheet/Zeilensuche.h"
+#include "platform/dateien/Zeilensuche.h"
 
 std::string_view Zeilensuche::finde(const std::string& schlüssel)
 {
