@@ -43,6 +43,13 @@ private:
 /// The facility on which the limits are stated: 10,000 clients with 30,000 episodes, about 40 MB of care records.
 inline constexpr Mustervorgabe großeEinrichtung{10000, 3, 7};
 
+/// Copies a file as safely as the program writes one.
+inline void kopiere(Dateien& dateien, const std::filesystem::path& quelle, const std::filesystem::path& ziel)
+{
+    const auto inhalt = dateien.lies(quelle);
+    dateien.ersetze(ziel, fassungNeben(ziel), [&](Schreiber& schreiber) { schreiber.text(inhalt->text()); });
+}
+
 /// A limit and an operation measured in turns on the same data: processor noise meets both. Prints the ratio.
 struct Verhältnis {
     double grenze = 0;

@@ -28,7 +28,7 @@ void kopiereTabellen()
 {
     const auto& pfade = lauf().programm.zustand().pfade;
     for (const auto* tabelle : {&pfade.kernDat, &pfade.betrDat, &pfade.diagDat}) {
-        lauf().umgebung.dateien().kopiereÜber(*tabelle, pfade.programm / "kopie.txt");
+        kopiere(lauf().umgebung.dateien(), *tabelle, pfade.programm / "kopie.txt");
     }
 }
 

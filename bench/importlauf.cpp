@@ -34,7 +34,7 @@ public:
             dateien().legeOrdnerAn(wurzel() / ordner);
         }
         for (const auto* name : {"eKernAnweisung.txt", "eDiagAnweisung.txt"}) {
-            dateien().kopiereÜber(fs::path(TOLVEK_QUELLEN) / "anweisungen" / name, wurzel() / name);
+            kopiere(dateien(), fs::path(TOLVEK_QUELLEN) / "anweisungen" / name, wurzel() / name);
         }
         const auto alt = erzeugeAltdaten(klienten, betreuungenJeKlient, 7);
         schreibe(dateien(), kernAlt(), alt.klienten);
@@ -62,7 +62,7 @@ public:
         const auto ordner = wurzel() / "geschrieben";
         for (const auto& name : dateien().dateienIn(ordner)) {
             for (int i = 0; i < wieOft(name); ++i) {
-                dateien().kopiereÜber(ordner / name, wurzel() / "kopie.txt");
+                kopiere(dateien(), ordner / name, wurzel() / "kopie.txt");
             }
         }
     }
@@ -77,7 +77,7 @@ private:
     {
         const auto arbeit = wurzel() / "importDummyVerz";
         for (const auto& name : dateien().dateienIn(arbeit)) {
-            dateien().kopiereÜber(arbeit / name, wurzel() / "geschrieben" / name);
+            kopiere(dateien(), arbeit / name, wurzel() / "geschrieben" / name);
         }
     }
 

@@ -29,7 +29,7 @@ struct Lauf {
     void kopiere(std::initializer_list<Tabelle> tabellen)
     {
         for (const auto tabelle : tabellen) {
-            umgebung.dateien().kopiereÜber(pfade().von(tabelle), pfade().programm / "kopie.txt");
+            ::kopiere(umgebung.dateien(), pfade().von(tabelle), pfade().programm / "kopie.txt");
         }
     }
 };

@@ -8,9 +8,8 @@
 #include "platform/qt/Stil.h"
 #include "platform/text/Eingabe.h"
 #include "platform/text/Text.h"
-#include "platform/umgebung/Aufrufer.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "platform/umgebung/Prozessschutz.h"
+#include "platform/umgebung/Prozess.h"
 #include "store/Pruefung.h"
 
 #include <QApplication>

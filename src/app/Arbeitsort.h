@@ -3,7 +3,7 @@
 #include "app/Befehlszeile.h"
 #include "platform/dateien/Wegwerfordner.h"
 #include "platform/umgebung/Laufort.h"
-#include "platform/umgebung/Systemorte.h"
+#include "platform/umgebung/Prozess.h"
 
 #include <optional>
 

@@ -32,24 +32,17 @@ std::optional<std::string> wertIn(std::string_view zeile, std::string_view gesuc
     return std::nullopt;
 }
 
-/// The first "=" of a line; the writer can't go on without one.
-std::size_t trennstelle(std::string_view zeile, std::size_t nummer)
-{
-    const auto ort = zeile.find('=');
-    if (ort == keinZeichen) {
-        throw Laufzeitfehler(verbinde("In "_t, pfadtext(zustand().pfade.ini), " fehlt in Zeile "_t,
-                                      alsText(static_cast<std::int64_t>(nummer)), " das Gleichheitszeichen"_t));
-    }
-    return ort;
-}
-
-/// Copies the lines with the key's value replaced; whether the key was there.
+/// Copies the lines with the key's value replaced; whether the key was there. A line without "=" stops it.
 bool kopiereMitWert(std::string_view inhalt, Schreiber& ziel, std::string_view gesucht, std::string_view wert)
 {
     bool gefunden = false;
     Zeilen zeilen(inhalt);
     while (const auto zeile = zeilen.nächste()) {
-        const auto ort = trennstelle(*zeile, zeilen.nummer());
+        const auto ort = zeile->find('=');
+        if (ort == keinZeichen) {
+            throw Laufzeitfehler(verbinde("In "_t, pfadtext(zustand().pfade.ini), " fehlt in Zeile "_t,
+                                          std::to_string(zeilen.nummer()), " das Gleichheitszeichen"_t));
+        }
         if (alsSchlüssel(zeile->substr(0, ort)) == gesucht) {
             ziel.zeile(verbinde(getrimmt(zeile->substr(0, ort + 1)), ' ', wert));
             gefunden = true;

@@ -4,7 +4,10 @@
 
 MDIfrm::MDIfrm(Zustand& zustand, moExtras& extras) : m_zustand(zustand), m_extras(extras)
 {
-    m_zustand.rahmen.beiSchließwunsch = [this] { return beiSchließwunsch(); };
+    m_zustand.rahmen.beiSchließwunsch = [] {
+        zeigeMeldung("Bitte die Schaltfläche <Exit> zum Beenden klicken"_t);
+        return false;
+    };
     m_zustand.rahmen.beiGrößenänderung = [this] { beiGrößenänderung(); };
 }
 
@@ -28,12 +31,6 @@ void MDIfrm::aufräumen()
 void MDIfrm::leereIni()
 {
     m_zustand.umgebung.dateien().schreibeNeu(m_zustand.pfade.ini)->schließe();
-}
-
-bool MDIfrm::beiSchließwunsch()
-{
-    zeigeMeldung("Bitte die Schaltfläche <Exit> zum Beenden klicken"_t);
-    return false;
 }
 
 void MDIfrm::beiGrößenänderung()

@@ -17,7 +17,6 @@ public:
     void leereIni();
 
 private:
-    bool beiSchließwunsch();
     void beiGrößenänderung();
 
     Zustand& m_zustand;

@@ -30,7 +30,9 @@ void Programm::starte()
 
 void Programm::Main()
 {
-    if (!istErsteInstanz()) {
+    const auto daten = bildeBestandspfade(m_zustand.umgebung.programmordner()).daten;
+    if (!m_zustand.umgebung.istErsteInstanz(daten)) {
+        zeigeMeldung("Es ist schon eine Instanz dieses Programms geöffnet"_t, Symbol::Info);
         m_zustand.ablauf.beende();
         return;
     }
@@ -44,16 +46,6 @@ void Programm::Main()
     m_rahmen.zeige();
     m_hauptmenü = std::make_unique<frmHauptmenü>([this] { m_rahmen.aufräumen(); });
     m_zustand.folge.zeige(*m_hauptmenü);
-}
-
-bool Programm::istErsteInstanz()
-{
-    const auto daten = bildeBestandspfade(m_zustand.umgebung.programmordner()).daten;
-    const bool erste = m_zustand.umgebung.istErsteInstanz(daten);
-    if (!erste) {
-        zeigeMeldung("Es ist schon eine Instanz dieses Programms geöffnet"_t, Symbol::Info);
-    }
-    return erste;
 }
 
 void Programm::initialisiere()

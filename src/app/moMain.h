@@ -25,7 +25,6 @@ public:
 
 private:
     void Main();
-    bool istErsteInstanz();
     void initialisiere();
 
     Zustand m_zustand;

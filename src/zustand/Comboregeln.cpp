@@ -5,14 +5,8 @@
 #include "zustand/Zustand.h"
 
 #include <algorithm>
-#include <string_view>
 
 namespace {
-
-bool beginntMit(std::string_view text, std::string_view anfangInKlein)
-{
-    return text.size() >= anfangInKlein.size() && klein(text.substr(0, anfangInKlein.size())) == anfangInKlein;
-}
 
 std::string getippterAnfang(const Auswahlfeld& feld, int code)
 {
@@ -34,7 +28,7 @@ void ergänzeComboText(Auswahlfeld& feld, int& code)
     code = 0;
     const auto& liste = feld.liste();
     const auto ort =
-        std::ranges::find_if(liste, [&](const std::string& eintrag) { return beginntMit(eintrag, anfang); });
+        std::ranges::find_if(liste, [&](const std::string& eintrag) { return klein(eintrag).starts_with(anfang); });
     if (ort != liste.end()) {
         feld.setzeText(*ort);
         feld.setzeSchreibmarke(anfang.size());

@@ -8,7 +8,7 @@
 
 #include "ausfall/Handlungsumgebung.h"
 #include "hilfen/Schreibhandlungen.h"
-#include "platform/umgebung/Prozessschutz.h"
+#include "platform/umgebung/Prozess.h"
 
 #include <algorithm>
 #include <cstdio>

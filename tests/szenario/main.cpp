@@ -7,7 +7,7 @@
 #include "oberflaeche/OberflaecheQt.h"
 #endif
 
-#include "platform/umgebung/Systemorte.h"
+#include "platform/umgebung/Prozess.h"
 
 #include <clocale>
 #include <iostream>

@@ -9,7 +9,7 @@
 
 #include "ausfall/Handlungsumgebung.h"
 #include "hilfen/Schreibhandlungen.h"
-#include "platform/umgebung/Systemorte.h"
+#include "platform/umgebung/Prozess.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 // Stands for a spreadsheet program: tells in a file beside itself what it was called with, and keeps the workbook open
 // for a moment.
-#include "platform/umgebung/Systemorte.h"
+#include "platform/umgebung/Prozess.h"
 
 #include <fstream>
 

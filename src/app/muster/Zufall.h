@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <random>
-#include <string_view>
 
 /// Random numbers that are the same on every machine: the standard's distributions are not.
 class Zufall {

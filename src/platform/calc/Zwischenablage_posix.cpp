@@ -1,10 +1,8 @@
 #include "platform/calc/Zwischenablage.h"
 
 #include <array>
-#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <sstream>
 #include <system_error>
 
@@ -30,33 +28,6 @@ constexpr int fristMs = 600'000;
 /// What a process has open besides input, output and messages of errors.
 constexpr unsigned ersteEigene = 3;
 
-/// How often the file is open right now, from the messages of the system.
-struct Zugriffe {
-    int offen = 0;
-    bool gesehen = false;
-    bool entfernt = false;
-
-    void zähle(std::uint32_t art)
-    {
-        gesehen = gesehen || (art & IN_OPEN) != 0;
-        entfernt = entfernt || (art & IN_IGNORED) != 0;
-        offen += (art & IN_OPEN) != 0 ? 1 : 0;
-        offen -= (art & IN_CLOSE) != 0 ? 1 : 0;
-    }
-};
-
-void liesMeldungen(int melder, Zugriffe& zugriffe)
-{
-    alignas(inotify_event) std::array<char, 4096> puffer;
-    const ssize_t länge = read(melder, puffer.data(), puffer.size());
-    for (ssize_t ort = 0; ort < länge;) {
-        inotify_event meldung{};
-        std::memcpy(&meldung, puffer.data() + ort, sizeof meldung);
-        zugriffe.zähle(meldung.mask);
-        ort += static_cast<ssize_t>(sizeof meldung + meldung.len);
-    }
-}
-
 /// What the guard process needs.
 struct Wache {
     const char* datei;
@@ -70,16 +41,19 @@ struct Wache {
 [[noreturn]] void bewache(const Wache& wache)
 {
     dup2(wache.schloss, STDIN_FILENO);
-    dup2(wache.melder, STDOUT_FILENO);
+    const int melder = dup2(wache.melder, STDOUT_FILENO); // where there is none, the time alone ends the waiting
     close_range(ersteEigene, ~0U, 0);
-    Zugriffe zugriffe;
-    pollfd warten{STDOUT_FILENO, POLLIN, 0};
-    while (!zugriffe.entfernt) {
-        const bool gelesen = zugriffe.gesehen && zugriffe.offen <= 0;
-        if (poll(&warten, 1, gelesen ? ruheMs : fristMs) <= 0) {
+    int offen = 0; // so many have the file open
+    bool gesehen = false;
+    pollfd warten{melder, POLLIN, 0};
+    while (poll(&warten, 1, gesehen && offen <= 0 ? ruheMs : fristMs) > 0) {
+        inotify_event meldung{}; // about one file, so without a name behind it
+        if (read(melder, &meldung, sizeof meldung) < 0 || (meldung.mask & IN_IGNORED) != 0) {
             break;
         }
-        liesMeldungen(STDOUT_FILENO, zugriffe);
+        gesehen = gesehen || (meldung.mask & IN_OPEN) != 0;
+        offen += (meldung.mask & IN_OPEN) != 0 ? 1 : 0;
+        offen -= (meldung.mask & IN_CLOSE) != 0 ? 1 : 0;
     }
     unlink(wache.datei);
     rmdir(wache.ordner);
@@ -95,8 +69,8 @@ void löseVonEinUndAusgabe()
     dup2(nichts, STDERR_FILENO);
 }
 
-/// Starts the program as a grandchild, which nobody has to wait for, and with `wache` a guard beside it. False when the
-/// program can't be started.
+/// Starts the program from a grandchild, which nobody has to wait for and which with `wache` becomes the guard. False
+/// when the program can't be started.
 bool starte(const fs::path& programm, const std::vector<std::string>& argumente, const Wache* wache)
 {
     std::vector<char*> zeiger{const_cast<char*>(programm.c_str())};
@@ -104,22 +78,34 @@ bool starte(const fs::path& programm, const std::vector<std::string>& argumente,
         zeiger.push_back(const_cast<char*>(argument.c_str()));
     }
     zeiger.push_back(nullptr);
+    std::array<int, 2> rohr{};
+    if (pipe2(rohr.data(), O_CLOEXEC) != 0) {
+        return false;
+    }
     const pid_t kind = fork();
     if (kind == 0) {
+        if (fork() != 0) {
+            _exit(0);
+        }
         setsid();
         löseVonEinUndAusgabe();
         close_range(ersteEigene, ~0U, CLOSE_RANGE_CLOEXEC);
-        pid_t enkel = 0;
-        const int fehler = posix_spawn(&enkel, programm.c_str(), nullptr, nullptr, zeiger.data(), environ);
-        if (fehler == 0 && wache != nullptr && fork() == 0) {
+        pid_t nummer = 0;
+        const bool gestartet = posix_spawn(&nummer, programm.c_str(), nullptr, nullptr, zeiger.data(), environ) == 0;
+        (void)!write(rohr[1], &gestartet, sizeof gestartet);
+        if (gestartet && wache != nullptr) {
             bewache(*wache);
         }
-        _exit(fehler);
+        _exit(0);
     }
-    int ende = 0;
-    while (kind > 0 && waitpid(kind, &ende, 0) < 0 && errno == EINTR) {
+    close(rohr[1]);
+    bool gestartet = false;
+    (void)!read(rohr[0], &gestartet, sizeof gestartet); // nothing comes where nobody could be asked
+    close(rohr[0]);
+    if (kind > 0) {
+        waitpid(kind, nullptr, 0);
     }
-    return kind > 0 && ende == 0;
+    return gestartet;
 }
 
 } // namespace

@@ -154,12 +154,6 @@ void Dateien::ersetze(const fs::path& ziel, const fs::path& arbeitsdatei, const 
     sichereOrdner(ziel.parent_path());
 }
 
-void Dateien::kopiereÜber(const fs::path& quelle, const fs::path& ziel)
-{
-    const auto inhalt = lies(quelle);
-    ersetze(ziel, fassungNeben(ziel), [&](Schreiber& schreiber) { schreiber.text(inhalt->text()); });
-}
-
 void Dateien::legeLeerAn(const fs::path& pfad)
 {
     Schreiber(zugriff(), pfad, Öffnung::Neu).schließe();

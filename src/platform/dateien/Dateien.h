@@ -84,8 +84,6 @@ public:
     /// Writes `arbeitsdatei` anew with what `inhalt` writes, then puts it in the place of `ziel` as told above.
     void ersetze(const std::filesystem::path& ziel, const std::filesystem::path& arbeitsdatei,
                  const std::function<void(Schreiber&)>& inhalt);
-    /// Replaces `ziel` by a copy of `quelle` through its `fassungNeben`.
-    void kopiereÜber(const std::filesystem::path& quelle, const std::filesystem::path& ziel);
     /// Creates the file empty; Laufzeitfehler when something lies there already, a link included.
     void legeLeerAn(const std::filesystem::path& pfad);
     /// A file for writing, emptied; for output that replaces nothing precious (export, stages).

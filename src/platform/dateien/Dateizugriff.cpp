@@ -6,9 +6,10 @@ std::unique_ptr<Dateiinhalt> Dateizugriff::lies(const Pfad& pfad, std::uint64_t 
 {
     const auto griff = öffneZumLesen(pfad);
     const auto länge = längeVon(griff);
+    springe(griff, ab);
     std::string text(static_cast<std::size_t>(länge - std::min(länge, ab)) + 1, '\0'); // one more, to see the end
     std::size_t gelesen = 0;
-    while (const auto menge = liesAb(griff, ab + gelesen, std::span(text).subspan(gelesen))) {
+    while (const auto menge = liesWeiter(griff, std::span(text).subspan(gelesen))) {
         gelesen += menge;
         if (gelesen == text.size()) {
             text.resize(2 * text.size());

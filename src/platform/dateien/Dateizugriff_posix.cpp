@@ -56,11 +56,16 @@ std::uint64_t längeVon(const Systemgriff& griff)
     return static_cast<std::uint64_t>(angaben.st_size);
 }
 
-std::size_t liesAb(const Systemgriff& griff, std::uint64_t ab, std::span<char> ziel)
+void springe(const Systemgriff& griff, std::uint64_t ab)
 {
-    const auto menge = ::pread(nummer(griff), ziel.data(), ziel.size(), static_cast<off_t>(ab));
+    prüfeSystem(::lseek(nummer(griff), static_cast<off_t>(ab), SEEK_SET) >= 0);
+}
+
+std::size_t liesWeiter(const Systemgriff& griff, std::span<char> ziel)
+{
+    const auto menge = ::read(nummer(griff), ziel.data(), ziel.size());
     if (menge < 0 && errno == EINTR) {
-        return liesAb(griff, ab, ziel);
+        return liesWeiter(griff, ziel);
     }
     prüfeSystem(menge >= 0);
     return static_cast<std::size_t>(menge);

@@ -103,14 +103,17 @@ std::uint64_t längeVon(const Systemgriff& griff)
     return static_cast<std::uint64_t>(länge.QuadPart);
 }
 
-std::size_t liesAb(const Systemgriff& griff, std::uint64_t ab, std::span<char> ziel)
+void springe(const Systemgriff& griff, std::uint64_t ab)
 {
-    OVERLAPPED stelle = {};
-    stelle.Offset = static_cast<DWORD>(ab & 0xFFFFFFFFU);
-    stelle.OffsetHigh = static_cast<DWORD>(ab >> 32U);
+    LARGE_INTEGER stelle = {};
+    stelle.QuadPart = static_cast<LONGLONG>(ab);
+    prüfeSystem(::SetFilePointerEx(nummer(griff), stelle, nullptr, FILE_BEGIN) != 0);
+}
+
+std::size_t liesWeiter(const Systemgriff& griff, std::span<char> ziel)
+{
     DWORD gelesen = 0;
-    const bool gelungen = ::ReadFile(nummer(griff), ziel.data(), stückVon(ziel.size()), &gelesen, &stelle) != 0;
-    prüfeSystem(gelungen || ::GetLastError() == ERROR_HANDLE_EOF);
+    prüfeSystem(::ReadFile(nummer(griff), ziel.data(), stückVon(ziel.size()), &gelesen, nullptr) != 0);
     return gelesen;
 }
 
@@ -171,13 +174,6 @@ void Dateizugriff::sichereOrdnerAufPlatte(const fs::path& pfad)
     const auto griff = öffneName(systempfad(pfad), {.zugriff = FILE_ADD_FILE, .merkmale = FILE_FLAG_BACKUP_SEMANTICS});
     const bool gelungen = griff.istOffen() && ::FlushFileBuffers(nummer(griff)) != 0;
     prüfeSystem(gelungen || kannOrdnerNichtSichern(::GetLastError()));
-}
-
-void Dateizugriff::verwehreAnderen(const fs::path& pfad)
-{
-    if (const auto fehler = schließeAndereAus(pfad); fehler != ERROR_SUCCESS) {
-        throw Dateifehler(systemgrund(fehler));
-    }
 }
 
 Fund Dateizugriff::findet(const fs::path& pfad)

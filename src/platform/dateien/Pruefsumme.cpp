@@ -1,6 +1,7 @@
 #include "platform/dateien/Pruefsumme.h"
 
 #include <bit>
+#include <utility>
 
 namespace {
 
@@ -25,22 +26,16 @@ std::uint64_t wortAb(const char* ort)
 
 void Prüfsumme::nimm(std::string_view bytes)
 {
-    m_länge += bytes.size();
-    while (!bytes.empty() && m_restlänge > 0) {
-        m_rest |= std::uint64_t{static_cast<unsigned char>(bytes.front())} << (8 * m_restlänge);
-        bytes.remove_prefix(1);
-        if (++m_restlänge == schritt) {
-            m_summe = mische(m_summe, m_rest);
-            m_rest = 0;
-            m_restlänge = 0;
+    while (!bytes.empty()) {
+        const std::size_t stelle = m_länge % schritt;
+        const std::size_t menge = stelle == 0 && bytes.size() >= schritt ? schritt : 1;
+        m_rest |= menge == schritt ? wortAb(bytes.data())
+                                   : std::uint64_t{static_cast<unsigned char>(bytes.front())} << (8 * stelle);
+        m_länge += menge;
+        bytes.remove_prefix(menge);
+        if (m_länge % schritt == 0) {
+            m_summe = mische(m_summe, std::exchange(m_rest, 0));
         }
-    }
-    for (; bytes.size() >= schritt; bytes.remove_prefix(schritt)) {
-        m_summe = mische(m_summe, wortAb(bytes.data()));
-    }
-    for (const char zeichen : bytes) {
-        m_rest |= std::uint64_t{static_cast<unsigned char>(zeichen)} << (8 * m_restlänge);
-        ++m_restlänge;
     }
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -17,6 +16,5 @@ public:
 private:
     std::uint64_t m_summe = 0x9E3779B97F4A7C15U;
     std::uint64_t m_rest = 0; ///< bytes that do not fill a step yet, the first one lowest
-    std::size_t m_restlänge = 0;
     std::uint64_t m_länge = 0;
 };

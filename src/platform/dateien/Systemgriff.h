@@ -53,5 +53,7 @@ Systemgriff geprüft(Systemgriff griff);
 Systemgriff öffneZumLesen(const std::filesystem::path& pfad);
 /// Dateifehler where it is no ordinary file.
 std::uint64_t längeVon(const Systemgriff& griff);
-/// Reads from byte `ab` on as much as there is and has room; how much that was, 0 at the end.
-std::size_t liesAb(const Systemgriff& griff, std::uint64_t ab, std::span<char> ziel);
+/// The next reading begins at byte `ab`.
+void springe(const Systemgriff& griff, std::uint64_t ab);
+/// Reads on, as much as there is and has room; how much that was, 0 at the end.
+std::size_t liesWeiter(const Systemgriff& griff, std::span<char> ziel);

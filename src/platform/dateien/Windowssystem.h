@@ -18,10 +18,6 @@ std::wstring systempfad(const std::filesystem::path& pfad);
 /// what the folder hands down, where the user can't be found out. A file system without rights ignores them.
 void* rechteDesEigentümers();
 
-/// Gives the file or folder these rights when it belongs to the user and has others. The number of the error, 0 for
-/// none.
-unsigned long schließeAndereAus(const std::filesystem::path& pfad);
-
 /// How something is opened, as CreateFile has it: unless told otherwise a file that is there, shared with everybody.
 struct Windowsöffnung {
     std::uint32_t zugriff;

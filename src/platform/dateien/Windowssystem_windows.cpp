@@ -1,5 +1,7 @@
 #include "platform/dateien/Windowssystem.h"
 
+#include "platform/dateien/Dateizugriff.h"
+
 #include <memory>
 #include <system_error>
 #include <vector>
@@ -103,7 +105,8 @@ void* rechteDesEigentümers()
     return beschreibung() == nullptr ? nullptr : &rechte;
 }
 
-unsigned long schließeAndereAus(const fs::path& pfad)
+/// Gives the file or folder the rights of a new one when it belongs to the user and has others.
+void Dateizugriff::verwehreAnderen(const fs::path& pfad)
 {
     auto name = systempfad(pfad);
     PSID eigentümer = nullptr;
@@ -112,13 +115,12 @@ unsigned long schließeAndereAus(const fs::path& pfad)
     if (const DWORD fehler = ::GetNamedSecurityInfoW(name.data(), SE_FILE_OBJECT, gefragt, &eigentümer, nullptr,
                                                      nullptr, nullptr, &gefunden);
         fehler != ERROR_SUCCESS) {
-        return fehler;
+        throw Dateifehler(systemgrund(fehler));
     }
     const Systemspeicher<void> halter(gefunden);
     static const auto eigene = alsText(beschreibung());
-    if (beschreibung() == nullptr || !istMeins(eigentümer) || alsText(gefunden) == eigene) {
-        return ERROR_SUCCESS;
+    if (beschreibung() != nullptr && istMeins(eigentümer) && alsText(gefunden) != eigene) {
+        constexpr SECURITY_INFORMATION gesetzt = DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION;
+        prüfeSystem(::SetFileSecurityW(name.c_str(), gesetzt, beschreibung()) != 0);
     }
-    constexpr SECURITY_INFORMATION gesetzt = DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION;
-    return ::SetFileSecurityW(name.c_str(), gesetzt, beschreibung()) != 0 ? ERROR_SUCCESS : ::GetLastError();
 }

@@ -1,10 +1,13 @@
-#include "platform/umgebung/Systemorte.h"
+#include "platform/umgebung/Prozess.h"
 
 #include <array>
 #include <cstdlib>
+#include <iostream>
 #include <system_error>
 
 #include <pwd.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -41,4 +44,22 @@ Systemorte frageSystem()
 std::vector<fs::path> argumente(int anzahl, char** werte)
 {
     return anzahl < 1 ? std::vector<fs::path>{} : std::vector<fs::path>(werte + 1, werte + anzahl);
+}
+
+void sageDemAufrufer(std::string_view text)
+{
+    std::cout << text << std::flush;
+}
+
+void meldeDemAufrufer(std::string_view text)
+{
+    std::cerr << text << std::flush;
+}
+
+void verhindereSpeicherabbilder()
+{
+    const rlimit nichts{0, 0};
+    static_cast<void>(setrlimit(RLIMIT_CORE, &nichts));
+    // the limit alone does not hold for a system that hands the image to a program
+    static_cast<void>(prctl(PR_SET_DUMPABLE, 0));
 }
