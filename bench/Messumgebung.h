@@ -37,7 +37,7 @@ public:
 
 private:
     std::filesystem::path m_ordner;
-    Dateien m_dateien{erzeugeDateizugriff()};
+    Dateien m_dateien;
 };
 
 /// The facility on which the limits are stated: 10,000 clients with 30,000 episodes, about 40 MB of care records.

@@ -25,7 +25,7 @@ constexpr int unverständlich = 2;
 
 int prüfe(const Aufruf& aufruf)
 {
-    Dateien dateien(erzeugeDateizugriff());
+    Dateien dateien;
     try {
         const auto ordner = findeDatenordner(aufruf, frageSystem(), dateien);
         std::ostringstream bericht;
@@ -41,22 +41,17 @@ int prüfe(const Aufruf& aufruf)
 /// What needs no window, so that it works without a display too; the exit status.
 std::optional<int> beantworteOhneFenster(const Aufruf& aufruf)
 {
-    std::ostringstream text;
     switch (aufruf.art) {
     case Aufrufart::Version:
-        schreibeVersion(text);
-        sageDemAufrufer(text.str());
+        sageDemAufrufer(versionstext());
         return 0;
     case Aufrufart::Hilfe:
-        schreibeHilfe(text);
-        sageDemAufrufer(text.str());
+        sageDemAufrufer(hilfetext());
         return 0;
     case Aufrufart::Prüfung:
         return prüfe(aufruf);
     case Aufrufart::Unverständlich:
-        text << "tolvek7: " << aufruf.fehler << '\n';
-        schreibeHilfe(text);
-        meldeDemAufrufer(text.str());
+        meldeDemAufrufer(verbinde("tolvek7: ", aufruf.fehler, '\n', hilfetext()));
         return unverständlich;
     case Aufrufart::Arbeiten:
     case Aufrufart::Muster:
@@ -66,12 +61,12 @@ std::optional<int> beantworteOhneFenster(const Aufruf& aufruf)
 }
 
 /// A folder that was named and is not there may be a slip, behind which the records would seem to be gone.
-bool darfAngelegtWerden(const Aufruf& aufruf, const Laufort& ort)
+bool darfAngelegtWerden(const Aufruf& aufruf, const std::filesystem::path& ordner)
 {
     if (!aufruf.ordner) {
         return true;
     }
-    const auto frage = verbinde("Den Ordner \""_t, pfadtext(ort.programmordner),
+    const auto frage = verbinde("Den Ordner \""_t, pfadtext(ordner),
                                 "\" gibt es nicht. Soll er für eine neue, leere Einrichtung angelegt werden?"_t);
     const auto fenster = baueMeldungsfenster({frage, Symbol::Frage, Knöpfe::JaNein, Antwort::Nein, "Tolvek7"});
     fenster->exec();
@@ -80,13 +75,14 @@ bool darfAngelegtWerden(const Aufruf& aufruf, const Laufort& ort)
 
 int arbeite(const Aufruf& aufruf)
 {
-    Dateien dateien(erzeugeDateizugriff());
+    Dateien dateien;
     Arbeitsort ort(aufruf, frageSystem(), dateien);
-    if (ort.fehlt()) {
-        if (!darfAngelegtWerden(aufruf, ort.laufort())) {
+    const auto& ordner = ort.laufort().programmordner;
+    if (!dateien.istOrdner(ordner)) {
+        if (!darfAngelegtWerden(aufruf, ordner)) {
             return 0;
         }
-        ort.legeAn();
+        dateien.legeOrdnerAn(ordner);
     }
     Rechenprogramm rechenprogramm;
     QtUmgebung umgebung(rechenprogramm, ort.laufort());

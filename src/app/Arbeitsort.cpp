@@ -60,7 +60,7 @@ fs::path findeDatenordner(const Aufruf& aufruf, const Systemorte& orte, Dateien&
     return ordnerDerPerson(orte);
 }
 
-Arbeitsort::Arbeitsort(const Aufruf& aufruf, const Systemorte& orte, Dateien& dateien) : m_dateien(dateien)
+Arbeitsort::Arbeitsort(const Aufruf& aufruf, const Systemorte& orte, Dateien& dateien)
 {
     Wegwerfordner::räumeAuf(mustervorsilbe);
     m_laufort.installation = findeInstallation(orte.programm, dateien);
@@ -72,14 +72,4 @@ Arbeitsort::Arbeitsort(const Aufruf& aufruf, const Systemorte& orte, Dateien& da
     } else {
         m_laufort.programmordner = findeDatenordner(aufruf, orte, dateien);
     }
-}
-
-bool Arbeitsort::fehlt() const
-{
-    return !m_dateien.istOrdner(m_laufort.programmordner);
-}
-
-void Arbeitsort::legeAn()
-{
-    m_dateien.legeOrdnerAn(m_laufort.programmordner);
 }

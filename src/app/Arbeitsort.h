@@ -18,20 +18,15 @@ inline constexpr auto ordnername = "Tolvek7";
 /// when the program belongs to the system, in the user's own `Tolvek7`. A program folder that holds records
 /// stays the place even when it has become write-protected: the person gets a message then, not an empty program.
 /// The made-up facility has a temporary folder, which goes with this object; one that a crash left behind goes at
-/// the next start.
+/// the next start. Any other folder may have to be made before the program can start.
 class Arbeitsort {
 public:
     /// Laufzeitfehler where no place can be found or the made-up facility can't be written.
     Arbeitsort(const Aufruf& aufruf, const Systemorte& orte, Dateien& dateien);
 
     const Laufort& laufort() const { return m_laufort; }
-    /// Whether the folder has to be made before the program can start.
-    bool fehlt() const;
-    /// Makes the folder, for its owner alone.
-    void legeAn();
 
 private:
-    Dateien& m_dateien;
     std::optional<Wegwerfordner> m_wegwerfordner;
     Laufort m_laufort;
 };

@@ -3,8 +3,6 @@
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Eingabe.h"
 
-#include <ostream>
-
 namespace {
 
 constexpr auto hilfe = R"(Aufruf: tolvek7 [ORDNER]
@@ -60,12 +58,12 @@ Aufruf leseAufruf(const std::vector<std::filesystem::path>& argumente)
     return aufruf;
 }
 
-void schreibeVersion(std::ostream& aus)
+std::string_view versionstext()
 {
-    aus << "Tolvek7 " << TOLVEK_VERSION << '\n';
+    return "Tolvek7 " TOLVEK_VERSION "\n";
 }
 
-void schreibeHilfe(std::ostream& aus)
+std::string_view hilfetext()
 {
-    aus << hilfe;
+    return hilfe;
 }

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <filesystem>
-#include <iosfwd>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -33,5 +32,5 @@ struct Aufruf {
 Aufruf leseAufruf(const std::vector<std::filesystem::path>& argumente);
 
 // What is written to a terminal is UTF-8, as terminals are.
-void schreibeVersion(std::ostream& aus);
-void schreibeHilfe(std::ostream& aus);
+std::string_view versionstext();
+std::string_view hilfetext();

@@ -60,26 +60,6 @@ bool kopiereMitWert(std::string_view inhalt, Schreiber& ziel, std::string_view g
     return gefunden;
 }
 
-std::optional<double> leseKommazahl(std::string_view text)
-{
-    auto rest = getrimmt(text);
-    const bool negativ = rest.starts_with('-');
-    if (negativ || rest.starts_with('+')) {
-        rest.remove_prefix(1);
-    }
-    if (rest.find_first_not_of("0123456789.,") != keinZeichen) {
-        return std::nullopt;
-    }
-    const auto ziffern = ersetzt(rest, ","_t, "."_t);
-    double zahl = 0;
-    const char* const ende = ziffern.data() + ziffern.size();
-    const auto [gelesen, fehler] = std::from_chars(ziffern.data(), ende, zahl, std::chars_format::fixed);
-    if (fehler != std::errc() || gelesen != ende) {
-        return std::nullopt;
-    }
-    return negativ ? -zahl : zahl;
-}
-
 } // namespace
 
 std::string leseIni(std::string_view schlüssel)
@@ -109,9 +89,17 @@ void schreibeIni(std::string_view schlüssel, std::string_view wert)
 
 double leseLage(std::string_view schlüssel)
 {
-    const double twips = leseKommazahl(leseIni(schlüssel)).value_or(0);
+    auto text = ersetzt(leseIni(schlüssel), ","_t, "."_t);
+    if (text.starts_with('+') && !text.starts_with("+-")) {
+        text.erase(0, 1);
+    }
+    double twips = 0;
+    const char* const ende = text.data() + text.size();
+    const auto [gelesen, fehler] = std::from_chars(text.data(), ende, twips, std::chars_format::fixed);
     // what no window can reach is damage, not a place
-    return std::abs(twips) <= std::numeric_limits<std::int32_t>::max() ? twips : 0;
+    const bool gilt =
+        fehler == std::errc() && gelesen == ende && std::abs(twips) <= std::numeric_limits<std::int32_t>::max();
+    return gilt ? twips : 0;
 }
 
 void schreibeLage(std::string_view schlüssel, double twips)

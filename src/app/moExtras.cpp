@@ -73,16 +73,9 @@ void moExtras::setzeFensterPosition(Bildschirm& bildschirm)
     }
     rahmen.setzeLage(leseLage(obenVon(bildschirm)), leseLage(linksVon(bildschirm)));
     setzeLage(bildschirm, 0, 0);
-    passeRahmenAn(bildschirm.breite + randbreite(bildschirm), bildschirm.höhe + randOben);
-}
-
-void moExtras::passeRahmenAn(double breite, double höhe)
-{
-    if (m_zustand.rahmen.istMaximiert()) {
-        return;
-    }
     const Größe schirm = m_zustand.umgebung.bildschirmgröße();
-    m_zustand.rahmen.setzeGröße(std::min(breite, schirm.breite), std::min(höhe, schirm.höhe));
+    rahmen.setzeGröße(std::min(bildschirm.breite + randbreite(bildschirm), schirm.breite),
+                      std::min(bildschirm.höhe + randOben, schirm.höhe));
 }
 
 void moExtras::platziereAktiven()

@@ -15,15 +15,14 @@ class moExtras {
 public:
     explicit moExtras(Zustand& zustand);
 
-    /// Places the frame for the page by its keys and fits its size.
-    void setzeFensterPosition(Bildschirm& bildschirm);
-    /// Width and height in twips for the frame, at most those of the desktop's screen. A maximised frame stays.
-    void passeRahmenAn(double breite, double höhe);
     /// Places the topmost page in sight anew; windows over it keep their own place.
     void platziereAktiven();
 
 private:
     void platziere(Bildschirm& bildschirm);
+    /// Places the frame for the page by its keys and fits its size to it, at most that of the desktop's screen. A
+    /// maximised frame stays.
+    void setzeFensterPosition(Bildschirm& bildschirm);
     void merkeLage(const Bildschirm& bildschirm);
 
     Zustand& m_zustand;

@@ -35,7 +35,7 @@ void Programm::Main()
         return;
     }
     initialisiere();
-    vollendeVorgang(m_zustand.umgebung.dateien(), m_zustand.pfade, m_zustand.bestandsmeldung);
+    vollendeVorgang(m_zustand.bestand);
     Importlauf::entferneReste(m_zustand.bestand);
     prüfeDateien();
     stelleBruchstückeBeiseite(m_zustand.bestand);

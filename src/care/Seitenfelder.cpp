@@ -2,7 +2,6 @@
 
 #include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
-#include "satz/Auswahllisten.h"
 #include "satz/Zeilenfelder.h"
 #include "zustand/Comboregeln.h"
 
@@ -39,7 +38,8 @@ void Seitenfelder::füge(std::string_view name, Elementreihe<Auswahlfeld>& reihe
 void Seitenfelder::füge(std::string_view name, Elementreihe<triCtlJaNein>& reihe)
 {
     for (int i = reihe.von(); i <= reihe.bis(); ++i) {
-        m_felder.emplace(stelle(verbinde(name, alsText(i))), &reihe(i));
+        const int ort = stelle(verbinde(name, alsText(i)));
+        m_felder.emplace(ort, Antwort{&reihe(i), feldAus(m_satz, ort).werte});
     }
 }
 
@@ -102,9 +102,9 @@ void Seitenfelder::nimm(const Wahl& wahl, std::string_view text)
     }
 }
 
-void Seitenfelder::nimm(triCtlJaNein* antwort, std::string_view text)
+void Seitenfelder::nimm(const Antwort& antwort, std::string_view text)
 {
-    antwort->setzeText(text);
+    antwort.feld->setzeText(werte::heutige(antwort.werte, text)); // the field knows today's spellings alone
 }
 
 void Seitenfelder::nimm(Elementreihe<Optionsfeld>* reihe, std::string_view text)
@@ -120,9 +120,9 @@ std::string Seitenfelder::wert(const Wahl& wahl)
     return wahl.feld->text();
 }
 
-std::string Seitenfelder::wert(const triCtlJaNein* antwort)
+std::string Seitenfelder::wert(const Antwort& antwort)
 {
-    return antwort->text();
+    return antwort.feld->text();
 }
 
 std::string Seitenfelder::wert(const Elementreihe<Optionsfeld>* reihe)
@@ -138,8 +138,8 @@ std::string Seitenfelder::wert(const Elementreihe<Optionsfeld>* reihe)
 void setzeOhneAngabeAufNein(Elementreihe<triCtlJaNein>& reihe)
 {
     for (triCtlJaNein& antwort : reihe) {
-        if (antwort.text() == "k.A."_t) {
-            antwort.setzeText("nein"_t);
+        if (antwort.text() == antworttext::keine) {
+            antwort.setzeText(antworttext::nein);
         }
     }
 }

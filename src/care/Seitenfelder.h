@@ -45,14 +45,18 @@ private:
         Auswahlfeld* feld = nullptr;
         const Satzfeld* satzfeld = nullptr;
     };
-    using Seitenfeld = std::variant<Wahl, triCtlJaNein*, Elementreihe<Optionsfeld>*>;
+    struct Antwort {
+        triCtlJaNein* feld;
+        Werteliste werte;
+    };
+    using Seitenfeld = std::variant<Wahl, Antwort, Elementreihe<Optionsfeld>*>;
 
     int stelle(std::string_view name) const;
     static void nimm(const Wahl& wahl, std::string_view text);
-    static void nimm(triCtlJaNein* antwort, std::string_view text);
+    static void nimm(const Antwort& antwort, std::string_view text);
     static void nimm(Elementreihe<Optionsfeld>* reihe, std::string_view text);
     static std::string wert(const Wahl& wahl);
-    static std::string wert(const triCtlJaNein* antwort);
+    static std::string wert(const Antwort& antwort);
     static std::string wert(const Elementreihe<Optionsfeld>* reihe);
 
     const std::vector<Satzfeld>& m_satz;

@@ -2,8 +2,7 @@
 
 #include "platform/text/Text.h"
 #include "satz/Betreuungsfelder.h"
-#include "satz/Datumstexte.h"
-#include "satz/Zeilenfelder.h"
+#include "satz/moHelferlein.h"
 #include "store/Lesestand.h"
 #include "zustand/Zustand.h"
 

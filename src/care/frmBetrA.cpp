@@ -124,7 +124,7 @@ Anordnung frmBetrA::kooperationen()
 void frmBetrA::setzeZuvorAufNull()
 {
     for (Auswahlfeld& feld : comboZuvor) {
-        if (feld.text() == "k.A."_t) {
+        if (feld.text() == antworttext::keine) {
             feld.setzeText("0"_t);
         }
     }

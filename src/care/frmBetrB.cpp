@@ -61,7 +61,7 @@ void frmBetrB::ordneAn()
 
 void frmBetrB::zeigeLebensit()
 {
-    const bool allein = comboLebensit(alleinlebend).text() == "ja"_t;
+    const bool allein = werte::heutige(werte::lang, comboLebensit(alleinlebend).text()) == antworttext::ja;
     for (int i = alleinlebend + 1; i <= comboLebensit.bis(); ++i) {
         comboLebensit(i).zeige(!allein);
     }
@@ -71,7 +71,7 @@ void frmBetrB::vorSammeln()
 {
     for (Auswahlfeld& feld : comboLebensit) {
         if (!feld.istSichtbar()) {
-            feld.setzeText("nein"_t); // who lives alone lives with nobody else
+            feld.setzeText(antworttext::nein); // who lives alone lives with nobody else
         }
     }
 }

@@ -28,13 +28,13 @@ void verbindeZeile(Optionsfeld& haupt, triCtlJaNein& antwort, Optionsgruppe& gru
     haupt.setzePfeileMarkieren(false); // a mark answers as well, so walking over the options must not mark
     haupt.beiKlick = [&haupt, &antwort] {
         if (haupt.istAn()) {
-            antwort.setzeText("ja"_t);
+            antwort.setzeText(antworttext::ja);
         }
     };
     haupt.beiDoppelklick = [&haupt] { haupt.setze(false); };
     haupt.beiLöschtaste = [&haupt] { haupt.setze(false); };
     antwort.beiÄnderung = [&haupt, &antwort] {
-        if (antwort.text() != "ja"_t && haupt.istAn()) {
+        if (antwort.text() != antworttext::ja && haupt.istAn()) {
             haupt.setze(false);
         }
     };

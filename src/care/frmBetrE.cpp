@@ -57,8 +57,8 @@ void frmBetrE::richteVermittlungenEin()
     richteFüllerEin(cmdSchnellFüller, triJaNeinVermitt);
     for (triCtlJaNein& antwort : triJaNeinVermitt) {
         antwort.beiÄnderung = [this, &antwort] {
-            if (antwort.text() == "ja"_t) {
-                comboWeiter.setzeText("ja"_t); // a named referral is a referral
+            if (antwort.text() == antworttext::ja) {
+                comboWeiter.setzeText(antworttext::ja); // a named referral is a referral
             }
         };
     }

@@ -1,7 +1,7 @@
 #include "care/frmBetreuungZeitraum.h"
 
 #include "platform/text/Text.h"
-#include "satz/Datumstexte.h"
+#include "satz/moHelferlein.h"
 #include "zustand/Fehlerort.h"
 #include "zustand/Zustand.h"
 

@@ -1,7 +1,6 @@
 #include "clients/frmStammdaten.h"
 
 #include "platform/text/Zahl.h"
-#include "satz/Auswahllisten.h"
 #include "satz/Klientenfelder.h"
 #include "satz/Zeilenfelder.h"
 #include "store/Vorgang.h"

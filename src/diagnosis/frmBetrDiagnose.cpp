@@ -1,7 +1,6 @@
 #include "diagnosis/frmBetrDiagnose.h"
 
 #include "platform/text/Zahl.h"
-#include "satz/Auswahllisten.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosesatz.h"
 #include "satz/WeitereDiagnosen.h"

@@ -1,7 +1,6 @@
 #include "diagnosis/frmBetrDiagnoseErstellen.h"
 
 #include "platform/text/Zahl.h"
-#include "satz/Auswahllisten.h"
 #include "satz/Diagnosesatz.h"
 #include "satz/Wertelisten.h"
 #include "satz/Zeilenfelder.h"
@@ -16,7 +15,7 @@
 
 namespace {
 
-constexpr std::string_view keineAngabe = "k.A."_t;
+constexpr auto keineAngabe = antworttext::keine;
 constexpr std::string_view keineAngaben = "keine Angaben"_t;
 
 constexpr std::array<std::string_view, 8> fragen{
@@ -43,7 +42,7 @@ bool wirdGefragt(const Gruppenreihe* gruppe, int frage)
 /// The list of the question; its first entry stands for no answer.
 std::vector<std::string> antwortliste(const Blockfrage& frage)
 {
-    std::vector<std::string> texte = werte::texte(*frage.werte);
+    std::vector<std::string> texte = werte::texte(frage.werte);
     if (texte.front() != keineAngabe && texte.front() != keineAngaben) {
         texte.insert(texte.begin(), std::string(keineAngabe));
     }

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr auto kA = "k.A."_t;
+constexpr auto kA = antworttext::keine;
 constexpr auto offen = "offen"_t;
 constexpr auto unbekannt = "unbekannt"_t;
 

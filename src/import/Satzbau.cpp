@@ -56,7 +56,7 @@ std::string_view Satzbau::feldwert(const Feldanweisung& anweisung, std::string_v
     case Feldart::kinder:
     case Feldart::zuvor:
     case Feldart::kontakte:
-        return wert.empty() ? "k.A."_t : wert;
+        return wert.empty() ? antworttext::keine : wert;
     case Feldart::hdOhne:
         return wahrWenn(führendeZahl(wert) == m_hdOhne++);
     case Feldart::ivKonsum:

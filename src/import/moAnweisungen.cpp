@@ -15,7 +15,7 @@ using Paare = std::vector<Feldanweisung::Paar>;
 
 constexpr auto leer = "<leer>"_t;
 constexpr auto sonst = "<sonst>"_t;
-constexpr auto kA = "k.A."_t;
+constexpr auto kA = antworttext::keine;
 
 /// What a kind is called in the string form.
 struct Typ {

@@ -35,7 +35,7 @@ std::string_view codeVon(Werteliste liste, std::string_view text)
 /// Day, month, year; a year of two digits as the older core data set took it.
 std::optional<Datum> leseDatumDesAltKDS(std::string_view text)
 {
-    const auto teil = [&](int nummer) { return getFeldMit(text, nummer, '.'); };
+    const auto teil = [&](int nummer) { return getFeld(text, nummer, '.'); };
     const auto tag = leseGanzzahl16(teil(1));
     const auto monat = leseGanzzahl16(teil(2));
     const auto jahr = leseGanzzahl16(teil(3));

@@ -38,7 +38,7 @@ bool istLeerwert(int gruppe, int platz, std::string_view wert)
     if (platz == ICDStelle4 && gruppe == geldspielautomaten) {
         return wert == "99"_t;
     }
-    return wert == "0"_t || (platz == Riskant && wert == "k.A."_t);
+    return wert == "0"_t || (platz == Riskant && wert == antworttext::keine);
 }
 
 Blockteile zerlegeDSDiag(std::string_view dsDiag, int gruppe)

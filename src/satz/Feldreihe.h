@@ -5,7 +5,6 @@
 #include <span>
 #include <stdexcept>
 #include <string_view>
-#include <vector>
 
 /// The numbers of a run of like fields: {1, 9} for "Kosten1" to "Kosten9".
 struct Nummern {
@@ -30,7 +29,7 @@ struct Feldreihe {
     Nummern nummern = einzeln;
     Spalten spalten;
     Feldart art = Feldart::text;
-    const Werteliste* werte = nullptr;
+    Werteliste werte{};
     std::string_view vorgabe;
 
     constexpr int anzahl() const { return nummern.bis < nummern.von ? 1 : nummern.bis - nummern.von + 1; }
@@ -58,9 +57,3 @@ consteval int stelleIn(std::span<const Feldreihe> reihen, std::string_view stamm
     }
     throw std::logic_error("no field has this name");
 }
-
-/// The runs of the diagnosis record, made of the kinds of its groups (Problemgruppen.h).
-std::vector<Feldreihe> diagnosereihen();
-
-/// The fields of the runs, one by one.
-std::vector<Satzfeld> entfalte(std::span<const Feldreihe> reihen);

@@ -11,17 +11,17 @@ using enum Feldart;
 
 /// Field 1 has no name and is always empty.
 inline constexpr Feldreihe reihen[]{
-    {""_t, einzeln, ohneSpalte, klient, nullptr, ""_t},
-    {"kernID"_t, einzeln, ohneSpalte, klient, nullptr, ""_t},
-    {"betrao"_t, einzeln, ohneSpalte, klient, nullptr, ""_t},
-    {"Nachname"_t, einzeln, ohneSpalte, klient, nullptr, ""_t},
-    {"Vorname"_t, einzeln, ohneSpalte, klient, nullptr, ""_t},
-    {"Strasse"_t, einzeln, ohneSpalte, klient, nullptr, ""_t},
-    {"PLZ"_t, einzeln, ohneSpalte, klient, nullptr, ""_t},
-    {"Ort"_t, einzeln, ohneSpalte, klient, nullptr, ""_t},
-    {"Geschlecht"_t, einzeln, {'K', 8}, klient, &werte::geschlecht, "keine Angaben"_t},
-    {"Geburtsdatum"_t, einzeln, {'K', 7}, klient, nullptr, "unbekannt"_t},
-    {"memoK"_t, einzeln, ohneSpalte, klient, nullptr, ""_t},
+    {""_t, einzeln, ohneSpalte, klient, {}, ""_t},
+    {"kernID"_t, einzeln, ohneSpalte, klient, {}, ""_t},
+    {"betrao"_t, einzeln, ohneSpalte, klient, {}, ""_t},
+    {"Nachname"_t, einzeln, ohneSpalte, klient, {}, ""_t},
+    {"Vorname"_t, einzeln, ohneSpalte, klient, {}, ""_t},
+    {"Strasse"_t, einzeln, ohneSpalte, klient, {}, ""_t},
+    {"PLZ"_t, einzeln, ohneSpalte, klient, {}, ""_t},
+    {"Ort"_t, einzeln, ohneSpalte, klient, {}, ""_t},
+    {"Geschlecht"_t, einzeln, {'K', 8}, klient, werte::geschlecht, "keine Angaben"_t},
+    {"Geburtsdatum"_t, einzeln, {'K', 7}, klient, {}, "unbekannt"_t},
+    {"memoK"_t, einzeln, ohneSpalte, klient, {}, ""_t},
 };
 
 } // namespace kliententabelle

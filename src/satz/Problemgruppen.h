@@ -3,6 +3,7 @@
 #include "satz/Satzaufbau.h"
 #include "satz/moData.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -17,27 +18,10 @@ enum Blockfeld { Konsumart = 1, TageBeginn, TageEnde, ICDStelle4, AlterStörung,
 /// One of the eight fields of a block.
 struct Blockfrage {
     Feldart art = Feldart::leer;
-    const Werteliste* werte = nullptr;
+    Werteliste werte{};
     bool gefragt = false; ///< a person can answer it
     bool eigeneSpalte = false;
 };
-
-namespace problemgruppen {
-
-/// A question with a column of its own in each group.
-constexpr Blockfrage option(const Werteliste& werte)
-{
-    return {Feldart::option, &werte, true, true};
-}
-inline constexpr Blockfrage zahl{Feldart::zahl, nullptr, true, true};
-inline constexpr Blockfrage nichts{};
-/// One column for all groups: they are answers of the main diagnosis.
-inline constexpr Blockfrage erstkonsum{Feldart::hdAlter, nullptr, true, false};
-/// The import fills it, nobody is asked.
-inline constexpr Blockfrage erstkonsumUngefragt{Feldart::hdAlter, nullptr, false, false};
-inline constexpr Blockfrage marke{Feldart::icd0000, nullptr, true, false};
-
-} // namespace problemgruppen
 
 /// The groups from one to another, which ask the same.
 struct Gruppenreihe {
@@ -50,35 +34,46 @@ struct Gruppenreihe {
     constexpr const Blockfrage& frage(int platz) const { return fragen[static_cast<std::size_t>(platz - 1)]; }
     constexpr int spaltenJeGruppe() const
     {
-        int anzahl = 0;
-        for (const auto& frage : fragen) {
-            anzahl += frage.eigeneSpalte ? 1 : 0;
-        }
-        return anzahl;
+        return static_cast<int>(std::ranges::count(fragen, true, &Blockfrage::eigeneSpalte));
     }
 };
+
+namespace problemgruppen {
+
+/// A question with a column of its own in each group.
+constexpr Blockfrage option(Werteliste werte)
+{
+    return {Feldart::option, werte, true, true};
+}
+inline constexpr Blockfrage zahl{Feldart::zahl, {}, true, true};
+inline constexpr Blockfrage nichts{};
+/// One column for all groups: they are answers of the main diagnosis.
+inline constexpr Blockfrage erstkonsum{Feldart::hdAlter, {}, true, false};
+/// The import fills it, nobody is asked.
+inline constexpr Blockfrage erstkonsumUngefragt{Feldart::hdAlter, {}, false, false};
+inline constexpr Blockfrage marke{Feldart::icd0000, {}, true, false};
 
 inline constexpr std::array<Gruppenreihe, 3> gruppenreihen{{
     {Gruppenart::Substanz,
      1,
      20,
      4,
-     {problemgruppen::option(werte::konsumart), problemgruppen::zahl, problemgruppen::zahl,
-      problemgruppen::option(werte::icdZusatz), problemgruppen::zahl, problemgruppen::option(werte::kurz),
-      problemgruppen::erstkonsum, problemgruppen::marke}},
+     {option(werte::konsumart), zahl, zahl, option(werte::icdZusatz), zahl, option(werte::kurz), erstkonsum, marke}},
     {Gruppenart::MissbrauchOderSpiel,
      21,
      28,
      125,
-     {problemgruppen::nichts, problemgruppen::zahl, problemgruppen::zahl, problemgruppen::option(werte::kurz),
-      problemgruppen::zahl, problemgruppen::nichts, problemgruppen::erstkonsum, problemgruppen::marke}},
+     {nichts, zahl, zahl, option(werte::kurz), zahl, nichts, erstkonsum, marke}},
     {Gruppenart::Essstörung,
      29,
      29,
      157,
-     {problemgruppen::nichts, problemgruppen::nichts, problemgruppen::nichts, problemgruppen::option(werte::essstörung),
-      problemgruppen::zahl, problemgruppen::nichts, problemgruppen::erstkonsumUngefragt, problemgruppen::marke}},
+     {nichts, nichts, nichts, option(werte::essstörung), zahl, nichts, erstkonsumUngefragt, marke}},
 }};
+
+} // namespace problemgruppen
+
+using problemgruppen::gruppenreihen;
 static_assert(gruppenreihen.front().von == 1 && gruppenreihen.back().bis == höchsteGruppe,
               "the kinds cover the groups of the catalogue");
 static_assert(
@@ -114,3 +109,9 @@ constexpr bool istGruppe(int gruppe, Gruppenart art)
 
 /// Gaming machines: the only group whose import knows a number of its own for an answer that is not given.
 inline constexpr int geldspielautomaten = 24;
+
+/// The numbers that the answer takes in a block; only for those that are numbers.
+constexpr werte::Zahlenbereich antwortbereich(int platz)
+{
+    return platz == TageBeginn || platz == TageEnde ? werte::konsumtage : werte::alter;
+}

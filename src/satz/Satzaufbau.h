@@ -3,7 +3,9 @@
 #include "satz/Wertelisten.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// The layout of the three records as one table each: every field with its name, its kind, where it stands
@@ -63,3 +65,12 @@ inline constexpr int felderJeGruppe = 8;
 std::string erstelleDefaultKernDS(); ///< with its 11 delimiters: reads as 12 fields
 std::string erstelleDefaultBetrDS(); ///< 192 fields
 std::string erstelleDefaultDiagDS(); ///< 246 delimiters
+
+/// What a screen offers for a field, so that none names a value list a second time: the texts with the one for no
+/// answer first, of the value list, of the states, or the field's default and the numbers of its range. Empty for other
+/// kinds.
+///
+///     comboGeschlecht.setzeListe(auswahlliste(feldAus(klientenfelder(), feld::kern::geschlecht)));
+std::vector<std::string> auswahlliste(const Satzfeld& feld);
+/// The numbers that a care field of the kind takes beside its default; none where it is not one of numbers.
+std::optional<werte::Zahlenbereich> zahlenbereich(Feldart art);

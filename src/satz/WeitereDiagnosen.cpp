@@ -1,10 +1,6 @@
 #include "satz/WeitereDiagnosen.h"
 
-#include "platform/text/Text.h"
-
 #include <algorithm>
-#include <array>
-#include <cstddef>
 
 namespace {
 

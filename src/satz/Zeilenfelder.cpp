@@ -1,6 +1,5 @@
 #include "satz/Zeilenfelder.h"
 
-#include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/Satzgrenzen.h"
 
@@ -37,12 +36,7 @@ void prüfeZeilenlänge(std::string_view zeile)
     }
 }
 
-std::string_view getFeld(std::string_view zeile, int nummer)
-{
-    return getFeldMit(zeile, nummer, trenner);
-}
-
-std::string_view getFeldMit(std::string_view zeile, int nummer, char trennzeichen)
+std::string_view getFeld(std::string_view zeile, int nummer, char trennzeichen)
 {
     prüfeZeilenlänge(zeile);
     const auto rest = abFeld(zeile, nummer, trennzeichen);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/text/Text.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -8,9 +10,7 @@
 
 /// Field `nummer` (from 1) of the line; empty beyond the last, below 1 and in an empty line. A line of more
 /// than 32,767 characters is a Laufzeitfehler.
-std::string_view getFeld(std::string_view zeile, int nummer);
-/// The same with a delimiter of one's own.
-std::string_view getFeldMit(std::string_view zeile, int nummer, char trennzeichen);
+std::string_view getFeld(std::string_view zeile, int nummer, char trennzeichen = trenner);
 /// The line with field `nummer` (from 2) replaced. Too few delimiters are a Laufzeitfehler. For field 1 it
 /// would replace field 2, so no caller uses it there.
 std::string ersetzeFeld(std::string_view zeile, int nummer, std::string_view neu);

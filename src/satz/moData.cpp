@@ -2,6 +2,7 @@
 
 #include "platform/text/Text.h"
 
+#include <algorithm>
 #include <cstddef>
 
 std::array<std::string, höchsteGruppe + 1> aryICD;
@@ -81,10 +82,6 @@ void baueProblemKatalog()
 
 int gruppeZuName(std::string_view name)
 {
-    for (std::size_t gruppe = 1; gruppe < aryProblem.size(); ++gruppe) {
-        if (aryProblem[gruppe] == name) {
-            return static_cast<int>(gruppe);
-        }
-    }
-    return 0;
+    const auto ort = std::ranges::find(katalog, name, &Problembereich::problem);
+    return ort == katalog.end() ? 0 : static_cast<int>(ort - katalog.begin()) + 1;
 }

@@ -215,8 +215,3 @@ std::string_view getCodeZuNation(std::string_view name)
     const auto* nation = finde(&Nation::name, name);
     return nation == nullptr ? std::string_view{} : nation->code;
 }
-
-bool istNation(std::string_view name)
-{
-    return finde(&Nation::name, name) != nullptr;
-}

@@ -26,6 +26,3 @@ std::string getNationZuCode(std::string_view code);
 
 /// The code of the first row with exactly this name; empty when there is none.
 std::string_view getCodeZuNation(std::string_view name);
-
-/// Whether the list has the name.
-bool istNation(std::string_view name);

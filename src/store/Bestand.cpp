@@ -1,5 +1,6 @@
 #include "store/Bestand.h"
 
+#include "platform/dateien/Zeilen.h"
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 
@@ -17,23 +18,12 @@ std::unique_ptr<Dateiinhalt> Bestand::inhalt(Tabelle tabelle) const
 
 void Bestand::laufe(Tabelle tabelle, const Zeilenbesuch& besuch) const
 {
-    Tabellenleser leser(*this, tabelle);
-    while (const auto zeile = leser.nächste()) {
-        if (!besuch(*zeile, leser.nummer())) {
+    const auto text = inhalt(tabelle);
+    Zeilen zeilen(text->text());
+    while (const auto zeile = zeilen.nächste()) {
+        prüfeSatzlänge(*zeile, pfade().von(tabelle), zeilen.nummer());
+        if (!besuch(*zeile, zeilen.nummer())) {
             return;
         }
     }
-}
-
-Tabellenleser::Tabellenleser(const Bestand& bestand, Tabelle tabelle)
-    : m_pfad(bestand.pfade().von(tabelle)), m_inhalt(bestand.inhalt(tabelle)), m_zeilen(m_inhalt->text())
-{}
-
-std::optional<std::string_view> Tabellenleser::nächste()
-{
-    const auto zeile = m_zeilen.nächste();
-    if (zeile) {
-        prüfeSatzlänge(*zeile, m_pfad, nummer());
-    }
-    return zeile;
 }

@@ -1,12 +1,9 @@
 #pragma once
 
 #include "platform/dateien/Dateien.h"
-#include "platform/dateien/Zeilen.h"
 #include "store/Lesestand.h"
 
 #include <memory>
-#include <optional>
-#include <string_view>
 
 /// The three tables on disk, with their backups. Every reading operation opens the file, scans it from the start and
 /// lets it go; nothing is cached, so what another hand wrote is seen at the next operation. All that changes the
@@ -28,23 +25,4 @@ public:
 
 private:
     Dateien& m_dateien;
-};
-
-/// The lines of a table in file order, as views that hold as long as the reader.
-class Tabellenleser {
-public:
-    /// Throws Laufzeitfehler when the table can't be read.
-    Tabellenleser(const Bestand& bestand, Tabelle tabelle);
-
-    /// The next line, or nothing at the end. A line whose fields can't be counted (more than 32,767 characters) is
-    /// a Laufzeitfehler.
-    std::optional<std::string_view> nächste();
-    /// Number of the line last read, from 1.
-    std::size_t nummer() const { return m_zeilen.nummer(); }
-    const std::filesystem::path& pfad() const { return m_pfad; }
-
-private:
-    std::filesystem::path m_pfad;
-    std::unique_ptr<Dateiinhalt> m_inhalt;
-    Zeilen m_zeilen;
 };

@@ -2,21 +2,9 @@
 
 const std::filesystem::path& Bestandspfade::von(Tabelle tabelle) const
 {
-    switch (tabelle) {
-    case Tabelle::Kern:
-        return kernDat;
-    case Tabelle::Betr:
-        return betrDat;
-    case Tabelle::Diag:
-        return diagDat;
-    case Tabelle::KernBak:
-        return kernBak;
-    case Tabelle::BetrBak:
-        return betrBak;
-    case Tabelle::DiagBak:
-        break;
-    }
-    return diagBak;
+    constexpr std::array pfade{&Bestandspfade::kernDat, &Bestandspfade::betrDat, &Bestandspfade::diagDat,
+                               &Bestandspfade::kernBak, &Bestandspfade::betrBak, &Bestandspfade::diagBak};
+    return this->*pfade.at(static_cast<std::size_t>(tabelle));
 }
 
 Bestandspfade bildeBestandspfade(const std::filesystem::path& programmordner)

@@ -1,94 +1,96 @@
 #include "store/Bezugspruefung.h"
 
-#include "platform/text/Text.h"
-#include "platform/text/Zahl.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Klientenfelder.h"
 
 #include <algorithm>
-#include <limits>
 #include <vector>
+
+using namespace befundart;
 
 namespace {
 
-Fundort anZeile(Tabelle tabelle, std::size_t zeile, int feld = 0)
+std::string siehe(const Satzschlüssel& schlüssel, std::size_t zeile)
 {
-    return {.tabelle = tabelle, .datei = {}, .zeile = zeile, .feld = feld};
-}
-
-std::string alsNummer(const std::pair<std::int32_t, std::int32_t>& schlüssel)
-{
-    return verbinde(alsText(schlüssel.first), '-', alsText(schlüssel.second));
-}
-
-std::string siehe(std::string_view nummer, std::size_t zeile)
-{
-    return verbinde(nummer, ", siehe Zeile "_t, std::to_string(zeile));
+    return verbinde(schlüssel.text(), ", siehe Zeile "_t, std::to_string(zeile));
 }
 
 } // namespace
+
+void Bezugsprüfung::meldeDoppelte(Tabelle tabelle, std::size_t zeile, const Satzschlüssel& schlüssel, std::size_t erste)
+{
+    m_befunde.melde(SchlüsselDoppelt, {tabelle, zeile}, siehe(schlüssel, erste));
+}
 
 void Bezugsprüfung::nimmKlienten(std::size_t zeile, std::int32_t kernID, std::string_view status)
 {
     const bool istOderA = status == "o" || status == "a";
     const bool leer = status.empty() || status == std::string_view("\0", 1);
     if (!istOderA && !leer) {
-        m_befunde.melde(Befundart::StatusUnbekannt, anZeile(Tabelle::Kern, zeile, feld::kern::betrao),
-                        alsZitat(status));
+        m_befunde.melde(StatusUnbekannt, {Tabelle::Kern, zeile, feld::kern::betrao}, alsZitat(status));
     }
+    auto& klient = m_klienten[kernID];
+    if (klient.zeile != 0) {
+        meldeDoppelte(Tabelle::Kern, zeile, {kernID}, klient.zeile);
+        return;
+    }
+    klient.zeile = zeile;
     // an unknown status is told already
-    const char gelesen = istOderA ? status.front() : leer ? '\0' : '?';
-    const auto [ort, neu] = m_klienten.try_emplace(kernID, Klient{zeile, gelesen});
-    if (!neu) {
-        m_befunde.melde(Befundart::SchlüsselDoppelt, anZeile(Tabelle::Kern, zeile),
-                        siehe(alsText(kernID), ort->second.zeile));
-    }
+    klient.status = istOderA ? status.front() : leer ? '\0' : '?';
 }
 
 void Bezugsprüfung::nimmBetreuung(std::size_t zeile, std::int32_t kernID, std::int32_t betrID, const Zeitraum& zeitraum)
 {
-    const auto [ort, neu] = m_betreuungen.try_emplace({kernID, betrID}, Betreuung{zeile, zeitraum});
+    const auto [ort, neu] = m_klienten[kernID].betreuungen.try_emplace(betrID, Betreuung{zeile, zeitraum});
     if (!neu) {
-        m_befunde.melde(Befundart::SchlüsselDoppelt, anZeile(Tabelle::Betr, zeile),
-                        siehe(alsNummer(ort->first), ort->second.zeile));
+        meldeDoppelte(Tabelle::Betr, zeile, {kernID, betrID}, ort->second.zeile);
     }
     if (zeitraum.von && zeitraum.bis && *zeitraum.von > *zeitraum.bis) {
-        m_befunde.melde(Befundart::EndeVorBeginn, anZeile(Tabelle::Betr, zeile, feld::betr::ende));
+        m_befunde.melde(EndeVorBeginn, {Tabelle::Betr, zeile, feld::betr::ende});
     }
-    m_betreute.insert(kernID);
 }
 
 void Bezugsprüfung::nimmDiagnose(std::size_t zeile, std::int32_t kernID, std::int32_t betrID)
 {
-    const auto [ort, neu] = m_diagnosen.try_emplace({kernID, betrID}, zeile);
+    const auto [ort, neu] = m_klienten[kernID].diagnosen.try_emplace(betrID, zeile);
     if (!neu) {
-        m_befunde.melde(Befundart::SchlüsselDoppelt, anZeile(Tabelle::Diag, zeile),
-                        siehe(alsNummer(ort->first), ort->second));
+        meldeDoppelte(Tabelle::Diag, zeile, {kernID, betrID}, ort->second);
     }
 }
 
-std::pair<Bezugsprüfung::Betreuungen::const_iterator, Bezugsprüfung::Betreuungen::const_iterator>
-Bezugsprüfung::betreuungenVon(std::int32_t kernID) const
+void Bezugsprüfung::prüfeStatus(const Klient& klient)
 {
-    constexpr auto kleinste = std::numeric_limits<std::int32_t>::min();
-    return {m_betreuungen.lower_bound({kernID, kleinste}), m_betreuungen.lower_bound({kernID + 1, kleinste})};
-}
-
-void Bezugsprüfung::prüfeKlienten(std::int32_t kernID, const Klient& klient)
-{
-    const auto [anfang, ende] = betreuungenVon(kernID);
-    const bool offen = std::any_of(anfang, ende, [](const auto& b) { return b.second.zeitraum.offen; });
-    const char richtig = offen ? 'o' : anfang == ende ? '\0' : 'a';
-    if (klient.status != '?' && klient.status != richtig) {
-        m_befunde.melde(Befundart::StatusVeraltet, anZeile(Tabelle::Kern, klient.zeile, feld::kern::betrao));
+    const auto& betreuungen = klient.betreuungen;
+    const bool offen = std::ranges::any_of(betreuungen, [](const auto& b) { return b.second.zeitraum.offen; });
+    const char richtig = offen ? 'o' : betreuungen.empty() ? '\0' : 'a';
+    if (klient.zeile != 0 && klient.status != '?' && klient.status != richtig) {
+        m_befunde.melde(StatusVeraltet, {Tabelle::Kern, klient.zeile, feld::kern::betrao});
     }
 }
 
-void Bezugsprüfung::prüfeZeiträume(std::int32_t kernID)
+/// Each record with those that belong to it in the other tables.
+void Bezugsprüfung::prüfePartner(std::int32_t kernID, const Klient& klient)
 {
-    std::vector<std::pair<Schlüssel, Betreuung>> reihe;
-    const auto [anfang, ende] = betreuungenVon(kernID);
-    std::copy_if(anfang, ende, std::back_inserter(reihe), [](const auto& b) {
+    for (const auto& [betrID, betreuung] : klient.betreuungen) {
+        const auto nummer = Satzschlüssel{kernID, betrID}.text();
+        if (klient.zeile == 0) {
+            m_befunde.melde(BetreuungOhneKlient, {Tabelle::Betr, betreuung.zeile}, nummer);
+        }
+        if (!klient.diagnosen.contains(betrID)) {
+            m_befunde.melde(BetreuungOhneDiagnose, {Tabelle::Betr, betreuung.zeile}, nummer);
+        }
+    }
+    for (const auto& [betrID, zeile] : klient.diagnosen) {
+        if (!klient.betreuungen.contains(betrID)) {
+            m_befunde.melde(DiagnoseOhneBetreuung, {Tabelle::Diag, zeile}, Satzschlüssel{kernID, betrID}.text());
+        }
+    }
+}
+
+void Bezugsprüfung::prüfeZeiträume(std::int32_t kernID, const Klient& klient)
+{
+    std::vector<std::pair<std::int32_t, Betreuung>> reihe;
+    std::ranges::copy_if(klient.betreuungen, std::back_inserter(reihe), [](const auto& b) {
         const auto& zeitraum = b.second.zeitraum;
         return zeitraum.von && (zeitraum.offen || (zeitraum.bis && *zeitraum.von <= *zeitraum.bis));
     });
@@ -96,14 +98,13 @@ void Bezugsprüfung::prüfeZeiträume(std::int32_t kernID)
     // the one before that reaches furthest
     const Betreuung* weiteste = nullptr;
     const Betreuung* offene = nullptr;
-    for (const auto& [schlüssel, betreuung] : reihe) {
+    for (const auto& [betrID, betreuung] : reihe) {
         if (betreuung.zeitraum.offen && offene != nullptr) {
-            m_befunde.melde(Befundart::MehrereOffen, anZeile(Tabelle::Betr, betreuung.zeile, feld::betr::ende),
-                            siehe(alsNummer(schlüssel), offene->zeile));
+            m_befunde.melde(MehrereOffen, {Tabelle::Betr, betreuung.zeile, feld::betr::ende},
+                            siehe({kernID, betrID}, offene->zeile));
         }
         if (weiteste != nullptr && (weiteste->zeitraum.offen || *weiteste->zeitraum.bis >= *betreuung.zeitraum.von)) {
-            m_befunde.melde(Befundart::Überschneidung, anZeile(Tabelle::Betr, betreuung.zeile),
-                            siehe(alsNummer(schlüssel), weiteste->zeile));
+            m_befunde.melde(Überschneidung, {Tabelle::Betr, betreuung.zeile}, siehe({kernID, betrID}, weiteste->zeile));
         }
         offene = betreuung.zeitraum.offen ? &betreuung : offene;
         if (weiteste == nullptr || (!weiteste->zeitraum.offen &&
@@ -116,24 +117,8 @@ void Bezugsprüfung::prüfeZeiträume(std::int32_t kernID)
 void Bezugsprüfung::schließeAb()
 {
     for (const auto& [kernID, klient] : m_klienten) {
-        prüfeKlienten(kernID, klient);
-    }
-    for (const auto& [schlüssel, betreuung] : m_betreuungen) {
-        if (!m_klienten.contains(schlüssel.first)) {
-            m_befunde.melde(Befundart::BetreuungOhneKlient, anZeile(Tabelle::Betr, betreuung.zeile),
-                            alsNummer(schlüssel));
-        }
-        if (!m_diagnosen.contains(schlüssel)) {
-            m_befunde.melde(Befundart::BetreuungOhneDiagnose, anZeile(Tabelle::Betr, betreuung.zeile),
-                            alsNummer(schlüssel));
-        }
-    }
-    for (const auto& [schlüssel, zeile] : m_diagnosen) {
-        if (!m_betreuungen.contains(schlüssel)) {
-            m_befunde.melde(Befundart::DiagnoseOhneBetreuung, anZeile(Tabelle::Diag, zeile), alsNummer(schlüssel));
-        }
-    }
-    for (const auto kernID : m_betreute) {
-        prüfeZeiträume(kernID);
+        prüfeStatus(klient);
+        prüfePartner(kernID, klient);
+        prüfeZeiträume(kernID, klient);
     }
 }

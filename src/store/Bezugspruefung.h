@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/Befund.h"
+#include "store/Lesestand.h"
 
 #include "platform/text/Datum.h"
 
@@ -8,9 +9,7 @@
 #include <cstdint>
 #include <map>
 #include <optional>
-#include <set>
 #include <string_view>
-#include <utility>
 
 /// What the records of the three tables say of each other: an index that is filled in one pass over each table, and
 /// judged at its end.
@@ -30,25 +29,23 @@ public:
     void schließeAb();
 
 private:
-    using Schlüssel = std::pair<std::int32_t, std::int32_t>;
-    struct Klient {
-        std::size_t zeile;
-        char status; ///< 'o', 'a', or 0 for none
-    };
     struct Betreuung {
         std::size_t zeile;
         Zeitraum zeitraum;
     };
-    using Betreuungen = std::map<Schlüssel, Betreuung>;
+    /// What the tables hold of a client, the episodes in order of their numbers.
+    struct Klient {
+        std::size_t zeile = 0; ///< 0: the client table lacks it
+        char status = 0;       ///< 'o', 'a', or 0 for none
+        std::map<std::int32_t, Betreuung> betreuungen{};
+        std::map<std::int32_t, std::size_t> diagnosen{};
+    };
 
-    void prüfeKlienten(std::int32_t kernID, const Klient& klient);
-    void prüfeZeiträume(std::int32_t kernID);
-    /// The client's episodes, in order of their numbers.
-    std::pair<Betreuungen::const_iterator, Betreuungen::const_iterator> betreuungenVon(std::int32_t kernID) const;
+    void meldeDoppelte(Tabelle tabelle, std::size_t zeile, const Satzschlüssel& schlüssel, std::size_t erste);
+    void prüfeStatus(const Klient& klient);
+    void prüfePartner(std::int32_t kernID, const Klient& klient);
+    void prüfeZeiträume(std::int32_t kernID, const Klient& klient);
 
     Befundliste& m_befunde;
     std::map<std::int32_t, Klient> m_klienten;
-    Betreuungen m_betreuungen;
-    std::map<Schlüssel, std::size_t> m_diagnosen;
-    std::set<std::int32_t> m_betreute;
 };

@@ -1,20 +1,13 @@
 #include "store/Bruchstuecke.h"
 
+#include "platform/dateien/Zeilen.h"
 #include "platform/text/Text.h"
 #include "store/Sicherungen.h"
 #include "store/Vorgang.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace {
-
-struct Bruchstück {
-    Tabelle tabelle;
-    std::string davor; ///< the table without it
-    std::string rest;
-    std::size_t nummer; ///< of its line
-};
 
 /// Told by the last byte, so that a start need not read whole tables for this. Whoever reads the table tells that it
 /// is missing.
@@ -25,26 +18,24 @@ bool endetMitZeile(Dateien& dateien, const std::filesystem::path& pfad)
     return letztes == nullptr || letztes->text() == "\n" || letztes->text() == "\r";
 }
 
-std::optional<Bruchstück> findeBruchstück(const Bestand& bestand, Tabelle tabelle)
+void stelleBeiseite(const Bestand& bestand, Tabelle tabelle)
 {
-    if (endetMitZeile(bestand.dateien(), bestand.pfade().von(tabelle))) {
-        return std::nullopt;
-    }
     const auto inhalt = bestand.inhalt(tabelle);
     const auto text = inhalt->text();
     const auto rest = bruchstückIn(text);
     if (rest.empty()) {
-        return std::nullopt;
+        return;
     }
-    return Bruchstück{tabelle, std::string(text.substr(0, text.size() - rest.size())), std::string(rest),
-                      zähleZeilen(text)};
-}
-
-void melde(const Bestand& bestand, const Bruchstück& stück, const std::filesystem::path& ordner)
-{
+    auto& dateien = bestand.dateien();
+    const auto& pfad = bestand.pfade().von(tabelle);
+    const auto ordner = legeSicherungsordnerAn(bestand, verbinde(dateien.zeitVon(pfad), " halbe Zeile"_t));
+    dateien.verdopple(dateien.ziel(pfad), ordner / pfad.filename());
+    dateien.sichereOrdner(ordner);
+    Vorgang vorgang(bestand);
+    vorgang.setzeInhalt(tabelle, std::string(text.substr(0, text.size() - rest.size())));
+    vorgang.bestätige();
     bestand.meldung()(
-        verbinde(ortsangabe(bestand.pfade().von(stück.tabelle), stück.nummer),
-                 ": Die letzte Zeile war nur halb geschrieben (\""_t, stück.rest,
+        verbinde(ortsangabe(pfad, zähleZeilen(text)), ": Die letzte Zeile war nur halb geschrieben (\""_t, rest,
                  "\") und gehört zu niemandem. Sie wurde herausgenommen. Die Tabelle, wie sie war, liegt in \""_t,
                  pfadtext(ordner), "\"."_t),
         Symbol::Warnung);
@@ -62,19 +53,9 @@ std::string_view bruchstückIn(std::string_view inhalt)
 
 void stelleBruchstückeBeiseite(const Bestand& bestand)
 {
-    auto& dateien = bestand.dateien();
     for (const auto tabelle : dieTabellen) {
-        auto stück = findeBruchstück(bestand, tabelle);
-        if (!stück) {
-            continue;
+        if (!endetMitZeile(bestand.dateien(), bestand.pfade().von(tabelle))) {
+            stelleBeiseite(bestand, tabelle);
         }
-        const auto& pfad = bestand.pfade().von(tabelle);
-        const auto ordner = legeSicherungsordnerAn(dateien, bestand.pfade(), dateien.zeitVon(pfad), " halbe Zeile"_t);
-        dateien.verdopple(dateien.ziel(pfad), ordner / pfad.filename());
-        dateien.sichereOrdner(ordner);
-        Vorgang vorgang(bestand);
-        vorgang.setzeInhalt(tabelle, std::move(stück->davor));
-        vorgang.bestätige();
-        melde(bestand, *stück, ordner);
     }
 }

@@ -6,17 +6,9 @@
 #include <algorithm>
 #include <utility>
 
-namespace {
-
-bool fehltZeilenende(std::string_view inhalt)
-{
-    return !inhalt.empty() && inhalt.back() != '\n' && inhalt.back() != '\r';
-}
-
-} // namespace
-
-Fassung::Fassung(Tabelle tabelle, std::filesystem::path pfad, std::unique_ptr<Dateiinhalt> inhalt)
-    : m_tabelle(tabelle), m_pfad(std::move(pfad)), m_inhalt(std::move(inhalt))
+Fassung::Fassung(Tabelle tabelle, std::filesystem::path pfad, std::unique_ptr<Dateiinhalt> inhalt,
+                 std::optional<std::uint64_t> alteLänge)
+    : m_tabelle(tabelle), m_pfad(std::move(pfad)), m_inhalt(std::move(inhalt)), m_alteLänge(alteLänge)
 {}
 
 std::string_view Fassung::behalte(std::string_view satz)
@@ -54,7 +46,7 @@ bool Fassung::ersetze(const Satzschlüssel& schlüssel, std::string_view satz)
     const auto text = behalte(satz);
     bool gefunden = false;
     for (auto& zeile : *m_zeilen) {
-        if (zeile.schlüssel.passtZu(schlüssel)) {
+        if (zeile.schlüssel == schlüssel) {
             zeile.text = text;
             gefunden = true;
         }
@@ -65,7 +57,7 @@ bool Fassung::ersetze(const Satzschlüssel& schlüssel, std::string_view satz)
 bool Fassung::lösche(const Satzschlüssel& schlüssel)
 {
     zerlege();
-    return std::erase_if(*m_zeilen, [&](const Zeile& zeile) { return zeile.schlüssel.passtZu(schlüssel); }) > 0;
+    return std::erase_if(*m_zeilen, [&](const Zeile& zeile) { return zeile.schlüssel == schlüssel; }) > 0;
 }
 
 void Fassung::löscheKlienten(std::int32_t kernID)
@@ -103,8 +95,9 @@ void Fassung::schreibe(Schreiber& schreiber) const
         }
         return;
     }
-    schreiber.text(m_inhalt->text());
-    if (!m_anhang.empty() && fehltZeilenende(m_inhalt->text())) {
+    const auto inhalt = m_inhalt->text();
+    schreiber.text(inhalt);
+    if (!m_anhang.empty() && !inhalt.empty() && !inhalt.ends_with('\n') && !inhalt.ends_with('\r')) {
         schreiber.text("\r\n");
     }
     for (const auto zeile : m_anhang) {

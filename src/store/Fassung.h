@@ -19,7 +19,9 @@
 /// written with CR LF line ends then.
 class Fassung {
 public:
-    Fassung(Tabelle tabelle, std::filesystem::path pfad, std::unique_ptr<Dateiinhalt> inhalt);
+    /// `alteLänge` is that of the file on the disk; none: it is not there yet.
+    Fassung(Tabelle tabelle, std::filesystem::path pfad, std::unique_ptr<Dateiinhalt> inhalt,
+            std::optional<std::uint64_t> alteLänge);
     Fassung(const Fassung&) = delete;
     Fassung& operator=(const Fassung&) = delete;
 
@@ -33,11 +35,12 @@ public:
 
     void laufe(const Zeilenbesuch& besuch) const;
     void schreibe(Schreiber& schreiber) const;
+    std::optional<std::uint64_t> alteLänge() const { return m_alteLänge; }
 
 private:
     struct Zeile {
         std::string_view text;
-        Zeilenschlüssel schlüssel;
+        Satzschlüssel schlüssel;
     };
 
     void zerlege();
@@ -46,6 +49,7 @@ private:
     Tabelle m_tabelle;
     std::filesystem::path m_pfad;
     std::unique_ptr<Dateiinhalt> m_inhalt;
+    std::optional<std::uint64_t> m_alteLänge;
     std::deque<std::string> m_neue;         ///< owns the texts of new lines
     std::vector<std::string_view> m_anhang; ///< new lines at the end, while the table is in one piece
     std::optional<std::vector<Zeile>> m_zeilen;

@@ -1,27 +1,132 @@
 #include "store/Feldpruefung.h"
 
-#include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/Diagnosesatz.h"
 #include "satz/Klientenfelder.h"
-#include "satz/Wertpruefung.h"
+#include "satz/moNationen.h"
+#include "store/moBereinigeDatum.h"
 
 #include <algorithm>
 #include <array>
-#include <span>
+#include <charconv>
 
 namespace {
 
-bool istWert(Tabelle tabelle, int feld, std::string_view wert)
+using namespace befundart;
+
+bool istIn(Werteliste liste, std::string_view wert)
 {
+    return werte::codeZu(liste, wert) != nullptr;
+}
+
+/// Digits alone: blanks or a sign in front are nothing that the program writes.
+bool istZahlIn(werte::Zahlenbereich bereich, std::string_view wert)
+{
+    int zahl = 0;
+    const auto [ende, fehler] = std::from_chars(wert.data(), wert.data() + wert.size(), zahl);
+    return fehler == std::errc() && ende == wert.data() + wert.size() && zahl >= bereich.von && zahl <= bereich.bis;
+}
+
+bool istFlagge(std::string_view wert)
+{
+    const auto wort = klein(wert);
+    return wort == "wahr" || wort == "falsch";
+}
+
+/// Older records leave the infections empty, which the export takes as no answer.
+bool istInfektion(const Satzfeld& feld)
+{
+    return feld.hatListe(werte::test) || feld.hatListe(werte::hepatitisC);
+}
+
+bool istBetreuungswert(const Satzfeld& feld, std::string_view wert)
+{
+    if (const auto bereich = zahlenbereich(feld.art)) {
+        return wert == feld.vorgabe || istZahlIn(*bereich, wert);
+    }
+    switch (feld.art) {
+    case Feldart::option:
+        return istIn(feld.werte, wert) || (wert.empty() && istInfektion(feld));
+    case Feldart::nation:
+        return wert == feld.vorgabe || !getCodeZuNation(wert).empty();
+    case Feldart::hdOhne:
+    case Feldart::ivKonsum:
+        return istFlagge(wert);
+    default:
+        return true;
+    }
+}
+
+bool istBlockwert(int gruppe, int platz, const Satzfeld& feld, std::string_view wert)
+{
+    if (istLeerwert(gruppe, platz, wert) || wert == antworttext::keine) {
+        return true;
+    }
+    switch (feld.art) {
+    case Feldart::option: // the digits of an ICD code are stored without their text
+        return istIn(feld.werte, wert) || (platz == ICDStelle4 && werte::textZu(feld.werte, wert) != nullptr);
+    case Feldart::zahl:
+    case Feldart::hdAlter:
+        return istZahlIn(antwortbereich(platz), wert);
+    case Feldart::icd0000:
+        return wert == "1";
+    default:
+        return false; // nothing is asked here
+    }
+}
+
+bool istDiagnosewert(int nummer, const Satzfeld& feld, std::string_view wert)
+{
+    using namespace feld::diag;
+    if (istAntwort(nummer)) {
+        return istBlockwert(gruppeVon(nummer), platzVon(nummer), feld, wert);
+    }
+    return nummer < ersteAntwort || nummer >= bitfeld || istWeitereDiagnose(nummer - weitere(0), wert);
+}
+
+/// Whether the value is one that the program writes into the field: from its list, its range of numbers, its default,
+/// or what stands for an answer not given. Free texts, keys, dates and the bit field have rules of their own.
+bool istWert(Tabelle tabelle, int nummer, std::string_view wert)
+{
+    const auto& feld = feldAus(satzfelder(tabelle), nummer);
     switch (tabelle) {
     case Tabelle::Betr:
         return istBetreuungswert(feld, wert);
     case Tabelle::Diag:
-        return istDiagnosewert(feld, wert);
+        return istDiagnosewert(nummer, feld, wert);
     default:
-        return istKlientenwert(feld, wert);
+        return nummer == feld::kern::leer ? wert.empty() : feld.werte.empty() || istIn(feld.werte, wert);
     }
+}
+
+struct Wertfolge {
+    Tabelle tabelle;
+    Feldart art;
+    std::string_view folge;
+};
+
+constexpr auto wirdGemeldet = "wird unverändert angezeigt; der Export meldet ihn und hat dort keinen richtigen Wert"_t;
+constexpr std::array wertfolgen{
+    Wertfolge{Tabelle::Kern, Feldart::klient, wirdGemeldet},
+    Wertfolge{Tabelle::Betr, Feldart::option, wirdGemeldet},
+    Wertfolge{Tabelle::Betr, Feldart::nation, "wird unverändert angezeigt; der Export läßt die Spalte leer"_t},
+    Wertfolge{Tabelle::Betr, Feldart::hdOhne, "gilt als Falsch"_t},
+    Wertfolge{Tabelle::Betr, Feldart::ivKonsum, "gilt als Falsch"_t},
+    Wertfolge{Tabelle::Diag, Feldart::option, "der Export meldet ihn oder gibt einen anderen Wert aus"_t},
+    Wertfolge{Tabelle::Diag, Feldart::icd0000, "gilt im Export nicht als Hauptdiagnose"_t},
+    Wertfolge{Tabelle::Diag, Feldart::leer, "wird nicht exportiert; der Problembereich gilt als belegt"_t},
+};
+
+/// What becomes of a value that no list has; empty: it goes its way unchanged.
+std::string_view folgeFürWert(Tabelle tabelle, int nummer)
+{
+    if (tabelle == Tabelle::Kern && nummer == feld::kern::leer) {
+        return "wird nicht gelesen, ein OK leert das Feld"_t;
+    }
+    const auto art = feldAus(satzfelder(tabelle), nummer).art;
+    const auto ort = std::ranges::find_if(
+        wertfolgen, [&](const Wertfolge& folge) { return folge.tabelle == tabelle && folge.art == art; });
+    return ort == wertfolgen.end() ? std::string_view() : ort->folge;
 }
 
 bool istBelegt(const Satzzeile& satz, int gruppe)
@@ -40,16 +145,6 @@ bool hatFremdeBits(std::int64_t bits)
     return bits % gruppenbit(1) != 0 || bits >= gruppenbit(höchsteGruppe + 1);
 }
 
-/// An empty bit field is that of an imported record: its groups are those with answers.
-void prüfeFehlendeBits(const Satzzeile& satz, std::int64_t bits, Befundliste& befunde)
-{
-    for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
-        if (!hatBit(bits, gruppe) && istBelegt(satz, gruppe)) {
-            befunde.melde(Befundart::BitFehlt, satz.ort(feld::diag::bitfeld), gruppenname(gruppe));
-        }
-    }
-}
-
 std::string_view folgeFürDatum(Tabelle tabelle, bool wirdErgänzt)
 {
     if (wirdErgänzt) {
@@ -60,95 +155,54 @@ std::string_view folgeFürDatum(Tabelle tabelle, bool wirdErgänzt)
                : "Export und Bearbeiten des Zeitraums enden mit einer Meldung oder einem Laufzeitfehler"_t;
 }
 
-struct Wertfolge {
-    Feldart art;
-    std::string_view folge;
-};
-
-constexpr auto wirdGemeldet = "wird unverändert angezeigt; der Export meldet ihn und hat dort keinen richtigen Wert"_t;
-constexpr std::array betreuungsfolgen{
-    Wertfolge{Feldart::option, wirdGemeldet},
-    Wertfolge{Feldart::nation, "wird unverändert angezeigt; der Export läßt die Spalte leer"_t},
-    Wertfolge{Feldart::hdOhne, "gilt als Falsch"_t},
-    Wertfolge{Feldart::ivKonsum, "gilt als Falsch"_t},
-};
-constexpr std::array diagnosefolgen{
-    Wertfolge{Feldart::option, "der Export meldet ihn oder gibt einen anderen Wert aus"_t},
-    Wertfolge{Feldart::icd0000, "gilt im Export nicht als Hauptdiagnose"_t},
-    Wertfolge{Feldart::leer, "wird nicht exportiert; der Problembereich gilt als belegt"_t},
-};
-
-std::string_view finde(std::span<const Wertfolge> folgen, Feldart art)
-{
-    const auto ort = std::ranges::find(folgen, art, &Wertfolge::art);
-    return ort == folgen.end() ? std::string_view() : ort->folge;
-}
-
-/// What becomes of a value that no list has; empty: it goes its way unchanged.
-std::string_view folgeFürWert(Tabelle tabelle, int feld)
-{
-    switch (tabelle) {
-    case Tabelle::Betr:
-        return finde(betreuungsfolgen, feldOderNichts(betreuungsfelder(), feld).art);
-    case Tabelle::Diag:
-        return finde(diagnosefolgen, feldOderNichts(diagnosefelder(), feld).art);
-    default:
-        return feld == feld::kern::leer ? "wird nicht gelesen, ein OK leert das Feld"_t : wirdGemeldet;
-    }
-}
-
-/// The start completes years of less than three digits, whatever stands before them, in lines that go on behind them.
-bool wirdErgänzt(const Satzzeile& satz, int feld)
-{
-    const auto datum = satz.feld(feld);
-    return satz.felder.size() > static_cast<std::size_t>(feld) &&
-           datum.size() - std::min(datum.size(), datum.rfind('.') + 1) < 3;
-}
-
 } // namespace
 
-void prüfeWerte(const Satzzeile& satz, Befundliste& befunde)
+void prüfeWerte(const Satzzeile& satz)
 {
-    for (int feld = 1; feld <= static_cast<int>(satz.felder.size()); ++feld) {
+    const auto bekannte = static_cast<int>(satzfelder(satz.tabelle).size());
+    for (int feld = 1; feld <= bekannte && satz.hat(feld); ++feld) {
         if (!istWert(satz.tabelle, feld, satz.feld(feld))) {
-            befunde.melde(Befundart::WertUnbekannt, satz.ort(feld), alsZitat(satz.feld(feld)),
-                          folgeFürWert(satz.tabelle, feld));
+            satz.melde(WertUnbekannt, feld, alsZitat(satz.feld(feld)), folgeFürWert(satz.tabelle, feld));
         }
     }
 }
 
-void prüfeBitfeld(const Satzzeile& satz, Befundliste& befunde)
+void prüfeBitfeld(const Satzzeile& satz)
 {
     const auto text = getrimmt(satz.feld(feld::diag::bitfeld));
     if (text.empty()) {
-        return;
+        return; // that of an imported record: its groups are those with answers
     }
     const auto bits = leseGanzzahl64(text);
     if (!bits) {
-        befunde.melde(Befundart::BitfeldKeineZahl, satz.ort(feld::diag::bitfeld), alsZitat(text));
+        satz.melde(BitfeldKeineZahl, feld::diag::bitfeld, alsZitat(text));
         return;
     }
     if (hatFremdeBits(*bits)) {
-        befunde.melde(Befundart::BitfeldFremd, satz.ort(feld::diag::bitfeld), alsZitat(text));
+        satz.melde(BitfeldFremd, feld::diag::bitfeld, alsZitat(text));
     }
     if (*bits < 0) {
-        befunde.melde(Befundart::BitfeldNegativ, satz.ort(feld::diag::bitfeld), alsZitat(text));
+        satz.melde(BitfeldNegativ, feld::diag::bitfeld, alsZitat(text));
     }
-    prüfeFehlendeBits(satz, *bits, befunde);
+    for (int gruppe = 1; gruppe <= höchsteGruppe; ++gruppe) {
+        if (!hatBit(*bits, gruppe) && istBelegt(satz, gruppe)) {
+            satz.melde(BitFehlt, feld::diag::bitfeld, gruppenname(gruppe));
+        }
+    }
 }
 
-std::optional<Datum> prüfeDatum(const Satzzeile& satz, int feld, std::string_view ausnahme, Befundliste& befunde)
+std::optional<Datum> prüfeDatum(const Satzzeile& satz, int feld, std::string_view ausnahme)
 {
     const auto text = satz.feld(feld);
-    if (static_cast<std::size_t>(feld) > satz.felder.size() || (!ausnahme.empty() && text == ausnahme)) {
+    if (!satz.hat(feld) || (!ausnahme.empty() && text == ausnahme)) {
         return std::nullopt;
     }
     const auto datum = leseDatum(text);
+    const bool wirdErgänzt = satz.hat(feld + 1) && hatKurzesJahr(text);
     if (!datum) {
-        befunde.melde(Befundart::DatumUngültig, satz.ort(feld), alsZitat(text),
-                      folgeFürDatum(satz.tabelle, wirdErgänzt(satz, feld)));
-    } else if (wirdErgänzt(satz, feld)) {
-        befunde.melde(Befundart::DatumZweistellig, satz.ort(feld), alsZitat(text));
+        satz.melde(DatumUngültig, feld, alsZitat(text), folgeFürDatum(satz.tabelle, wirdErgänzt));
+    } else if (wirdErgänzt) {
+        satz.melde(DatumZweistellig, feld, alsZitat(text));
     }
     return datum;
 }

@@ -11,6 +11,7 @@
 #include "satz/moHelferlein.h"
 
 #include <algorithm>
+#include <array>
 
 namespace fs = std::filesystem;
 
@@ -21,16 +22,8 @@ std::string Satzschlüssel::text() const
 
 std::string_view satznameIn(Tabelle tabelle)
 {
-    switch (tabelle) {
-    case Tabelle::Betr:
-    case Tabelle::BetrBak:
-        return "BetrDS"_t;
-    case Tabelle::Diag:
-    case Tabelle::DiagBak:
-        return "DiagDS"_t;
-    default:
-        return "KernDS"_t;
-    }
+    constexpr std::array namen{"KernDS"_t, "BetrDS"_t, "DiagDS"_t};
+    return namen.at(static_cast<std::size_t>(tabelle));
 }
 
 std::string ortsangabe(const fs::path& tabelle, std::size_t nummer)
@@ -58,10 +51,10 @@ std::int32_t leseSchlüssel(std::string_view zeile, int feld, int bits, const fs
     return *zahl;
 }
 
-Zeilenschlüssel leseSchlüsselDerZeile(Tabelle tabelle, std::string_view zeile, const fs::path& pfad, std::size_t nummer)
+Satzschlüssel leseSchlüsselDerZeile(Tabelle tabelle, std::string_view zeile, const fs::path& pfad, std::size_t nummer)
 {
     if (tabelle == Tabelle::Kern) {
-        return {leseSchlüssel(zeile, feld::kern::kernID, 16, pfad, nummer), 0};
+        return {leseSchlüssel(zeile, feld::kern::kernID, 16, pfad, nummer)};
     }
     static_assert(feld::betr::kernID == feld::diag::kernID && feld::betr::betrID == feld::diag::betrID);
     const auto kernID = leseSchlüssel(zeile, feld::betr::kernID, 16, pfad, nummer);
@@ -72,31 +65,17 @@ std::string Lesestand::get(Tabelle tabelle, const Satzschlüssel& schlüssel) co
 {
     std::optional<std::string> gefunden;
     laufe(tabelle, [&](std::string_view zeile, std::size_t nummer) {
-        if (leseSchlüsselDerZeile(tabelle, zeile, m_pfade.von(tabelle), nummer).passtZu(schlüssel)) {
+        if (leseSchlüsselDerZeile(tabelle, zeile, m_pfade.von(tabelle), nummer) == schlüssel) {
             gefunden = zeile;
         }
         return !gefunden;
     });
     if (!gefunden) {
-        melde(verbinde("Fehler in get"_t, satznameIn(tabelle), ": ID "_t, schlüssel.text(), " wurde nicht gefunden"_t),
-              Symbol::Stop);
+        m_meldung(
+            verbinde("Fehler in get"_t, satznameIn(tabelle), ": ID "_t, schlüssel.text(), " wurde nicht gefunden"_t),
+            Symbol::Stop);
     }
     return gefunden.value_or(std::string());
-}
-
-std::string Lesestand::getKernDS(std::int32_t kernID) const
-{
-    return get(Tabelle::Kern, {kernID});
-}
-
-std::string Lesestand::getBetrDS(std::int32_t kernID, std::int32_t betrID) const
-{
-    return get(Tabelle::Betr, {kernID, betrID});
-}
-
-std::string Lesestand::getDiagDS(std::int32_t kernID, std::int32_t betrID) const
-{
-    return get(Tabelle::Diag, {kernID, betrID});
 }
 
 std::int32_t Lesestand::höchsteKernID() const
@@ -145,7 +124,7 @@ std::string Lesestand::ortVon(Tabelle tabelle, const Satzschlüssel& schlüssel)
     std::string ort = verbinde("\""_t, pfadtext(m_pfade.von(tabelle)), "\""_t);
     try {
         laufe(tabelle, [&](std::string_view zeile, std::size_t nummer) {
-            const bool trifft = leseSchlüsselDerZeile(tabelle, zeile, m_pfade.von(tabelle), nummer).passtZu(schlüssel);
+            const bool trifft = leseSchlüsselDerZeile(tabelle, zeile, m_pfade.von(tabelle), nummer) == schlüssel;
             if (trifft) {
                 ort = ortsangabe(m_pfade.von(tabelle), nummer);
             }

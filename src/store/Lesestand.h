@@ -23,6 +23,7 @@ struct Satzschlüssel {
     std::optional<std::int32_t> betrID = std::nullopt;
 
     std::string text() const; ///< "3", "3-1"
+    bool operator==(const Satzschlüssel&) const = default;
 };
 
 /// The reading operations on the tables. Keys are compared as 16-bit numbers; a key that is none, a missing file,
@@ -33,9 +34,15 @@ public:
     virtual ~Lesestand() = default;
 
     /// The first line with the key; without one the box "Fehler in get…" and an empty text.
-    std::string getKernDS(std::int32_t kernID) const;
-    std::string getBetrDS(std::int32_t kernID, std::int32_t betrID) const;
-    std::string getDiagDS(std::int32_t kernID, std::int32_t betrID) const;
+    std::string getKernDS(std::int32_t kernID) const { return get(Tabelle::Kern, {kernID}); }
+    std::string getBetrDS(std::int32_t kernID, std::int32_t betrID) const
+    {
+        return get(Tabelle::Betr, {kernID, betrID});
+    }
+    std::string getDiagDS(std::int32_t kernID, std::int32_t betrID) const
+    {
+        return get(Tabelle::Diag, {kernID, betrID});
+    }
     /// Highest id, 0 when the table is empty.
     std::int32_t höchsteKernID() const;
     /// Highest betrID of the client, 0 when it has none.
@@ -55,9 +62,6 @@ public:
     const Bestandspfade& pfade() const { return m_pfade; }
     const Bestandsmeldung& meldung() const { return m_meldung; }
 
-protected:
-    void melde(std::string_view text, Symbol symbol) const { m_meldung(text, symbol); }
-
 private:
     std::string get(Tabelle tabelle, const Satzschlüssel& schlüssel) const;
 
@@ -65,7 +69,7 @@ private:
     const Bestandsmeldung& m_meldung;
 };
 
-/// How messages name the records of a table: "KernDS", "BetrDS", "DiagDS".
+/// How messages name the records of one of the three tables: "KernDS", "BetrDS", "DiagDS".
 std::string_view satznameIn(Tabelle tabelle);
 
 /// File and line for the text of a failure.
@@ -75,16 +79,7 @@ void prüfeSatzlänge(std::string_view satz, const std::filesystem::path& tabell
 /// A key field read as the tables read it. `bits` is 16 or 32. Laufzeitfehler names file, line, field.
 std::int32_t leseSchlüssel(std::string_view zeile, int feld, int bits, const std::filesystem::path& tabelle,
                            std::size_t nummer);
-/// Both keys of a line (the episode's is 0 in the client table). Every key field of a line is read, so that a table
-/// with a damaged key is not read past that line.
-struct Zeilenschlüssel {
-    std::int32_t kernID = 0;
-    std::int32_t betrID = 0;
-
-    bool passtZu(const Satzschlüssel& gesucht) const
-    {
-        return kernID == gesucht.kernID && betrID == gesucht.betrID.value_or(0);
-    }
-};
-Zeilenschlüssel leseSchlüsselDerZeile(Tabelle tabelle, std::string_view zeile, const std::filesystem::path& pfad,
-                                      std::size_t nummer);
+/// What a line of the table is found by. Every key field of it is read, so that a table with a damaged key is not read
+/// past that line.
+Satzschlüssel leseSchlüsselDerZeile(Tabelle tabelle, std::string_view zeile, const std::filesystem::path& pfad,
+                                    std::size_t nummer);

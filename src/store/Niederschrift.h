@@ -1,22 +1,13 @@
 #pragma once
 
-#include "platform/dateien/Dateien.h"
 #include "platform/umgebung/Laufzeitfehler.h"
-#include "store/Lesestand.h"
+#include "store/Bestand.h"
+#include "store/Fassung.h"
 
-#include <cstdint>
-#include <functional>
-#include <optional>
-#include <vector>
+#include <filesystem>
+#include <map>
 
 /// How the tables of an action reach the disk together; `Vorgang.h` tells the whole.
-
-/// What is to be written into one file of the store.
-struct Schreibauftrag {
-    Tabelle tabelle;
-    std::optional<std::uint64_t> alteLänge; ///< none: the file is not there yet
-    std::function<void(Schreiber&)> inhalt;
-};
 
 /// The action is saved, but not in all tables yet: the next start completes it.
 class UnvollendeterVorgang : public Laufzeitfehler {
@@ -26,13 +17,12 @@ public:
 
 /// Puts all of it in the place of the files, or nothing. A failure before the commit record is on the disk is a
 /// Laufzeitfehler that leaves everything as it was; one after it is an UnvollendeterVorgang.
-void schreibeNieder(Dateien& dateien, const Bestandspfade& pfade, const Bestandsmeldung& meldung,
-                    const std::vector<Schreibauftrag>& aufträge);
+void schreibeNieder(const Bestand& bestand, const std::map<Tabelle, Fassung>& fassungen);
 
 /// At start, under the lock and before anything is read: completes what a commit record tells, and removes what was
 /// begun without one. Can be broken off and repeated at any point. New tables that fit no longer, because somebody
 /// has changed the old ones meanwhile, are moved to the backups, and a box says so.
-void vollendeVorgang(Dateien& dateien, const Bestandspfade& pfade, const Bestandsmeldung& meldung);
+void vollendeVorgang(const Bestand& bestand);
 
 /// Where the new content of a table is written, beside the place where the table really lies.
 std::filesystem::path neuNeben(Dateien& dateien, const std::filesystem::path& tabelle);

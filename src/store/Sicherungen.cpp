@@ -12,23 +12,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The contents of three files; nothing for one that is not there.
-using Dreierinhalt = std::array<std::unique_ptr<Dateiinhalt>, 3>;
+/// The texts of three files; empty for one that is not there.
+using Dreiertext = std::array<std::string, 3>;
 
-std::string_view textVon(const std::unique_ptr<Dateiinhalt>& inhalt)
+Dreiertext textDerBak(const Bestand& bestand)
 {
-    return inhalt ? inhalt->text() : std::string_view();
-}
-
-Dreierinhalt inhaltDerBak(const Bestand& bestand)
-{
-    Dreierinhalt inhalte;
+    Dreiertext texte;
     for (std::size_t i = 0; i < dieSicherungen.size(); ++i) {
         if (!bestand.dateien().fehlt(bestand.pfade().von(dieSicherungen[i]))) {
-            inhalte[i] = bestand.inhalt(dieSicherungen[i]);
+            texte[i] = bestand.inhalt(dieSicherungen[i])->text();
         }
     }
-    return inhalte;
+    return texte;
 }
 
 /// The time of the backup: that of its newest file.
@@ -44,12 +39,12 @@ std::string zeitDerBak(const Bestand& bestand)
     return zeit;
 }
 
-bool liegtSchonDa(const Bestand& bestand, const fs::path& ordner, const Dreierinhalt& inhalte)
+bool liegtSchonDa(const Bestand& bestand, const fs::path& ordner, const Dreiertext& texte)
 {
     auto& dateien = bestand.dateien();
     for (std::size_t i = 0; i < dieSicherungen.size(); ++i) {
         const auto kopie = ordner / bestand.pfade().von(dieSicherungen[i]).filename();
-        if (!dateien.istDatei(kopie) || dateien.lies(kopie)->text() != textVon(inhalte[i])) {
+        if (!dateien.istDatei(kopie) || dateien.lies(kopie)->text() != texte[i]) {
             return false;
         }
     }
@@ -57,32 +52,29 @@ bool liegtSchonDa(const Bestand& bestand, const fs::path& ordner, const Dreierin
 }
 
 /// A name for the set that no other set has.
-fs::path freierOrdner(const Bestand& bestand, const Dreierinhalt& inhalte)
+fs::path freierOrdner(const Bestand& bestand, const Dreiertext& texte)
 {
     const auto zeit = zeitDerBak(bestand);
     auto ordner = bestand.pfade().sicherungen / zeit;
-    for (int nummer = 2; bestand.dateien().istOrdner(ordner) && !liegtSchonDa(bestand, ordner, inhalte); ++nummer) {
+    for (int nummer = 2; bestand.dateien().istOrdner(ordner) && !liegtSchonDa(bestand, ordner, texte); ++nummer) {
         ordner = bestand.pfade().sicherungen / verbinde(zeit, " ("_t, std::to_string(nummer), ')');
     }
     return ordner;
 }
 
 /// Sets the .bak files aside when they hold records other than `neue`. The set comes under its name when it is whole.
-void stelleBakBeiseite(const Bestand& bestand, const Dreierinhalt& neue)
+void stelleBakBeiseite(const Bestand& bestand, const Dreiertext& neue)
 {
     auto& dateien = bestand.dateien();
-    const auto inhalte = inhaltDerBak(bestand);
-    if (std::ranges::equal(inhalte, neue, {}, textVon, textVon) ||
-        std::ranges::all_of(inhalte, [](const auto& inhalt) { return textVon(inhalt).empty(); })) {
+    const auto texte = textDerBak(bestand);
+    if (texte == neue || texte == Dreiertext()) {
         return;
     }
-    const auto ordner = freierOrdner(bestand, inhalte);
+    const auto ordner = freierOrdner(bestand, texte);
     if (dateien.istOrdner(ordner)) {
         return; // a start that was broken off has done it
     }
-    const auto entwurf = fassungNeben(ordner);
-    dateien.sorgeFürOrdner(bestand.pfade().sicherungen);
-    dateien.sorgeFürOrdner(entwurf);
+    const auto entwurf = legeSicherungsordnerAn(bestand, fassungNeben(ordner.filename()));
     for (const auto bak : dieSicherungen) {
         const auto& pfad = bestand.pfade().von(bak);
         if (dateien.istDatei(pfad)) {
@@ -94,11 +86,17 @@ void stelleBakBeiseite(const Bestand& bestand, const Dreierinhalt& neue)
     dateien.sichereOrdner(bestand.pfade().sicherungen);
 }
 
+std::vector<fs::path> ordnernamen(const Bestand& bestand)
+{
+    const auto& sicherungen = bestand.pfade().sicherungen;
+    return bestand.dateien().istOrdner(sicherungen) ? bestand.dateien().ordnerIn(sicherungen) : std::vector<fs::path>{};
+}
+
 /// Names of the sets, the oldest first.
-std::vector<fs::path> sätzeIn(Dateien& dateien, const fs::path& sicherungen)
+std::vector<fs::path> sätzeIn(const Bestand& bestand)
 {
     constexpr std::size_t längeDerZeit = 19;
-    auto sätze = dateien.istOrdner(sicherungen) ? dateien.ordnerIn(sicherungen) : std::vector<fs::path>{};
+    auto sätze = ordnernamen(bestand);
     std::erase_if(sätze, [längeDerZeit](const fs::path& name) {
         const auto text = pfadtext(name);
         const bool istZeit = text.size() >= längeDerZeit &&
@@ -109,10 +107,12 @@ std::vector<fs::path> sätzeIn(Dateien& dateien, const fs::path& sicherungen)
 }
 
 /// Keeps the newest sets. What can't be removed today goes another day.
-void kürzeSicherungen(Dateien& dateien, const fs::path& sicherungen)
+void kürzeSicherungen(const Bestand& bestand)
 {
+    auto& dateien = bestand.dateien();
+    const auto& sicherungen = bestand.pfade().sicherungen;
     try {
-        const auto sätze = sätzeIn(dateien, sicherungen);
+        const auto sätze = sätzeIn(bestand);
         for (std::size_t i = 0; i + aufgehobeneSätze < sätze.size(); ++i) {
             const auto weg = fassungNeben(sicherungen / sätze[i]); // a set under this name is not whole
             dateien.benenneUm(sicherungen / sätze[i], weg);
@@ -125,23 +125,19 @@ void kürzeSicherungen(Dateien& dateien, const fs::path& sicherungen)
 
 } // namespace
 
-fs::path legeSicherungsordnerAn(Dateien& dateien, const Bestandspfade& pfade, std::string_view zeit,
-                                std::string_view zusatz)
+fs::path legeSicherungsordnerAn(const Bestand& bestand, const fs::path& name)
 {
-    const auto ordner = pfade.sicherungen / verbinde(zeit, zusatz);
-    dateien.sorgeFürOrdner(pfade.sicherungen);
-    dateien.sorgeFürOrdner(ordner);
-    return ordner;
+    const auto& sicherungen = bestand.pfade().sicherungen;
+    bestand.dateien().sorgeFürOrdner(sicherungen);
+    bestand.dateien().sorgeFürOrdner(sicherungen / name);
+    return sicherungen / name;
 }
 
-void entferneAngefangeneSicherungen(Dateien& dateien, const Bestandspfade& pfade)
+void entferneAngefangeneSicherungen(const Bestand& bestand)
 {
-    if (!dateien.istOrdner(pfade.sicherungen)) {
-        return;
-    }
-    for (const auto& name : dateien.ordnerIn(pfade.sicherungen)) {
+    for (const auto& name : ordnernamen(bestand)) {
         if (istFassungNeben(name)) {
-            dateien.entferneOrdner(pfade.sicherungen / name);
+            bestand.dateien().entferneOrdner(bestand.pfade().sicherungen / name);
         }
     }
 }
@@ -149,9 +145,9 @@ void entferneAngefangeneSicherungen(Dateien& dateien, const Bestandspfade& pfade
 void sichereDateien(const Bestand& bestand)
 {
     Vorgang vorgang(bestand);
-    Dreierinhalt neue;
+    Dreiertext neue;
     for (std::size_t i = 0; i < dieTabellen.size(); ++i) {
-        neue[i] = bestand.inhalt(dieTabellen[i]);
+        neue[i] = bestand.inhalt(dieTabellen[i])->text();
         const auto& bak = bestand.pfade().von(dieSicherungen[i]);
         // a folder without the file of an earlier backup has been tampered with; going on could overwrite what
         // somebody has moved aside
@@ -164,7 +160,7 @@ void sichereDateien(const Bestand& bestand)
         vorgang.setzeInhalt(dieSicherungen[i], std::move(neue[i]));
     }
     vorgang.bestätige();
-    kürzeSicherungen(bestand.dateien(), bestand.pfade().sicherungen);
+    kürzeSicherungen(bestand);
 }
 
 void verwerfeSitzung(const Bestand& bestand)
@@ -194,7 +190,7 @@ std::string ortDerSicherung(const Bestand& bestand)
         if (!bestand.dateien().istDatei(pfade.kernBak)) {
             return {};
         }
-        const auto sätze = sätzeIn(bestand.dateien(), pfade.sicherungen);
+        const auto sätze = sätzeIn(bestand);
         const auto ältere = sätze.empty()
                                 ? std::string()
                                 : verbinde(", ältere in \""_t, pfadtext(pfade.sicherungen / sätze.back()), '"');

@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <filesystem>
 #include <string>
-#include <string_view>
 
 /// The backups: the `.bak` files hold the tables as they were at the start of the session, `Daten/Sicherungen` what the
 /// `.bak` files held before, a folder for each set, named after the time of that backup. The newest stay. No set that
@@ -25,7 +24,6 @@ void legeTabellenAn(const Bestand& bestand);
 std::string ortDerSicherung(const Bestand& bestand);
 
 /// Makes (or finds) the folder of a set in `Sicherungen`.
-std::filesystem::path legeSicherungsordnerAn(Dateien& dateien, const Bestandspfade& pfade, std::string_view zeit,
-                                             std::string_view zusatz);
+std::filesystem::path legeSicherungsordnerAn(const Bestand& bestand, const std::filesystem::path& name);
 /// Removes the sets that were begun and not finished.
-void entferneAngefangeneSicherungen(Dateien& dateien, const Bestandspfade& pfade);
+void entferneAngefangeneSicherungen(const Bestand& bestand);

@@ -33,21 +33,18 @@ std::optional<std::uint64_t> zahlAus(std::string_view text, int basis = 10)
 
 std::optional<Tabelle> tabelleZu(std::string_view name, const Bestandspfade& pfade)
 {
-    for (const auto tabelle : alleSechs) {
-        if (pfadtext(pfade.von(tabelle).filename()) == name) {
-            return tabelle;
-        }
-    }
-    return std::nullopt;
+    const auto nameVon = [&](Tabelle tabelle) { return pfadtext(pfade.von(tabelle).filename()); };
+    const auto ort = std::ranges::find(alleSechs, name, nameVon);
+    return ort == alleSechs.end() ? std::nullopt : std::optional(*ort);
 }
 
 std::optional<Vermerk> vermerkAus(std::string_view zeile, const Bestandspfade& pfade)
 {
-    const auto tabelle = tabelleZu(getFeldMit(zeile, 1, ';'), pfade);
-    const auto alt = getFeldMit(zeile, 2, ';');
+    const auto tabelle = tabelleZu(getFeld(zeile, 1, ';'), pfade);
+    const auto alt = getFeld(zeile, 2, ';');
     const auto alteLänge = zahlAus(alt);
-    const auto neueLänge = zahlAus(getFeldMit(zeile, 3, ';'));
-    const auto prüfsumme = zahlAus(getFeldMit(zeile, 4, ';'), hexadezimal);
+    const auto neueLänge = zahlAus(getFeld(zeile, 3, ';'));
+    const auto prüfsumme = zahlAus(getFeld(zeile, 4, ';'), hexadezimal);
     if (!tabelle || (!alteLänge && alt != keineLänge) || !neueLänge || !prüfsumme) {
         return std::nullopt;
     }
@@ -75,9 +72,9 @@ std::optional<std::vector<Vermerk>> leseVermerke(std::string_view text, const Be
         return std::nullopt;
     }
     for (auto anfang = zeilen.position(); const auto zeile = zeilen.nächste(); anfang = zeilen.position()) {
-        if (getFeldMit(*zeile, 1, ';') == schlußwort) {
+        if (getFeld(*zeile, 1, ';') == schlußwort) {
             const bool istGanz =
-                zahlAus(getFeldMit(*zeile, 2, ';'), hexadezimal) == Prüfsumme::von(text.substr(0, anfang));
+                zahlAus(getFeld(*zeile, 2, ';'), hexadezimal) == Prüfsumme::von(text.substr(0, anfang));
             return istGanz ? std::optional(vermerke) : std::nullopt;
         }
         const auto vermerk = vermerkAus(*zeile, pfade);

@@ -6,10 +6,8 @@
 #include <cstdint>
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 /// One action, one transaction, in one essay.
 ///
@@ -40,18 +38,24 @@ class Vorgang : public Lesestand {
 public:
     explicit Vorgang(const Bestand& bestand) : Lesestand(bestand.pfade(), bestand.meldung()), m_bestand(bestand) {}
 
-    void anfügeKernDS(std::string_view satz);
-    void anfügeBetrDS(std::string_view satz);
-    void anfügeDiagDS(std::string_view satz);
+    void anfügeKernDS(std::string_view satz) { anfüge(Tabelle::Kern, satz); }
+    void anfügeBetrDS(std::string_view satz) { anfüge(Tabelle::Betr, satz); }
+    void anfügeDiagDS(std::string_view satz) { anfüge(Tabelle::Diag, satz); }
     /// Puts the record in the place of every line with the key. Without one the box "Achtung: ersetze… hat nicht
     /// ersetzt", and false.
-    bool ersetzeKernDS(std::int32_t kernID, std::string_view satz);
-    bool ersetzeBetrDS(std::int32_t kernID, std::int32_t betrID, std::string_view satz);
-    bool ersetzeDiagDS(std::int32_t kernID, std::int32_t betrID, std::string_view satz);
+    bool ersetzeKernDS(std::int32_t kernID, std::string_view satz) { return ersetze(Tabelle::Kern, {kernID}, satz); }
+    bool ersetzeBetrDS(std::int32_t kernID, std::int32_t betrID, std::string_view satz)
+    {
+        return ersetze(Tabelle::Betr, {kernID, betrID}, satz);
+    }
+    bool ersetzeDiagDS(std::int32_t kernID, std::int32_t betrID, std::string_view satz)
+    {
+        return ersetze(Tabelle::Diag, {kernID, betrID}, satz);
+    }
     /// Takes out every line with the key; without one the box "Achtung: lösche… nicht gefunden …".
-    void löscheKernDS(std::int32_t kernID);
-    void löscheBetrDS(std::int32_t kernID, std::int32_t betrID);
-    void löscheDiagDS(std::int32_t kernID, std::int32_t betrID);
+    void löscheKernDS(std::int32_t kernID) { lösche(Tabelle::Kern, {kernID}); }
+    void löscheBetrDS(std::int32_t kernID, std::int32_t betrID) { lösche(Tabelle::Betr, {kernID, betrID}); }
+    void löscheDiagDS(std::int32_t kernID, std::int32_t betrID) { lösche(Tabelle::Diag, {kernID, betrID}); }
 
     /// Takes out every care and diagnosis line of the client without a word: nothing of a person stays behind.
     void löscheAllesVon(std::int32_t kernID);
@@ -73,16 +77,6 @@ private:
     bool ersetze(Tabelle tabelle, const Satzschlüssel& schlüssel, std::string_view satz);
     void lösche(Tabelle tabelle, const Satzschlüssel& schlüssel);
 
-    struct Änderung {
-        Änderung(Tabelle tabelle, const std::filesystem::path& pfad, std::unique_ptr<Dateiinhalt> inhalt,
-                 std::optional<std::uint64_t> länge)
-            : fassung(tabelle, pfad, std::move(inhalt)), alteLänge(länge)
-        {}
-
-        Fassung fassung;
-        std::optional<std::uint64_t> alteLänge;
-    };
-
     const Bestand& m_bestand;
-    std::map<Tabelle, Änderung> m_änderungen;
+    std::map<Tabelle, Fassung> m_fassungen;
 };

@@ -1,147 +1,131 @@
 #include "store/Zeilenpruefung.h"
 
 #include "platform/dateien/Zeilen.h"
-#include "platform/text/Text.h"
 #include "platform/text/Zahl.h"
 #include "satz/Betreuungsfelder.h"
-#include "satz/Diagnosefelder.h"
 #include "satz/Klientenfelder.h"
 #include "satz/Satzgrenzen.h"
 #include "store/Bruchstuecke.h"
 
 #include <algorithm>
 #include <array>
+#include <map>
+#include <utility>
 
 namespace {
 
-/// The layout of a table's lines.
-struct Zeilenform {
-    std::size_t felder;
-    int memofeld;
-};
+using namespace befundart;
 
-Zeilenform formVon(Tabelle tabelle)
+void prüfeFelderzahl(const Satzzeile& satz)
 {
-    switch (tabelle) {
-    case Tabelle::Betr:
-        return {feld::betr::anzahl, feld::betr::memo};
-    case Tabelle::Diag:
-        return {feld::diag::anzahl, 0};
-    default:
-        return {feld::kern::anzahl, feld::kern::memo};
-    }
-}
-
-void prüfeFelderzahl(const Satzzeile& satz, Befundliste& befunde)
-{
-    const auto form = formVon(satz.tabelle);
+    const auto soll = satzfelder(satz.tabelle).size();
     const auto gefunden = satz.felder.size();
-    const auto genauer = [&] { return verbinde(std::to_string(gefunden), " statt "_t, std::to_string(form.felder)); };
-    if (gefunden < form.felder) {
-        befunde.melde(Befundart::FelderZuWenige, satz.ort(), genauer());
+    const auto genauer = verbinde(std::to_string(gefunden), " statt "_t, std::to_string(soll));
+    if (gefunden < soll) {
+        satz.melde(FelderZuWenige, 0, genauer);
     }
     // a delimiter behind the last field belongs to some kinds of records and is never read
-    const bool endetMitTrenner = gefunden == form.felder + 1 && satz.felder.back().empty();
-    if (gefunden > form.felder && !endetMitTrenner) {
-        befunde.melde(Befundart::FelderZuViele, satz.ort(), genauer());
+    const bool endetMitTrenner = gefunden == soll + 1 && satz.felder.back().empty();
+    if (gefunden > soll && !endetMitTrenner) {
+        satz.melde(FelderZuViele, 0, genauer);
     }
 }
 
-enum class Zeichenart { Gewöhnlich, Steuer, Unbelegt };
+bool istSteuerzeichen(char zeichen)
+{
+    const auto byte = static_cast<unsigned char>(zeichen);
+    return byte < 0x20U || byte == 0x7FU;
+}
 
-Zeichenart artVon(char zeichen)
+bool istUnbelegt(char zeichen)
 {
     constexpr std::string_view unbelegte = "\x81\x8D\x8F\x90\x9D";
-    const auto byte = static_cast<unsigned char>(zeichen);
-    if (byte < 0x20U || byte == 0x7FU) {
-        return Zeichenart::Steuer;
-    }
-    return byte >= 0x80U && unbelegte.find(zeichen) != std::string_view::npos ? Zeichenart::Unbelegt
-                                                                              : Zeichenart::Gewöhnlich;
+    return unbelegte.find(zeichen) != std::string_view::npos;
+}
+
+bool istMemo(Tabelle tabelle, int feld)
+{
+    return (tabelle == Tabelle::Kern && feld == feld::kern::memo) ||
+           (tabelle == Tabelle::Betr && feld == feld::betr::memo);
 }
 
 /// Tabs are text in a memo; code 0 alone is the status of a client without episodes.
 bool istErlaubt(const Satzzeile& satz, int feld, char zeichen)
 {
-    return (zeichen == '\t' && feld == formVon(satz.tabelle).memofeld) ||
+    return (zeichen == '\t' && istMemo(satz.tabelle, feld)) ||
            (zeichen == '\0' && satz.tabelle == Tabelle::Kern && feld == feld::kern::betrao &&
             satz.feld(feld).size() == 1);
 }
 
 /// Each field is told once, by its first character that is not in order.
-void prüfeZeichen(const Satzzeile& satz, Befundliste& befunde)
+void prüfeZeichen(const Satzzeile& satz)
 {
-    for (int feld = 1; feld <= static_cast<int>(satz.felder.size()); ++feld) {
+    for (int feld = 1; satz.hat(feld); ++feld) {
         const auto text = satz.feld(feld);
         const auto fund = std::ranges::find_if(text, [&](char zeichen) {
-            return artVon(zeichen) != Zeichenart::Gewöhnlich && !istErlaubt(satz, feld, zeichen);
+            return istUnbelegt(zeichen) || (istSteuerzeichen(zeichen) && !istErlaubt(satz, feld, zeichen));
         });
         if (fund != text.end()) {
-            const auto stelle = std::to_string(fund - text.begin() + 1);
-            befunde.melde(
-                artVon(*fund) == Zeichenart::Steuer ? Befundart::Steuerzeichen : Befundart::ZeichenUnbelegt,
-                satz.ort(feld),
-                verbinde("Code "_t, std::to_string(static_cast<unsigned char>(*fund)), " an Stelle "_t, stelle));
+            satz.melde(istSteuerzeichen(*fund) ? Steuerzeichen : ZeichenUnbelegt, feld,
+                       verbinde("Code "_t, std::to_string(static_cast<unsigned char>(*fund)), " an Stelle "_t,
+                                std::to_string(fund - text.begin() + 1)));
         }
     }
-}
-
-enum Zeilenende { CrLf, Lf, Cr, Keines };
-
-Zeilenende endeVon(std::string_view ende)
-{
-    if (ende.empty()) {
-        return Keines;
-    }
-    return ende == "\r\n" ? CrLf : ende == "\n" ? Lf : Cr;
 }
 
 } // namespace
 
+const std::vector<Satzfeld>& satzfelder(Tabelle tabelle)
+{
+    switch (tabelle) {
+    case Tabelle::Betr:
+        return betreuungsfelder();
+    case Tabelle::Diag:
+        return diagnosefelder();
+    default:
+        return klientenfelder();
+    }
+}
+
 void prüfeZeilenenden(Tabelle tabelle, std::string_view inhalt, Befundliste& befunde)
 {
-    constexpr std::array namen{"CR LF"_t, "LF"_t, "CR"_t};
-    std::array<std::size_t, 4> erste{}; ///< the first line with each kind
+    constexpr std::array arten{std::pair{"\r\n"_t, "CR LF"_t}, std::pair{"\n"_t, "LF"_t}, std::pair{"\r"_t, "CR"_t}};
+    std::map<std::string_view, std::size_t> erste; ///< the first line with each line end
     Zeilen zeilen(inhalt);
     while (const auto zeile = zeilen.nächste()) {
-        const auto anfang = static_cast<std::size_t>(zeile->data() - inhalt.data()) + zeile->size();
-        auto& stelle = erste.at(endeVon(inhalt.substr(anfang, zeilen.position() - anfang)));
-        stelle = stelle == 0 ? zeilen.nummer() : stelle;
+        const auto ende = static_cast<std::size_t>(zeile->data() - inhalt.data()) + zeile->size();
+        erste.try_emplace(inhalt.substr(ende, zeilen.position() - ende), zeilen.nummer());
     }
-    const auto ort = [&](std::size_t zeile) { return Fundort{.tabelle = tabelle, .datei = {}, .zeile = zeile}; };
-    std::string arten;
+    std::string namen;
     std::size_t wechsel = 0;
-    int verschiedene = 0;
-    for (const auto art : {CrLf, Lf, Cr}) {
-        if (erste.at(art) > 0) {
-            arten += verbinde(verschiedene++ == 0 ? ""_t : ", "_t, namen.at(art));
-            wechsel = std::max(wechsel, erste.at(art));
+    for (const auto& [ende, name] : arten) {
+        if (const auto ort = erste.find(ende); ort != erste.end()) {
+            namen += verbinde(namen.empty() ? ""_t : ", "_t, name);
+            wechsel = std::max(wechsel, ort->second);
         }
     }
-    if (verschiedene > 1) {
-        befunde.melde(Befundart::ZeilenendenGemischt, ort(wechsel), arten);
-    } else if (erste[Lf] > 0 || erste[Cr] > 0) {
-        befunde.melde(Befundart::ZeilenendenFremd, ort(wechsel), arten);
+    if (namen.find(',') != std::string::npos) {
+        befunde.melde(ZeilenendenGemischt, {tabelle, wechsel}, namen);
+    } else if (!namen.empty() && namen != arten.front().second) {
+        befunde.melde(ZeilenendenFremd, {tabelle, wechsel}, namen);
     }
-    if (erste[Keines] > 0) {
-        befunde.melde(Befundart::ZeilenendeFehlt, ort(erste[Keines]), {},
+    if (const auto ort = erste.find({}); ort != erste.end()) {
+        befunde.melde(ZeilenendeFehlt, {tabelle, ort->second}, {},
                       bruchstückIn(inhalt).empty()
                           ? std::string_view()
                           : "die Zeile ist nur halb da, sie wird beim nächsten Start herausgenommen und aufgehoben"_t);
     }
 }
 
-bool zerlegeZeile(Tabelle tabelle, std::string_view zeile, std::size_t nummer, Satzzeile& satz, Befundliste& befunde)
+bool zerlege(std::string_view zeile, Satzzeile& satz)
 {
-    satz.tabelle = tabelle;
-    satz.nummer = nummer;
     satz.felder.clear();
     if (zeile.empty()) {
-        befunde.melde(Befundart::ZeileLeer, satz.ort());
+        satz.melde(ZeileLeer, 0);
         return false;
     }
     if (zeile.size() > satzgrenze::zeilenlänge) {
-        befunde.melde(Befundart::ZeileZuLang, satz.ort(), std::to_string(zeile.size()));
+        satz.melde(ZeileZuLang, 0, std::to_string(zeile.size()));
         return false;
     }
     for (auto ort = zeile.find(trenner); ort != std::string_view::npos; ort = zeile.find(trenner)) {
@@ -152,26 +136,25 @@ bool zerlegeZeile(Tabelle tabelle, std::string_view zeile, std::size_t nummer, S
     return true;
 }
 
-void prüfeForm(const Satzzeile& satz, Befundliste& befunde)
+void prüfeForm(const Satzzeile& satz)
 {
-    prüfeFelderzahl(satz, befunde);
-    prüfeZeichen(satz, befunde);
+    prüfeFelderzahl(satz);
+    prüfeZeichen(satz);
 }
 
-std::optional<std::int32_t> prüfeSchlüssel(const Satzzeile& satz, int feld, Befundliste& befunde)
+std::optional<std::int32_t> prüfeSchlüssel(const Satzzeile& satz, int feld)
 {
     const auto text = satz.feld(feld);
     const auto zahl = leseGanzzahl16(text);
     if (!zahl) {
-        befunde.melde(leseGanzzahl64(text) ? Befundart::SchlüsselAußerhalb : Befundart::SchlüsselKeineZahl,
-                      satz.ort(feld), alsZitat(text));
+        satz.melde(leseGanzzahl64(text) ? SchlüsselAußerhalb : SchlüsselKeineZahl, feld, alsZitat(text));
         return std::nullopt;
     }
     if (*zahl < 1) {
-        befunde.melde(Befundart::SchlüsselAußerhalb, satz.ort(feld), alsZitat(text),
-                      "wird gelesen, läßt sich aber nicht verläßlich bearbeiten"_t);
+        satz.melde(SchlüsselAußerhalb, feld, alsZitat(text),
+                   "wird gelesen, läßt sich aber nicht verläßlich bearbeiten"_t);
     } else if (alsText(*zahl) != text) {
-        befunde.melde(Befundart::SchlüsselForm, satz.ort(feld), alsZitat(text));
+        satz.melde(SchlüsselForm, feld, alsZitat(text));
     }
     return *zahl;
 }

@@ -6,6 +6,7 @@
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Klientenfelder.h"
+#include "satz/Satzgrenzen.h"
 #include "satz/moHelferlein.h"
 #include "store/Vorgang.h"
 
@@ -22,11 +23,7 @@ using Statustafel = std::unordered_map<std::int32_t, char>;
 /// The number in the field; nothing for a line that can't be read.
 std::optional<std::int32_t> nummerIn(std::string_view zeile, int feld)
 {
-    try {
-        return leseGanzzahl32(getFeld(zeile, feld));
-    } catch (const Laufzeitfehler&) {
-        return std::nullopt;
-    }
+    return zeile.size() > satzgrenze::zeilenlänge ? std::nullopt : leseGanzzahl32(getFeld(zeile, feld));
 }
 
 Statustafel statusAusBetreuungen(std::string_view betreuungen)

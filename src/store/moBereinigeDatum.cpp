@@ -14,15 +14,10 @@
 
 namespace {
 
-/// A date field of a table, and the text in it that stands for no date.
-struct Datumsfeldstelle {
-    int feld;
-    std::string_view ausnahme;
-};
+using Felder = std::span<const int>;
 
-constexpr Datumsfeldstelle klientendaten[] = {{feld::kern::geburtsdatum, "unbekannt"_t}};
-/// The begin of an episode has no text that stands for no date.
-constexpr Datumsfeldstelle betreuungsdaten[] = {{feld::betr::beginn, {}}, {feld::betr::ende, "offen"_t}};
+constexpr int klientendaten[] = {feld::kern::geburtsdatum};
+constexpr int betreuungsdaten[] = {feld::betr::beginn, feld::betr::ende};
 
 /// Where the year begins: behind the last point, at the start without one.
 std::size_t jahresanfang(std::string_view datum)
@@ -31,22 +26,11 @@ std::size_t jahresanfang(std::string_view datum)
     return punkt == std::string_view::npos ? 0 : punkt + 1;
 }
 
-bool brauchtReparatur(std::string_view datum)
-{
-    return datum.size() - jahresanfang(datum) < 3;
-}
-
 /// A line that ends before or within the field was written by halves: what looks like two digits of a year may be the
 /// first two of four.
-bool istGanz(std::string_view zeile, const Datumsfeldstelle& stelle)
+bool brauchtReparatur(std::string_view zeile, int feld)
 {
-    return anzahlFelder(zeile) > stelle.feld;
-}
-
-bool brauchtReparatur(std::string_view zeile, std::span<const Datumsfeldstelle> stellen)
-{
-    return std::ranges::any_of(
-        stellen, [&](const auto& s) { return istGanz(zeile, s) && brauchtReparatur(getFeld(zeile, s.feld)); });
+    return anzahlFelder(zeile) > feld && hatKurzesJahr(getFeld(zeile, feld));
 }
 
 /// What the repair wants to know of a table, in one walk.
@@ -56,14 +40,14 @@ struct Tabellenbefund {
 };
 
 /// An empty first line ends the walk through the clients: then nothing is repaired.
-Tabellenbefund besieh(const Bestand& bestand, Tabelle tabelle, std::span<const Datumsfeldstelle> stellen)
+Tabellenbefund besieh(const Bestand& bestand, Tabelle tabelle, Felder felder)
 {
     Tabellenbefund befund;
     bestand.laufe(tabelle, [&](std::string_view zeile, std::size_t nummer) {
         if (nummer == 1) {
             befund.beginntLeer = zeile.empty();
         }
-        befund.brauchtReparatur = brauchtReparatur(zeile, stellen);
+        befund.brauchtReparatur = std::ranges::any_of(felder, [&](int feld) { return brauchtReparatur(zeile, feld); });
         return !befund.brauchtReparatur && !(tabelle == Tabelle::Kern && befund.beginntLeer);
     });
     return befund;
@@ -79,31 +63,23 @@ std::string repariert(std::string_view datum, const Bestandsmeldung& meldung)
     return verbinde(datum.substr(0, jahresanfang(datum)), führendeZahl(jahr) < 9 ? "20"_t : "19"_t, jahr);
 }
 
-std::string mitRepariertemFeld(const std::string& zeile, const Datumsfeldstelle& stelle, const Bestandsmeldung& meldung)
-{
-    const auto datum = getFeld(zeile, stelle.feld);
-    const bool istAusnahme = !stelle.ausnahme.empty() && datum == stelle.ausnahme;
-    return istAusnahme || !istGanz(zeile, stelle) || !brauchtReparatur(datum)
-               ? zeile
-               : ersetzeFeld(zeile, stelle.feld, repariert(datum, meldung));
-}
-
-std::string mitReparierterZeile(std::string_view zeile, std::span<const Datumsfeldstelle> stellen,
-                                const Bestandsmeldung& meldung)
+std::string mitReparierterZeile(std::string_view zeile, Felder felder, const Bestandsmeldung& meldung)
 {
     std::string neu(zeile);
-    for (const auto& stelle : stellen) {
-        neu = mitRepariertemFeld(neu, stelle, meldung);
+    for (const int feld : felder) {
+        if (brauchtReparatur(neu, feld)) {
+            neu = ersetzeFeld(neu, feld, repariert(getFeld(neu, feld), meldung));
+        }
     }
     return neu;
 }
 
-void repariere(const Bestand& bestand, Vorgang& vorgang, Tabelle tabelle, std::span<const Datumsfeldstelle> stellen)
+void repariere(const Bestand& bestand, Vorgang& vorgang, Tabelle tabelle, Felder felder)
 {
     std::string inhalt;
     bestand.fürJedeZeile(tabelle, [&](std::string_view zeile, std::size_t nummer) {
         try {
-            inhalt.append(mitReparierterZeile(zeile, stellen, bestand.meldung())).append("\r\n");
+            inhalt.append(mitReparierterZeile(zeile, felder, bestand.meldung())).append("\r\n");
         } catch (const Laufzeitfehler& fehler) {
             throw Laufzeitfehler(verbinde(ortsangabe(bestand.pfade().von(tabelle), nummer), ": "_t, fehler.text()));
         }
@@ -112,6 +88,11 @@ void repariere(const Bestand& bestand, Vorgang& vorgang, Tabelle tabelle, std::s
 }
 
 } // namespace
+
+bool hatKurzesJahr(std::string_view datum)
+{
+    return datum.size() - jahresanfang(datum) < 3;
+}
 
 void bereinigeDatum(const Bestand& bestand)
 {

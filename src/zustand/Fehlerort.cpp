@@ -3,8 +3,7 @@
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 #include "satz/Betreuungsfelder.h"
-#include "satz/Datumstexte.h"
-#include "satz/Zeilenfelder.h"
+#include "satz/moHelferlein.h"
 #include "zustand/Zustand.h"
 
 namespace {
@@ -23,33 +22,6 @@ bool istLesbaresDatum(std::string_view datum)
     }
 }
 
-struct Fundstelle {
-    std::string ort;
-    int feld = 0;
-};
-
-/// The first date of the client's episodes that can't be read.
-std::optional<Fundstelle> unlesbaresDatum(std::int32_t kernID)
-{
-    const auto& bestand = zustand().bestand;
-    const auto& pfad = bestand.pfade().betrDat;
-    std::optional<Fundstelle> gefunden;
-    bestand.laufe(Tabelle::Betr, [&](std::string_view zeile, std::size_t nummer) {
-        if (leseSchlüssel(zeile, feld::betr::kernID, 16, pfad, nummer) != kernID) {
-            return true;
-        }
-        for (const int feld : {feld::betr::beginn, feld::betr::ende}) {
-            const auto datum = getFeld(zeile, feld);
-            const bool istOffen = feld == feld::betr::ende && datum == "offen"_t;
-            if (!gefunden && !istOffen && !istLesbaresDatum(datum)) {
-                gefunden = Fundstelle{ortsangabe(pfad, nummer), feld};
-            }
-        }
-        return !gefunden;
-    });
-    return gefunden;
-}
-
 } // namespace
 
 void mitSatzort(Tabelle tabelle, const Satzschlüssel& schlüssel, int feld, const std::function<void()>& tue)
@@ -66,9 +38,19 @@ void mitDatumsort(std::int32_t kernID, const std::function<void()>& tue)
     try {
         tue();
     } catch (const Laufzeitfehler& fehler) {
-        if (const auto stelle = unlesbaresDatum(kernID)) {
-            wirfMitOrt(stelle->ort, stelle->feld, fehler);
-        }
+        const auto& bestand = zustand().bestand;
+        const auto& pfad = bestand.pfade().betrDat;
+        bestand.laufe(Tabelle::Betr, [&](std::string_view zeile, std::size_t nummer) {
+            const bool istSeine = leseSchlüssel(zeile, feld::betr::kernID, 16, pfad, nummer) == kernID;
+            for (const int feld : {feld::betr::beginn, feld::betr::ende}) {
+                const auto datum = getFeld(zeile, feld);
+                const bool istOffen = feld == feld::betr::ende && datum == "offen"_t;
+                if (istSeine && !istOffen && !istLesbaresDatum(datum)) {
+                    wirfMitOrt(ortsangabe(pfad, nummer), feld, fehler);
+                }
+            }
+            return true;
+        });
         throw;
     }
 }

@@ -19,7 +19,7 @@ protected:
     }
 
     Testordner ordner;
-    Dateien dateien{erzeugeDateizugriff()};
+    Dateien dateien;
     Systemorte orte{.programm = ordner.pfad() / "usr" / "bin",
                     .programmBeschreibbar = true,
                     .person = ordner.pfad() / "heim",
@@ -75,10 +75,10 @@ TEST_F(ArbeitsortTest, OhnePersönlichenOrdnerWirdDasGesagt)
 TEST_F(ArbeitsortTest, DerFehlendeOrdnerWirdFürDenBesitzerAlleinAngelegt)
 {
     orte.programmBeschreibbar = false;
-    Arbeitsort ort({}, orte, dateien);
-    ASSERT_TRUE(ort.fehlt());
-    ort.legeAn();
-    EXPECT_FALSE(ort.fehlt());
+    const Arbeitsort ort({}, orte, dateien);
+    ASSERT_FALSE(dateien.istOrdner(ort.laufort().programmordner));
+    dateien.legeOrdnerAn(ort.laufort().programmordner);
+    EXPECT_TRUE(dateien.istOrdner(ort.laufort().programmordner));
 #ifndef _WIN32
     EXPECT_EQ(fs::status(orte.person / "Tolvek7").permissions(), fs::perms::owner_all);
 #endif
@@ -88,9 +88,9 @@ TEST_F(ArbeitsortTest, EineDateiMitDemNamenDesOrdnersWirdGemeldet)
 {
     orte.programmBeschreibbar = false;
     Testlauf::schreibe(orte.person / "Tolvek7", "");
-    Arbeitsort ort({}, orte, dateien);
-    ASSERT_TRUE(ort.fehlt());
-    EXPECT_THROW(ort.legeAn(), Laufzeitfehler);
+    const Arbeitsort ort({}, orte, dateien);
+    ASSERT_FALSE(dateien.istOrdner(ort.laufort().programmordner));
+    EXPECT_THROW(dateien.legeOrdnerAn(ort.laufort().programmordner), Laufzeitfehler);
 }
 
 TEST_F(ArbeitsortTest, DieMitgebrachtenDateien)
@@ -110,7 +110,7 @@ TEST_F(ArbeitsortTest, DasMusterLiegtInEinemEigenenOrdnerUndVerschwindet)
         const Arbeitsort ort({Aufrufart::Muster, std::nullopt, {}}, orte, dateien);
         muster = ort.laufort().programmordner;
         EXPECT_TRUE(ort.laufort().istMuster);
-        EXPECT_FALSE(ort.fehlt());
+        EXPECT_TRUE(dateien.istOrdner(muster));
         const auto kern = Testlauf::lies(muster / "Daten" / "kernDat.txt");
         EXPECT_EQ(std::count(kern.begin(), kern.end(), '\n'), 60);
         EXPECT_TRUE(fs::is_empty(orte.programm));

@@ -63,8 +63,8 @@ std::set<std::string> sicherungstexte(const Plattenstand& stand)
 /// The line that an earlier episode has left lies there from the beginning.
 bool istAlterRest(const Befund& befund)
 {
-    return (befund.art == Befundart::DiagnoseOhneBetreuung && befund.text.ends_with(": 2-9")) ||
-           (befund.art == Befundart::WertUnbekannt && befund.text.ends_with("\"alt\""));
+    return (befund.art == befundart::DiagnoseOhneBetreuung && befund.text.ends_with(": 2-9")) ||
+           (befund.art == befundart::WertUnbekannt && befund.text.ends_with("\"alt\""));
 }
 
 /// What the program's own checker has against the disk.

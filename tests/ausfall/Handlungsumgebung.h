@@ -38,7 +38,7 @@ public:
     bool istErsteInstanz(const std::filesystem::path& datenordner) override
     {
         m_sperre = sperreDatenordner(m_dateien, datenordner);
-        return m_sperre != nullptr;
+        return m_sperre.istOffen();
     }
     Dateien& dateien() override { return m_dateien; }
     Antwort zeigeMeldung(const Meldung& meldung) override
@@ -84,7 +84,7 @@ public:
 private:
     std::filesystem::path m_ordner;
     Dateien m_dateien;
-    std::unique_ptr<Ordnersperre> m_sperre;
+    Systemgriff m_sperre;
 #ifdef AUSFALL_CALC
     Rechenprogramm m_rechenprogramm;
 #endif

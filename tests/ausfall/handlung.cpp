@@ -83,7 +83,7 @@ int main(int argc, char** argv)
         return 2;
     }
     verhindereSpeicherabbilder();
-    Handlungsumgebung umgebung(argv[1], erzeugeDateizugriff());
+    Handlungsumgebung umgebung(argv[1], std::make_unique<Dateizugriff>());
     return starteUndTue(
         umgebung, [&](Hand& hand) { return tue(argv[2], hand, umgebung); },
         [](bool läuftNoch) {

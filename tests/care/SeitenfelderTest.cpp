@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace {
 
 /// A record with a field of each kind of element.
@@ -104,6 +106,20 @@ TEST(Seitenfelder, FremdeTexteBleibenInWahlfeldernStehen)
     Probeseite seite;
     seite.felder.lade("etwas·99·120·Ja·NEIN·3·"_t);
     EXPECT_EQ(seite.felder.sammle(), "etwas·99·120·k.A.·k.A.·3·"_t);
+}
+
+TEST(Seitenfelder, EineFrühereSchreibweiseErscheintUndBleibtAlsDieHeutige)
+{
+    constexpr std::array liste{Wertepaar{"k.A."_t, "0"_t}, Wertepaar{"nein"_t, "1"_t}, Wertepaar{"ja"_t, "2"_t},
+                               Wertepaar{"j"_t, "2"_t, true}};
+    const std::vector<Satzfeld> satz{{.name = "Antwort1", .art = Feldart::option, .werte = liste, .vorgabe = "k.A."}};
+    Bildschirm schirm("frmProbe");
+    Elementreihe<triCtlJaNein> antworten(schirm, "antworten", 1, 1);
+    Seitenfelder felder(satz);
+    felder.füge("Antwort", antworten);
+    felder.lade("j·"_t);
+    EXPECT_EQ(antworten(1).text(), "ja");
+    EXPECT_EQ(felder.sammle(), "ja·"_t);
 }
 
 TEST(Seitenfelder, EineMarkeAußerhalbDerReiheZähltAlsKeine)

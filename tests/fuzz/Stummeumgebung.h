@@ -23,5 +23,5 @@ public:
     void lasseEreignisseZu() override {}
 
 private:
-    Dateien m_dateien{erzeugeDateizugriff()};
+    Dateien m_dateien;
 };

@@ -228,9 +228,15 @@ bool Plattenzugriff::istVergeben(const fs::path& pfad)
     return m_platte.m_namen.contains(pfad);
 }
 
-std::string Plattenzugriff::zeitVon(const fs::path& /*pfad*/)
+std::int64_t Plattenzugriff::zeitVon(const fs::path& /*pfad*/)
 {
-    return "2007-08-01 17.00.00";
+    std::tm zeit{};
+    zeit.tm_year = 107;
+    zeit.tm_mon = 7;
+    zeit.tm_mday = 1;
+    zeit.tm_hour = 17;
+    zeit.tm_isdst = -1;
+    return std::mktime(&zeit);
 }
 
 std::vector<fs::path> Plattenzugriff::namenIn(const fs::path& ordner, bool sindOrdner)

@@ -85,7 +85,7 @@ public:
     Fund findet(const std::filesystem::path& pfad) override;
     bool istVergeben(const std::filesystem::path& pfad) override;
     std::filesystem::path ziel(const std::filesystem::path& pfad) override { return pfad; }
-    std::string zeitVon(const std::filesystem::path& pfad) override;
+    std::int64_t zeitVon(const std::filesystem::path& pfad) override;
     std::vector<std::filesystem::path> namenIn(const std::filesystem::path& ordner, bool sindOrdner) override;
 
 private:

@@ -114,33 +114,31 @@ private:
     bool m_voll = false;
 };
 
-class Störzugriff : public Zugriffsweiche {
+class Störzugriff : public Dateizugriff {
 public:
-    explicit Störzugriff(std::shared_ptr<Störplan> plan)
-        : Zugriffsweiche(erzeugeDateizugriff()), m_plan(std::move(plan))
-    {}
+    explicit Störzugriff(std::shared_ptr<Störplan> plan) : m_plan(std::move(plan)) {}
 
     std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) override
     {
         std::unique_ptr<OffeneDatei> datei;
-        m_plan->führeAus("öffne", [&] { datei = Zugriffsweiche::öffne(pfad, wie); });
+        m_plan->führeAus("öffne", [&] { datei = Dateizugriff::öffne(pfad, wie); });
         return std::make_unique<GestörteDatei>(std::move(datei), m_plan);
     }
     void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach) override
     {
-        m_plan->führeAus("benenneUm", [&] { Zugriffsweiche::benenneUm(von, nach); });
+        m_plan->führeAus("benenneUm", [&] { Dateizugriff::benenneUm(von, nach); });
     }
     void lösche(const std::filesystem::path& pfad) override
     {
-        m_plan->führeAus("lösche", [&] { Zugriffsweiche::lösche(pfad); });
+        m_plan->führeAus("lösche", [&] { Dateizugriff::lösche(pfad); });
     }
     void legeOrdnerAn(const std::filesystem::path& pfad) override
     {
-        m_plan->führeAus("legeOrdnerAn", [&] { Zugriffsweiche::legeOrdnerAn(pfad); });
+        m_plan->führeAus("legeOrdnerAn", [&] { Dateizugriff::legeOrdnerAn(pfad); });
     }
     void entferneOrdner(const std::filesystem::path& pfad) override
     {
-        m_plan->führeAus("entferneOrdner", [&] { Zugriffsweiche::entferneOrdner(pfad); });
+        m_plan->führeAus("entferneOrdner", [&] { Dateizugriff::entferneOrdner(pfad); });
     }
     void sichereOrdnerAufPlatte(const std::filesystem::path& /*pfad*/) override
     {

@@ -56,7 +56,7 @@ private:
 class Testumgebung : public Umgebung {
 public:
     /// With a program folder of one's own, or a fresh one that goes with the object.
-    explicit Testumgebung(std::unique_ptr<Dateizugriff> zugriff = erzeugeDateizugriff(),
+    explicit Testumgebung(std::unique_ptr<Dateizugriff> zugriff = std::make_unique<Dateizugriff>(),
                           std::filesystem::path programmordner = {})
         : m_dateien(std::move(zugriff)), m_programmordner(std::move(programmordner))
     {
@@ -140,7 +140,7 @@ private:
 /// makes what a first start makes.
 class Testlauf {
 public:
-    explicit Testlauf(std::unique_ptr<Dateizugriff> zugriff = erzeugeDateizugriff())
+    explicit Testlauf(std::unique_ptr<Dateizugriff> zugriff = std::make_unique<Dateizugriff>())
         : umgebung(std::move(zugriff)), stand(umgebung), m_platz(stand)
     {
         stand.titel = "Tolvek7 v7.0.0";

@@ -181,7 +181,7 @@ TEST_F(ImportlaufTest, JedeGescheiterteDateioperationLäßtDieTabellenWieSieWare
                 break;
             }
             EXPECT_TRUE(gescheitert) << stelle << " " << plan->operationen.at(static_cast<std::size_t>(stelle - 1));
-            vollendeVorgang(lauf.umgebung.dateien(), lauf.pfade(), lauf.stand.bestandsmeldung);
+            vollendeVorgang(lauf.stand.bestand);
             EXPECT_EQ(tabellen(), istGespeichert ? nachher : vorher) << stelle;
             nachgeholte += istGespeichert ? 1 : 0;
             EXPECT_FALSE(std::filesystem::exists(arbeitsordner())) << stelle;

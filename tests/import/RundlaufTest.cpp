@@ -174,7 +174,7 @@ class RundlaufTest : public Importfall {
 protected:
     static std::string spalte(const std::string& zeile, int nummer)
     {
-        return std::string(getFeldMit(zeile, nummer, ';'));
+        return std::string(getFeld(zeile, nummer, ';'));
     }
 
     static std::string codeVon(const Codes& codes, std::string_view text)

@@ -35,7 +35,7 @@ std::string spalten(const std::string& text, int von, int bis, char trennzeichen
 {
     std::string ergebnis;
     for (int i = von; i <= bis; ++i) {
-        ergebnis.append(i == von ? "" : ",").append(getFeldMit(text, i, trennzeichen));
+        ergebnis.append(i == von ? "" : ",").append(getFeld(text, i, trennzeichen));
     }
     return ergebnis;
 }

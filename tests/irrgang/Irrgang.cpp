@@ -321,7 +321,7 @@ void Irrgang::prüfeAbsturz(Verstöße& verstöße) const
 /// The older data bring what they say; all else that the program writes must stand up to its own checker.
 void Irrgang::prüfeMitPrüfer(Verstöße& verstöße) const
 {
-    Dateien dateien(erzeugeDateizugriff());
+    Dateien dateien;
     const auto pfade = bildeBestandspfade(m_lauf.imProgramm({}));
     for (const auto& befund : prüfeBestand(dateien, pfade).befunde) {
         if (!befund.istHinweis() && !(m_hatImportiert && betrifftAngaben(befund.art))) {

@@ -125,6 +125,14 @@ TEST(Wertelisten, RegelnAllerListen)
     }
 }
 
+TEST(Wertelisten, FindenDieHeutigeSchreibweise)
+{
+    constexpr std::array liste{Wertepaar{"nein"_t, "1"_t}, Wertepaar{"ja"_t, "2"_t}, Wertepaar{"j"_t, "2"_t, true}};
+    EXPECT_EQ(werte::heutige(liste, "j"_t), "ja");
+    EXPECT_EQ(werte::heutige(liste, "nein"_t), "nein");
+    EXPECT_EQ(werte::heutige(liste, "vielleicht"_t), "vielleicht");
+}
+
 TEST(Wertelisten, VergleichenGenau)
 {
     EXPECT_EQ(werte::codeZu(werte::kurz, "K.A."_t), nullptr);

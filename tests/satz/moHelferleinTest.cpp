@@ -52,9 +52,9 @@ TEST(GetFeld, GrenzeDerZeilenlänge)
 
 TEST(GetFeldMit, EigenerTrenner)
 {
-    EXPECT_EQ(getFeldMit("a;b;c"_t, 2, ';'), "b");
-    EXPECT_EQ(getFeldMit("a;b;c;"_t, 4, ';'), "");
-    EXPECT_EQ(getFeldMit(";;"_t, 3, ';'), "");
+    EXPECT_EQ(getFeld("a;b;c"_t, 2, ';'), "b");
+    EXPECT_EQ(getFeld("a;b;c;"_t, 4, ';'), "");
+    EXPECT_EQ(getFeld(";;"_t, 3, ';'), "");
 }
 
 TEST(ErsetzeFeld, LeeresFeldZwischenTrennern)

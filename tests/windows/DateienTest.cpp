@@ -61,7 +61,7 @@ protected:
 
     Testordner ort;
     fs::path datei = ort.pfad() / "betrDat.txt";
-    Dateien dateien{erzeugeDateizugriff()};
+    Dateien dateien;
 };
 
 TEST_F(Windowsdateien, ErsetzenWartetBisEinAndererFertigIst)

@@ -69,44 +69,44 @@ private:
     Frist& m_frist;
 };
 
-class Todeszugriff : public Zugriffsweiche {
+class Todeszugriff : public Dateizugriff {
 public:
-    explicit Todeszugriff(Frist& frist) : Zugriffsweiche(erzeugeDateizugriff()), m_frist(frist) {}
+    explicit Todeszugriff(Frist& frist) : m_frist(frist) {}
 
     std::unique_ptr<OffeneDatei> öffne(const std::filesystem::path& pfad, Öffnung wie) override
     {
         m_frist.triff();
-        return std::make_unique<Todesdatei>(Zugriffsweiche::öffne(pfad, wie), m_frist);
+        return std::make_unique<Todesdatei>(Dateizugriff::öffne(pfad, wie), m_frist);
     }
     void benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach) override
     {
         m_frist.triff();
-        Zugriffsweiche::benenneUm(von, nach);
+        Dateizugriff::benenneUm(von, nach);
     }
     void lösche(const std::filesystem::path& pfad) override
     {
         m_frist.triff();
-        Zugriffsweiche::lösche(pfad);
+        Dateizugriff::lösche(pfad);
     }
     void verknüpfe(const std::filesystem::path& von, const std::filesystem::path& nach) override
     {
         m_frist.triff();
-        Zugriffsweiche::verknüpfe(von, nach);
+        Dateizugriff::verknüpfe(von, nach);
     }
     void legeOrdnerAn(const std::filesystem::path& pfad) override
     {
         m_frist.triff();
-        Zugriffsweiche::legeOrdnerAn(pfad);
+        Dateizugriff::legeOrdnerAn(pfad);
     }
     void entferneOrdner(const std::filesystem::path& pfad) override
     {
         m_frist.triff();
-        Zugriffsweiche::entferneOrdner(pfad);
+        Dateizugriff::entferneOrdner(pfad);
     }
     void sichereOrdnerAufPlatte(const std::filesystem::path& pfad) override
     {
         m_frist.triff();
-        Zugriffsweiche::sichereOrdnerAufPlatte(pfad);
+        Dateizugriff::sichereOrdnerAufPlatte(pfad);
     }
 
 private:

@@ -4,11 +4,11 @@
 
 #include "platform/dateien/Dateien.h"
 #include "platform/text/Datum.h"
-#include "platform/text/Ressourcen.h"
 #include "platform/text/Text.h"
 #include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosefelder.h"
 #include "satz/moNationen.h"
+#include "store/Bestandspfade.h"
 
 #include <array>
 #include <string_view>
@@ -29,7 +29,7 @@ constexpr std::array straßen{"Amselweg"_t,     "Musterweg"_t,  "Am Brunnen"_t, 
 constexpr std::array orte{"Musterstadt"_t, "Beispielhausen"_t, "Probeheim"_t};
 constexpr std::array icdGruppen1bis20{"10"_t, "20"_t, "21"_t, "22"_t, "24"_t, "25"_t, "26"_t};
 constexpr std::array icdGruppe29{"0"_t, "1"_t, "2"_t, "3"_t, "8"_t};
-constexpr std::array janein{"ja"_t, "nein"_t};
+constexpr std::array janein{antworttext::ja, antworttext::nein};
 
 constexpr int ersterTagDerEpisoden = 37622;  // 01.01.2003
 constexpr int letzterTagDerEpisoden = 44196; // 31.12.2020
@@ -214,17 +214,15 @@ Mustertabellen erzeugeMusterdaten(const Mustervorgabe& vorgabe)
 
 void schreibeProgrammordner(const std::filesystem::path& ordner, const Mustertabellen& tabellen)
 {
-    Dateien dateien(erzeugeDateizugriff());
-    for (const auto& pfad : {ordner, ordner / "Daten"}) {
+    Dateien dateien;
+    const auto pfade = bildeBestandspfade(ordner);
+    for (const auto& pfad : {ordner, pfade.daten}) {
         dateien.sorgeFürOrdner(pfad);
     }
-    const std::array<std::pair<std::string_view, const std::string*>, 3> namen{
-        {{"kernDat", &tabellen.kern}, {"betrDat", &tabellen.betr}, {"diagDat", &tabellen.diag}}};
-    for (const auto& [name, inhalt] : namen) {
-        for (const auto* endung : {".txt", ".bak"}) {
-            const auto schreiber = dateien.schreibeNeu(ordner / "Daten" / (std::string(name) + endung));
-            schreiber->text(*inhalt);
-            schreiber->schließe();
-        }
+    const std::array inhalte{&tabellen.kern, &tabellen.betr, &tabellen.diag};
+    for (std::size_t i = 0; i < alleSechs.size(); ++i) {
+        const auto schreiber = dateien.schreibeNeu(pfade.von(alleSechs[i]));
+        schreiber->text(*inhalte[i % inhalte.size()]);
+        schreiber->schließe();
     }
 }

@@ -47,25 +47,6 @@ std::string_view grundVon(lxw_error fehler)
     }
 }
 
-/// The text as UTF-8 for the C functions; the room is used again for the next cell.
-class Utf8Text {
-public:
-    const char* von(std::string_view text)
-    {
-        const bool schlicht = std::ranges::all_of(text, [](char zeichen) { return zeichen > 0; });
-        if (schlicht) {
-            m_text.assign(text);
-        } else {
-            m_text = alsUtf8(text);
-            std::erase(m_text, '\0');
-        }
-        return m_text.c_str();
-    }
-
-private:
-    std::string m_text;
-};
-
 /// Column widths from the longest text of each column.
 class Breitenmaß {
 public:
@@ -106,12 +87,6 @@ private:
     std::string m_vorher;
 };
 
-struct Formate {
-    lxw_format* datum;
-    lxw_format* fett;
-    lxw_format* fettesDatum;
-};
-
 constexpr int zeilenJePause = 50;
 /// The part of the time that the rows take; the rest goes into the packing.
 constexpr double anteilDerZeilen = 0.4;
@@ -144,9 +119,11 @@ public:
         if (m_mappe == nullptr) {
             scheitere(pfad, "kein Speicher"_t);
         }
-        m_formate = {legeDatumsformatAn(), workbook_add_format(m_mappe), legeDatumsformatAn()};
-        format_set_bold(m_formate.fett);
-        format_set_bold(m_formate.fettesDatum);
+        m_datum = legeDatumsformatAn();
+        m_fett = workbook_add_format(m_mappe);
+        m_fettesDatum = legeDatumsformatAn();
+        format_set_bold(m_fett);
+        format_set_bold(m_fettesDatum);
     }
     Mappenschreiber(const Mappenschreiber&) = delete;
     Mappenschreiber& operator=(const Mappenschreiber&) = delete;
@@ -162,7 +139,7 @@ public:
 
     void schreibe(const Blatt& blatt)
     {
-        lxw_worksheet* ziel = workbook_add_worksheet(m_mappe, m_utf8.von(blatt.name()));
+        lxw_worksheet* ziel = workbook_add_worksheet(m_mappe, alsUtf8Zeichen(blatt.name()));
         if (ziel == nullptr) {
             scheitere(m_pfad, "Fehler bei einer Zwischendatei"_t);
         }
@@ -204,6 +181,18 @@ private:
         return fehler ? 0.0 : std::min(1.0, static_cast<double>(größe) / std::max(1.0, m_zeilenmenge * packmaß));
     }
 
+    /// For the C functions; holds until the next call.
+    const char* alsUtf8Zeichen(std::string_view text)
+    {
+        if (std::ranges::all_of(text, [](char zeichen) { return zeichen > 0; })) {
+            m_utf8.assign(text);
+        } else {
+            m_utf8 = alsUtf8(text);
+            std::erase(m_utf8, '\0');
+        }
+        return m_utf8.c_str();
+    }
+
     static lxw_row_t stelle(int zeile) { return static_cast<lxw_row_t>(zeile - 1); }
     static lxw_col_t spaltenstelle(int spalte) { return static_cast<lxw_col_t>(spalte - 1); }
 
@@ -229,21 +218,21 @@ private:
             breiten.nimm(spalte, wert.art == Zellart::Datum ? datumslänge : wert.text.size());
         });
         blatt.fürJedenKommentar(zeile, [&](int spalte, std::string_view text) {
-            prüfe(worksheet_write_comment(ziel, stelle(zeile), spaltenstelle(spalte), m_utf8.von(text)));
+            prüfe(worksheet_write_comment(ziel, stelle(zeile), spaltenstelle(spalte), alsUtf8Zeichen(text)));
         });
     }
 
     lxw_error schreibeZelle(lxw_worksheet* ziel, lxw_row_t zeile, lxw_col_t spalte, const Zellwert& wert, bool fett)
     {
-        lxw_format* format = fett ? m_formate.fett : nullptr;
+        lxw_format* format = fett ? m_fett : nullptr;
         switch (wert.art) {
         case Zellart::Zahl:
             return worksheet_write_number(ziel, zeile, spalte, wert.zahl, format);
         case Zellart::Datum:
             return worksheet_write_number(ziel, zeile, spalte, static_cast<double>(alsTageszahl(wert.datum)),
-                                          fett ? m_formate.fettesDatum : m_formate.datum);
+                                          fett ? m_fettesDatum : m_datum);
         default:
-            return worksheet_write_string(ziel, zeile, spalte, m_utf8.von(wert.text), format);
+            return worksheet_write_string(ziel, zeile, spalte, alsUtf8Zeichen(wert.text), format);
         }
     }
 
@@ -251,9 +240,11 @@ private:
     std::filesystem::path m_pfad;
     std::string m_ordner;
     lxw_workbook* m_mappe = nullptr;
-    Formate m_formate{};
+    lxw_format* m_datum = nullptr;
+    lxw_format* m_fett = nullptr;
+    lxw_format* m_fettesDatum = nullptr;
     double m_zeilenmenge = 0;
-    Utf8Text m_utf8;
+    std::string m_utf8; ///< its room is used again for the next cell
 };
 
 } // namespace

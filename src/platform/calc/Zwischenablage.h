@@ -3,11 +3,13 @@
 #include "platform/dateien/Wegwerfordner.h"
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
-/// A temporary folder that only its owner can enter, for one workbook on its way to the spreadsheet program.
+/// A temporary folder that only its owner can enter, for one workbook on its way to the spreadsheet program. Folder and
+/// file go with the object, unless they were handed over.
 ///
 /// The folder is locked as long as the file in it is needed, by this object or by the guard that `übergib` leaves
 /// behind. So the next start can tell what was left behind by a run that did not end well, and removes it.
@@ -15,10 +17,6 @@ class Zwischenablage {
 public:
     /// Makes the folder and the empty file in it. Throws Laufzeitfehler.
     explicit Zwischenablage(const std::string& dateiname);
-    Zwischenablage(const Zwischenablage&) = delete;
-    Zwischenablage& operator=(const Zwischenablage&) = delete;
-    /// Removes folder and file, unless `übergib` or `überlasse` was called.
-    ~Zwischenablage() = default;
 
     const std::filesystem::path& datei() const { return m_datei; }
 
@@ -33,7 +31,7 @@ public:
     static void räumeAuf();
 
 private:
-    Wegwerfordner m_ordner;
+    std::unique_ptr<Wegwerfordner> m_ordner; ///< a guard may take it over
     std::filesystem::path m_datei;
 };
 

@@ -1,56 +1,34 @@
 #include "platform/calc/Zwischenablage.h"
 
-#include "platform/dateien/Dateien.h"
-#include "platform/text/Text.h"
-#include "platform/text/Zahl.h"
-#include "platform/umgebung/Laufzeitfehler.h"
-
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <string_view>
+#include <sstream>
 #include <system_error>
 
 #include <fcntl.h>
 #include <poll.h>
+#include <spawn.h>
 #include <sys/inotify.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-// Between fork and exec, and in the guard, only calls that are safe there: no memory is taken, nothing is
-// unwound. Everything that they need is made before.
+// Behind fork, and in the guard, only calls that are safe there: no memory is taken, nothing is unwound. Everything
+// that they need is made before.
 
 namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view vorsilbe = "tolvek7-mappe-";
 constexpr auto xlsxArt = "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet";
 /// So long nobody has touched the file any more when it counts as read.
 constexpr int ruheMs = 30'000;
 /// After this the guard removes the file in any case.
 constexpr int fristMs = 600'000;
-
-[[noreturn]] void scheitere(std::string_view was, const fs::path& pfad, int fehler)
-{
-    throw Laufzeitfehler(verbinde(was, ": "_t, pfadtext(pfad), " (Fehler "_t, alsText(fehler), ')'));
-}
-
-void schließeAlleAußer(int eine, int andere)
-{
-    const auto kleinere = static_cast<unsigned>(eine < andere ? eine : andere);
-    const auto größere = static_cast<unsigned>(eine < andere ? andere : eine);
-    constexpr unsigned erste = 3;
-    if (kleinere > erste) {
-        close_range(erste, kleinere - 1, 0);
-    }
-    if (größere > kleinere + 1) {
-        close_range(kleinere + 1, größere - 1, 0);
-    }
-    close_range(größere + 1, ~0U, 0);
-}
+/// What a process has open besides input, output and messages of errors.
+constexpr unsigned ersteEigene = 3;
 
 /// How often the file is open right now, from the messages of the system.
 struct Zugriffe {
@@ -87,18 +65,21 @@ struct Wache {
     int melder;
 };
 
-/// The guard: waits until the file has been read, removes it, and ends.
+/// The guard: waits until the file has been read, removes it, and ends. Of all that the program has open it keeps the
+/// lock of the folder and the messages alone, in place of an input and an output that it does not have.
 [[noreturn]] void bewache(const Wache& wache)
 {
-    schließeAlleAußer(wache.schloss, wache.melder);
+    dup2(wache.schloss, STDIN_FILENO);
+    dup2(wache.melder, STDOUT_FILENO);
+    close_range(ersteEigene, ~0U, 0);
     Zugriffe zugriffe;
-    pollfd warten{wache.melder, POLLIN, 0};
+    pollfd warten{STDOUT_FILENO, POLLIN, 0};
     while (!zugriffe.entfernt) {
         const bool gelesen = zugriffe.gesehen && zugriffe.offen <= 0;
         if (poll(&warten, 1, gelesen ? ruheMs : fristMs) <= 0) {
             break;
         }
-        liesMeldungen(wache.melder, zugriffe);
+        liesMeldungen(STDOUT_FILENO, zugriffe);
     }
     unlink(wache.datei);
     rmdir(wache.ordner);
@@ -114,8 +95,8 @@ void löseVonEinUndAusgabe()
     dup2(nichts, STDERR_FILENO);
 }
 
-/// Starts the program as a grandchild, which nobody has to wait for; with `wache` its parent becomes the guard.
-/// False when it can't be started.
+/// Starts the program as a grandchild, which nobody has to wait for, and with `wache` a guard beside it. False when the
+/// program can't be started.
 bool starte(const fs::path& programm, const std::vector<std::string>& argumente, const Wache* wache)
 {
     std::vector<char*> zeiger{const_cast<char*>(programm.c_str())};
@@ -123,61 +104,37 @@ bool starte(const fs::path& programm, const std::vector<std::string>& argumente,
         zeiger.push_back(const_cast<char*>(argument.c_str()));
     }
     zeiger.push_back(nullptr);
-    std::array<int, 2> rohr{};
-    if (pipe2(rohr.data(), O_CLOEXEC) != 0) {
-        return false;
-    }
     const pid_t kind = fork();
     if (kind == 0) {
-        if (fork() != 0) {
-            _exit(0);
-        }
         setsid();
         löseVonEinUndAusgabe();
-        const pid_t enkel = wache != nullptr ? fork() : 0;
-        if (enkel == 0) {
-            close_range(3, ~0U, CLOSE_RANGE_CLOEXEC);
-            execv(programm.c_str(), zeiger.data());
+        close_range(ersteEigene, ~0U, CLOSE_RANGE_CLOEXEC);
+        pid_t enkel = 0;
+        const int fehler = posix_spawn(&enkel, programm.c_str(), nullptr, nullptr, zeiger.data(), environ);
+        if (fehler == 0 && wache != nullptr && fork() == 0) {
+            bewache(*wache);
         }
-        if (enkel <= 0) {
-            const int fehler = errno;
-            (void)!write(rohr[1], &fehler, sizeof fehler);
-            _exit(127);
-        }
-        bewache(*wache);
+        _exit(fehler);
     }
-    int fehler = kind < 0 ? errno : 0;
-    close(rohr[1]);
-    if (kind > 0) {
-        waitpid(kind, nullptr, 0);
-        (void)!read(rohr[0], &fehler, sizeof fehler);
+    int ende = 0;
+    while (kind > 0 && waitpid(kind, &ende, 0) < 0 && errno == EINTR) {
     }
-    close(rohr[0]);
-    return fehler == 0;
+    return kind > 0 && ende == 0;
 }
 
 } // namespace
-
-Zwischenablage::Zwischenablage(const std::string& dateiname) : m_ordner(vorsilbe), m_datei(m_ordner.pfad() / dateiname)
-{
-    const int griff = open(m_datei.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (griff < 0) {
-        scheitere("Die Zwischendatei kann nicht angelegt werden"_t, m_datei, errno);
-    }
-    close(griff);
-}
 
 bool Zwischenablage::übergib(const fs::path& programm, const std::vector<std::string>& argumente)
 {
     const int melder = inotify_init1(IN_CLOEXEC);
     inotify_add_watch(melder, m_datei.c_str(), IN_OPEN | IN_CLOSE);
-    const Wache wache{m_datei.c_str(), m_ordner.pfad().c_str(), static_cast<int>(m_ordner.schloss()), melder};
+    const Wache wache{m_datei.c_str(), m_ordner->pfad().c_str(), static_cast<int>(m_ordner->schloss()), melder};
     std::vector<std::string> ganze = argumente;
     ganze.push_back(m_datei.string());
     const bool gestartet = starte(programm, ganze, &wache);
     close(melder);
     if (gestartet) {
-        m_ordner.behalte();
+        m_ordner->behalte();
     }
     return gestartet;
 }
@@ -187,28 +144,21 @@ bool Zwischenablage::überlasse(const fs::path& programm)
     fs::permissions(m_datei, fs::perms::owner_read);
     const bool gestartet = starte(programm, {m_datei.string()}, nullptr);
     if (gestartet) {
-        m_ordner.behalte();
+        m_ordner->behalte();
     }
     return gestartet;
-}
-
-void Zwischenablage::räumeAuf()
-{
-    Wegwerfordner::räumeAuf(vorsilbe);
 }
 
 std::optional<fs::path> findeProgramm(const std::string& name)
 {
     const char* pfade = std::getenv("PATH");
-    std::string_view rest = pfade == nullptr ? std::string_view{} : pfade;
-    while (!rest.empty()) {
-        const std::size_t ende = rest.find(':');
-        const fs::path programm = fs::path(rest.substr(0, ende)) / name;
+    std::istringstream ordner(pfade == nullptr ? "" : pfade);
+    for (std::string einer; std::getline(ordner, einer, ':');) {
+        const fs::path programm = fs::path(einer) / name;
         std::error_code egal;
         if (programm.is_absolute() && fs::is_regular_file(programm, egal) && access(programm.c_str(), X_OK) == 0) {
             return programm;
         }
-        rest.remove_prefix(ende == std::string_view::npos ? rest.size() : ende + 1);
     }
     return std::nullopt;
 }
@@ -219,24 +169,13 @@ namespace {
 bool kenntProgrammFürXlsx()
 {
     const auto frage = findeProgramm("xdg-mime");
-    std::array<int, 2> rohr{};
-    if (!frage || pipe2(rohr.data(), O_CLOEXEC) != 0) {
+    FILE* antwort = frage ? popen(("'" + frage->string() + "' query default " + xlsxArt).c_str(), "r") : nullptr;
+    if (antwort == nullptr) {
         return false;
     }
-    const pid_t kind = fork();
-    if (kind == 0) {
-        dup2(rohr[1], STDOUT_FILENO);
-        execl(frage->c_str(), frage->c_str(), "query", "default", xlsxArt, nullptr);
-        _exit(127);
-    }
-    close(rohr[1]);
-    char erstes = '\n';
-    const bool antwortet = kind > 0 && read(rohr[0], &erstes, 1) == 1 && erstes != '\n';
-    close(rohr[0]);
-    if (kind > 0) {
-        waitpid(kind, nullptr, 0);
-    }
-    return antwortet;
+    const int erstes = std::fgetc(antwort);
+    pclose(antwort);
+    return erstes != EOF && erstes != '\n';
 }
 
 } // namespace

@@ -1,32 +1,100 @@
 #include "platform/calc/Zwischenablage.h"
 
-#include "platform/calc/Dateiwache.h"
-#include "platform/dateien/Dateien.h"
-#include "platform/text/Text.h"
-#include "platform/text/Zahl.h"
-#include "platform/umgebung/Laufzeitfehler.h"
+#include "platform/dateien/Windowssystem.h"
 
 #include <array>
-#include <string_view>
+#include <chrono>
 
 #include <windows.h>
 
 #include <shellapi.h>
 #include <shlwapi.h>
 
-// A file that a program has open can't be removed on Windows; a guard in this process tries until it can (Dateiwache),
-// and what is left goes at the next start.
+// A file that a program has open can't be removed on Windows. A timer of the calling thread looks now and then whether
+// somebody has, so that thread has to take its messages, as every one with windows does; what is still open at the end
+// of the program goes at the next start.
 
 namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view vorsilbe = "tolvek7-mappe-";
+constexpr UINT blickMs = 500;
+/// So long nobody has had the file open any more when it counts as read.
+constexpr std::chrono::seconds ruhe{30};
+/// A file that nobody has opened by then is not wanted any more.
+constexpr std::chrono::minutes frist{10};
 
-[[noreturn]] void scheitere(std::string_view was, const fs::path& pfad)
+using Uhr = std::chrono::steady_clock;
+
+/// Being asked is over in a moment, so that the file is hardly ever in the way of the one who wants to open it.
+bool istOffen(const fs::path& datei)
 {
-    throw Laufzeitfehler(verbinde(was, ": "_t, pfadtext(pfad), " (Fehler "_t, alsText(GetLastError()), ')'));
+    return !öffneName(systempfad(datei), {.zugriff = GENERIC_READ, .teilen = 0}).istOffen() &&
+           GetLastError() == ERROR_SHARING_VIOLATION;
 }
+
+/// One file in its folder, which goes with this.
+struct Wache {
+    std::unique_ptr<Wegwerfordner> ordner;
+    fs::path datei;
+    Uhr::time_point anfang = Uhr::now();
+    Uhr::time_point zuletztOffen{};
+    bool gesehen = false;
+
+    /// Whether the file is not needed any more.
+    bool istFertig()
+    {
+        const auto jetzt = Uhr::now();
+        if (istOffen(datei)) {
+            gesehen = true;
+            zuletztOffen = jetzt;
+        }
+        return gesehen ? jetzt - zuletztOffen >= ruhe : jetzt - anfang >= frist;
+    }
+};
+
+/// All files that are watched.
+class Wachen {
+public:
+    static Wachen& alle()
+    {
+        static Wachen wachen;
+        return wachen;
+    }
+    Wachen(const Wachen&) = delete;
+    Wachen& operator=(const Wachen&) = delete;
+    ~Wachen()
+    {
+        for (const Wache& wache : m_wachen) {
+            if (!wache.gesehen || istOffen(wache.datei)) {
+                wache.ordner->behalte();
+            }
+        }
+    }
+
+    void nimm(Wache wache)
+    {
+        m_wachen.push_back(std::move(wache));
+        if (m_uhr == 0) {
+            m_uhr = SetTimer(nullptr, 0, blickMs, [](HWND, UINT, UINT_PTR, DWORD) { alle().schau(); });
+        }
+    }
+
+private:
+    Wachen() = default;
+
+    void schau()
+    {
+        std::erase_if(m_wachen, [](Wache& wache) { return wache.istFertig(); });
+        if (m_wachen.empty()) {
+            KillTimer(nullptr, m_uhr);
+            m_uhr = 0;
+        }
+    }
+
+    std::vector<Wache> m_wachen;
+    UINT_PTR m_uhr = 0;
+};
 
 /// The program that has said it does this with workbooks.
 std::optional<fs::path> programmFür(const wchar_t* wunsch)
@@ -66,15 +134,11 @@ bool starte(const fs::path& programm, const std::vector<std::string>& argumente,
 
 } // namespace
 
-Zwischenablage::Zwischenablage(const std::string& dateiname) : m_ordner(vorsilbe), m_datei(m_ordner.pfad() / dateiname)
-{}
-
 bool Zwischenablage::übergib(const fs::path& programm, const std::vector<std::string>& argumente)
 {
     const bool gestartet = starte(programm, argumente, m_datei);
     if (gestartet) {
-        m_ordner.behalte();
-        bewacheBisGeschlossen(m_datei, m_ordner.schloss());
+        Wachen::alle().nimm({std::move(m_ordner), m_datei});
     }
     return gestartet;
 }
@@ -90,17 +154,9 @@ bool Zwischenablage::überlasse(const fs::path& /*programm*/)
         ShellExecuteW(nullptr, alsNeues ? L"new" : L"open", m_datei.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
     const bool gestartet = reinterpret_cast<INT_PTR>(ergebnis) > letzterFehler;
     if (gestartet) {
-        m_ordner.behalte();
-        bewacheBisGeschlossen(m_datei, m_ordner.schloss());
-    } else {
-        SetFileAttributesW(m_datei.c_str(), FILE_ATTRIBUTE_NORMAL); // so that it can be removed
+        Wachen::alle().nimm({std::move(m_ordner), m_datei});
     }
     return gestartet;
-}
-
-void Zwischenablage::räumeAuf()
-{
-    Wegwerfordner::räumeAuf(vorsilbe);
 }
 
 /// Here it is the program that is registered for workbooks, when it is the one that is asked for; and where none is

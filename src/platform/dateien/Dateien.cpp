@@ -4,6 +4,9 @@
 #include "platform/text/Text.h"
 #include "platform/umgebung/Laufzeitfehler.h"
 
+#include <array>
+#include <ctime>
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -65,8 +68,6 @@ Schreiber::Schreiber(Dateizugriff& zugriff, const fs::path& pfad, Öffnung wie) 
     m_block.reserve(blockgröße);
 }
 
-Schreiber::~Schreiber() = default;
-
 void Schreiber::text(std::string_view bytes)
 {
     if (bytes.size() >= blockgröße) {
@@ -108,35 +109,40 @@ void Schreiber::schließe()
     });
 }
 
-Dateien::Dateien(std::unique_ptr<Dateizugriff> zugriff) : m_zugriff(std::move(zugriff))
-{}
-
-Dateien::~Dateien() = default;
+Dateizugriff& Dateien::zugriff()
+{
+    m_beiZugriff();
+    return *m_zugriff;
+}
 
 std::unique_ptr<Dateiinhalt> Dateien::lies(const fs::path& pfad, std::uint64_t ab)
 {
-    return mitNamen("Die Datei kann nicht gelesen werden:"_t, pfad, [&] { return m_zugriff->lies(pfad, ab); });
+    return mitNamen("Die Datei kann nicht gelesen werden:"_t, pfad, [&] { return zugriff().lies(pfad, ab); });
 }
 
 std::uint64_t Dateien::länge(const fs::path& pfad)
 {
-    return mitNamen("Die Datei kann nicht gelesen werden:"_t, pfad, [&] { return m_zugriff->länge(pfad); });
+    return mitNamen("Die Datei kann nicht gelesen werden:"_t, pfad, [&] { return zugriff().länge(pfad); });
 }
 
 Fund Dateien::findet(const fs::path& pfad)
 {
     return mitNamen("Es kann nicht festgestellt werden, was unter diesem Namen liegt:"_t, pfad,
-                    [&] { return m_zugriff->findet(pfad); });
+                    [&] { return zugriff().findet(pfad); });
 }
 
 fs::path Dateien::ziel(const fs::path& pfad)
 {
-    return mitNamen("Der Verweis kann nicht verfolgt werden:"_t, pfad, [&] { return m_zugriff->ziel(pfad); });
+    return mitNamen("Der Verweis kann nicht verfolgt werden:"_t, pfad, [&] { return zugriff().ziel(pfad); });
 }
 
 std::string Dateien::zeitVon(const fs::path& pfad)
 {
-    return mitNamen("Die Zeit der Datei kann nicht gelesen werden:"_t, pfad, [&] { return m_zugriff->zeitVon(pfad); });
+    const std::time_t zeit =
+        mitNamen("Die Zeit der Datei kann nicht gelesen werden:"_t, pfad, [&] { return zugriff().zeitVon(pfad); });
+    std::array<char, 32> text{};
+    const auto länge = std::strftime(text.data(), text.size(), "%Y-%m-%d %H.%M.%S", std::localtime(&zeit));
+    return {text.data(), länge};
 }
 
 void Dateien::ersetze(const fs::path& ziel, const fs::path& arbeitsdatei, const std::function<void(Schreiber&)>& inhalt)
@@ -156,24 +162,24 @@ void Dateien::kopiereÜber(const fs::path& quelle, const fs::path& ziel)
 
 void Dateien::legeLeerAn(const fs::path& pfad)
 {
-    Schreiber(*m_zugriff, pfad, Öffnung::Neu).schließe();
+    Schreiber(zugriff(), pfad, Öffnung::Neu).schließe();
 }
 
 std::unique_ptr<Schreiber> Dateien::schreibeNeu(const fs::path& pfad)
 {
-    return std::make_unique<Schreiber>(*m_zugriff, pfad, Öffnung::Leeren);
+    return std::make_unique<Schreiber>(zugriff(), pfad, Öffnung::Leeren);
 }
 
 std::unique_ptr<Schreiber> Dateien::schreibeArbeitsdatei(const fs::path& pfad)
 {
     entferne(pfad);
-    return std::make_unique<Schreiber>(*m_zugriff, pfad, Öffnung::Neu);
+    return std::make_unique<Schreiber>(zugriff(), pfad, Öffnung::Neu);
 }
 
 void Dateien::verdopple(const fs::path& von, const fs::path& nach)
 {
     try {
-        m_zugriff->verknüpfe(von, nach);
+        zugriff().verknüpfe(von, nach);
     } catch (const Dateifehler&) {
         const auto schreiber = schreibeArbeitsdatei(nach);
         schreiber->text(lies(von)->text());
@@ -183,34 +189,34 @@ void Dateien::verdopple(const fs::path& von, const fs::path& nach)
 
 void Dateien::lösche(const fs::path& pfad)
 {
-    mitNamen("Die Datei kann nicht gelöscht werden:"_t, pfad, [&] { m_zugriff->lösche(pfad); });
+    mitNamen("Die Datei kann nicht gelöscht werden:"_t, pfad, [&] { zugriff().lösche(pfad); });
 }
 
 void Dateien::entferne(const fs::path& pfad)
 {
     mitNamen("Die Datei kann nicht gelöscht werden:"_t, pfad, [&] {
-        if (m_zugriff->istVergeben(pfad)) {
-            m_zugriff->lösche(pfad);
+        if (zugriff().istVergeben(pfad)) {
+            zugriff().lösche(pfad);
         }
     });
 }
 
 void Dateien::benenneUm(const fs::path& von, const fs::path& nach)
 {
-    mitNamen("Die Datei kann nicht ersetzt werden:"_t, nach, [&] { m_zugriff->benenneUm(von, nach); });
+    mitNamen("Die Datei kann nicht ersetzt werden:"_t, nach, [&] { zugriff().benenneUm(von, nach); });
 }
 
 void Dateien::sichereOrdner(const fs::path& ordner)
 {
     mitNamen("Der Ordner kann nicht auf die Platte gesichert werden:"_t, ordner,
-             [&] { m_zugriff->sichereOrdnerAufPlatte(ordner); });
+             [&] { zugriff().sichereOrdnerAufPlatte(ordner); });
 }
 
 void Dateien::legeOrdnerAn(const fs::path& pfad)
 {
     mitNamen("Der Ordner kann nicht angelegt werden:"_t, pfad, [&] {
-        m_zugriff->legeOrdnerAn(pfad);
-        m_zugriff->sichereOrdnerAufPlatte(pfad.parent_path());
+        zugriff().legeOrdnerAn(pfad);
+        zugriff().sichereOrdnerAufPlatte(pfad.parent_path());
     });
 }
 
@@ -232,25 +238,19 @@ void Dateien::entferneOrdner(const fs::path& ordner)
     for (const auto& name : dateienIn(ordner)) {
         lösche(ordner / name);
     }
-    mitNamen("Der Ordner kann nicht entfernt werden:"_t, ordner, [&] { m_zugriff->entferneOrdner(ordner); });
+    mitNamen("Der Ordner kann nicht entfernt werden:"_t, ordner, [&] { zugriff().entferneOrdner(ordner); });
 }
 
-std::vector<fs::path> Dateien::dateienIn(const fs::path& ordner)
+std::vector<fs::path> Dateien::namenIn(const fs::path& ordner, bool sindOrdner)
 {
     return mitNamen("Der Ordner kann nicht gelesen werden:"_t, ordner,
-                    [&] { return m_zugriff->namenIn(ordner, false); });
-}
-
-std::vector<fs::path> Dateien::ordnerIn(const fs::path& ordner)
-{
-    return mitNamen("Der Ordner kann nicht gelesen werden:"_t, ordner,
-                    [&] { return m_zugriff->namenIn(ordner, true); });
+                    [&] { return zugriff().namenIn(ordner, sindOrdner); });
 }
 
 void Dateien::verwehreAnderen(const fs::path& pfad)
 {
     try {
-        m_zugriff->verwehreAnderen(pfad);
+        zugriff().verwehreAnderen(pfad);
     } catch (const Dateifehler&) {
         // some file systems know no rights
     }

@@ -35,7 +35,6 @@ public:
     Schreiber(Dateizugriff& zugriff, const std::filesystem::path& pfad, Öffnung wie);
     Schreiber(const Schreiber&) = delete;
     Schreiber& operator=(const Schreiber&) = delete;
-    ~Schreiber();
 
     /// Text as it stands.
     void text(std::string_view bytes);
@@ -61,8 +60,12 @@ private:
 
 class Dateien {
 public:
-    explicit Dateien(std::unique_ptr<Dateizugriff> zugriff);
-    ~Dateien();
+    /// `beiZugriff` is called before each operation of the system.
+    explicit Dateien(
+        std::unique_ptr<Dateizugriff> zugriff = std::make_unique<Dateizugriff>(),
+        std::function<void()> beiZugriff = [] {})
+        : m_zugriff(std::move(zugriff)), m_beiZugriff(std::move(beiZugriff))
+    {}
 
     /// The content, from byte `ab` on. Throws Laufzeitfehler.
     std::unique_ptr<Dateiinhalt> lies(const std::filesystem::path& pfad, std::uint64_t ab = 0);
@@ -105,13 +108,17 @@ public:
     bool sorgeFürOrdner(const std::filesystem::path& pfad);
     /// Removes the folder with the files in it; it holds no folders.
     void entferneOrdner(const std::filesystem::path& ordner);
-    std::vector<std::filesystem::path> dateienIn(const std::filesystem::path& ordner);
-    std::vector<std::filesystem::path> ordnerIn(const std::filesystem::path& ordner);
+    std::vector<std::filesystem::path> dateienIn(const std::filesystem::path& ordner) { return namenIn(ordner, false); }
+    std::vector<std::filesystem::path> ordnerIn(const std::filesystem::path& ordner) { return namenIn(ordner, true); }
     /// Takes the rights of others away from a file or folder that belongs to the user; what can't be changed stays.
     void verwehreAnderen(const std::filesystem::path& pfad);
 
 private:
+    Dateizugriff& zugriff();
+    std::vector<std::filesystem::path> namenIn(const std::filesystem::path& ordner, bool sindOrdner);
+
     std::unique_ptr<Dateizugriff> m_zugriff;
+    std::function<void()> m_beiZugriff;
 };
 
 /// The name under which the new version of a file or folder is written beside it: with ".neu" behind its own.

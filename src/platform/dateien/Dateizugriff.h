@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/dateien/Systemgriff.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -22,14 +24,19 @@ private:
     std::string m_text;
 };
 
-/// An open file as the system knows it.
+/// A file that is open for writing.
 class OffeneDatei {
 public:
+    OffeneDatei() = default;
+    explicit OffeneDatei(Systemgriff griff) : m_griff(std::move(griff)) {}
     virtual ~OffeneDatei() = default;
     /// Writes as much as it can; returns the number of bytes written or throws Dateifehler.
-    virtual std::size_t schreibe(std::string_view bytes) = 0;
-    virtual void sichereAufPlatte() = 0;
-    virtual void schließe() = 0;
+    virtual std::size_t schreibe(std::string_view bytes);
+    virtual void sichereAufPlatte();
+    virtual void schließe();
+
+private:
+    Systemgriff m_griff;
 };
 
 /// What one operation of the system failed with; `Dateien` turns it into a Laufzeitfehler.
@@ -47,7 +54,7 @@ enum class Öffnung {
 /// What lies under a path.
 enum class Fund { Nichts, Datei, Ordner, Anderes };
 
-/// The operations of the system; every one throws Dateifehler.
+/// The operations of the system; every one throws Dateifehler. What shall go otherwise in a test is overridden.
 class Dateizugriff {
 public:
     using Pfad = std::filesystem::path;
@@ -58,61 +65,27 @@ public:
     virtual ~Dateizugriff() = default;
 
     /// The content from byte `ab` on (0: all of it). Never waits: a pipe or a device in the place of a file is a
-    /// failure.
-    virtual std::unique_ptr<Dateiinhalt> lies(const Pfad& pfad, std::uint64_t ab) = 0;
-    virtual std::uint64_t länge(const Pfad& pfad) = 0;
-    virtual std::unique_ptr<OffeneDatei> öffne(const Pfad& pfad, Öffnung wie) = 0;
-    virtual void benenneUm(const Pfad& von, const Pfad& nach) = 0;
-    virtual void lösche(const Pfad& pfad) = 0;
+    /// failure. A file that grows or shrinks meanwhile is read as far as it goes.
+    virtual std::unique_ptr<Dateiinhalt> lies(const Pfad& pfad, std::uint64_t ab);
+    virtual std::uint64_t länge(const Pfad& pfad);
+    virtual std::unique_ptr<OffeneDatei> öffne(const Pfad& pfad, Öffnung wie);
+    virtual void benenneUm(const Pfad& von, const Pfad& nach);
+    virtual void lösche(const Pfad& pfad);
     /// A second name for the same content.
-    virtual void verknüpfe(const Pfad& von, const Pfad& nach) = 0;
-    virtual void legeOrdnerAn(const Pfad& pfad) = 0;
-    virtual void entferneOrdner(const Pfad& pfad) = 0;
-    virtual void sichereOrdnerAufPlatte(const Pfad& pfad) = 0;
-    virtual void verwehreAnderen(const Pfad& pfad) = 0;
+    virtual void verknüpfe(const Pfad& von, const Pfad& nach);
+    virtual void legeOrdnerAn(const Pfad& pfad);
+    virtual void entferneOrdner(const Pfad& pfad);
+    virtual void sichereOrdnerAufPlatte(const Pfad& pfad);
+    virtual void verwehreAnderen(const Pfad& pfad);
 
     /// Links followed; a link to nothing is a failure.
-    virtual Fund findet(const Pfad& pfad) = 0;
+    virtual Fund findet(const Pfad& pfad);
     /// Whether anything, a link to nothing included, has the name.
-    virtual bool istVergeben(const Pfad& pfad) = 0;
-    virtual Pfad ziel(const Pfad& pfad) = 0;
-    /// Local time, "JJJJ-MM-TT hh.mm.ss".
-    virtual std::string zeitVon(const Pfad& pfad) = 0;
+    virtual bool istVergeben(const Pfad& pfad);
+    /// The end of the chain of links, the path itself without one.
+    virtual Pfad ziel(const Pfad& pfad);
+    /// When the file was last written, in seconds since 1970.
+    virtual std::int64_t zeitVon(const Pfad& pfad);
     /// The names in the folder that are folders (or are none), sorted.
-    virtual std::vector<Pfad> namenIn(const Pfad& ordner, bool sindOrdner) = 0;
+    virtual std::vector<Pfad> namenIn(const Pfad& ordner, bool sindOrdner);
 };
-
-/// An access that hands everything on to another one; what is to go otherwise is overridden.
-class Zugriffsweiche : public Dateizugriff {
-public:
-    explicit Zugriffsweiche(std::unique_ptr<Dateizugriff> dahinter) : m_dahinter(std::move(dahinter)) {}
-
-    std::unique_ptr<Dateiinhalt> lies(const Pfad& pfad, std::uint64_t ab) override { return dahinter().lies(pfad, ab); }
-    std::uint64_t länge(const Pfad& pfad) override { return dahinter().länge(pfad); }
-    std::unique_ptr<OffeneDatei> öffne(const Pfad& pfad, Öffnung wie) override { return dahinter().öffne(pfad, wie); }
-    void benenneUm(const Pfad& von, const Pfad& nach) override { dahinter().benenneUm(von, nach); }
-    void lösche(const Pfad& pfad) override { dahinter().lösche(pfad); }
-    void verknüpfe(const Pfad& von, const Pfad& nach) override { dahinter().verknüpfe(von, nach); }
-    void legeOrdnerAn(const Pfad& pfad) override { dahinter().legeOrdnerAn(pfad); }
-    void entferneOrdner(const Pfad& pfad) override { dahinter().entferneOrdner(pfad); }
-    void sichereOrdnerAufPlatte(const Pfad& pfad) override { dahinter().sichereOrdnerAufPlatte(pfad); }
-    void verwehreAnderen(const Pfad& pfad) override { dahinter().verwehreAnderen(pfad); }
-    Fund findet(const Pfad& pfad) override { return dahinter().findet(pfad); }
-    bool istVergeben(const Pfad& pfad) override { return dahinter().istVergeben(pfad); }
-    Pfad ziel(const Pfad& pfad) override { return dahinter().ziel(pfad); }
-    std::string zeitVon(const Pfad& pfad) override { return dahinter().zeitVon(pfad); }
-    std::vector<Pfad> namenIn(const Pfad& ordner, bool sindOrdner) override
-    {
-        return dahinter().namenIn(ordner, sindOrdner);
-    }
-
-protected:
-    /// Asked by every operation that goes on to it.
-    virtual Dateizugriff& dahinter() { return *m_dahinter; }
-
-private:
-    std::unique_ptr<Dateizugriff> m_dahinter;
-};
-
-/// The operations of this system (one source file per system).
-std::unique_ptr<Dateizugriff> erzeugeDateizugriff();

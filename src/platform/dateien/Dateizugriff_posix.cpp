@@ -1,13 +1,10 @@
 #include "platform/dateien/Dateizugriff.h"
 
-#include "platform/dateien/Pfadkunde.h"
-#include "platform/dateien/Systemgrund.h"
 #include "platform/text/Text.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <system_error>
-#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -20,39 +17,38 @@ namespace {
 constexpr mode_t nurEigentümerDatei = 0600;
 constexpr mode_t nurEigentümerOrdner = 0700;
 
-void prüfe(bool gelungen)
+int nummer(const Systemgriff& griff)
 {
-    if (!gelungen) {
-        scheitereAmSystem();
+    return static_cast<int>(griff.nummer());
+}
+
+void prüfe(const std::error_code& fehler)
+{
+    if (fehler) {
+        throw Dateifehler(systemgrund(static_cast<unsigned long>(fehler.value())));
     }
 }
 
-/// Owns a file descriptor.
-class Griff {
-public:
-    explicit Griff(int nummer) : m_nummer(nummer) { prüfe(nummer >= 0); }
-    Griff(const Griff&) = delete;
-    Griff& operator=(const Griff&) = delete;
-    ~Griff()
-    {
-        if (m_nummer >= 0) {
-            ::close(m_nummer);
-        }
-    }
-    int nummer() const { return m_nummer; }
-    void schließe() { prüfe(::close(std::exchange(m_nummer, -1)) == 0); }
-
-private:
-    int m_nummer;
-};
-
-std::uint64_t längeVon(const Griff& griff)
+struct stat angabenZu(const fs::path& pfad)
 {
     struct stat angaben = {};
-    prüfe(::fstat(griff.nummer(), &angaben) == 0);
+    prüfeSystem(::stat(pfad.c_str(), &angaben) == 0);
+    return angaben;
+}
+
+} // namespace
+
+Systemgriff öffneZumLesen(const fs::path& pfad)
+{
+    return geprüft(Systemgriff(::open(pfad.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)));
+}
+
+std::uint64_t längeVon(const Systemgriff& griff)
+{
+    struct stat angaben = {};
+    prüfeSystem(::fstat(nummer(griff), &angaben) == 0);
     if (S_ISDIR(angaben.st_mode)) {
-        errno = EISDIR;
-        scheitereAmSystem();
+        throw Dateifehler(systemgrund(EISDIR));
     }
     if (!S_ISREG(angaben.st_mode)) {
         throw Dateifehler(std::string("unter diesem Namen liegt keine gewöhnliche Datei"_t));
@@ -60,121 +56,136 @@ std::uint64_t längeVon(const Griff& griff)
     return static_cast<std::uint64_t>(angaben.st_size);
 }
 
-/// Without waiting: an open pipe would otherwise stop the program until somebody writes into it.
-int öffneZumLesen(const fs::path& pfad)
+std::size_t liesAb(const Systemgriff& griff, std::uint64_t ab, std::span<char> ziel)
 {
-    return ::open(pfad.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    const auto menge = ::pread(nummer(griff), ziel.data(), ziel.size(), static_cast<off_t>(ab));
+    if (menge < 0 && errno == EINTR) {
+        return liesAb(griff, ab, ziel);
+    }
+    prüfeSystem(menge >= 0);
+    return static_cast<std::size_t>(menge);
 }
 
-/// A file that grows or shrinks meanwhile is read as far as it goes.
-std::string liesBisEnde(const fs::path& pfad, std::uint64_t ab)
+std::size_t OffeneDatei::schreibe(std::string_view bytes)
 {
-    const Griff griff(öffneZumLesen(pfad));
-    const auto länge = längeVon(griff);
-    prüfe(::lseek(griff.nummer(), static_cast<off_t>(ab), SEEK_SET) >= 0);
-    std::string text(static_cast<std::size_t>(länge - std::min(länge, ab)) + 1, '\0'); // one more, to see the end
-    std::size_t gelesen = 0;
-    for (;;) {
-        if (gelesen == text.size()) {
-            text.resize(2 * text.size());
-        }
-        const auto menge = ::read(griff.nummer(), text.data() + gelesen, text.size() - gelesen);
-        if (menge < 0 && errno == EINTR) {
-            continue;
-        }
-        prüfe(menge >= 0);
-        if (menge == 0) {
-            break;
-        }
-        gelesen += static_cast<std::size_t>(menge);
+    const auto geschrieben = ::write(nummer(m_griff), bytes.data(), bytes.size());
+    if (geschrieben < 0 && errno == EINTR) {
+        return schreibe(bytes);
     }
-    text.resize(gelesen);
-    return text;
+    prüfeSystem(geschrieben >= 0);
+    return static_cast<std::size_t>(geschrieben);
 }
 
-class PosixDatei : public OffeneDatei {
-public:
-    PosixDatei(const fs::path& pfad, Öffnung wie)
-        : m_griff(::open(pfad.c_str(),
-                         O_WRONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | O_CREAT |
-                             (wie == Öffnung::Leeren ? O_TRUNC : O_EXCL | O_NOFOLLOW),
-                         nurEigentümerDatei))
-    {
-        // a file from elsewhere may have been readable by others; where that can't be changed it is no failure
-        static_cast<void>(::fchmod(m_griff.nummer(), nurEigentümerDatei));
-    }
-
-    std::size_t schreibe(std::string_view bytes) override
-    {
-        const auto geschrieben = ::write(m_griff.nummer(), bytes.data(), bytes.size());
-        if (geschrieben < 0 && errno == EINTR) {
-            return schreibe(bytes);
-        }
-        prüfe(geschrieben >= 0);
-        return static_cast<std::size_t>(geschrieben);
-    }
-    void sichereAufPlatte() override { prüfe(::fsync(m_griff.nummer()) == 0); }
-    void schließe() override { m_griff.schließe(); }
-
-private:
-    Griff m_griff;
-};
-
-class PosixZugriff : public Dateizugriff {
-public:
-    std::unique_ptr<Dateiinhalt> lies(const fs::path& pfad, std::uint64_t ab) override
-    {
-        return std::make_unique<Dateiinhalt>(liesBisEnde(pfad, ab));
-    }
-    std::uint64_t länge(const fs::path& pfad) override { return längeVon(Griff(öffneZumLesen(pfad))); }
-    std::unique_ptr<OffeneDatei> öffne(const fs::path& pfad, Öffnung wie) override
-    {
-        return std::make_unique<PosixDatei>(pfad, wie);
-    }
-    void benenneUm(const fs::path& von, const fs::path& nach) override
-    {
-        prüfe(::rename(von.c_str(), nach.c_str()) == 0);
-    }
-    void lösche(const fs::path& pfad) override { prüfe(::unlink(pfad.c_str()) == 0); }
-    void verknüpfe(const fs::path& von, const fs::path& nach) override
-    {
-        prüfe(::link(von.c_str(), nach.c_str()) == 0);
-    }
-    void legeOrdnerAn(const fs::path& pfad) override { prüfe(::mkdir(pfad.c_str(), nurEigentümerOrdner) == 0); }
-    void entferneOrdner(const fs::path& pfad) override { prüfe(::rmdir(pfad.c_str()) == 0); }
-    void sichereOrdnerAufPlatte(const fs::path& pfad) override
-    {
-        Griff griff(::open(pfad.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-        prüfe(::fsync(griff.nummer()) == 0);
-        griff.schließe();
-    }
-    void verwehreAnderen(const fs::path& pfad) override
-    {
-        struct stat angaben = {};
-        prüfe(::stat(pfad.c_str(), &angaben) == 0);
-        constexpr mode_t andere = S_IRWXG | S_IRWXO;
-        if ((angaben.st_mode & andere) != 0 && angaben.st_uid == ::geteuid()) {
-            prüfe(::chmod(pfad.c_str(), angaben.st_mode & static_cast<mode_t>(~andere) & mode_t{07777}) == 0);
-        }
-    }
-    Fund findet(const fs::path& pfad) override { return fundAn(pfad); }
-    bool istVergeben(const fs::path& pfad) override { return istNameVergeben(pfad); }
-    fs::path ziel(const fs::path& pfad) override { return endeDerVerweise(pfad); }
-    std::string zeitVon(const fs::path& pfad) override
-    {
-        struct stat angaben = {};
-        prüfe(::stat(pfad.c_str(), &angaben) == 0);
-        return alsZeittext(angaben.st_mtime);
-    }
-    std::vector<fs::path> namenIn(const fs::path& ordner, bool sindOrdner) override
-    {
-        return listeNamen(ordner, sindOrdner);
-    }
-};
-
-} // namespace
-
-std::unique_ptr<Dateizugriff> erzeugeDateizugriff()
+void OffeneDatei::sichereAufPlatte()
 {
-    return std::make_unique<PosixZugriff>();
+    prüfeSystem(::fsync(nummer(m_griff)) == 0);
+}
+
+std::unique_ptr<OffeneDatei> Dateizugriff::öffne(const fs::path& pfad, Öffnung wie)
+{
+    const int art = wie == Öffnung::Leeren ? O_TRUNC : O_EXCL | O_NOFOLLOW;
+    auto griff = geprüft(Systemgriff(
+        ::open(pfad.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | O_CREAT | art, nurEigentümerDatei)));
+    // a file from elsewhere may have been readable by others; where that can't be changed it is no failure
+    static_cast<void>(::fchmod(nummer(griff), nurEigentümerDatei));
+    return std::make_unique<OffeneDatei>(std::move(griff));
+}
+
+void Dateizugriff::benenneUm(const fs::path& von, const fs::path& nach)
+{
+    prüfeSystem(::rename(von.c_str(), nach.c_str()) == 0);
+}
+
+void Dateizugriff::lösche(const fs::path& pfad)
+{
+    prüfeSystem(::unlink(pfad.c_str()) == 0);
+}
+
+void Dateizugriff::verknüpfe(const fs::path& von, const fs::path& nach)
+{
+    prüfeSystem(::link(von.c_str(), nach.c_str()) == 0);
+}
+
+void Dateizugriff::legeOrdnerAn(const fs::path& pfad)
+{
+    prüfeSystem(::mkdir(pfad.c_str(), nurEigentümerOrdner) == 0);
+}
+
+void Dateizugriff::entferneOrdner(const fs::path& pfad)
+{
+    prüfeSystem(::rmdir(pfad.c_str()) == 0);
+}
+
+void Dateizugriff::sichereOrdnerAufPlatte(const fs::path& pfad)
+{
+    auto griff = geprüft(Systemgriff(::open(pfad.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)));
+    prüfeSystem(::fsync(nummer(griff)) == 0);
+    prüfeSystem(griff.schließe());
+}
+
+void Dateizugriff::verwehreAnderen(const fs::path& pfad)
+{
+    const auto angaben = angabenZu(pfad);
+    constexpr mode_t andere = S_IRWXG | S_IRWXO;
+    if ((angaben.st_mode & andere) != 0 && angaben.st_uid == ::geteuid()) {
+        prüfeSystem(::chmod(pfad.c_str(), angaben.st_mode & static_cast<mode_t>(~andere) & mode_t{07777}) == 0);
+    }
+}
+
+Fund Dateizugriff::findet(const fs::path& pfad)
+{
+    std::error_code fehler;
+    switch (fs::status(pfad, fehler).type()) {
+    case fs::file_type::not_found:
+        if (istVergeben(pfad)) {
+            throw Dateifehler(std::string("der Verweis führt auf etwas, das nicht da ist"_t));
+        }
+        return Fund::Nichts;
+    case fs::file_type::regular:
+        return Fund::Datei;
+    case fs::file_type::directory:
+        return Fund::Ordner;
+    case fs::file_type::none:
+    case fs::file_type::unknown:
+        throw Dateifehler(systemgrund(static_cast<unsigned long>(fehler.value())));
+    default:
+        return Fund::Anderes;
+    }
+}
+
+bool Dateizugriff::istVergeben(const fs::path& pfad)
+{
+    std::error_code fehler;
+    return fs::exists(fs::symlink_status(pfad, fehler));
+}
+
+fs::path Dateizugriff::ziel(const fs::path& pfad)
+{
+    std::error_code fehler;
+    if (!fs::is_symlink(fs::symlink_status(pfad, fehler))) {
+        return pfad;
+    }
+    auto ende = fs::canonical(pfad, fehler);
+    prüfe(fehler);
+    return ende;
+}
+
+std::int64_t Dateizugriff::zeitVon(const fs::path& pfad)
+{
+    return angabenZu(pfad).st_mtime;
+}
+
+std::vector<fs::path> Dateizugriff::namenIn(const fs::path& ordner, bool sindOrdner)
+{
+    std::vector<fs::path> namen;
+    std::error_code fehler;
+    for (fs::directory_iterator ort(ordner, fehler), ende; !fehler && ort != ende; ort.increment(fehler)) {
+        std::error_code verweisInsLeere;
+        if (ort->is_directory(verweisInsLeere) == sindOrdner) {
+            namen.push_back(ort->path().filename());
+        }
+    }
+    prüfe(fehler);
+    std::sort(namen.begin(), namen.end());
+    return namen;
 }

@@ -20,7 +20,7 @@ void stelleOrdnerBereit(Dateien& dateien, const std::filesystem::path& ordner)
 
 } // namespace
 
-std::unique_ptr<Ordnersperre> sperreDatenordner(Dateien& dateien, const std::filesystem::path& ordner)
+Systemgriff sperreDatenordner(Dateien& dateien, const std::filesystem::path& ordner)
 {
     stelleOrdnerBereit(dateien, ordner);
     try {

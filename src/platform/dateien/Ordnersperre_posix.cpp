@@ -1,70 +1,57 @@
 #include "platform/dateien/Ordnersperre.h"
 
 #include "platform/dateien/Dateizugriff.h"
-#include "platform/dateien/Systemgrund.h"
 
 #include <cerrno>
-#include <system_error>
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
-class PosixSperre : public Ordnersperre {
-public:
-    explicit PosixSperre(int nummer) : m_nummer(nummer) {}
-    PosixSperre(const PosixSperre&) = delete;
-    PosixSperre& operator=(const PosixSperre&) = delete;
-    ~PosixSperre() override { ::close(m_nummer); }
-
-    /// False when another open folder or file has the lock.
-    bool nimm() const
-    {
-        while (::flock(m_nummer, LOCK_EX | LOCK_NB) != 0) {
-            if (errno == EWOULDBLOCK) {
-                return false;
-            }
-            if (errno != EINTR) {
-                scheitereAmSystem();
-            }
-        }
-        return true;
-    }
-
-private:
-    int m_nummer;
-};
-
-std::unique_ptr<PosixSperre> öffne(const std::filesystem::path& pfad, int wie)
+/// False when another open folder or file has the lock.
+bool nimm(const Systemgriff& griff)
 {
-    constexpr mode_t nurEigentümer = 0600;
-    const int nummer = ::open(pfad.c_str(), wie | O_CLOEXEC, nurEigentümer);
-    if (nummer < 0) {
-        scheitereAmSystem();
+    while (::flock(static_cast<int>(griff.nummer()), LOCK_EX | LOCK_NB) != 0) {
+        if (errno == EWOULDBLOCK) {
+            return false;
+        }
+        prüfeSystem(errno == EINTR);
     }
-    return std::make_unique<PosixSperre>(nummer);
+    return true;
 }
 
-/// Some network file systems lock nothing that is not open for writing, and a folder never is: there an empty file
-/// in the folder is locked in its place, the same one for everybody.
-std::unique_ptr<PosixSperre> öffneErsatz(const std::filesystem::path& ordner)
+Systemgriff öffne(const std::filesystem::path& pfad, int wie)
 {
-    return öffne(ordner / "Tolvek7.sperre", O_RDWR | O_CREAT | O_NOFOLLOW);
+    constexpr mode_t nurEigentümer = 0600;
+    return geprüft(Systemgriff(::open(pfad.c_str(), wie | O_CLOEXEC, nurEigentümer)));
 }
 
 } // namespace
 
-std::unique_ptr<Ordnersperre> sperreOrdner(const std::filesystem::path& ordner)
+Systemgriff sperreOrdner(const std::filesystem::path& ordner)
 {
     auto sperre = öffne(ordner, O_RDONLY | O_DIRECTORY);
     bool istErste = false;
     try {
-        istErste = sperre->nimm();
+        istErste = nimm(sperre);
     } catch (const Dateifehler&) {
-        sperre = öffneErsatz(ordner);
-        istErste = sperre->nimm();
+        // Some network file systems lock nothing that is not open for writing, and a folder never is: there an empty
+        // file in the folder is locked in its place, the same one for everybody.
+        sperre = öffne(ordner / "Tolvek7.sperre", O_RDWR | O_CREAT | O_NOFOLLOW);
+        istErste = nimm(sperre);
     }
-    return istErste ? std::move(sperre) : nullptr;
+    return istErste ? std::move(sperre) : Systemgriff();
+}
+
+Systemgriff sperreWegwerfordner(const std::filesystem::path& ordner)
+{
+    Systemgriff sperre(::open(ordner.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    const int nummer = static_cast<int>(sperre.nummer());
+    struct stat angaben = {};
+    const bool gelungen = sperre.istOffen() && ::flock(nummer, LOCK_EX | LOCK_NB) == 0 &&
+                          ::fstat(nummer, &angaben) == 0 && angaben.st_uid == ::geteuid() && angaben.st_nlink > 0;
+    return gelungen ? std::move(sperre) : Systemgriff();
 }

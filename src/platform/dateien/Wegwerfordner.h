@@ -1,6 +1,7 @@
 #pragma once
 
-#include <cstdint>
+#include "platform/dateien/Systemgriff.h"
+
 #include <filesystem>
 #include <string_view>
 
@@ -18,7 +19,7 @@ public:
 
     const std::filesystem::path& pfad() const { return m_pfad; }
     /// The system's handle of the lock, for a child process that goes on with the folder.
-    std::intptr_t schloss() const { return m_schloss; }
+    std::intptr_t schloss() const { return m_schloss.nummer(); }
     /// Leaves the folder to others; the lock still ends with the object.
     void behalte() { m_meiner = false; }
 
@@ -27,6 +28,6 @@ public:
 
 private:
     std::filesystem::path m_pfad;
-    std::intptr_t m_schloss = -1;
+    Systemgriff m_schloss;
     bool m_meiner = true; ///< this object removes the folder
 };

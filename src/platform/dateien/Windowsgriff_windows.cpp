@@ -1,10 +1,7 @@
-#include "platform/dateien/Windowsgriff.h"
+#include "platform/dateien/Windowssystem.h"
 
 #include "platform/dateien/Dateizugriff.h"
-#include "platform/dateien/Windowssystem.h"
 #include "platform/text/Text.h"
-
-#include <utility>
 
 #include <windows.h>
 
@@ -26,14 +23,8 @@ bool gehtVielleichtGleich(DWORD fehler)
 /// Whether somebody has the file open in a way that keeps others from replacing or removing it.
 bool istGeöffnet(const std::wstring& name)
 {
-    constexpr DWORD alleTeilen = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    HANDLE griff =
-        ::CreateFileW(name.c_str(), DELETE, alleTeilen, nullptr, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
-    if (griff != INVALID_HANDLE_VALUE) {
-        ::CloseHandle(griff);
-        return false;
-    }
-    return ::GetLastError() == ERROR_SHARING_VIOLATION;
+    const auto griff = öffneName(name, {.zugriff = DELETE, .merkmale = FILE_FLAG_OPEN_REPARSE_POINT});
+    return !griff.istOffen() && ::GetLastError() == ERROR_SHARING_VIOLATION;
 }
 
 /// "Access denied" has many reasons; nothing for those that only a right would help with.
@@ -54,11 +45,16 @@ std::string_view genauererGrund(const std::wstring& name)
 
 } // namespace
 
-void prüfeSystem(bool gelungen)
+Systemgriff öffneName(const std::wstring& name, const Windowsöffnung& wie)
 {
-    if (!gelungen) {
-        throw Dateifehler(windowsgrund(::GetLastError()));
-    }
+    auto* rechte = static_cast<SECURITY_ATTRIBUTES*>(rechteDesEigentümers());
+    return Systemgriff(reinterpret_cast<std::intptr_t>(
+        ::CreateFileW(name.c_str(), wie.zugriff, wie.teilen, rechte, wie.anlegen, wie.merkmale, nullptr)));
+}
+
+void* nummer(const Systemgriff& griff)
+{
+    return reinterpret_cast<void*>(griff.nummer());
 }
 
 void führeBeharrlichAus(const fs::path& pfad, const std::function<bool()>& operation)
@@ -72,34 +68,21 @@ void führeBeharrlichAus(const fs::path& pfad, const std::function<bool()>& oper
             throw Dateifehler(std::string(genauer));
         }
         if (!gehtVielleichtGleich(fehler)) {
-            throw Dateifehler(windowsgrund(fehler));
+            throw Dateifehler(systemgrund(fehler));
         }
         if (::GetTickCount64() - anfang >= geduldMs) {
-            throw Dateifehler(windowsgrund(istGeöffnet(name) ? ERROR_SHARING_VIOLATION : fehler));
+            throw Dateifehler(systemgrund(istGeöffnet(name) ? ERROR_SHARING_VIOLATION : fehler));
         }
         ::Sleep(pauseMs);
     }
 }
 
-Windowsgriff::Windowsgriff(const Windowsöffnung& öffnung) : m_griff(INVALID_HANDLE_VALUE)
+Systemgriff öffneBeharrlich(const fs::path& pfad, const Windowsöffnung& wie)
 {
-    const auto name = systempfad(öffnung.pfad);
-    auto* rechte = static_cast<SECURITY_ATTRIBUTES*>(rechteDesEigentümers());
-    führeBeharrlichAus(öffnung.pfad, [&] {
-        m_griff = ::CreateFileW(name.c_str(), öffnung.zugriff, öffnung.teilen, rechte, öffnung.anlegen,
-                                öffnung.merkmale, nullptr);
-        return m_griff != INVALID_HANDLE_VALUE;
+    Systemgriff griff;
+    führeBeharrlichAus(pfad, [&, name = systempfad(pfad)] {
+        griff = öffneName(name, wie);
+        return griff.istOffen();
     });
-}
-
-Windowsgriff::~Windowsgriff()
-{
-    if (m_griff != INVALID_HANDLE_VALUE) {
-        ::CloseHandle(m_griff);
-    }
-}
-
-void Windowsgriff::schließe()
-{
-    prüfeSystem(::CloseHandle(std::exchange(m_griff, INVALID_HANDLE_VALUE)) != 0);
+    return griff;
 }

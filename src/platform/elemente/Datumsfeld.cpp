@@ -234,6 +234,10 @@ void Datumsfeld::stelleKalender(const Datum& tag)
 
 bool Datumsfeld::tasteDesKalenders(const Taste& taste)
 {
+    if (taste.klapptAuf() || taste.art == Taste::Art::Esc) {
+        schließeKalender();
+        return true;
+    }
     constexpr int woche = 7;
     const Datum tag = *m_kalendertag;
     switch (taste.art) {
@@ -258,10 +262,6 @@ bool Datumsfeld::tasteDesKalenders(const Taste& taste)
     case Taste::Art::Eingabe:
         m_kalendertag.reset();
         wähle(tag);
-        break;
-    case Taste::Art::Esc:
-    case Taste::Art::F4:
-        schließeKalender();
         break;
     default:
         break;

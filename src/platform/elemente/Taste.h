@@ -38,9 +38,10 @@ struct Taste {
     bool gehörtDemBildschirm() const
     {
         return art == Art::Tab || art == Art::RückTab || art == Art::Eingabe || art == Art::Esc || art == Art::F1 ||
-               art == Art::F4;
+               art == aufklapptaste;
     }
     bool istKombination() const { return strg || alt; }
-    /// F4 or Alt+Down: opens the list of a combo box, the calendar of a date.
-    bool klapptAuf() const { return !strg && !umschalt && ((art == Art::F4 && !alt) || (art == Art::Ab && alt)); }
+    /// Alone, or Alt and Down: opens the list of a combo box or the calendar of a date, and closes it again.
+    static constexpr Art aufklapptaste = Art::F4;
+    bool klapptAuf() const { return !strg && !umschalt && (alt ? art == Art::Ab : art == aufklapptaste); }
 };

@@ -1,6 +1,6 @@
 #include "platform/elemente/triCtlJaNein.h"
 
-#include "platform/text/Text.h"
+#include "platform/text/Antworttexte.h"
 
 #include <algorithm>
 #include <array>
@@ -13,9 +13,9 @@ struct Antwortwert {
 };
 
 constexpr std::array<Antwortwert, 3> antwortwerte{{
-    {"k.A."_t, farbe::rot},
-    {"ja"_t, farbe::weiß},
-    {"nein"_t, farbe::grau},
+    {antworttext::keine, farbe::rot},
+    {antworttext::ja, farbe::weiß},
+    {antworttext::nein, farbe::grau},
 }};
 
 constexpr Farbe randMitFokus = 13394787;

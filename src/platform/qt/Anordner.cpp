@@ -27,17 +27,11 @@ using Wort = Anordnung::Wort;
 constexpr double feldbreite = 24;
 constexpr double kartenbreite = 44;
 constexpr double kastenabstand = 0.5;
+constexpr double seitenabstand = 0.6; ///< between cards
 
 bool istWaagrecht(const QBoxLayout& layout)
 {
     return layout.direction() == QBoxLayout::LeftToRight;
-}
-
-template <class L> L* ohneRand(L* layout, double abstand)
-{
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(em(abstand));
-    return layout;
 }
 
 bool istBefehl(const Anordnung& a)
@@ -65,7 +59,7 @@ bool sindOptionen(const Anordnung& a)
 void Anordner::baueSeite(const Anordnung& a, QVBoxLayout& ziel)
 {
     ziel.setContentsMargins(em(0.7), em(0.65), em(0.7), em(0.65));
-    ziel.setSpacing(em(0.6));
+    ziel.setSpacing(em(seitenabstand));
     if (!füge(a, ziel)) {
         ziel.addStretch(1);
     }
@@ -105,6 +99,15 @@ bool Anordner::füge(const Anordnung& a, QBoxLayout& ziel)
         return true;
     }
     return false;
+}
+
+bool Anordner::fügeTeile(const Anordnung& a, QBoxLayout& ziel)
+{
+    bool füllt = false;
+    for (const auto& teil : a.teile) {
+        füllt = füge(teil, ziel) || füllt;
+    }
+    return füllt;
 }
 
 bool Anordner::fügeWidget(QWidget& widget, QBoxLayout& ziel, bool füllt)
@@ -166,12 +169,11 @@ bool Anordner::fügeText(const Anordnung& a, QBoxLayout& ziel)
 
 bool Anordner::fügeSpalte(const Anordnung& a, QBoxLayout& ziel)
 {
-    auto* spalte = ohneRand(new QVBoxLayout, sindOptionen(a) ? 0 : ziel.spacing() == em(0.6) ? 0.6 : kastenabstand);
+    auto* spalte = ohneRand(new QVBoxLayout, sindOptionen(a)                       ? 0
+                                             : ziel.spacing() == em(seitenabstand) ? seitenabstand
+                                                                                   : kastenabstand);
     ziel.addLayout(spalte);
-    bool füllt = a.füllt;
-    for (const auto& teil : a.teile) {
-        füllt = füge(teil, *spalte) || füllt;
-    }
+    const bool füllt = fügeTeile(a, *spalte) || a.füllt;
     ziel.setStretchFactor(spalte, füllt ? 1 : 0);
     return füllt;
 }
@@ -180,17 +182,14 @@ bool Anordner::fügeBefehle(const Anordnung& a, QBoxLayout& ziel)
 {
     auto* reihe = new Umbruchreihe(m_eltern);
     const QScopedValueRollback<QWidget*> eltern(m_eltern, reihe);
-    std::vector<QWidget*> teile;
-    auto lücke = a.teile.size();
+    bool rechts = false;
     for (const auto& teil : a.teile) {
         if (teil.wort == Wort::Dehnung) {
-            lücke = teile.size();
+            rechts = true;
         } else {
-            teile.push_back(macheElement(teil));
+            reihe->füge(*macheElement(teil), rechts);
         }
     }
-    lücke = std::min(lücke, teile.size());
-    reihe->setze(std::move(teile), lücke);
     return fügeWidget(*reihe, ziel, false);
 }
 
@@ -201,11 +200,7 @@ bool Anordner::fügeZeile(const Anordnung& a, QBoxLayout& ziel)
     }
     auto* zeile = ohneRand(new QHBoxLayout, kastenabstand);
     ziel.addLayout(zeile);
-    bool gedehnt = false;
-    for (const auto& teil : a.teile) {
-        gedehnt = füge(teil, *zeile) || gedehnt;
-    }
-    if (!gedehnt) {
+    if (!fügeTeile(a, *zeile)) {
         zeile->addStretch(1);
     }
     benenneNachKnopf(a);
@@ -225,15 +220,20 @@ void Anordner::benenneNachKnopf(const Anordnung& zeile) const
     }
 }
 
-QWidget* Anordner::macheWidget(const Anordnung& a, bool& füllt)
+QWidget* Anordner::macheWidget(const Anordnung& a, bool& füllt, double abstand)
 {
     if (a.wort == Wort::Element) {
-        füllt = a.füllt;
+        füllt = a.füllt || füllt;
         return macheElement(a);
     }
     auto* kasten = new QWidget(m_eltern);
     const QScopedValueRollback<QWidget*> eltern(m_eltern, kasten);
-    füllt = füge(a, *ohneRand(new QVBoxLayout(kasten), kastenabstand));
+    auto* layout = ohneRand(new QVBoxLayout(kasten), abstand);
+    if (füge(a, *layout)) {
+        füllt = true;
+    } else {
+        layout->addStretch(1);
+    }
     return kasten;
 }
 
@@ -254,48 +254,31 @@ bool Anordner::fügeDecke(const Anordnung& a, QBoxLayout& ziel)
 {
     auto* fläche = new Deckfläche(m_eltern);
     const QScopedValueRollback<QWidget*> eltern(m_eltern, fläche);
-    bool füllt = false;
-    auto* darunter = macheWidget(a.teile.front(), füllt);
-    auto* decke = zeichneElement(*a.teile.back().element, m_ansicht, m_eltern);
+    bool füllt = a.füllt;
+    auto* darunter = macheWidget(a.teile.front(), füllt, kastenabstand);
+    auto& element = *a.teile.back().element;
+    auto* decke = dynamic_cast<Knopf*>(zeichneElement(element, m_ansicht, m_eltern));
     if (a.teile.front().wort == Wort::Element) {
-        if (auto* knopf = dynamic_cast<Knopf*>(decke)) {
-            knopf->seiWertdecke();
-        }
+        decke->seiWertdecke();
     }
-    fläche->setze(*darunter, *decke);
-    return fügeWidget(*fläche, ziel, füllt || a.füllt);
+    fläche->füge(*darunter);
+    fläche->füge(*decke);
+    decke->raise();
+    const auto gleicheAb = [darunter, decke] { darunter->setEnabled(decke->isHidden()); };
+    gleicheAb();
+    m_ansicht.abonniere(element.geändert, gleicheAb);
+    return fügeWidget(*fläche, ziel, füllt);
 }
 
 bool Anordner::fügeStapel(const Anordnung& a, QBoxLayout& ziel)
 {
     auto* fläche = new Stapelfläche(m_eltern);
     const QScopedValueRollback<QWidget*> eltern(m_eltern, fläche);
-    std::vector<QWidget*> teile;
     bool füllt = a.füllt;
     for (const auto& teil : a.teile) {
-        bool dieserFüllt = false;
-        teile.push_back(macheWidget(teil, dieserFüllt));
-        füllt = füllt || dieserFüllt;
+        fläche->füge(*macheWidget(teil, füllt, kastenabstand));
     }
-    fläche->setze(std::move(teile));
     return fügeWidget(*fläche, ziel, füllt);
-}
-
-QWidget* Anordner::macheKartenspalte(const Anordnung& a, bool& füllt)
-{
-    if (a.wort == Wort::Karte) {
-        return macheKarte(a, füllt);
-    }
-    auto* spalte = new QWidget(m_eltern);
-    const QScopedValueRollback<QWidget*> eltern(m_eltern, spalte);
-    auto* layout = ohneRand(new QVBoxLayout(spalte), 0.6);
-    for (const auto& teil : a.teile) {
-        füllt = füge(teil, *layout) || füllt;
-    }
-    if (!füllt) {
-        layout->addStretch(1);
-    }
-    return spalte;
 }
 
 bool Anordner::fügeKarten(const Anordnung& a, QBoxLayout& ziel)
@@ -305,7 +288,8 @@ bool Anordner::fügeKarten(const Anordnung& a, QBoxLayout& ziel)
     bool füllt = a.füllt;
     for (const auto& teil : a.teile) {
         bool spalteFüllt = teil.füllt;
-        auto* spalte = macheKartenspalte(teil, spalteFüllt);
+        auto* spalte =
+            teil.wort == Wort::Karte ? macheKarte(teil, spalteFüllt) : macheWidget(teil, spalteFüllt, seitenabstand);
         const bool hatKarten = teil.wort == Wort::Karte || std::ranges::any_of(teil.teile, [](const Anordnung& t) {
                                    return t.wort == Wort::Karte;
                                });
@@ -366,9 +350,7 @@ Karte* Anordner::macheKarte(const Anordnung& a, bool& füllt)
         zeile->addStretch(1);
         layout->addLayout(zeile);
     }
-    for (const auto& teil : a.teile) {
-        füllt = füge(teil, *layout) || füllt;
-    }
+    füllt = fügeTeile(a, *layout) || füllt;
     benenneUnbenannte(*karte, alsQString(a.text));
     karte->setSizePolicy(QSizePolicy::Expanding, füllt ? QSizePolicy::Expanding : QSizePolicy::Maximum);
     return karte;

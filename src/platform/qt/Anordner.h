@@ -23,6 +23,7 @@ public:
 private:
     /// Appends the part to the layout; returns whether it takes what is left of the layout's direction.
     bool füge(const Anordnung& a, QBoxLayout& ziel);
+    bool fügeTeile(const Anordnung& a, QBoxLayout& ziel);
     bool fügeElement(const Anordnung& a, QBoxLayout& ziel);
     bool fügeText(const Anordnung& a, QBoxLayout& ziel);
     bool fügeSpalte(const Anordnung& a, QBoxLayout& ziel);
@@ -38,10 +39,10 @@ private:
 
     void fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBoxLayout& ziel);
     void verbindeFeld(const Anordnung& feld, Etikett& beschriftung, QWidget& zeile);
+    // they tell in `füllt` too whether the part takes what is left
     Karte* macheKarte(const Anordnung& a, bool& füllt);
-    QWidget* macheKartenspalte(const Anordnung& a, bool& füllt);
-    /// The part as a widget of its own.
-    QWidget* macheWidget(const Anordnung& a, bool& füllt);
+    /// The part as a widget of its own, what stands in it so many em apart.
+    QWidget* macheWidget(const Anordnung& a, bool& füllt, double abstand);
     QWidget* macheLinie();
     QWidget* macheElement(const Anordnung& a);
 

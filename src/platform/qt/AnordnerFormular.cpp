@@ -80,9 +80,7 @@ void benenneFelder(const std::vector<QWidget*>& felder, const Etikett& beschrift
 
 bool Anordner::fügeFormular(const Anordnung& a, QBoxLayout& ziel)
 {
-    auto* formular = new QVBoxLayout;
-    formular->setContentsMargins(0, 0, 0, 0);
-    formular->setSpacing(0);
+    auto* formular = ohneRand(new QVBoxLayout);
     ziel.addLayout(formular);
     bool füllt = a.füllt;
     for (const auto& teil : a.teile) {
@@ -100,9 +98,7 @@ void Anordner::fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBox
 {
     auto* zeile = new Formularzeile(m_eltern);
     const QScopedValueRollback<QWidget*> eltern(m_eltern, zeile);
-    auto* layout = new QHBoxLayout(zeile);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(em(0.5));
+    auto* layout = ohneRand(new QHBoxLayout(zeile), 0.5);
     auto* beschriftung = feld.element == nullptr
                              ? new Etikett(alsQString(feld.text), m_eltern)
                              : dynamic_cast<Etikett*>(zeichneElement(*feld.element, m_ansicht, m_eltern));

@@ -5,6 +5,7 @@
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 #include "platform/qt/Vorlesen.h"
+#include "platform/text/Antworttexte.h"
 
 #include <QPainter>
 
@@ -54,7 +55,7 @@ void Antwortfeld::übernimm()
 
 QString Antwortfeld::gesprochenerText() const
 {
-    return m_text == QStringLiteral("k.A.") ? m_text + QStringLiteral(" (offen)") : m_text;
+    return m_element.text() == antworttext::keine ? m_text + QStringLiteral(" (offen)") : m_text;
 }
 
 QSize Antwortfeld::sizeHint() const

@@ -2,6 +2,7 @@
 
 #include "platform/elemente/Elemente.h"
 #include "platform/qt/Ansicht.h"
+#include "platform/qt/Eingabewaechter.h"
 #include "platform/qt/Feldhinweis.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
@@ -32,6 +33,12 @@ int stelleIn(const std::vector<std::string>& liste, const std::string& text)
 {
     const auto ort = std::ranges::find(liste, text);
     return ort == liste.end() ? -1 : static_cast<int>(ort - liste.begin());
+}
+
+bool klapptAuf(const QKeyEvent& ereignis)
+{
+    const auto taste = alsTaste(ereignis);
+    return taste && taste->klapptAuf();
 }
 
 } // namespace
@@ -177,9 +184,20 @@ void Auswahlbox::keyPressEvent(QKeyEvent* ereignis)
 {
     if (ereignis->key() == Qt::Key_PageUp || ereignis->key() == Qt::Key_PageDown) {
         ereignis->ignore();
+    } else if (klapptAuf(*ereignis)) {
+        showPopup();
     } else {
         QComboBox::keyPressEvent(ereignis);
     }
+}
+
+bool Auswahlbox::eventFilter(QObject* objekt, QEvent* ereignis)
+{
+    if (ereignis->type() == QEvent::KeyPress && klapptAuf(*static_cast<QKeyEvent*>(ereignis))) {
+        hidePopup();
+        return true;
+    }
+    return QComboBox::eventFilter(objekt, ereignis);
 }
 
 void Auswahlbox::showPopup()
@@ -187,6 +205,7 @@ void Auswahlbox::showPopup()
     const int breiteste = view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width() + em(1);
     view()->setMinimumWidth(std::min(std::max(breiteste, width()), screen()->availableSize().width()));
     view()->setAccessibleName(accessibleName());
+    view()->installEventFilter(this); // before the toolkit's own, which knows its own keys
     QComboBox::showPopup();
 }
 

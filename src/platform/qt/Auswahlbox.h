@@ -18,6 +18,8 @@ public:
     void gleicheSchreibmarkeAb(bool auswahlWeicht);
 
     void showPopup() override;
+    /// Of the open list: the keys that open it close it too.
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -23,7 +23,7 @@ public:
     /// A row of the diagnosis listing paints the row's kind behind the text.
     void seiListenzelle() { m_istListenzelle = true; }
 
-    bool hasHeightForWidth() const override { return false; }
+    bool hasHeightForWidth() const override { return wordWrap() && m_umbruchbreite == 0; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

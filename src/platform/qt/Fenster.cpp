@@ -84,9 +84,7 @@ Kindfenster::Kindfenster(Ansicht& ansicht, QWidget* rahmen)
     : QWidget(rahmen, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
       m_ansicht(ansicht), m_blatt(baueSeite(ansicht, this))
 {
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(ansicht.wurzel());
+    ohneRand(new QVBoxLayout(this))->addWidget(ansicht.wurzel());
     const auto betitle = [this, &bildschirm = ansicht.bildschirm()] { setWindowTitle(alsQString(bildschirm.titel())); };
     betitle();
     ansicht.abonniere(ansicht.bildschirm().titelGeändert, betitle);

@@ -5,11 +5,12 @@
 #include <QEvent>
 
 #include <algorithm>
-#include <numeric>
+#include <utility>
 
 namespace {
 
-constexpr double reihenabstand = 0.5;
+constexpr double knopfabstand = 0.5;
+constexpr double kartenabstand = 0.6;
 
 } // namespace
 
@@ -33,29 +34,6 @@ bool Handfläche::event(QEvent* ereignis)
     return QWidget::event(ereignis);
 }
 
-void Deckfläche::setze(QWidget& darunter, QWidget& decke)
-{
-    m_darunter = &darunter;
-    m_decke = &decke;
-    m_decke->raise();
-    m_decke->installEventFilter(this);
-    Stapelfläche::setze({&darunter, &decke});
-    gleicheAb();
-}
-
-bool Deckfläche::eventFilter(QObject* objekt, QEvent* ereignis)
-{
-    if (objekt == m_decke && (ereignis->type() == QEvent::ShowToParent || ereignis->type() == QEvent::HideToParent)) {
-        gleicheAb();
-    }
-    return false;
-}
-
-void Deckfläche::gleicheAb()
-{
-    m_darunter->setEnabled(m_decke->isHidden());
-}
-
 void Karte::setzeBreite(int breite)
 {
     m_breite = breite;
@@ -68,33 +46,18 @@ QSize Karte::sizeHint() const
     return m_breite > 0 ? QSize(std::max(m_breite, minimumSizeHint().width()), ihre.height()) : ihre;
 }
 
-void Stapelfläche::setze(std::vector<QWidget*> teile)
+Stapelfläche::Stapelfläche(QWidget* eltern) : QWidget(eltern), m_platz(ohneRand(new QGridLayout(this)))
+{}
+
+void Stapelfläche::füge(QWidget& teil)
 {
-    m_teile = std::move(teile);
-    if (!m_teile.empty()) {
-        setSizePolicy(m_teile.front()->sizePolicy());
+    if (m_platz->isEmpty()) {
+        setSizePolicy(teil.sizePolicy());
     }
-}
-
-QSize Stapelfläche::sizeHint() const
-{
-    return std::accumulate(m_teile.begin(), m_teile.end(), QSize(), [](QSize größe, const QWidget* teil) {
-        return größe.expandedTo(teil->sizeHint()).expandedTo(teil->minimumSize());
-    });
-}
-
-QSize Stapelfläche::minimumSizeHint() const
-{
-    return std::accumulate(m_teile.begin(), m_teile.end(), QSize(), [](QSize größe, const QWidget* teil) {
-        return größe.expandedTo(teil->minimumSizeHint()).expandedTo(teil->minimumSize());
-    });
-}
-
-void Stapelfläche::ordne()
-{
-    for (auto* teil : m_teile) {
-        teil->setGeometry(rect());
-    }
+    QSizePolicy füllend(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    füllend.setRetainSizeWhenHidden(true);
+    teil.setSizePolicy(füllend);
+    m_platz->addWidget(&teil, 0, 0);
 }
 
 Umbruchreihe::Umbruchreihe(QWidget* eltern) : Handfläche(eltern)
@@ -102,73 +65,62 @@ Umbruchreihe::Umbruchreihe(QWidget* eltern) : Handfläche(eltern)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-void Umbruchreihe::setze(std::vector<QWidget*> teile, std::size_t lücke)
+void Umbruchreihe::füge(QWidget& knopf, bool rechts)
 {
-    m_teile = std::move(teile);
-    m_lücke = lücke;
+    m_teile.push_back({&knopf, rechts});
 }
 
-bool Umbruchreihe::istRechts(const QWidget* teil) const
+std::vector<Umbruchreihe::Reihe> Umbruchreihe::reihen() const
 {
-    return std::find(m_teile.begin() + static_cast<std::ptrdiff_t>(m_lücke), m_teile.end(), teil) != m_teile.end();
-}
-
-std::vector<std::vector<QWidget*>> Umbruchreihe::reihen() const
-{
-    std::vector<std::vector<QWidget*>> ergebnis(1);
-    int breite = 0;
-    for (auto* teil : m_teile) {
-        if (teil->isHidden()) {
+    std::vector<Reihe> ergebnis(1);
+    for (const auto& teil : m_teile) {
+        if (teil.knopf->isHidden()) {
             continue;
         }
-        const int seine = teil->sizeHint().width();
-        if (!ergebnis.back().empty() && breite + em(reihenabstand) + seine > width()) {
+        const int breite = teil.knopf->sizeHint().width() + em(knopfabstand);
+        if (!ergebnis.back().teile.empty() && ergebnis.back().breite + breite > width() + em(knopfabstand)) {
             ergebnis.emplace_back();
-            breite = 0;
         }
-        breite += seine + (ergebnis.back().empty() ? 0 : em(reihenabstand));
-        ergebnis.back().push_back(teil);
+        ergebnis.back().teile.push_back(teil);
+        ergebnis.back().breite += breite;
     }
     return ergebnis;
 }
 
-int Umbruchreihe::reihenhöhe() const
+QSize Umbruchreihe::größterKnopf() const
 {
-    return std::accumulate(m_teile.begin(), m_teile.end(), 0,
-                           [](int höhe, const QWidget* teil) { return std::max(höhe, teil->sizeHint().height()); });
+    QSize größe;
+    for (const auto& teil : m_teile) {
+        größe = größe.expandedTo(teil.knopf->sizeHint());
+    }
+    return größe;
 }
 
 QSize Umbruchreihe::minimumSizeHint() const
 {
-    const int breite = std::accumulate(m_teile.begin(), m_teile.end(), 0, [](int breiteste, const QWidget* teil) {
-        return std::max(breiteste, teil->sizeHint().width());
-    });
+    const QSize größe = größterKnopf();
     const auto anzahl = static_cast<int>(reihen().size());
-    return {breite, anzahl * reihenhöhe() + (anzahl - 1) * em(reihenabstand)};
+    return {größe.width(), anzahl * größe.height() + (anzahl - 1) * em(knopfabstand)};
 }
 
 void Umbruchreihe::ordne()
 {
+    const int höhe = größterKnopf().height();
     int oben = 0;
     for (const auto& reihe : reihen()) {
         int links = 0;
-        int rechts = width();
-        for (auto* teil : reihe) {
-            if (!istRechts(teil)) {
-                teil->setGeometry(links, oben, teil->sizeHint().width(), reihenhöhe());
-                links += teil->width() + em(reihenabstand);
-            }
+        int lücke = width() + em(knopfabstand) - reihe.breite;
+        for (const auto& teil : reihe.teile) {
+            links += teil.rechts ? std::exchange(lücke, 0) : 0;
+            teil.knopf->setGeometry(links, oben, teil.knopf->sizeHint().width(), höhe);
+            links += teil.knopf->width() + em(knopfabstand);
         }
-        for (auto teil = reihe.rbegin(); teil != reihe.rend() && istRechts(*teil); ++teil) {
-            rechts -= (*teil)->sizeHint().width();
-            (*teil)->setGeometry(rechts, oben, (*teil)->sizeHint().width(), reihenhöhe());
-            rechts -= em(reihenabstand);
-        }
-        oben += reihenhöhe() + em(reihenabstand);
+        oben += höhe + em(knopfabstand);
     }
 }
 
-Kartenreihe::Kartenreihe(QWidget* eltern) : Handfläche(eltern)
+Kartenreihe::Kartenreihe(QWidget* eltern)
+    : Handfläche(eltern), m_reihe(ohneRand(new QBoxLayout(QBoxLayout::LeftToRight, this), kartenabstand))
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
 }
@@ -176,93 +128,10 @@ Kartenreihe::Kartenreihe(QWidget* eltern) : Handfläche(eltern)
 void Kartenreihe::füge(QWidget& spalte, int höchstbreite, bool wächst)
 {
     m_spalten.push_back({&spalte, höchstbreite});
+    m_reihe->addWidget(&spalte);
     if (wächst) {
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     }
-}
-
-bool Kartenreihe::passtNebeneinander(int breite) const
-{
-    int nötig = -em(0.6);
-    for (const auto& spalte : m_spalten) {
-        nötig += spalte.widget->minimumSizeHint().width() + em(0.6);
-    }
-    return nötig <= breite;
-}
-
-int summe(const std::vector<int>& werte)
-{
-    return std::accumulate(werte.begin(), werte.end(), 0);
-}
-
-void verenge(std::vector<int>& breiten, const std::vector<int>& mindestens, int fehlt)
-{
-    int spielraum = 0;
-    for (std::size_t i = 0; i < breiten.size(); ++i) {
-        spielraum += std::max(0, breiten[i] - mindestens[i]);
-    }
-    for (std::size_t i = 0; i < breiten.size() && fehlt > 0 && spielraum > 0; ++i) {
-        const int eigener = std::max(0, breiten[i] - mindestens[i]);
-        const int anteil = std::min(eigener, (fehlt * eigener + spielraum - 1) / spielraum);
-        breiten[i] -= anteil;
-        fehlt -= anteil;
-        spielraum -= eigener;
-    }
-}
-
-/// Preferred widths first; what is left over is shared in proportion to them, up to the greatest width of each.
-std::vector<int> Kartenreihe::verteile(int breite) const
-{
-    const int frei = breite - em(0.6) * (static_cast<int>(m_spalten.size()) - 1);
-    std::vector<int> breiten;
-    std::vector<int> mindestens;
-    for (const auto& spalte : m_spalten) {
-        mindestens.push_back(spalte.widget->minimumSizeHint().width());
-        breiten.push_back(
-            std::max(std::min(spalte.widget->sizeHint().width(), spalte.höchstbreite), mindestens.back()));
-    }
-    verenge(breiten, mindestens, summe(breiten) - frei);
-    std::vector<bool> fest(m_spalten.size(), false);
-    for (std::size_t runde = 0; runde < m_spalten.size(); ++runde) {
-        int rest = frei - summe(breiten);
-        int beweglich = 0;
-        for (std::size_t i = 0; i < breiten.size(); ++i) {
-            beweglich += fest[i] ? 0 : breiten[i];
-        }
-        for (std::size_t i = 0; i < breiten.size() && rest != 0 && beweglich > 0; ++i) {
-            if (fest[i]) {
-                continue;
-            }
-            const int anteil = rest * breiten[i] / beweglich;
-            const int größte = std::max(mindestens[i], m_spalten[i].höchstbreite);
-            beweglich -= breiten[i];
-            rest -= anteil;
-            const int neu = std::clamp(breiten[i] + anteil, mindestens[i], größte);
-            fest[i] = neu != breiten[i] + anteil;
-            breiten[i] = neu;
-        }
-    }
-    return breiten;
-}
-
-int Kartenreihe::höhe(bool kleinste) const
-{
-    const bool nebeneinander = passtNebeneinander(width());
-    int ergebnis = 0;
-    for (const auto& spalte : m_spalten) {
-        const int eine = (kleinste ? spalte.widget->minimumSizeHint() : spalte.widget->sizeHint()).height();
-        ergebnis = nebeneinander ? std::max(ergebnis, eine) : ergebnis + eine + em(0.6);
-    }
-    return nebeneinander ? ergebnis : ergebnis - em(0.6);
-}
-
-QSize Kartenreihe::sizeHint() const
-{
-    int breite = -em(0.6);
-    for (const auto& spalte : m_spalten) {
-        breite += spalte.widget->sizeHint().width() + em(0.6);
-    }
-    return {breite, höhe(false)};
 }
 
 QSize Kartenreihe::minimumSizeHint() const
@@ -271,27 +140,23 @@ QSize Kartenreihe::minimumSizeHint() const
     for (const auto& spalte : m_spalten) {
         breite = std::max(breite, spalte.widget->minimumSizeHint().width());
     }
-    return {breite, höhe(true)};
+    return {breite, m_reihe->minimumSize().height()};
 }
 
+/// The columns share the width in proportion to what they want, from the least to the greatest width of each.
 void Kartenreihe::ordne()
 {
-    if (passtNebeneinander(width())) {
-        const auto breiten = verteile(width());
-        int links = 0;
-        for (std::size_t i = 0; i < m_spalten.size(); ++i) {
-            m_spalten[i].widget->setGeometry(links, 0, breiten[i], height());
-            links += breiten[i] + em(0.6);
-        }
-        return;
-    }
-    int oben = 0;
-    const int fehlt = sizeHint().height() - height();
+    int nötig = -m_reihe->spacing();
     for (const auto& spalte : m_spalten) {
-        const auto& kleinste = spalte.widget->minimumSizeHint();
-        const int ganze = spalte.widget->sizeHint().height();
-        const int eine = fehlt > 0 ? kleinste.height() : ganze;
-        spalte.widget->setGeometry(0, oben, std::min(width(), std::max(kleinste.width(), spalte.höchstbreite)), eine);
-        oben += eine + em(0.6);
+        nötig += spalte.widget->minimumSizeHint().width() + m_reihe->spacing();
+    }
+    const bool nebeneinander = nötig <= width();
+    m_reihe->setDirection(nebeneinander ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    for (const auto& spalte : m_spalten) {
+        const int mindestens = spalte.widget->minimumSizeHint().width();
+        const int höchstens = std::max(mindestens, spalte.höchstbreite);
+        spalte.widget->setMaximumWidth(höchstens);
+        const int gern = std::clamp(spalte.widget->sizeHint().width(), mindestens, höchstens);
+        m_reihe->setStretchFactor(spalte.widget, nebeneinander ? gern : 0);
     }
 }

@@ -1,17 +1,19 @@
 #pragma once
 
+#include <QBoxLayout>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QWidget>
 
 #include <vector>
 
-/// A widget that places its children by itself, and again whenever one of them asks for another size.
+/// A widget whose size, or the places of its children, follow the size it is given, and those of its children.
 class Handfläche : public QWidget {
 public:
     using QWidget::QWidget;
 
 protected:
-    virtual void ordne() = 0;
+    virtual void ordne() {}
     void resizeEvent(QResizeEvent* ereignis) override;
     void showEvent(QShowEvent* ereignis) override;
     bool event(QEvent* ereignis) override;
@@ -31,21 +33,15 @@ private:
 };
 
 /// Parts that share one place, which is as large as the largest of them, seen or not.
-class Stapelfläche : public Handfläche {
+class Stapelfläche : public QWidget {
 public:
-    using Handfläche::Handfläche;
+    explicit Stapelfläche(QWidget* eltern);
 
-    /// All are its children already.
-    void setze(std::vector<QWidget*> teile);
-
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-
-protected:
-    void ordne() override;
+    /// The part is its child already.
+    void füge(QWidget& teil);
 
 private:
-    std::vector<QWidget*> m_teile;
+    QGridLayout* m_platz;
 };
 
 /// Two parts in one place: the lower is covered, and takes no input, while the cover is visible. The
@@ -53,17 +49,6 @@ private:
 class Deckfläche : public Stapelfläche {
 public:
     using Stapelfläche::Stapelfläche;
-
-    /// Both are its children already.
-    void setze(QWidget& darunter, QWidget& decke);
-
-    bool eventFilter(QObject* objekt, QEvent* ereignis) override;
-
-private:
-    void gleicheAb();
-
-    QWidget* m_darunter = nullptr;
-    QWidget* m_decke = nullptr;
 };
 
 /// Buttons side by side, those behind the gap at the right; in several rows where they don't fit into one.
@@ -71,8 +56,8 @@ class Umbruchreihe : public Handfläche {
 public:
     explicit Umbruchreihe(QWidget* eltern);
 
-    /// All are its children already; `lücke` is how many stand before the gap.
-    void setze(std::vector<QWidget*> teile, std::size_t lücke);
+    /// The button is its child already; `rechts`: behind the gap.
+    void füge(QWidget& knopf, bool rechts);
     QSize sizeHint() const override { return minimumSizeHint(); }
     QSize minimumSizeHint() const override;
 
@@ -80,17 +65,20 @@ protected:
     void ordne() override;
 
 private:
-    std::vector<std::vector<QWidget*>> reihen() const;
-    bool istRechts(const QWidget* teil) const;
-    int reihenhöhe() const;
+    struct Teil {
+        QWidget* knopf;
+        bool rechts;
+    };
+    struct Reihe {
+        std::vector<Teil> teile;
+        int breite = 0;
+    };
 
-    std::vector<QWidget*> m_teile;
-    std::size_t m_lücke = 0;
+    std::vector<Reihe> reihen() const;
+    QSize größterKnopf() const;
+
+    std::vector<Teil> m_teile;
 };
-
-int summe(const std::vector<int>& werte);
-/// What is missing is taken from each width as it can spare it, down to the least.
-void verenge(std::vector<int>& breiten, const std::vector<int>& mindestens, int fehlt);
 
 /// Columns of cards side by side; below each other where their least widths don't fit.
 class Kartenreihe : public Handfläche {
@@ -100,7 +88,6 @@ public:
     /// The column is its child already; `höchstbreite` in pixels; `wächst` when the column takes the height that is
     /// there.
     void füge(QWidget& spalte, int höchstbreite, bool wächst);
-    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:
@@ -112,9 +99,6 @@ private:
         int höchstbreite = 0;
     };
 
-    bool passtNebeneinander(int breite) const;
-    std::vector<int> verteile(int breite) const;
-    int höhe(bool kleinste) const;
-
+    QBoxLayout* m_reihe;
     std::vector<Spalte> m_spalten;
 };

@@ -2,7 +2,6 @@
 
 #include "platform/elemente/Elemente.h"
 #include "platform/qt/Ansicht.h"
-#include "platform/qt/Flaechen.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 
@@ -17,6 +16,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -27,6 +27,27 @@ constexpr double listenzeilenhöhe = 1.45;
 constexpr double kopfhöhe = 1.9;
 constexpr double spaltenrand = 1.35;
 constexpr double kurzeSpalte = 7; ///< a number or a date is not cut
+
+int summe(const std::vector<int>& werte)
+{
+    return std::accumulate(werte.begin(), werte.end(), 0);
+}
+
+/// What is missing is taken from each width as it can spare it, down to the least.
+void verenge(std::vector<int>& breiten, const std::vector<int>& mindestens, int fehlt)
+{
+    int spielraum = 0;
+    for (std::size_t i = 0; i < breiten.size(); ++i) {
+        spielraum += std::max(0, breiten[i] - mindestens[i]);
+    }
+    for (std::size_t i = 0; i < breiten.size() && fehlt > 0 && spielraum > 0; ++i) {
+        const int eigener = std::max(0, breiten[i] - mindestens[i]);
+        const int anteil = std::min(eigener, (fehlt * eigener + spielraum - 1) / spielraum);
+        breiten[i] -= anteil;
+        fehlt -= anteil;
+        spielraum -= eigener;
+    }
+}
 
 /// Round the text of a cell, at least: the sheet's padding and the style's own margin.
 int schmalerRand(const QWidget& liste)

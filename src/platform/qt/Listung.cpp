@@ -10,49 +10,51 @@
 #include "platform/qt/Umschrift.h"
 
 #include <QCoreApplication>
+#include <QGridLayout>
 #include <QPainter>
 #include <QScrollArea>
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
 
 constexpr int bewegteZeilenMindestens = 4;
 constexpr int bewegteZeilenGern = 6;
-constexpr double breiteFrei = 12; ///< least width of a column that shares what is left
+
+int zeilenhöhe()
+{
+    return em(1.4);
+}
 
 Etikett* macheÜberschrift(const QString& text, QWidget* eltern)
 {
     auto* überschrift = new Etikett(text, eltern);
     überschrift->setFont(schrift(Schriftrolle::Spaltenkopf));
     überschrift->setProperty("rolle", "kopf");
+    überschrift->setFixedHeight(zeilenhöhe());
     return überschrift;
 }
 
 /// A row of the listing: labels in columns, a line below unless the row is blank.
 class Listungszeile : public QWidget {
 public:
-    Listungszeile(const Anordnung& zeile, Ansicht& ansicht, QWidget* eltern) : QWidget(eltern)
+    Listungszeile(const Anordnung& zeile, const Anordnung& listung, Ansicht& ansicht, QWidget* eltern) : QWidget(eltern)
     {
+        setFixedHeight(zeilenhöhe());
+        auto* gitter = ohneRand(new QGridLayout(this));
+        gitter->setContentsMargins(0, 0, 0, 1);
+        richteSpaltenEin(*gitter, listung);
         for (const auto& teil : zeile.teile) {
             auto* zelle = dynamic_cast<Etikett*>(zeichneElement(*teil.element, ansicht, this));
-            const bool links = m_zellen.size() < linksbündigeSpalten;
+            const bool links = istLinksbündig(listung, m_zellen.size());
             zelle->seiListenzelle();
             zelle->setAlignment((links ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter);
             zelle->setIndent(0);
             zelle->setContentsMargins(links ? em(0.45) : 0, 0, 0, 0);
+            zelle->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // no text decides how wide a column is
+            gitter->addWidget(zelle, 0, gitterspalte(listung, m_zellen.size()));
             m_zellen.push_back(zelle);
-        }
-    }
-
-    void ordne(const std::vector<int>& spalten)
-    {
-        int links = 0;
-        for (std::size_t i = 0; i < m_zellen.size(); ++i) {
-            m_zellen[i]->setGeometry(links, 0, spalten[i], height() - 1);
-            links += spalten[i];
         }
     }
 
@@ -77,74 +79,35 @@ public:
           m_hintenElement(dynamic_cast<Fläche&>(*listung.köpfe.at(1))), m_leiste(leiste)
     {
         m_hinten = zeichneElement(m_hintenElement, ansicht, this);
+        m_hinten->setMinimumHeight(bewegteZeilenMindestens * zeilenhöhe());
         m_vorne = zeichneElement(m_vorneElement, ansicht, m_hinten);
         const auto überschriften = alsQString(listung.text).split(QChar('\n'));
-        m_überErste = macheÜberschrift(überschriften.value(0), this);
-        m_überRest = macheÜberschrift(überschriften.value(1), this);
-        for (const auto& zeile : listung.teile) {
-            m_zeilen.push_back(
-                new Listungszeile(zeile, ansicht, m_zeilen.empty() ? static_cast<QWidget*>(this) : m_vorne));
-        }
-        m_kopf = new Tabellenkopf(listung, Tabellenkopf::Form::Listung, ansicht, this);
-        for (const auto& spalte : listung.spalten) {
-            m_breiten.push_back(spalte.breite);
+        m_kopf = new Tabellenkopf(listung, ansicht, this);
+        auto* stockwerke = ohneRand(new QVBoxLayout(this));
+        stockwerke->addWidget(m_kopf);
+        stockwerke->addWidget(macheÜberschrift(überschriften.value(0), this));
+        stockwerke->addWidget(new Listungszeile(listung.teile.front(), listung, ansicht, this));
+        stockwerke->addWidget(macheÜberschrift(überschriften.value(1), this));
+        stockwerke->addWidget(m_hinten, 1);
+        auto* bewegte = ohneRand(new QVBoxLayout(m_vorne));
+        for (std::size_t i = 1; i < listung.teile.size(); ++i) {
+            bewegte->addWidget(new Listungszeile(listung.teile[i], listung, ansicht, m_vorne));
         }
         ansicht.abonniere(m_vorneElement.geändert, [this] { bewege(); });
     }
 
-    QSize sizeHint() const override { return {minimumSizeHint().width() + em(6), höheFür(bewegteZeilenGern)}; }
-    QSize minimumSizeHint() const override
-    {
-        const double breite = std::accumulate(m_breiten.begin(), m_breiten.end(), 0.0, [](double bisher, double eine) {
-            return bisher + (eine > 0 ? eine : breiteFrei);
-        });
-        return {em(breite), höheFür(bewegteZeilenMindestens)};
-    }
     /// Where the moving part begins.
-    int obenBewegt() const { return m_kopf->höhe() + 3 * zeilenhöhe(); }
+    int obenBewegt() const { return m_kopf->sizeHint().height() + 3 * zeilenhöhe(); }
 
 protected:
     void ordne() override
     {
-        const auto spalten = spaltenbreiten();
-        m_kopf->ordne(width(), spalten);
-        const int kopfhöhe = m_kopf->höhe();
-        m_überErste->setGeometry(0, kopfhöhe, width(), zeilenhöhe());
-        m_zeilen.front()->setGeometry(0, kopfhöhe + zeilenhöhe(), width(), zeilenhöhe());
-        m_zeilen.front()->ordne(spalten);
-        m_überRest->setGeometry(0, kopfhöhe + 2 * zeilenhöhe(), width(), zeilenhöhe());
-        m_hinten->setGeometry(0, obenBewegt(), width(), std::max(0, height() - obenBewegt()));
-        m_vorne->resize(width(), zeilenhöhe() * (static_cast<int>(m_zeilen.size()) - 1));
-        for (std::size_t i = 1; i < m_zeilen.size(); ++i) {
-            m_zeilen[i]->setGeometry(0, zeilenhöhe() * (static_cast<int>(i) - 1), width(), zeilenhöhe());
-            m_zeilen[i]->ordne(spalten);
-        }
+        m_vorne->resize(m_hinten->width(), m_vorne->sizeHint().height());
         meldeHöhen();
     }
     void wheelEvent(QWheelEvent* ereignis) override { QCoreApplication::sendEvent(m_leiste, ereignis); }
 
 private:
-    static int zeilenhöhe() { return em(1.4); }
-    int höheFür(int bewegteZeilen) const
-    {
-        return std::max(m_kopf->höhe(), em(2.8)) + (3 + bewegteZeilen) * zeilenhöhe();
-    }
-
-    std::vector<int> spaltenbreiten() const
-    {
-        std::vector<int> breiten;
-        std::ranges::transform(m_breiten, std::back_inserter(breiten), [](double breite) { return em(breite); });
-        const int fest = std::accumulate(breiten.begin(), breiten.end(), 0);
-        const auto freie = static_cast<int>(std::ranges::count(breiten, 0));
-        if (freie == 0) {
-            breiten.front() += std::max(0, width() - fest); // the name of the problem has most to say
-            return breiten;
-        }
-        const int anteil = std::max(em(breiteFrei), (width() - fest) / freie);
-        std::ranges::replace(breiten, 0, anteil);
-        return breiten;
-    }
-
     /// The range of the scroll bar rests on the real heights.
     void meldeHöhen()
     {
@@ -172,10 +135,6 @@ private:
     QWidget* m_vorne;
     QWidget* m_hinten;
     Tabellenkopf* m_kopf;
-    std::vector<double> m_breiten; ///< em; 0 shares what is left
-    Etikett* m_überErste;
-    Etikett* m_überRest;
-    std::vector<Listungszeile*> m_zeilen;
 };
 
 /// The scroll bar has the keyboard of the listing, so it is what says which row is marked.
@@ -204,40 +163,40 @@ void sprichZeilen(const Anordnung& listung, QWidget& leiste, Ansicht& ansicht)
 class Listung : public Handfläche {
 public:
     Listung(const Anordnung& listung, Ansicht& ansicht, QWidget* eltern)
-        : Handfläche(eltern), m_leiste(zeichneElement(*listung.element, ansicht, this)), m_rolle(new QScrollArea(this)),
-          m_blatt(new Listungsblatt(listung, ansicht, m_leiste, m_rolle->viewport()))
+        : Handfläche(eltern), m_rolle(new QScrollArea(this))
     {
+        auto* leiste = zeichneElement(*listung.element, ansicht, this);
+        auto* blatt = new Listungsblatt(listung, ansicht, leiste, m_rolle->viewport());
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-        sprichZeilen(listung, *m_leiste, ansicht);
+        sprichZeilen(listung, *leiste, ansicht);
         m_rolle->setFocusPolicy(Qt::NoFocus);
         m_rolle->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         m_rolle->setWidgetResizable(true);
-        m_rolle->setWidget(m_blatt);
+        m_rolle->setWidget(blatt);
         m_rolle->viewport()->setAutoFillBackground(false);
-        m_blatt->setAutoFillBackground(false);
+        blatt->setAutoFillBackground(false);
+        auto* gitter = ohneRand(new QGridLayout(this));
+        gitter->setHorizontalSpacing(em(0.1));
+        gitter->setRowMinimumHeight(0, blatt->obenBewegt());
+        gitter->setRowStretch(1, 1);
+        gitter->addWidget(m_rolle, 0, 0, 2, 1);
+        gitter->addWidget(leiste, 1, 1);
     }
 
-    QSize sizeHint() const override { return m_blatt->sizeHint() + QSize(em(0.85), 0); }
+    QSize sizeHint() const override
+    {
+        const int mehr = (bewegteZeilenGern - bewegteZeilenMindestens) * zeilenhöhe();
+        return m_rolle->widget()->minimumSizeHint() + QSize(em(6.85), mehr);
+    }
     QSize minimumSizeHint() const override
     {
-        const QSize blatt = m_blatt->minimumSizeHint();
+        const QSize blatt = m_rolle->widget()->minimumSizeHint();
         const bool rolltQuer = isVisible() && m_rolle->width() < blatt.width();
         return {em(24), blatt.height() + (rolltQuer ? em(0.75) : 0)};
     }
 
-protected:
-    void ordne() override
-    {
-        const int leistenbreite = m_leiste->sizeHint().width();
-        m_rolle->setGeometry(0, 0, width() - leistenbreite - em(0.1), height());
-        m_leiste->setGeometry(width() - leistenbreite, m_blatt->obenBewegt(), leistenbreite,
-                              std::max(0, height() - m_blatt->obenBewegt()));
-    }
-
 private:
-    QWidget* m_leiste;
     QScrollArea* m_rolle;
-    Listungsblatt* m_blatt;
 };
 
 } // namespace

@@ -72,19 +72,6 @@ QString mitBruchstellen(const QString& text)
     return QString(text).replace(zeilenlang, QStringLiteral("\\1\u200B"));
 }
 
-/// Long actions are long because of their files, and come by here again and again.
-class GeduldigerZugriff : public Zugriffsweiche {
-public:
-    using Zugriffsweiche::Zugriffsweiche;
-
-protected:
-    Dateizugriff& dahinter() override
-    {
-        geduld::prüfe();
-        return Zugriffsweiche::dahinter();
-    }
-};
-
 } // namespace
 
 std::unique_ptr<QMessageBox> baueMeldungsfenster(const Meldung& meldung)
@@ -136,7 +123,8 @@ QString alsQtFilter(const std::string& filter)
 
 QtUmgebung::QtUmgebung(Tabellenprogramm& tabellenprogramm, Laufort laufort)
     : m_tabellenprogramm(tabellenprogramm), m_laufort(std::move(laufort)),
-      m_dateien(std::make_unique<GeduldigerZugriff>(erzeugeDateizugriff()))
+      // long actions are long because of their files, and come by here again and again
+      m_dateien(std::make_unique<Dateizugriff>(), geduld::prüfe)
 {}
 
 QtUmgebung::~QtUmgebung() = default;
@@ -150,7 +138,7 @@ Datum QtUmgebung::heute()
 bool QtUmgebung::istErsteInstanz(const std::filesystem::path& datenordner)
 {
     m_sperre = sperreDatenordner(m_dateien, datenordner);
-    return m_sperre != nullptr;
+    return m_sperre.istOffen();
 }
 
 Antwort QtUmgebung::zeigeMeldung(const Meldung& meldung)

@@ -43,7 +43,7 @@ private:
     Tabellenprogramm& m_tabellenprogramm;
     Laufort m_laufort;
     Dateien m_dateien;
-    std::unique_ptr<Ordnersperre> m_sperre;
+    Systemgriff m_sperre;
     QElapsedTimer m_seitDemBild;
 };
 

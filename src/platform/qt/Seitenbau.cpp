@@ -163,9 +163,7 @@ QScrollArea* baueSeite(Ansicht& ansicht, QWidget* eltern)
     auto* wurzel = new QWidget(eltern);
     wurzel->setObjectName(alsQString(ansicht.bildschirm().name()));
     ansicht.setzeWurzel(*wurzel);
-    auto* stockwerke = new QVBoxLayout(wurzel);
-    stockwerke->setContentsMargins(0, 0, 0, 0);
-    stockwerke->setSpacing(0);
+    auto* stockwerke = ohneRand(new QVBoxLayout(wurzel));
     auto* band = baueBand(ansicht, wurzel); // before the body: the order in which they are read out
     auto* blatt = new Seitenblatt(wurzel);
     auto* inhalt = new QWidget(blatt->viewport());

@@ -32,6 +32,14 @@ double kontrast(const QColor& eine, const QColor& andere);
 /// Length in logical pixels; 1 em is the height of a line of the system's font.
 int em(double länge);
 
+/// The layout without margins, its parts so many em apart.
+template <class L> L* ohneRand(L* layout, double abstand = 0)
+{
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(em(abstand));
+    return layout;
+}
+
 enum class Schriftrolle { Grund, Bandtitel, Bandname, Kartentitel, Spaltenkopf, Wert };
 /// The font of a role, derived from the system's font by size and weight alone.
 QFont schrift(Schriftrolle rolle);

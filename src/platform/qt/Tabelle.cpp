@@ -5,7 +5,6 @@
 #include "platform/qt/Auswahlbox.h"
 #include "platform/qt/Elementzeichner.h"
 #include "platform/qt/Etikett.h"
-#include "platform/qt/Flaechen.h"
 #include "platform/qt/Knoepfe.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
@@ -13,6 +12,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QGridLayout>
 #include <QPainter>
 
 #include <algorithm>
@@ -25,28 +25,17 @@ constexpr double zeileWeit = 1.7;
 constexpr double beschriftungMindestens = 18;
 constexpr double beschriftungHöchstens = 31;
 
-std::vector<int> spaltenbreiten(const Anordnung& tabelle)
+int zeilenhöhe(const Anordnung& tabelle)
 {
-    std::vector<int> breiten;
-    for (const auto& spalte : tabelle.spalten) {
-        breiten.push_back(em(spalte.breite));
-    }
-    return breiten;
-}
-
-/// What stands over the column.
-QStringList köpfeDer(const Tabellenspalte& spalte)
-{
-    QStringList teile{alsQString(spalte.gruppe), alsQString(spalte.titel)};
-    teile.removeAll(QString());
-    return teile;
+    return em(tabelle.teile.size() <= zeilenInSicht ? zeileWeit : zeileEng);
 }
 
 /// A choice says its question by its labels, of which some readers follow the first one only.
 void benenneZelle(QWidget& zelle, const Tabellenspalte& spalte, const Anordnung& zeile)
 {
     const auto trennung = QStringLiteral(", ");
-    const auto köpfe = köpfeDer(spalte);
+    QStringList köpfe{alsQString(spalte.gruppe), alsQString(spalte.titel)};
+    köpfe.removeAll(QString());
     benenne(zelle, gesprochen((QStringList(alsQString(zeile.element->text())) + köpfe).join(trennung)));
     if (dynamic_cast<Optionsknopf*>(&zelle) == nullptr) {
         unterscheide(zelle, köpfe.join(trennung));
@@ -67,55 +56,35 @@ QWidget* baueZelle(Element& element, int breite, Ansicht& ansicht, QWidget* elte
 
 } // namespace
 
-void Antwortzeile::setze(Etikett& beschriftung, std::vector<QWidget*> zellen)
+Antwortzeile::Antwortzeile(const Anordnung& zeile, const Anordnung& tabelle, const Tabellenkopf& kopf, Ansicht& ansicht,
+                           QWidget* eltern)
+    : QWidget(eltern), m_beschriftung(dynamic_cast<Etikett&>(*zeichneElement(*zeile.element, ansicht, this)))
 {
-    m_beschriftung = &beschriftung;
-    m_beschriftung->setWordWrap(true);
-    m_zellen = std::move(zellen);
     setAttribute(Qt::WA_Hover);
+    auto* gitter = ohneRand(new QGridLayout(this));
+    gitter->setRowMinimumHeight(0, zeilenhöhe(tabelle));
+    richteSpaltenEin(*gitter, tabelle);
+    // a row without answers in its first columns gives their place to its label
+    const auto erste = std::ranges::find_if(zeile.teile, [](const Anordnung& teil) { return teil.element != nullptr; });
+    gitter->addWidget(&m_beschriftung, 0, 0, 1, 1 + static_cast<int>(erste - zeile.teile.begin()));
+    m_beschriftung.setWordWrap(true);
+    m_beschriftung.setContentsMargins(em(0.28), 0, em(0.22), 1);
+    for (std::size_t i = 0; i < zeile.teile.size(); ++i) {
+        if (auto* element = zeile.teile[i].element) {
+            auto* zelle = baueZelle(*element, em(tabelle.spalten[i].breite), ansicht, this);
+            gitter->addWidget(zelle, 0, gitterspalte(tabelle, i), Qt::AlignCenter);
+            benenneZelle(*zelle, tabelle.spalten[i], zeile);
+            beschrifte(*zelle, m_beschriftung); // row and column say together what it asks
+            for (auto* etikett : kopf.etiketten(i)) {
+                beschrifte(*zelle, *etikett);
+            }
+        }
+    }
 }
 
 int Antwortzeile::bevorzugteBeschriftungsbreite() const
 {
-    return m_beschriftung->fontMetrics().horizontalAdvance(m_beschriftung->text()) + em(0.8);
-}
-
-int Antwortzeile::ordne(int breite, const std::vector<int>& spalten, int mindesthöhe)
-{
-    int links = breite - summe(spalten);
-    // a row without answers in its first columns gives their place to its label
-    int ende = links;
-    for (std::size_t i = 0; i < m_zellen.size() && m_zellen[i] == nullptr; ++i) {
-        ende += spalten[i];
-    }
-    const QRect platz(em(0.28), 0, ende - em(0.5), mindesthöhe);
-    int höhe = std::max(mindesthöhe, m_beschriftung->heightForWidth(platz.width()) + 1);
-    for (const auto* zelle : m_zellen) {
-        höhe = std::max(höhe, zelle == nullptr ? 0 : zelle->sizeHint().height());
-    }
-    m_beschriftung->setGeometry(platz.x(), 0, platz.width(), höhe - 1);
-    for (std::size_t i = 0; i < m_zellen.size(); ++i) {
-        if (auto* zelle = m_zellen[i]) {
-            const QSize größe = zelle->sizeHint().boundedTo(zelle->maximumSize()).expandedTo(zelle->minimumSize());
-            zelle->setGeometry(links + (spalten[i] - größe.width()) / 2, (höhe - größe.height()) / 2, größe.width(),
-                               größe.height());
-        }
-        links += spalten[i];
-    }
-    return höhe;
-}
-
-void Antwortzeile::beschrifteZellen(const Tabellenkopf& kopf)
-{
-    for (std::size_t i = 0; i < m_zellen.size(); ++i) {
-        if (m_zellen[i] == nullptr) {
-            continue;
-        }
-        beschrifte(*m_zellen[i], *m_beschriftung);
-        for (auto* etikett : kopf.etiketten(i)) {
-            beschrifte(*m_zellen[i], *etikett);
-        }
-    }
+    return m_beschriftung.fontMetrics().horizontalAdvance(m_beschriftung.text()) + em(0.8);
 }
 
 void Antwortzeile::paintEvent(QPaintEvent* /*ereignis*/)
@@ -130,122 +99,56 @@ void Antwortzeile::paintEvent(QPaintEvent* /*ereignis*/)
     maler.fillRect(0, height() - 1, width(), 1, f.linie);
 }
 
-/// The rows, all of them.
-class Tabelle::Blatt : public Handfläche {
-public:
-    Blatt(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern)
-        : Handfläche(eltern), m_spalten(spaltenbreiten(tabelle))
-    {
-        for (const auto& zeile : tabelle.teile) {
-            fügeZeile(zeile, tabelle.spalten, ansicht);
-        }
-    }
-
-    /// Row and column say together what a cell asks.
-    void beschrifteZellen(const Tabellenkopf& kopf)
-    {
-        for (auto* zeile : m_zeilen) {
-            zeile->beschrifteZellen(kopf);
-        }
-    }
-    int höheBei(int breite) const
-    {
-        int höhe = 0;
-        for (auto* zeile : m_zeilen) {
-            höhe += zeile->ordne(breite, m_spalten, zeilenhöhe());
-        }
-        return höhe;
-    }
-    /// Height of the first rows, as many as must always be in sight.
-    int mindesthöhe() const { return static_cast<int>(std::min(zeilenInSicht, m_zeilen.size())) * zeilenhöhe(); }
-    int bevorzugteBreite() const
-    {
-        int beschriftung = em(beschriftungMindestens);
-        for (const auto* zeile : m_zeilen) {
-            beschriftung = std::max(beschriftung, zeile->bevorzugteBeschriftungsbreite());
-        }
-        return std::min(beschriftung, em(beschriftungHöchstens)) + summe(m_spalten);
-    }
-    QSize sizeHint() const override { return size(); }
-
-protected:
-    void ordne() override
-    {
-        int oben = 0;
-        for (auto* zeile : m_zeilen) {
-            const int höhe = zeile->ordne(width(), m_spalten, zeilenhöhe());
-            zeile->setGeometry(0, oben, width(), höhe);
-            oben += höhe;
-        }
-    }
-
-private:
-    void fügeZeile(const Anordnung& zeile, const std::vector<Tabellenspalte>& köpfe, Ansicht& ansicht)
-    {
-        auto* neue = new Antwortzeile(this);
-        auto& beschriftung = dynamic_cast<Etikett&>(*zeichneElement(*zeile.element, ansicht, neue)); // read out first
-        std::vector<QWidget*> zellen;
-        for (std::size_t i = 0; i < zeile.teile.size(); ++i) {
-            auto* element = zeile.teile[i].element;
-            zellen.push_back(element == nullptr ? nullptr : baueZelle(*element, m_spalten[i], ansicht, neue));
-            if (zellen.back() != nullptr) {
-                benenneZelle(*zellen.back(), köpfe[i], zeile);
-            }
-        }
-        neue->setze(beschriftung, std::move(zellen));
-        m_zeilen.push_back(neue);
-    }
-    int zeilenhöhe() const { return em(m_zeilen.size() <= zeilenInSicht ? zeileWeit : zeileEng); }
-
-    std::vector<Antwortzeile*> m_zeilen;
-    std::vector<int> m_spalten;
-};
-
 Tabelle::Tabelle(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern)
-    : QScrollArea(eltern), m_spalten(spaltenbreiten(tabelle)),
-      m_kopf(new Tabellenkopf(tabelle, Tabellenkopf::Form::Tabelle, ansicht, this)),
-      m_blatt(new Blatt(tabelle, ansicht, viewport()))
+    : QScrollArea(eltern), m_kopf(new Tabellenkopf(tabelle, ansicht, this)), m_spaltenbreite(0),
+      m_mindesthöhe(static_cast<int>(std::min(zeilenInSicht, tabelle.teile.size())) * zeilenhöhe(tabelle))
 {
-    m_blatt->beschrifteZellen(*m_kopf);
+    auto* blatt = new QWidget(viewport());
+    auto* zeilen = ohneRand(new QVBoxLayout(blatt));
+    for (const auto& zeile : tabelle.teile) {
+        m_zeilen.push_back(new Antwortzeile(zeile, tabelle, *m_kopf, ansicht, blatt));
+        zeilen->addWidget(m_zeilen.back());
+    }
+    zeilen->addStretch(1);
+    for (const auto& spalte : tabelle.spalten) {
+        m_spaltenbreite += em(spalte.breite);
+    }
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
-    m_kopf->ordne(em(30), m_spalten);
-    setViewportMargins(0, m_kopf->höhe(), 0, 0);
-    setWidget(m_blatt);
+    setViewportMargins(0, m_kopf->sizeHint().height(), 0, 0);
+    setWidgetResizable(true);
+    setWidget(blatt);
     viewport()->setAutoFillBackground(false);
-    m_blatt->setAutoFillBackground(false);
+    blatt->setAutoFillBackground(false);
 }
 
 QSize Tabelle::sizeHint() const
 {
-    const int breite = isVisible() ? viewport()->width() : m_blatt->bevorzugteBreite();
-    return {m_blatt->bevorzugteBreite(), m_kopf->höhe() + m_blatt->höheBei(breite)};
+    int beschriftung = em(beschriftungMindestens);
+    for (const auto* zeile : m_zeilen) {
+        beschriftung = std::max(beschriftung, zeile->bevorzugteBeschriftungsbreite());
+    }
+    const int gern = std::min(beschriftung, em(beschriftungHöchstens)) + m_spaltenbreite;
+    const int breite = isVisible() ? viewport()->width() : gern;
+    return {gern, m_kopf->sizeHint().height() + widget()->heightForWidth(breite)};
 }
 
 QSize Tabelle::minimumSizeHint() const
 {
-    return {em(beschriftungMindestens) + summe(m_spalten) + em(0.75), m_kopf->höhe() + m_blatt->mindesthöhe()};
-}
-
-void Tabelle::ordne()
-{
-    const int breite = viewport()->width();
-    m_kopf->ordne(breite, m_spalten);
-    m_blatt->resize(breite, m_blatt->höheBei(breite));
+    return {em(beschriftungMindestens) + m_spaltenbreite + em(0.75), m_kopf->sizeHint().height() + m_mindesthöhe};
 }
 
 void Tabelle::resizeEvent(QResizeEvent* ereignis)
 {
-    ordne();
+    m_kopf->setGeometry(0, 0, viewport()->width(), m_kopf->sizeHint().height());
     QScrollArea::resizeEvent(ereignis);
-    updateGeometry();
+    updateGeometry(); // the height follows the width
 }
 
 bool Tabelle::viewportEvent(QEvent* ereignis)
 {
     if (ereignis->type() == QEvent::LayoutRequest) {
-        ordne();
         updateGeometry();
     }
     return QScrollArea::viewportEvent(ereignis);

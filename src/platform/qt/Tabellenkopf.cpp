@@ -5,145 +5,144 @@
 #include "platform/qt/Umschrift.h"
 #include "platform/qt/Vorlesen.h"
 
+#include <QGridLayout>
 #include <QPainter>
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
 
-Etikett* formeTitel(Etikett* titel, bool linksbündig)
+enum Kopfzeile { gruppenzeile, strichzeile, titelzeile, lücke, füllerzeile };
+
+constexpr double breiteFrei = 12; ///< least width of a column that shares what is left
+constexpr std::size_t linksbündige = 2;
+
+bool istListung(const Anordnung& tabelle)
 {
-    titel->brichAmBindestrich();
-    titel->setFont(schrift(Schriftrolle::Spaltenkopf));
-    titel->setProperty("rolle", "kopf");
-    titel->setAlignment((linksbündig ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignBottom);
-    titel->setWordWrap(true);
-    titel->setIndent(0); // it would lift the text as well
-    titel->setContentsMargins(linksbündig ? em(0.45) : 0, 0, 0, 0);
-    titel->setAccessibleName(gesprochen(titel->text()));
-    return titel;
+    return tabelle.wort == Anordnung::Wort::Listung;
 }
 
-Etikett* macheTitel(const std::string& text, QWidget* eltern, bool linksbündig = false)
+/// A head that wraps at this width, 0: nowhere.
+Etikett* formeKopf(Etikett* kopf, double breite)
 {
-    return text.empty() ? nullptr : formeTitel(new Etikett(alsMehrzeiler(text), eltern), linksbündig);
+    kopf->brichAmBindestrich();
+    kopf->setFont(schrift(Schriftrolle::Spaltenkopf));
+    kopf->setProperty("rolle", "kopf");
+    kopf->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    kopf->setIndent(0); // it would lift the text as well
+    kopf->setAccessibleName(gesprochen(kopf->text()));
+    if (breite > 0) {
+        kopf->setzeUmbruchbreite(em(breite));
+    }
+    return kopf;
 }
 
 } // namespace
 
-Tabellenkopf::Tabellenkopf(const Anordnung& tabelle, Form form, Ansicht& ansicht, QWidget* eltern)
-    : QWidget(eltern), m_form(form),
-      m_titel(new Etikett(form == Form::Tabelle ? alsQString(tabelle.text) : QString(), this))
+void richteSpaltenEin(QGridLayout& gitter, const Anordnung& tabelle)
 {
-    m_titel->setFont(schrift(Schriftrolle::Kartentitel));
-    m_titel->setHidden(form == Form::Listung);
-    m_fußhöhe = m_titel->text().isEmpty() ? 0 : m_titel->QLabel::sizeHint().height();
-    for (const auto& spalte : tabelle.spalten) {
-        const bool linksbündig = form == Form::Listung && m_titelzeile.size() < linksbündigeSpalten;
-        m_titelzeile.push_back(
-            spalte.kopf == nullptr
-                ? macheTitel(spalte.titel, this, linksbündig)
-                : formeTitel(dynamic_cast<Etikett*>(zeichneElement(*spalte.kopf, ansicht, this)), linksbündig));
+    bool hatFreie = false;
+    for (std::size_t i = 0; i < tabelle.spalten.size(); ++i) {
+        const double breite = tabelle.spalten[i].breite;
+        gitter.setColumnMinimumWidth(gitterspalte(tabelle, i), em(breite > 0 ? breite : breiteFrei));
+        gitter.setColumnStretch(gitterspalte(tabelle, i), breite > 0 ? 0 : 1);
+        hatFreie = hatFreie || breite <= 0;
     }
-    baueFüller(tabelle, ansicht);
-    baueGruppen(tabelle.spalten);
-}
-
-void Tabellenkopf::baueFüller(const Anordnung& tabelle, Ansicht& ansicht)
-{
-    for (const auto& spalte : tabelle.spalten) {
-        m_füller.push_back(spalte.füller == nullptr ? nullptr : zeichneElement(*spalte.füller, ansicht, this));
-        if (m_füller.back() != nullptr) {
-            const auto name = verbinde(tabelle.text, ' ', spalte.gruppe, ' ', spalte.titel);
-            benenneFüller(*m_füller.back(), name);
-            m_fußhöhe = std::max(m_fußhöhe, m_füller.back()->maximumHeight() + em(0.2));
-        }
+    if (!hatFreie) {
+        gitter.setColumnStretch(0, 1);
     }
 }
 
-void Tabellenkopf::baueGruppen(const std::vector<Tabellenspalte>& spalten)
+int gitterspalte(const Anordnung& tabelle, std::size_t spalte)
 {
-    for (std::size_t i = 0; i < spalten.size(); ++i) {
-        const auto& name = spalten[i].gruppe;
-        if (i > 0 && !name.empty() && spalten[i - 1].gruppe == name) {
-            m_gruppen.back().bis = i;
-        } else if (!name.empty()) {
-            m_gruppen.push_back({macheTitel(name, this), i, i});
+    return static_cast<int>(spalte) + (istListung(tabelle) ? 0 : 1);
+}
+
+bool istLinksbündig(const Anordnung& tabelle, std::size_t spalte)
+{
+    return istListung(tabelle) && spalte < linksbündige;
+}
+
+Tabellenkopf::Tabellenkopf(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern)
+    : QWidget(eltern), m_etiketten(tabelle.spalten.size())
+{
+    auto* gitter = ohneRand(new QGridLayout(this));
+    gitter->setContentsMargins(0, 0, 0, em(istListung(tabelle) ? 0.25 : 0.35));
+    richteSpaltenEin(*gitter, tabelle);
+    if (!istListung(tabelle) && !tabelle.text.empty()) {
+        auto* titel = new Etikett(alsQString(tabelle.text), this);
+        titel->setFont(schrift(Schriftrolle::Kartentitel));
+        titel->setContentsMargins(em(0.28), 0, 0, 0);
+        gitter->addWidget(titel, füllerzeile, 0, Qt::AlignBottom);
+    }
+    baueTitel(tabelle, ansicht, *gitter);
+    baueFüller(tabelle, ansicht, *gitter);
+    baueGruppen(tabelle, *gitter);
+}
+
+void Tabellenkopf::baueTitel(const Anordnung& tabelle, Ansicht& ansicht, QGridLayout& gitter)
+{
+    for (std::size_t i = 0; i < tabelle.spalten.size(); ++i) {
+        const auto& spalte = tabelle.spalten[i];
+        if (spalte.titel.empty()) {
+            continue;
+        }
+        auto* titel = spalte.kopf == nullptr ? new Etikett(alsMehrzeiler(spalte.titel), this)
+                                             : dynamic_cast<Etikett*>(zeichneElement(*spalte.kopf, ansicht, this));
+        formeKopf(titel, spalte.breite);
+        if (istLinksbündig(tabelle, i)) {
+            titel->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+            titel->setContentsMargins(em(0.45), 0, 0, 0);
+        }
+        const int oben = spalte.gruppe.empty() ? gruppenzeile : titelzeile;
+        gitter.addWidget(titel, oben, gitterspalte(tabelle, i), titelzeile - oben + 1, 1);
+        m_etiketten[i].push_back(titel);
+    }
+}
+
+void Tabellenkopf::baueFüller(const Anordnung& tabelle, Ansicht& ansicht, QGridLayout& gitter)
+{
+    for (std::size_t i = 0; i < tabelle.spalten.size(); ++i) {
+        const auto& spalte = tabelle.spalten[i];
+        if (spalte.füller != nullptr) {
+            auto* füller = zeichneElement(*spalte.füller, ansicht, this);
+            benenneFüller(*füller, verbinde(tabelle.text, ' ', spalte.gruppe, ' ', spalte.titel));
+            gitter.setRowMinimumHeight(lücke, em(0.2));
+            gitter.setRowMinimumHeight(füllerzeile, füller->maximumHeight()); // its style would take less
+            gitter.addWidget(füller, füllerzeile, gitterspalte(tabelle, i), Qt::AlignHCenter);
         }
     }
 }
 
-std::vector<Etikett*> Tabellenkopf::etiketten(std::size_t spalte) const
+void Tabellenkopf::baueGruppen(const Anordnung& tabelle, QGridLayout& gitter)
 {
-    std::vector<Etikett*> alle;
-    for (const auto& gruppe : m_gruppen) {
-        if (gruppe.von <= spalte && spalte <= gruppe.bis) {
-            alle.push_back(gruppe.titel);
+    const auto& spalten = tabelle.spalten;
+    for (std::size_t von = 0, bis = 0; von < spalten.size(); von = bis) {
+        double breite = 0;
+        for (bis = von; bis < spalten.size() && spalten[bis].gruppe == spalten[von].gruppe; ++bis) {
+            breite += spalten[bis].breite;
+        }
+        if (spalten[von].gruppe.empty()) {
+            continue;
+        }
+        auto* gruppe = formeKopf(new Etikett(alsMehrzeiler(spalten[von].gruppe), this), breite);
+        gitter.addWidget(gruppe, gruppenzeile, gitterspalte(tabelle, von), 1, static_cast<int>(bis - von));
+        for (auto i = von; i < bis; ++i) {
+            m_etiketten[i].insert(m_etiketten[i].begin(), gruppe);
+        }
+        if (!istListung(tabelle)) {
+            gitter.setRowMinimumHeight(strichzeile, em(0.3));
+            m_unterstrichen.push_back(gruppe);
         }
     }
-    if (m_titelzeile[spalte] != nullptr) {
-        alle.push_back(m_titelzeile[spalte]);
-    }
-    return alle;
-}
-
-int Tabellenkopf::titelhöhe(std::size_t von, std::size_t bis, const std::vector<int>& spalten) const
-{
-    int höhe = 0;
-    for (auto i = von; i <= bis; ++i) {
-        höhe = std::max(höhe, m_titelzeile[i] == nullptr ? 0 : m_titelzeile[i]->heightForWidth(spalten[i]));
-    }
-    return höhe;
-}
-
-void Tabellenkopf::ordne(int breite, const std::vector<int>& spalten)
-{
-    std::vector<int> links{std::max(0, breite - std::accumulate(spalten.begin(), spalten.end(), 0))};
-    for (const int spalte : spalten) {
-        links.push_back(links.back() + spalte);
-    }
-    const int titel = titelhöhe(0, spalten.size() - 1, spalten);
-    const int abstand = m_form == Form::Tabelle ? em(0.3) : 0; // for the line under a group
-    int fuß = titel;
-    for (const auto& gruppe : m_gruppen) {
-        const int eigene = titelhöhe(gruppe.von, gruppe.bis, spalten);
-        fuß = std::max(fuß, gruppe.titel->heightForWidth(links[gruppe.bis + 1] - links[gruppe.von]) + abstand + eigene);
-    }
-    for (std::size_t i = 0; i < spalten.size(); ++i) {
-        if (m_titelzeile[i] != nullptr) {
-            m_titelzeile[i]->setGeometry(links[i], fuß - titel, spalten[i], titel);
-        }
-        if (auto* füller = m_füller[i]) {
-            const QSize größe = füller->maximumSize();
-            füller->setGeometry(links[i] + (spalten[i] - größe.width()) / 2, fuß + em(0.2), größe.width(),
-                                größe.height());
-        }
-    }
-    for (const auto& gruppe : m_gruppen) {
-        const int eigene = titelhöhe(gruppe.von, gruppe.bis, spalten);
-        gruppe.titel->setGeometry(links[gruppe.von], 0, links[gruppe.bis + 1] - links[gruppe.von],
-                                  fuß - eigene - abstand);
-        for (auto i = gruppe.von; i <= gruppe.bis; ++i) {
-            if (m_titelzeile[i] != nullptr) {
-                m_titelzeile[i]->setGeometry(links[i], fuß - eigene, spalten[i], eigene);
-            }
-        }
-    }
-    m_höhe = fuß + m_fußhöhe + em(m_form == Form::Tabelle ? 0.35 : 0.25);
-    m_titel->setGeometry(em(0.28), m_höhe - em(1.6), links.front() - em(0.3), em(1.4));
-    setGeometry(0, 0, breite, m_höhe);
 }
 
 void Tabellenkopf::paintEvent(QPaintEvent* /*ereignis*/)
 {
     QPainter maler(this);
-    const auto& f = farben();
-    maler.fillRect(0, height() - 1, width(), 1, f.feldrand);
-    for (const auto& gruppe : m_gruppen) {
-        const QRect titel = gruppe.titel->geometry();
-        if (m_form == Form::Tabelle) {
-            maler.fillRect(titel.left() + 4, titel.height() + em(0.3) - em(0.15), titel.width() - 8, 1, f.feldrand);
-        }
+    maler.fillRect(0, height() - 1, width(), 1, farben().feldrand);
+    for (const auto* gruppe : m_unterstrichen) {
+        const QRect titel = gruppe->geometry();
+        maler.fillRect(titel.left() + 4, titel.height() + em(0.3) - em(0.15), titel.width() - 8, 1, farben().feldrand);
     }
 }

@@ -4,7 +4,6 @@
 #include "platform/text/Zahl.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 
 namespace {
@@ -29,20 +28,6 @@ std::string aufgefüllt(int zahl, std::size_t stellen)
 bool sindZiffern(std::string_view text, std::size_t höchstens)
 {
     return !text.empty() && text.size() <= höchstens && text.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
-/// The three parts of d.m.y, or nothing.
-std::optional<std::array<std::string_view, 3>> dreiTeile(std::string_view text)
-{
-    const auto erster = text.find('.');
-    if (erster == std::string_view::npos) {
-        return std::nullopt;
-    }
-    const auto zweiter = text.find('.', erster + 1);
-    if (zweiter == std::string_view::npos) {
-        return std::nullopt;
-    }
-    return std::array{text.substr(0, erster), text.substr(erster + 1, zweiter - erster - 1), text.substr(zweiter + 1)};
 }
 
 } // namespace
@@ -72,11 +57,15 @@ std::string alsDatumstext(const Datum& datum)
 
 std::optional<Datum> leseDatum(std::string_view text)
 {
-    const auto teile = dreiTeile(getrimmt(text));
-    if (!teile) {
+    text = getrimmt(text);
+    const auto erster = text.find('.');
+    const auto zweiter = text.rfind('.');
+    if (erster == zweiter) {
         return std::nullopt;
     }
-    const auto& [tag, monat, jahr] = *teile;
+    const auto tag = text.substr(0, erster);
+    const auto monat = text.substr(erster + 1, zweiter - erster - 1);
+    const auto jahr = text.substr(zweiter + 1);
     const bool kurzesJahr = jahr.size() == 2;
     if (!sindZiffern(tag, 2) || !sindZiffern(monat, 2) || !sindZiffern(jahr, 4) || (!kurzesJahr && jahr.size() != 4)) {
         return std::nullopt;

@@ -139,11 +139,10 @@ std::u32string zusammengesetzt(std::u32string_view text)
     return ergebnis;
 }
 
-/// A character of a stored text as a field shows it, and the bytes that it stands for.
+/// A character of a stored text as a field shows it, and where its bytes begin.
 struct Feldzeichen {
     char32_t zeichen;
     std::size_t anfang;
-    std::size_t länge;
 };
 
 std::vector<Feldzeichen> feldzeichen(std::string_view text, bool mehrzeilig)
@@ -152,9 +151,8 @@ std::vector<Feldzeichen> feldzeichen(std::string_view text, bool mehrzeilig)
     ergebnis.reserve(text.size());
     for (std::size_t ort = 0; ort < text.size();) {
         const bool umbruch = mehrzeilig && (text[ort] == '\r' || text[ort] == '\n');
-        const std::size_t länge = umbruch && text.substr(ort, 2) == "\r\n" ? 2 : 1;
-        ergebnis.push_back({umbruch ? U'\n' : zeichensatz::unicodeVon(text[ort]), ort, länge});
-        ort += länge;
+        ergebnis.push_back({umbruch ? U'\n' : zeichensatz::unicodeVon(text[ort]), ort});
+        ort += umbruch && text.substr(ort, 2) == "\r\n" ? 2 : 1;
     }
     return ergebnis;
 }

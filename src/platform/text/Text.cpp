@@ -1,34 +1,16 @@
 #include "platform/text/Text.h"
 
-namespace {
-
-/// The accented letters of the code page that have a lower case of their own outside the range 0xC0 to 0xDE.
-struct Paar {
-    char groß;
-    char klein;
-};
-constexpr std::array<Paar, 4> sonderpaare{{{'\x8A', '\x9A'}, {'\x8C', '\x9C'}, {'\x8E', '\x9E'}, {'\x9F', '\xFF'}}};
-
-/// Base letters of 0xE0 to 0xFF ("÷" stays itself).
-constexpr std::string_view grundbuchstaben = "aaaaaaaceeeeiiiidnooooo\xF7ouuuuypy";
-
-} // namespace
-
 char klein(char zeichen)
 {
+    // those whose lower case is not 32 places behind them
+    constexpr auto große = "ŠŒŽŸ"_t;
+    constexpr auto kleine = "šœžÿ"_t;
     const auto byte = static_cast<unsigned char>(zeichen);
-    if (zeichen >= 'A' && zeichen <= 'Z') {
-        return static_cast<char>(zeichen + ('a' - 'A'));
-    }
-    if (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7) {
+    if ((byte >= 'A' && byte <= 'Z') || (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7)) {
         return static_cast<char>(byte + 0x20U);
     }
-    for (const auto& paar : sonderpaare) {
-        if (paar.groß == zeichen) {
-            return paar.klein;
-        }
-    }
-    return zeichen;
+    const auto ort = große.find(zeichen);
+    return ort == std::string_view::npos ? zeichen : kleine[ort];
 }
 
 std::string klein(std::string_view text)
@@ -51,22 +33,12 @@ std::string_view getrimmt(std::string_view text)
 
 char sortierzeichen(char zeichen)
 {
-    const char k = klein(zeichen);
-    const auto byte = static_cast<unsigned char>(k);
-    if (byte >= 0xE0) {
-        return grundbuchstaben[byte - 0xE0U];
-    }
-    switch (k) {
-    case '\xDF':
-    case '\x9A':
-        return 's';
-    case '\x9C':
-        return 'o';
-    case '\x9E':
-        return 'z';
-    default:
-        return k;
-    }
+    constexpr auto akzente = "àáâãäåæçèéêëìíîïðñòóôõöøùúûüýþÿßšœž"_t;
+    constexpr auto grundbuchstaben = "aaaaaaaceeeeiiiidnoooooouuuuypyssoz"_t;
+    static_assert(akzente.size() == grundbuchstaben.size());
+    const char kleines = klein(zeichen);
+    const auto ort = akzente.find(kleines);
+    return ort == std::string_view::npos ? kleines : grundbuchstaben[ort];
 }
 
 std::string ersetzt(std::string_view text, std::string_view alt, std::string_view neu)

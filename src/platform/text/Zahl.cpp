@@ -7,27 +7,20 @@
 
 namespace {
 
-bool istZiffer(char zeichen)
+/// The text as from_chars takes it, which knows no plus.
+std::string_view ohnePlus(std::string_view text)
 {
-    return zeichen >= '0' && zeichen <= '9';
+    const bool hatPlus = text.size() > 1 && text[0] == '+' && text[1] >= '0' && text[1] <= '9';
+    return text.substr(hatPlus ? 1 : 0);
 }
 
 template <class Z> std::optional<Z> leseGanzzahl(std::string_view text)
 {
-    auto ziffern = getrimmt(text);
-    if (!ziffern.empty() && ziffern.front() == '+') {
-        ziffern.remove_prefix(1);
-        if (ziffern.empty() || !istZiffer(ziffern.front())) {
-            return std::nullopt;
-        }
-    }
+    const auto ziffern = ohnePlus(getrimmt(text));
     Z wert = 0;
     const char* ende = ziffern.data() + ziffern.size();
     const auto [bis, fehler] = std::from_chars(ziffern.data(), ende, wert);
-    if (fehler != std::errc{} || bis != ende || ziffern.empty()) {
-        return std::nullopt;
-    }
-    return wert;
+    return fehler == std::errc{} && bis == ende ? std::optional(wert) : std::nullopt;
 }
 
 } // namespace
@@ -49,21 +42,13 @@ std::optional<std::int64_t> leseGanzzahl64(std::string_view text)
 
 std::int64_t führendeZahl(std::string_view text)
 {
-    const auto anfang = text.find_first_not_of(' ');
-    if (anfang == std::string_view::npos) {
-        return 0;
-    }
-    text.remove_prefix(anfang);
-    std::size_t länge = (text.front() == '-' || text.front() == '+') ? 1 : 0;
-    while (länge < text.size() && istZiffer(text[länge])) {
-        ++länge;
-    }
-    const auto zahl = text.substr(0, länge);
-    if (zahl.empty() || !istZiffer(zahl.back())) {
-        return 0;
-    }
     using Grenzen = std::numeric_limits<std::int64_t>;
-    return leseGanzzahl64(zahl).value_or(zahl.front() == '-' ? Grenzen::min() : Grenzen::max());
+    const auto zahl = ohnePlus(getrimmt(text));
+    std::int64_t wert = 0;
+    if (std::from_chars(zahl.data(), zahl.data() + zahl.size(), wert).ec == std::errc::result_out_of_range) {
+        wert = zahl.front() == '-' ? Grenzen::min() : Grenzen::max();
+    }
+    return wert;
 }
 
 std::string alsText(std::int64_t zahl)

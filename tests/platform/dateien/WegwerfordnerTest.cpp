@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <optional>
 #include <string>
 
@@ -26,6 +27,18 @@ TEST(Wegwerfordner, GehörtDemBesitzerUndVerschwindetMitDemObjekt)
     EXPECT_EQ(fs::status(pfad).permissions(), fs::perms::owner_all);
 #endif
     fs::create_directories(pfad / "a" / "b");
+    ordner.reset();
+    EXPECT_FALSE(fs::exists(pfad));
+}
+
+TEST(Wegwerfordner, AuchSchreibgeschütztesVerschwindet)
+{
+    std::optional<Wegwerfordner> ordner(std::in_place, vorsilbe());
+    const auto pfad = ordner->pfad();
+    for (const auto* name : {"a", "z"}) {
+        std::ofstream(pfad / name) << "Inhalt";
+        fs::permissions(pfad / name, fs::perms::owner_read);
+    }
     ordner.reset();
     EXPECT_FALSE(fs::exists(pfad));
 }

@@ -8,9 +8,9 @@
 #include <algorithm>
 #include <array>
 
-bool betrifftAngaben(Befundart art)
+bool betrifftAngaben(const Befundart& art)
 {
-    using enum Befundart;
+    using namespace befundart;
     constexpr std::array arten{WertUnbekannt, Überschneidung, MehrereOffen,
                                EndeVorBeginn, DatumUngültig,  DatumZweistellig};
     return std::ranges::find(arten, art) != arten.end();
@@ -20,7 +20,7 @@ bool betrifftAngaben(Befundart art)
 std::vector<Befund> Schiedsrichter::finde() const
 {
     try {
-        Dateien dateien(erzeugeDateizugriff());
+        Dateien dateien;
         auto befunde = prüfeBestand(dateien, bildeBestandspfade(m_ordner)).befunde;
         std::erase_if(befunde, [](const Befund& befund) { return befund.istHinweis(); });
         return befunde;

@@ -11,7 +11,7 @@
 
 /// Whether the kind speaks of what somebody has entered, not of how the records are built: the import takes over what
 /// the older data say, overlapping periods and unknown codes included.
-bool betrifftAngaben(Befundart art);
+bool betrifftAngaben(const Befundart& art);
 
 /// Runs the program's own checker on the folder of a scenario: what the program has written must not be a finding.
 /// Findings that the scenario itself has brought in by writing files are remembered before the program acts on them.

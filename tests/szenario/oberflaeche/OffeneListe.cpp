@@ -17,6 +17,10 @@ void OffeneListe::bewege(std::size_t ziel)
 
 void OffeneListe::taste(const Taste& taste)
 {
+    if (taste.klapptAuf() || taste.art == Taste::Art::Esc) {
+        schließe();
+        return;
+    }
     switch (taste.art) {
     case Taste::Art::Auf:
         bewege(m_stelle - std::min<std::size_t>(m_stelle, 1));
@@ -36,10 +40,6 @@ void OffeneListe::taste(const Taste& taste)
         feld->wähle(m_stelle);
         break;
     }
-    case Taste::Art::Esc:
-    case Taste::Art::F4:
-        schließe();
-        break;
     default:
         break;
     }

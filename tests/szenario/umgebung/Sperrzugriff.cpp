@@ -47,36 +47,36 @@ std::unique_ptr<OffeneDatei> Sperrzugriff::öffne(const std::filesystem::path& p
 {
     zähle();
     prüfe(pfad);
-    return std::make_unique<FlüchtigeDatei>(Zugriffsweiche::öffne(pfad, wie), *this);
+    return std::make_unique<FlüchtigeDatei>(Dateizugriff::öffne(pfad, wie), *this);
 }
 
 void Sperrzugriff::benenneUm(const std::filesystem::path& von, const std::filesystem::path& nach)
 {
     zähle();
     prüfe(nach);
-    Zugriffsweiche::benenneUm(von, nach);
+    Dateizugriff::benenneUm(von, nach);
 }
 
 void Sperrzugriff::lösche(const std::filesystem::path& pfad)
 {
     zähle();
-    Zugriffsweiche::lösche(pfad);
+    Dateizugriff::lösche(pfad);
 }
 
 void Sperrzugriff::verknüpfe(const std::filesystem::path& von, const std::filesystem::path& nach)
 {
     zähle();
-    Zugriffsweiche::verknüpfe(von, nach);
+    Dateizugriff::verknüpfe(von, nach);
 }
 
 void Sperrzugriff::legeOrdnerAn(const std::filesystem::path& pfad)
 {
     zähle();
-    Zugriffsweiche::legeOrdnerAn(pfad);
+    Dateizugriff::legeOrdnerAn(pfad);
 }
 
 void Sperrzugriff::entferneOrdner(const std::filesystem::path& pfad)
 {
     zähle();
-    Zugriffsweiche::entferneOrdner(pfad);
+    Dateizugriff::entferneOrdner(pfad);
 }

@@ -10,10 +10,8 @@
 /// writing its new version beside it, or by renaming onto it. Nothing is flushed to the disk, since the folder of a
 /// scenario is thrown away. It can also play dead: from some operation on nothing changes on the disk any more, as
 /// if the process had been killed there.
-class Sperrzugriff : public Zugriffsweiche {
+class Sperrzugriff : public Dateizugriff {
 public:
-    using Zugriffsweiche::Zugriffsweiche;
-
     void sperre(const std::filesystem::path& pfad) { m_gesperrt.insert(pfad.lexically_normal()); }
 
     /// Dies after so many further operations that change something.

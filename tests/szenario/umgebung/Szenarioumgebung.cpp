@@ -29,7 +29,7 @@ Antwort ausweg(Knöpfe knöpfe)
 } // namespace
 
 Szenarioumgebung::Szenarioumgebung(std::filesystem::path programmordner)
-    : m_programmordner(std::move(programmordner)), m_zugriff(new Sperrzugriff(erzeugeDateizugriff())),
+    : m_programmordner(std::move(programmordner)), m_zugriff(new Sperrzugriff),
       m_dateien(std::unique_ptr<Dateizugriff>(m_zugriff))
 {}
 
