@@ -19,7 +19,7 @@ namespace {
 
 constexpr int höchsteZeile = INT16_MAX;
 
-/// The cells of a record: the fields of the table's columns and no others.
+/// The cells of a record, from its first field on: the fields of the columns and no others.
 Feldplan planZu(std::span<const auswertungsspalte::Spalte> spalten)
 {
     Feldplan plan;
@@ -87,7 +87,8 @@ void Auswertung::schreibeHauptdiagnosen()
             meldeÜberlauf(m_diagDat, zeile);
         }
         ++zeile;
-        m_blatt.verweiseFelder(zeile, fall, feldbereich(*satz, 1, kennungen.back().feld), kennungsplan);
+        m_blatt.verweiseFelder(zeile, fall, feldbereich(*satz, feld::diag::kernID, kennungen.back().feld),
+                               kennungsplan);
         if (const auto block = sucheHDBlock(*satz); block.gruppe != 0) {
             m_blatt.verweiseFelder(zeile, hauptdiagnose, block.antworten, hdPlan);
             m_blatt.verweise(zeile, gruppe, gruppenname(block.gruppe));
@@ -102,7 +103,7 @@ void Auswertung::schreibeKlienten()
     const auto& plan = m_blatt.merke(planZu(klientenspalten));
     for (int zeile = 2; istBelegt(zeile); ++zeile) {
         const auto satz = m_klienten.finde(schlüssel(zeile, fall));
-        m_blatt.verweiseFelder(zeile, klient, feldbereich(satz, 1, klientenspalten.back().feld), plan);
+        m_blatt.verweiseFelder(zeile, klient, feldbereich(satz, feld::kern::leer, klientenspalten.back().feld), plan);
     }
 }
 
