@@ -102,7 +102,6 @@ int main(int anzahl, char** werte)
         return *status;
     }
     QApplication anwendung(anzahl, werte);
-    QGuiApplication::setDesktopFileName("tolvek7"); // by this the desktop finds the icon of a window
     richteStilEin(anwendung);
     try {
         return arbeite(aufruf);

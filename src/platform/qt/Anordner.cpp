@@ -2,12 +2,10 @@
 
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Auswahlbox.h"
-#include "platform/qt/Elementzeichner.h"
 #include "platform/qt/Etikett.h"
 #include "platform/qt/Flaechen.h"
 #include "platform/qt/Knoepfe.h"
 #include "platform/qt/Listenansicht.h"
-#include "platform/qt/Listung.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Tabelle.h"
 #include "platform/qt/Textbox.h"
@@ -81,7 +79,7 @@ bool Anordner::füge(const Anordnung& a, QBoxLayout& ziel)
     case Wort::Formular:
         return fügeFormular(a, ziel);
     case Wort::Trennlinie:
-        return fügeWidget(*macheLinie(), ziel, false);
+        return fügeLinie(ziel);
     case Wort::Karte:
         return fügeKarte(a, ziel);
     case Wort::Karten:
@@ -118,7 +116,7 @@ bool Anordner::fügeWidget(QWidget& widget, QBoxLayout& ziel, bool füllt)
 
 QWidget* Anordner::macheElement(const Anordnung& a)
 {
-    auto* widget = zeichneElement(*a.element, m_ansicht, m_eltern);
+    auto* widget = m_ansicht.zeichne(*a.element, m_eltern);
     if (a.behältPlatz) {
         auto regel = widget->sizePolicy();
         regel.setRetainSizeWhenHidden(true);
@@ -237,17 +235,15 @@ QWidget* Anordner::macheWidget(const Anordnung& a, bool& füllt, double abstand)
     return kasten;
 }
 
-QWidget* Anordner::macheLinie()
+bool Anordner::fügeLinie(QBoxLayout& ziel)
 {
-    auto* kasten = new QWidget(m_eltern);
-    auto* linie = new QFrame(kasten);
+    auto* linie = new QFrame(m_eltern);
     linie->setProperty("rolle", "linie");
     linie->setFixedHeight(1);
-    auto* layout = ohneRand(new QVBoxLayout(kasten), 0);
-    layout->setContentsMargins(0, em(0.35), 0, em(0.45));
-    layout->addWidget(linie);
-    kasten->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    return kasten;
+    ziel.addSpacing(em(0.35));
+    ziel.addWidget(linie);
+    ziel.addSpacing(em(0.45));
+    return false;
 }
 
 bool Anordner::fügeDecke(const Anordnung& a, QBoxLayout& ziel)
@@ -257,16 +253,14 @@ bool Anordner::fügeDecke(const Anordnung& a, QBoxLayout& ziel)
     bool füllt = a.füllt;
     auto* darunter = macheWidget(a.teile.front(), füllt, kastenabstand);
     auto& element = *a.teile.back().element;
-    auto* decke = dynamic_cast<Knopf*>(zeichneElement(element, m_ansicht, m_eltern));
+    auto* decke = dynamic_cast<Knopf*>(m_ansicht.zeichne(element, m_eltern));
     if (a.teile.front().wort == Wort::Element) {
         decke->seiWertdecke();
     }
     fläche->füge(*darunter);
     fläche->füge(*decke);
     decke->raise();
-    const auto gleicheAb = [darunter, decke] { darunter->setEnabled(decke->isHidden()); };
-    gleicheAb();
-    m_ansicht.abonniere(element.geändert, gleicheAb);
+    m_ansicht.folge(element.geändert, [darunter, decke] { darunter->setEnabled(decke->isHidden()); });
     return fügeWidget(*fläche, ziel, füllt);
 }
 
@@ -333,11 +327,11 @@ Karte* Anordner::macheKarte(const Anordnung& a, bool& füllt)
     if (!a.text.empty() || a.element != nullptr || !a.köpfe.empty()) {
         auto* zeile = ohneRand(new QHBoxLayout, 0.6);
         auto* titel = a.element == nullptr ? new Etikett(alsQString(a.text), karte)
-                                           : dynamic_cast<Etikett*>(zeichneElement(*a.element, m_ansicht, karte));
+                                           : dynamic_cast<Etikett*>(m_ansicht.zeichne(*a.element, karte));
         titel->setFont(schrift(Schriftrolle::Kartentitel));
         zeile->addWidget(titel);
         for (auto* kopf : a.köpfe) {
-            auto* widget = zeichneElement(*kopf, m_ansicht, karte);
+            auto* widget = m_ansicht.zeichne(*kopf, karte);
             if (dynamic_cast<Etikett*>(widget) != nullptr) {
                 widget->setProperty("rolle", "kopf");
                 zeile->addWidget(widget);

@@ -30,6 +30,7 @@ private:
     bool fügeBefehle(const Anordnung& a, QBoxLayout& ziel);
     bool fügeZeile(const Anordnung& a, QBoxLayout& ziel);
     bool fügeFormular(const Anordnung& a, QBoxLayout& ziel);
+    bool fügeLinie(QBoxLayout& ziel);
     bool fügeKarte(const Anordnung& a, QBoxLayout& ziel);
     bool fügeKarten(const Anordnung& a, QBoxLayout& ziel);
     bool fügeDecke(const Anordnung& a, QBoxLayout& ziel);
@@ -43,7 +44,6 @@ private:
     Karte* macheKarte(const Anordnung& a, bool& füllt);
     /// The part as a widget of its own, what stands in it so many em apart.
     QWidget* macheWidget(const Anordnung& a, bool& füllt, double abstand);
-    QWidget* macheLinie();
     QWidget* macheElement(const Anordnung& a);
 
     Ansicht& m_ansicht;

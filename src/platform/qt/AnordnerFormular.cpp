@@ -1,6 +1,5 @@
 #include "platform/qt/Anordner.h"
 #include "platform/qt/Ansicht.h"
-#include "platform/qt/Elementzeichner.h"
 #include "platform/qt/Etikett.h"
 #include "platform/qt/Knoepfe.h"
 #include "platform/qt/Stil.h"
@@ -99,9 +98,8 @@ void Anordner::fügeFeld(const Anordnung& feld, double beschriftungsbreite, QBox
     auto* zeile = new Formularzeile(m_eltern);
     const QScopedValueRollback<QWidget*> eltern(m_eltern, zeile);
     auto* layout = ohneRand(new QHBoxLayout(zeile), 0.5);
-    auto* beschriftung = feld.element == nullptr
-                             ? new Etikett(alsQString(feld.text), m_eltern)
-                             : dynamic_cast<Etikett*>(zeichneElement(*feld.element, m_ansicht, m_eltern));
+    auto* beschriftung = feld.element == nullptr ? new Etikett(alsQString(feld.text), m_eltern)
+                                                 : dynamic_cast<Etikett*>(m_ansicht.zeichne(*feld.element, m_eltern));
     beschriftung->setzeUmbruchbreite(em(beschriftungsbreite));
     layout->addWidget(beschriftung, 0, Qt::AlignVCenter);
     for (const auto& teil : feld.teile) {
@@ -127,12 +125,9 @@ void Anordner::verbindeFeld(const Anordnung& feld, Etikett& beschriftung, QWidge
     auto regel = zeile.sizePolicy();
     regel.setRetainSizeWhenHidden(std::ranges::any_of(feld.teile, behältPlatz));
     zeile.setSizePolicy(regel);
-    auto zeige = [elemente, &zeile, &beschriftung, eigene = feld.element] {
+    auto zeige = [elemente, &zeile, eigene = feld.element] {
         const bool sichtbar = std::ranges::any_of(elemente, [](const Element* e) { return e->istSichtbar(); });
         zeile.setVisible(sichtbar || (eigene != nullptr && eigene->istSichtbar()));
-        if (eigene == nullptr) {
-            beschriftung.setVisible(sichtbar);
-        }
     };
     zeige();
     for (auto* element : elemente) {

@@ -2,7 +2,6 @@
 
 #include "platform/qt/Geduld.h"
 #include "platform/qt/Umschrift.h"
-#include "platform/qt/Vorlesen.h"
 
 #include <QAction>
 #include <QWidget>
@@ -24,12 +23,6 @@ void zeichneGemeinsames(const Element& element, QWidget& widget)
 
 } // namespace
 
-void Ansicht::setzeWurzel(QWidget& wurzel)
-{
-    m_wurzel = &wurzel;
-    meldeWurzel(wurzel, *this);
-}
-
 void Ansicht::ereignis(const std::function<void()>& aktion)
 {
     if (m_lebt) {
@@ -42,34 +35,34 @@ void Ansicht::abonniere(Melder<>& melder, std::function<void()> ruf)
     m_abonnements.push_back(melder.abonniere(std::move(ruf)));
 }
 
+void Ansicht::folge(Melder<>& melder, std::function<void()> ruf)
+{
+    ruf();
+    abonniere(melder, std::move(ruf));
+}
+
 void Ansicht::binde(Element& element, QWidget& widget, std::function<void()> zeichne)
 {
     m_widgets.emplace(&element, &widget);
     m_elemente.emplace(&widget, &element);
     widget.setObjectName(alsQString(element.name()));
     widget.setFocusPolicy(element.nimmtFokus() ? Qt::TabFocus : Qt::NoFocus);
-    const auto alles = [&element, &widget, zeichne = std::move(zeichne)] {
+    folge(element.geändert, [&element, &widget, zeichne = std::move(zeichne)] {
         geduld::prüfe();
         zeichneGemeinsames(element, widget);
-        if (zeichne) {
-            zeichne();
-        }
-    };
-    alles();
-    abonniere(element.geändert, alles);
+        rufe(zeichne);
+    });
 }
 
 void Ansicht::binde(Menüeintrag& eintrag, QAction& aktion)
 {
     m_aktionen.emplace(&eintrag, &aktion);
     aktion.setObjectName(alsQString(eintrag.name()));
-    const auto zeichne = [&eintrag, &aktion] {
+    folge(eintrag.geändert, [&eintrag, &aktion] {
         aktion.setText(alsQString(eintrag.text()));
         aktion.setVisible(eintrag.istSichtbar());
         aktion.setEnabled(eintrag.istFrei());
-    };
-    zeichne();
-    abonniere(eintrag.geändert, zeichne);
+    });
 }
 
 QWidget* Ansicht::widgetVon(const Element& element) const

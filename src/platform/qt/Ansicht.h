@@ -9,6 +9,7 @@
 #include <vector>
 
 class QAction;
+class QScrollArea;
 class QWidget;
 
 /// What the widgets need from the surface they belong to.
@@ -38,7 +39,16 @@ public:
     /// Runs the rule in the course of the program; nothing happens once the screen is gone.
     void ereignis(const std::function<void()>& aktion);
 
+    /// Builds the widgets of the screen (header band, body that scrolls, button bar) below `eltern` and ties them to
+    /// the elements; the menus of the screen are tied too, but hang nowhere yet. The body.
+    QScrollArea* baueSeite(QWidget* eltern);
+    /// Makes the widget that draws the element and ties it to it: one drawing routine for each kind. nullptr for
+    /// a menu entry, which is no widget.
+    QWidget* zeichne(Element& element, QWidget* eltern);
+
     void abonniere(Melder<>& melder, std::function<void()> ruf);
+    /// The same, and calls at once for the state of now.
+    void folge(Melder<>& melder, std::function<void()> ruf);
     /// Ties the widget to the element: draws now and after every change, first what all kinds share
     /// (visible, enabled, hint), then the kind's own.
     void binde(Element& element, QWidget& widget, std::function<void()> zeichne = {});
@@ -51,7 +61,6 @@ public:
     Element* elementVon(const QWidget* widget) const;
 
     QWidget* wurzel() const { return m_wurzel; }
-    void setzeWurzel(QWidget& wurzel);
     void löse();
 
 private:

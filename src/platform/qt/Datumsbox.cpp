@@ -4,6 +4,7 @@
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Eingabewaechter.h"
 #include "platform/qt/Feldhinweis.h"
+#include "platform/qt/Fenster.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 #include "platform/qt/Vorlesen.h"
@@ -17,7 +18,6 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -59,9 +59,7 @@ public:
     {
         setAttribute(Qt::WA_DeleteOnClose);
         setFrameStyle(QFrame::StyledPanel);
-        auto* layout = new QVBoxLayout(this);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->addWidget(m_kalender);
+        ohneRand(new QVBoxLayout(this))->addWidget(m_kalender);
         for (auto* teil : m_kalender->findChildren<QWidget*>()) {
             teil->installEventFilter(this);
         }
@@ -178,12 +176,10 @@ void Datumsbox::übernimmKalender()
     m_kalender->kalender()->setSelectedDate(alsQDate(*tag));
     if (neu) {
         m_kalender->adjustSize();
-        const QRect platz = screen()->availableGeometry();
         const QPoint unten = mapToGlobal(QPoint(0, height()));
-        const bool passtUnten = unten.y() + m_kalender->height() <= platz.bottom();
-        const int y = passtUnten ? unten.y() : mapToGlobal(QPoint(0, -m_kalender->height())).y();
-        const int rechts = std::max(platz.left(), platz.right() + 1 - m_kalender->width());
-        m_kalender->move(std::min(unten.x(), rechts), std::max(platz.top(), y));
+        const bool passtUnten = unten.y() + m_kalender->height() <= screen()->availableGeometry().bottom();
+        const QPoint ort = passtUnten ? unten : mapToGlobal(QPoint(0, -m_kalender->height()));
+        m_kalender->move(inDenSchirm(ort, m_kalender->size()));
         m_kalender->show();
         m_kalender->setFocus();
     }
@@ -192,11 +188,6 @@ void Datumsbox::übernimmKalender()
 QCalendarWidget* Datumsbox::kalender() const
 {
     return m_kalender == nullptr ? nullptr : m_kalender->kalender();
-}
-
-QWidget& Datumsbox::kalenderknopf() const
-{
-    return *m_knopf;
 }
 
 QSize Datumsbox::sizeHint() const

@@ -18,8 +18,6 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
     /// The calendar while it is open.
     QCalendarWidget* kalender() const;
-    /// Where the calendar is opened with the mouse.
-    QWidget& kalenderknopf() const;
 
 protected:
     void resizeEvent(QResizeEvent* ereignis) override;
@@ -36,7 +34,7 @@ private:
 
     Datumsfeld& m_element;
     Ansicht& m_ansicht;
-    QToolButton* m_knopf;
+    QToolButton* m_knopf; ///< opens the calendar with the mouse
     Kalenderfenster* m_kalender = nullptr;
     bool m_wirdGefüllt = false;
 };

@@ -53,48 +53,27 @@ std::optional<char> getipptesZeichen(const QKeyEvent& ereignis, bool kombination
                                                           : std::nullopt;
 }
 
-/// Keys that the element has rules for where the toolkit edits the text of a date.
-bool gehörtDemDatum(const Taste& taste)
-{
-    return taste.gehörtDemBildschirm() || taste.art == Taste::Art::Auf || taste.art == Taste::Art::Ab ||
-           taste.art == Taste::Art::BildAuf || taste.art == Taste::Art::BildAb;
-}
-
-/// Ctrl with something is a matter of texts (copying, words, the start of the text), Alt with something is not.
-bool istTextkombination(const QWidget& widget, const Taste& taste)
-{
-    if (taste.alt) {
-        return false;
-    }
-    if (const auto* box = dynamic_cast<const Auswahlbox*>(&widget)) {
-        constexpr std::string_view kopieren = "acvx"; // others would change the text past the type-ahead
-        return box->isEditable() && taste.art == Taste::Art::Zeichen &&
-               kopieren.find(taste.zeichen) != std::string_view::npos;
-    }
-    return !taste.gehörtDemBildschirm() &&
-           (dynamic_cast<const QLineEdit*>(&widget) != nullptr || dynamic_cast<const Textblock*>(&widget) != nullptr);
-}
-
-/// What the toolkit does by itself: editing texts and dates, opening a list.
+/// What the toolkit does by itself: editing texts and dates, opening a list. Ctrl with something is a matter of texts
+/// (copying, words, the start of the text), Alt with something is not.
 bool istSacheDesWidgets(const QWidget& widget, const Taste& taste)
 {
-    if (dynamic_cast<const Datumsbox*>(&widget) != nullptr && !taste.istKombination()) {
-        return !gehörtDemDatum(taste);
+    if (const auto* box = dynamic_cast<const Auswahlbox*>(&widget)) {
+        constexpr std::string_view kopieren = "acvx"; // others would change the text past the type-ahead
+        const bool kopiert = taste.strg && !taste.alt && taste.art == Taste::Art::Zeichen &&
+                             kopieren.find(taste.zeichen) != std::string_view::npos;
+        const bool klapptMitLeertaste = !taste.istKombination() && taste.istLeertaste();
+        return taste.klapptAuf() || (box->isEditable() ? kopiert : klapptMitLeertaste);
     }
-    const auto* box = dynamic_cast<const Auswahlbox*>(&widget);
-    if (box != nullptr && taste.klapptAuf()) {
-        return true;
+    const bool mehrzeilig = dynamic_cast<const Textblock*>(&widget) != nullptr;
+    if (taste.alt || (!mehrzeilig && dynamic_cast<const QLineEdit*>(&widget) == nullptr)) {
+        return false;
     }
-    if (taste.istKombination()) {
-        return istTextkombination(widget, taste);
+    const bool bewegt = taste.art == Taste::Art::Auf || taste.art == Taste::Art::Ab ||
+                        taste.art == Taste::Art::BildAuf || taste.art == Taste::Art::BildAb;
+    if (bewegt && !taste.strg && dynamic_cast<const Datumsbox*>(&widget) != nullptr) {
+        return false; // the element of a date has rules for them
     }
-    if (dynamic_cast<const Textblock*>(&widget) != nullptr) {
-        return !taste.gehörtDemBildschirm() || taste.art == Taste::Art::Eingabe;
-    }
-    if (dynamic_cast<const Textzeile*>(&widget) != nullptr) {
-        return !taste.gehörtDemBildschirm();
-    }
-    return box != nullptr && !box->isEditable() && taste.istLeertaste();
+    return !taste.gehörtDemBildschirm() || (mehrzeilig && !taste.strg && taste.art == Taste::Art::Eingabe);
 }
 
 /// To the element, and what that has no use for to its screen; whether anybody had.
@@ -139,8 +118,6 @@ Eingabewächter::Eingabewächter(std::function<Ansicht*(const QWidget*)> ansicht
 {
     qApp->installEventFilter(this);
 }
-
-Eingabewächter::~Eingabewächter() = default;
 
 bool Eingabewächter::eventFilter(QObject* objekt, QEvent* ereignis)
 {

@@ -29,7 +29,6 @@ class Eingabewächter : public QObject {
 public:
     /// `ansichtVon` tells the live tree that the widget belongs to (for a window: the tree that it shows).
     explicit Eingabewächter(std::function<Ansicht*(const QWidget*)> ansichtVon);
-    ~Eingabewächter() override;
 
     bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 

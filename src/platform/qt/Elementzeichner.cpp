@@ -1,5 +1,3 @@
-#include "platform/qt/Elementzeichner.h"
-
 #include "platform/elemente/Elementbesucher.h"
 #include "platform/elemente/Elemente.h"
 #include "platform/elemente/triCtlJaNein.h"
@@ -93,9 +91,9 @@ private:
 
 } // namespace
 
-QWidget* zeichneElement(Element& element, Ansicht& ansicht, QWidget* eltern)
+QWidget* Ansicht::zeichne(Element& element, QWidget* eltern)
 {
-    Zeichner zeichner(ansicht, eltern);
+    Zeichner zeichner(*this, eltern);
     element.besuche(zeichner);
     return zeichner.ergebnis();
 }

@@ -1,7 +1,6 @@
 #include "platform/qt/Fenster.h"
 
 #include "platform/qt/Mass.h"
-#include "platform/qt/Seitenbau.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 
@@ -63,15 +62,9 @@ void Rahmenfenster::changeEvent(QEvent* ereignis)
     if (ereignis->type() == QEvent::WindowStateChange && !isMinimized() && m_platzwächter.istVomBenutzer(false)) {
         m_bühne.ereignis([this] { m_rahmen.benutzerMaximiert(isMaximized()); });
     }
-}
-
-bool Rahmenfenster::event(QEvent* ereignis)
-{
-    const bool ergebnis = QMainWindow::event(ereignis);
-    if (ereignis->type() == QEvent::WindowActivate) {
+    if (ereignis->type() == QEvent::ActivationChange && isActiveWindow()) {
         m_beiAktivierung();
     }
-    return ergebnis;
 }
 
 void Rahmenfenster::closeEvent(QCloseEvent* ereignis)
@@ -82,12 +75,11 @@ void Rahmenfenster::closeEvent(QCloseEvent* ereignis)
 
 Kindfenster::Kindfenster(Ansicht& ansicht, QWidget* rahmen)
     : QWidget(rahmen, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
-      m_ansicht(ansicht), m_blatt(baueSeite(ansicht, this))
+      m_ansicht(ansicht), m_blatt(ansicht.baueSeite(this))
 {
     ohneRand(new QVBoxLayout(this))->addWidget(ansicht.wurzel());
-    const auto betitle = [this, &bildschirm = ansicht.bildschirm()] { setWindowTitle(alsQString(bildschirm.titel())); };
-    betitle();
-    ansicht.abonniere(ansicht.bildschirm().titelGeändert, betitle);
+    auto& bildschirm = ansicht.bildschirm();
+    ansicht.folge(bildschirm.titelGeändert, [this, &bildschirm] { setWindowTitle(alsQString(bildschirm.titel())); });
 }
 
 void Kindfenster::passeHöheAn()

@@ -45,7 +45,6 @@ protected:
     void resizeEvent(QResizeEvent* ereignis) override;
     void changeEvent(QEvent* ereignis) override;
     void closeEvent(QCloseEvent* ereignis) override;
-    bool event(QEvent* ereignis) override;
 
 private:
     Rahmen& m_rahmen;

@@ -10,12 +10,9 @@ class Fortschritt : public QProgressBar {
 public:
     Fortschritt(Fortschrittsbalken& element, Ansicht& ansicht, QWidget* eltern);
 
-    /// The share that is drawn, 0 to 1.
-    double anteil() const { return m_anteil; }
-
 protected:
     void paintEvent(QPaintEvent* ereignis) override;
 
 private:
-    double m_anteil = 0;
+    double m_anteil = 0; ///< of the work that is done, 0 to 1
 };

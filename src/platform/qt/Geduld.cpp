@@ -10,21 +10,13 @@ namespace {
 
 constexpr qint64 geduldMs = 200;
 
-struct Stand {
-    int tiefe = 0; ///< actions within actions
-    bool zeigt = false;
-    QElapsedTimer uhr;
-};
-
-Stand& stand()
-{
-    static Stand der;
-    return der;
-}
+int tiefe = 0; ///< actions within actions
+bool zeigt = false;
+QElapsedTimer uhr;
 
 void nimmZurück()
 {
-    if (std::exchange(stand().zeigt, false)) {
+    if (std::exchange(zeigt, false)) {
         QGuiApplication::restoreOverrideCursor();
     }
 }
@@ -35,33 +27,33 @@ namespace geduld {
 
 Handlung::Handlung()
 {
-    if (stand().tiefe++ == 0) {
-        stand().uhr.start();
+    if (tiefe++ == 0) {
+        uhr.start();
     }
 }
 
 Handlung::~Handlung()
 {
-    if (--stand().tiefe == 0) {
+    if (--tiefe == 0) {
         nimmZurück();
     }
 }
 
-Pause::Pause() : m_tiefe(std::exchange(stand().tiefe, 0))
+Pause::Pause() : m_tiefe(std::exchange(tiefe, 0))
 {
     nimmZurück();
 }
 
 Pause::~Pause()
 {
-    stand().tiefe = m_tiefe;
-    stand().uhr.start();
+    tiefe = m_tiefe;
+    uhr.start();
 }
 
 void prüfe()
 {
-    if (stand().tiefe > 0 && !stand().zeigt && stand().uhr.elapsed() >= geduldMs) {
-        stand().zeigt = true;
+    if (tiefe > 0 && !zeigt && uhr.elapsed() >= geduldMs) {
+        zeigt = true;
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     }
 }

@@ -12,7 +12,6 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QKeySequence>
-#include <QPointer>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
@@ -111,48 +110,6 @@ private:
     QString m_ordner;
 };
 
-/// A window without a parent, so that it may lie behind the frame as well.
-class Handbuch::Fenster : public QWidget {
-public:
-    explicit Fenster(const QString& ordner)
-    {
-        setWindowTitle(QStringLiteral("Tolvek7 - Handbuch"));
-        auto* layout = new QVBoxLayout(this);
-        layout->setContentsMargins(0, 0, 0, 0);
-        m_blatt = new Handbuchblatt(ordner, this);
-        layout->addWidget(m_blatt);
-        connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, [this] { close(); });
-        const QRect platz = QGuiApplication::primaryScreen()->availableGeometry();
-        resize(std::min(em(fensterbreite), platz.width()), std::min(em(fensterhöhe), platz.height() - em(3)));
-        move(platz.right() - width() - em(0.5), platz.top() + em(1)); // leaves the left edge of the frame in sight
-    }
-
-    void öffneBei(const QString& marke)
-    {
-        if (auto* vorher = QApplication::activeWindow(); vorher != this) {
-            m_vorher = vorher;
-        }
-        showNormal();
-        raise();
-        activateWindow();
-        m_blatt->setFocus();
-        m_blatt->gehe(marke);
-    }
-
-protected:
-    void closeEvent(QCloseEvent* ereignis) override
-    {
-        ereignis->accept();
-        if (isActiveWindow() && m_vorher != nullptr && m_vorher->isVisible()) {
-            m_vorher->activateWindow(); // the keyboard goes on where it was
-        }
-    }
-
-private:
-    Handbuchblatt* m_blatt;
-    QPointer<QWidget> m_vorher;
-};
-
 QString markeVon(const QString& überschrift)
 {
     static const QRegularExpression zeichen(QStringLiteral("[^\\w -]"), QRegularExpression::UseUnicodePropertiesOption);
@@ -175,22 +132,42 @@ QString handbuchordner()
 Handbuch::Handbuch(std::function<std::string()> bildschirm, QString ordner)
     : m_bildschirm(std::move(bildschirm)), m_ordner(std::move(ordner))
 {
+    setWindowTitle(QStringLiteral("Tolvek7 - Handbuch"));
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, [this] { close(); });
     qApp->installEventFilter(this);
 }
 
-Handbuch::~Handbuch() = default;
+/// The text is read and set when it is asked for, which takes its time.
+void Handbuch::baue()
+{
+    m_blatt = new Handbuchblatt(m_ordner, this);
+    ohneRand(new QVBoxLayout(this))->addWidget(m_blatt);
+    const QRect platz = QGuiApplication::primaryScreen()->availableGeometry();
+    resize(std::min(em(fensterbreite), platz.width()), std::min(em(fensterhöhe), platz.height() - em(3)));
+    move(platz.right() - width() - em(0.5), platz.top() + em(1)); // leaves the left edge of the frame in sight
+}
 
 void Handbuch::öffneBei(const QString& marke)
 {
-    if (m_fenster == nullptr) {
-        m_fenster = std::make_unique<Fenster>(m_ordner);
+    if (m_blatt == nullptr) {
+        baue();
     }
-    m_fenster->öffneBei(marke);
+    if (auto* vorher = QApplication::activeWindow(); vorher != this) {
+        m_vorher = vorher;
+    }
+    showNormal();
+    raise();
+    activateWindow();
+    m_blatt->setFocus();
+    m_blatt->gehe(marke);
 }
 
-QWidget* Handbuch::fenster() const
+void Handbuch::closeEvent(QCloseEvent* ereignis)
 {
-    return m_fenster.get();
+    ereignis->accept();
+    if (isActiveWindow() && m_vorher != nullptr && m_vorher->isVisible()) {
+        m_vorher->activateWindow(); // the keyboard goes on where it was
+    }
 }
 
 bool Handbuch::eventFilter(QObject* objekt, QEvent* ereignis)

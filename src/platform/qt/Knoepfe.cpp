@@ -10,30 +10,27 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
+#include <algorithm>
+#include <array>
+
 namespace {
 
 using Rolle = Schaltfläche::Rolle;
 
-const char* rollenname(Rolle rolle)
-{
-    switch (rolle) {
-    case Rolle::Haupt:
-        return "haupt";
-    case Rolle::Gefahr:
-        return "gefahr";
-    case Rolle::Füller:
-        return "fueller";
-    case Rolle::Weg:
-        return "weg";
-    case Rolle::Decke:
-        return "decke";
-    case Rolle::Gedrückt:
-        return "gedrueckt";
-    case Rolle::Gewöhnlich:
-        break;
-    }
-    return "";
-}
+/// What the style sheet calls it.
+struct Rollenname {
+    Rolle rolle;
+    const char* name;
+};
+constexpr std::array<Rollenname, 7> rollennamen{{
+    {Rolle::Gewöhnlich, ""},
+    {Rolle::Haupt, "haupt"},
+    {Rolle::Gefahr, "gefahr"},
+    {Rolle::Füller, "fueller"},
+    {Rolle::Weg, "weg"},
+    {Rolle::Decke, "decke"},
+    {Rolle::Gedrückt, "gedrueckt"},
+}};
 
 QSizePolicy::Policy waagrecht(Rolle rolle)
 {
@@ -45,7 +42,7 @@ QSizePolicy::Policy waagrecht(Rolle rolle)
 Knopf::Knopf(Schaltfläche& element, Ansicht& ansicht, QWidget* eltern)
     : QPushButton(eltern), m_element(element), m_ansicht(ansicht)
 {
-    setProperty("rolle", rollenname(element.rolle()));
+    setProperty("rolle", std::ranges::find(rollennamen, element.rolle(), &Rollenname::rolle)->name);
     setSizePolicy(waagrecht(element.rolle()), QSizePolicy::Fixed);
     setAutoDefault(false);
     if (element.rolle() == Rolle::Füller) {

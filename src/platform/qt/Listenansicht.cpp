@@ -112,9 +112,13 @@ Listenansicht::Listenansicht(Liste& element, Ansicht& ansicht, QWidget* eltern)
     setAllColumnsShowFocus(false);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setTabKeyNavigation(false);
+    setAutoScroll(false); // only `inSicht` asks for scrolling
     richteKopfEin();
     ansicht.binde(element, *this, [this] { übernimm(); });
-    ansicht.abonniere(element.zeilenGeändert, [this] { übernimmZeilen(); });
+    ansicht.abonniere(element.zeilenGeändert, [this] {
+        m_modell->übernimm();
+        messeSpalten();
+    });
     ansicht.abonniere(element.inSicht, [this] { zeigeAuswahl(); });
     connect(verticalScrollBar(), &QScrollBar::actionTriggered, this, [this] { m_folgtAuswahl = false; });
     messeSpalten();
@@ -142,22 +146,12 @@ void Listenansicht::übernimm()
     if (zeile < 0) {
         selectionModel()->clear();
     } else if (currentIndex().row() != zeile || !selectionModel()->isRowSelected(zeile)) {
-        // no scrolling here: only `inSicht` asks for it
         const auto ort = m_modell->index(zeile, 0);
-        const bool rollt = hasAutoScroll();
-        setAutoScroll(false);
         selectionModel()->setCurrentIndex(ort, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-        setAutoScroll(rollt);
     }
     const auto sortiert = static_cast<int>(m_element.sortierteSpalte());
     header()->setSortIndicatorShown(sortiert > 0);
     header()->setSortIndicator(sortiert - 1, Qt::AscendingOrder);
-}
-
-void Listenansicht::übernimmZeilen()
-{
-    m_modell->übernimm();
-    messeSpalten();
 }
 
 void Listenansicht::messeSpalten()
@@ -261,11 +255,6 @@ void Listenansicht::mouseDoubleClickEvent(QMouseEvent* ereignis)
     if (ereignis->button() == Qt::LeftButton && ort.isValid()) {
         m_ansicht.ereignis([&] { m_element.doppelklickeZeile(static_cast<std::size_t>(ort.row()) + 1); });
     }
-}
-
-void Listenansicht::setzeMindestbreite(int breite)
-{
-    m_breite = breite;
 }
 
 QSize Listenansicht::sizeHint() const

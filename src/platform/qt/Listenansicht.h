@@ -13,7 +13,7 @@ public:
     Listenansicht(Liste& element, Ansicht& ansicht, QWidget* eltern);
 
     /// In pixels: the least width, from which the wanted one follows. Without it both follow the rows.
-    void setzeMindestbreite(int breite);
+    void setzeMindestbreite(int breite) { m_breite = breite; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -31,7 +31,6 @@ private:
 
     void richteKopfEin();
     void übernimm();
-    void übernimmZeilen();
     void messeSpalten();
     void verteileSpalten();
     void zeigeAuswahl();

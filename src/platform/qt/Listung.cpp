@@ -1,7 +1,4 @@
-#include "platform/qt/Listung.h"
-
 #include "platform/qt/Ansicht.h"
-#include "platform/qt/Elementzeichner.h"
 #include "platform/qt/Etikett.h"
 #include "platform/qt/Flaechen.h"
 #include "platform/qt/Mass.h"
@@ -46,7 +43,7 @@ public:
         gitter->setContentsMargins(0, 0, 0, 1);
         richteSpaltenEin(*gitter, listung);
         for (const auto& teil : zeile.teile) {
-            auto* zelle = dynamic_cast<Etikett*>(zeichneElement(*teil.element, ansicht, this));
+            auto* zelle = dynamic_cast<Etikett*>(ansicht.zeichne(*teil.element, this));
             const bool links = istLinksbündig(listung, m_zellen.size());
             zelle->seiListenzelle();
             zelle->setAlignment((links ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter);
@@ -78,9 +75,9 @@ public:
         : Handfläche(eltern), m_ansicht(ansicht), m_vorneElement(dynamic_cast<Fläche&>(*listung.köpfe.at(0))),
           m_hintenElement(dynamic_cast<Fläche&>(*listung.köpfe.at(1))), m_leiste(leiste)
     {
-        m_hinten = zeichneElement(m_hintenElement, ansicht, this);
+        m_hinten = ansicht.zeichne(m_hintenElement, this);
         m_hinten->setMinimumHeight(bewegteZeilenMindestens * zeilenhöhe());
-        m_vorne = zeichneElement(m_vorneElement, ansicht, m_hinten);
+        m_vorne = ansicht.zeichne(m_vorneElement, m_hinten);
         const auto überschriften = alsQString(listung.text).split(QChar('\n'));
         m_kopf = new Tabellenkopf(listung, ansicht, this);
         auto* stockwerke = ohneRand(new QVBoxLayout(this));
@@ -165,7 +162,7 @@ public:
     Listung(const Anordnung& listung, Ansicht& ansicht, QWidget* eltern)
         : Handfläche(eltern), m_rolle(new QScrollArea(this))
     {
-        auto* leiste = zeichneElement(*listung.element, ansicht, this);
+        auto* leiste = ansicht.zeichne(*listung.element, this);
         auto* blatt = new Listungsblatt(listung, ansicht, leiste, m_rolle->viewport());
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         sprichZeilen(listung, *leiste, ansicht);

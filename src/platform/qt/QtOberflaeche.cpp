@@ -2,7 +2,6 @@
 
 #include "platform/qt/Geduld.h"
 #include "platform/qt/Mass.h"
-#include "platform/qt/Seitenbau.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Tabelle.h"
 #include "platform/qt/Umschrift.h"
@@ -53,7 +52,7 @@ QtOberfläche::QtOberfläche(Ablauf& ablauf, Bildschirmfolge& folge, Rahmen& rah
     : m_ablauf(ablauf), m_folge(folge), m_rahmen(rahmen), m_umgebung(umgebung),
       m_fenster(rahmen, *this, [this] { gibTastaturWeiter(); }),
       m_wächter([this](const QWidget* widget) { return ansichtVon(widget); }),
-      m_handbuch([this] { return nameInGebrauch(); })
+      m_handbuch([&folge] { return folge.inGebrauch() == nullptr ? std::string() : folge.inGebrauch()->name(); })
 {
     QApplication::setQuitOnLastWindowClosed(false); // the end of the run ends the program, no window does
     m_fenster.menuBar()->hide();
@@ -121,7 +120,7 @@ QtOberfläche::Platz& QtOberfläche::baue(Bildschirm& bildschirm)
             }
         });
     } else {
-        baueSeite(ansicht, &m_fenster.seiten());
+        ansicht.baueSeite(&m_fenster.seiten());
         neu.fenster = ansicht.wurzel();
         // the frame takes what a page wants as far as the screen has it, and grows with the font
         bildschirm.breite = std::max(bildschirm.breite, alsTwips(em(seitenbreite)));
@@ -185,12 +184,6 @@ void QtOberfläche::platziereKind(const Platz& platz)
     }
     const QPoint ort(alsPixel(bildschirm.links), alsPixel(bildschirm.oben));
     platz.kind->platzwächter().platziere([&] { platz.kind->move(inDenSchirm(ort, platz.kind->size())); });
-}
-
-std::string QtOberfläche::nameInGebrauch() const
-{
-    const auto* bildschirm = m_folge.inGebrauch();
-    return bildschirm == nullptr ? std::string() : bildschirm->name();
 }
 
 void QtOberfläche::zeichneSeite(Bildschirm* bildschirm)

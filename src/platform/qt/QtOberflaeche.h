@@ -76,7 +76,6 @@ private:
     void zeichneRahmen();
     QSize fensterrand() const;
     void platziereKind(const Platz& platz);
-    std::string nameInGebrauch() const;
     void entlade(const Bildschirm& bildschirm);
     void gibTastaturWeiter();
     void gleicheFokusAb();

@@ -45,24 +45,17 @@ constexpr std::array<Antwortknopf, 4> antworten{{
     {Antwort::Nein, QMessageBox::No},
 }};
 
-QMessageBox::StandardButtons knöpfeFür(Knöpfe knöpfe)
-{
-    switch (knöpfe) {
-    case Knöpfe::OKAbbrechen:
-        return QMessageBox::Ok | QMessageBox::Cancel;
-    case Knöpfe::JaNein:
-        return QMessageBox::Yes | QMessageBox::No;
-    case Knöpfe::OK:
-        break;
-    }
-    return QMessageBox::Ok;
-}
-
-/// The first button where none of the box's own is named.
-Antwort vorgabeFür(const Meldung& meldung)
-{
-    return meldung.knöpfe == Knöpfe::JaNein && meldung.vorgabe == Antwort::OK ? Antwort::Ja : meldung.vorgabe;
-}
+/// The first is the default where none of the box's own is named, the last is what Escape presses.
+struct Knopfsatz {
+    Knöpfe knöpfe;
+    QMessageBox::StandardButton erster;
+    QMessageBox::StandardButton letzter;
+};
+constexpr std::array<Knopfsatz, 3> knopfsätze{{
+    {Knöpfe::OK, QMessageBox::Ok, QMessageBox::Ok},
+    {Knöpfe::OKAbbrechen, QMessageBox::Ok, QMessageBox::Cancel},
+    {Knöpfe::JaNein, QMessageBox::Yes, QMessageBox::No},
+}};
 
 /// A word longer than a line could not be broken, and would make the box wider than the screen.
 QString mitBruchstellen(const QString& text)
@@ -83,11 +76,11 @@ std::unique_ptr<QMessageBox> baueMeldungsfenster(const Meldung& meldung)
     fenster->setText(mitBruchstellen(alsMehrzeiler(meldung.text)));
     fenster->setTextInteractionFlags(Qt::TextSelectableByMouse);
     fenster->setIcon(std::ranges::find(symbole, meldung.symbol, &Symbolbild::symbol)->bild);
-    fenster->setStandardButtons(knöpfeFür(meldung.knöpfe));
-    fenster->setDefaultButton(std::ranges::find(antworten, vorgabeFür(meldung), &Antwortknopf::antwort)->knopf);
-    if (meldung.knöpfe != Knöpfe::OK) {
-        fenster->setEscapeButton(meldung.knöpfe == Knöpfe::JaNein ? QMessageBox::No : QMessageBox::Cancel);
-    }
+    const auto& knöpfe = *std::ranges::find(knopfsätze, meldung.knöpfe, &Knopfsatz::knöpfe);
+    fenster->setStandardButtons(knöpfe.erster | knöpfe.letzter);
+    fenster->setEscapeButton(knöpfe.letzter);
+    fenster->setDefaultButton(knöpfe.erster);
+    fenster->setDefaultButton(std::ranges::find(antworten, meldung.vorgabe, &Antwortknopf::antwort)->knopf);
     if (auto* gitter = dynamic_cast<QGridLayout*>(fenster->layout())) {
         gitter->addItem(new QSpacerItem(em(22), 0), gitter->rowCount(), 0, 1, gitter->columnCount()); // least width
     }
@@ -96,15 +89,9 @@ std::unique_ptr<QMessageBox> baueMeldungsfenster(const Meldung& meldung)
 
 Antwort antwortVon(const QMessageBox& fenster)
 {
-    const auto gedrückt = fenster.standardButton(fenster.clickedButton());
-    const auto ort = std::ranges::find(antworten, gedrückt, &Antwortknopf::knopf);
-    if (ort != antworten.end()) {
-        return ort->antwort;
-    }
-    // closed without a button
-    return fenster.standardButtons().testFlag(QMessageBox::No)       ? Antwort::Nein
-           : fenster.standardButtons().testFlag(QMessageBox::Cancel) ? Antwort::Abbrechen
-                                                                     : Antwort::OK;
+    auto* gedrückt = fenster.clickedButton();
+    const auto knopf = fenster.standardButton(gedrückt == nullptr ? fenster.escapeButton() : gedrückt);
+    return std::ranges::find(antworten, knopf, &Antwortknopf::knopf)->antwort;
 }
 
 QString alsQtFilter(const std::string& filter)
@@ -126,8 +113,6 @@ QtUmgebung::QtUmgebung(Tabellenprogramm& tabellenprogramm, Laufort laufort)
       // long actions are long because of their files, and come by here again and again
       m_dateien(std::make_unique<Dateizugriff>(), geduld::prüfe)
 {}
-
-QtUmgebung::~QtUmgebung() = default;
 
 Datum QtUmgebung::heute()
 {

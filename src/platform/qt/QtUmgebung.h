@@ -17,7 +17,6 @@ class Tabellenprogramm;
 class QtUmgebung : public Umgebung {
 public:
     QtUmgebung(Tabellenprogramm& tabellenprogramm, Laufort laufort);
-    ~QtUmgebung() override;
 
     Datum heute() override;
     std::filesystem::path programmordner() override { return m_laufort.programmordner; }
@@ -49,7 +48,7 @@ private:
 
 /// The message box of a message, not shown yet.
 std::unique_ptr<QMessageBox> baueMeldungsfenster(const Meldung& meldung);
-/// What the button of that box means.
+/// What the button of that box means; closed without one it is what Escape presses.
 Antwort antwortVon(const QMessageBox& fenster);
 /// The pairs of name and pattern, separated by "|", as Qt's file dialogue takes them.
 QString alsQtFilter(const std::string& filter);

@@ -1,8 +1,5 @@
-#include "platform/qt/Seitenbau.h"
-
 #include "platform/qt/Anordner.h"
 #include "platform/qt/Ansicht.h"
-#include "platform/qt/Elementzeichner.h"
 #include "platform/qt/Etikett.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
@@ -44,13 +41,11 @@ Etikett& fügeBandtext(QWidget& widget, const char* rolle, Schriftrolle schriftr
 /// A part of the band shows while its element has something to say.
 void zeigeNurGefüllt(Ansicht& ansicht, Element& element, std::vector<QWidget*> widgets)
 {
-    auto zeige = [&element, widgets = std::move(widgets)] {
+    ansicht.folge(element.geändert, [&element, widgets = std::move(widgets)] {
         for (auto* widget : widgets) {
             widget->setVisible(element.istSichtbar() && !element.text().empty());
         }
-    };
-    zeige();
-    ansicht.abonniere(element.geändert, zeige);
+    });
 }
 
 void fügeNamen(Ansicht& ansicht, Element& name, QWidget& band, QHBoxLayout& ziel)
@@ -61,7 +56,7 @@ void fügeNamen(Ansicht& ansicht, Element& name, QWidget& band, QHBoxLayout& zie
     ziel.addSpacing(em(0.1));
     ziel.addWidget(strich);
     ziel.addSpacing(em(0.1));
-    auto& text = fügeBandtext(*zeichneElement(name, ansicht, &band), "auf-band", Schriftrolle::Bandname, ziel);
+    auto& text = fügeBandtext(*ansicht.zeichne(name, &band), "auf-band", Schriftrolle::Bandname, ziel);
     // a name takes what title and period leave, and is cut before they are
     constexpr double mindestens = 4;
     text.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -70,22 +65,16 @@ void fügeNamen(Ansicht& ansicht, Element& name, QWidget& band, QHBoxLayout& zie
     zeigeNurGefüllt(ansicht, name, {strich, &text});
 }
 
-/// Read out alone, the value says what it is.
-void sprichMitBeschriftung(Ansicht& ansicht, Element& element, const Etikett& vor, Etikett& wert)
-{
-    const auto benenne = [&vor, &wert] { wert.setAccessibleName(vor.text() + QChar(' ') + wert.text()); };
-    benenne();
-    ansicht.abonniere(element.geändert, benenne);
-}
-
 void fügeWerte(Ansicht& ansicht, const std::vector<Kopfband::Wert>& werte, QWidget& band, QHBoxLayout& ziel)
 {
     for (const auto& wert : werte) {
         ziel.addSpacing(em(0.3));
         auto& vor = fügeBandtext(*new Etikett(alsQString(wert.beschriftung), &band), "auf-band-leise",
                                  Schriftrolle::Grund, ziel);
-        auto& text = fügeBandtext(*zeichneElement(*wert.element, ansicht, &band), "auf-band", Schriftrolle::Wert, ziel);
-        sprichMitBeschriftung(ansicht, *wert.element, vor, text);
+        auto& text = fügeBandtext(*ansicht.zeichne(*wert.element, &band), "auf-band", Schriftrolle::Wert, ziel);
+        // read out alone, the value says what it is
+        ansicht.folge(wert.element->geändert,
+                      [&vor, &text] { text.setAccessibleName(vor.text() + QChar(' ') + text.text()); });
         vor.setzeMindestbreite(periodenbreite);
         text.setzeMindestbreite(periodenbreite);
         zeigeNurGefüllt(ansicht, *wert.element, {&vor, &text});
@@ -98,14 +87,13 @@ QWidget* baueBand(Ansicht& ansicht, QWidget* eltern)
     auto* band = new QFrame(eltern);
     band->setProperty("rolle", "band");
     band->setMinimumHeight(em(2.5));
-    auto* zeile = new QHBoxLayout(band);
+    auto* zeile = ohneRand(new QHBoxLayout(band), 0.6);
     zeile->setContentsMargins(em(0.9), em(0.2), em(0.9), em(0.2));
-    zeile->setSpacing(em(0.6));
     if (kopf.vortitel != nullptr) {
-        fügeBandtext(*zeichneElement(*kopf.vortitel, ansicht, band), "auf-band-leise", Schriftrolle::Bandname, *zeile);
+        fügeBandtext(*ansicht.zeichne(*kopf.vortitel, band), "auf-band-leise", Schriftrolle::Bandname, *zeile);
     }
     if (kopf.titel != nullptr) {
-        fügeBandtext(*zeichneElement(*kopf.titel, ansicht, band), "auf-band", Schriftrolle::Bandtitel, *zeile);
+        fügeBandtext(*ansicht.zeichne(*kopf.titel, band), "auf-band", Schriftrolle::Bandtitel, *zeile);
     }
     if (kopf.name != nullptr) {
         fügeNamen(ansicht, *kopf.name, *band, *zeile);
@@ -113,7 +101,7 @@ QWidget* baueBand(Ansicht& ansicht, QWidget* eltern)
     zeile->addStretch(1);
     fügeWerte(ansicht, kopf.werte, *band, *zeile);
     if (kopf.knopf != nullptr) {
-        zeile->addWidget(zeichneElement(*kopf.knopf, ansicht, band));
+        zeile->addWidget(ansicht.zeichne(*kopf.knopf, band));
     }
     return band;
 }
@@ -124,11 +112,10 @@ QWidget* baueLeiste(Ansicht& ansicht, QWidget* eltern)
     auto* leiste = new QFrame(eltern);
     leiste->setProperty("rolle", "leiste");
     leiste->setMinimumHeight(em(2.55));
-    auto* zeile = new QHBoxLayout(leiste);
+    auto* zeile = ohneRand(new QHBoxLayout(leiste), 0.55);
     zeile->setContentsMargins(em(0.9), em(0.3), em(0.9), em(0.3));
-    zeile->setSpacing(em(0.55));
     const auto füge = [&](Element& element) {
-        auto* knopf = zeichneElement(element, ansicht, leiste);
+        auto* knopf = ansicht.zeichne(element, leiste);
         knopf->setMinimumWidth(em(5.9));
         zeile->addWidget(knopf);
     };
@@ -158,28 +145,25 @@ void baueMenü(Ansicht& ansicht, QWidget& wurzel)
 
 } // namespace
 
-QScrollArea* baueSeite(Ansicht& ansicht, QWidget* eltern)
+QScrollArea* Ansicht::baueSeite(QWidget* eltern)
 {
-    auto* wurzel = new QWidget(eltern);
-    wurzel->setObjectName(alsQString(ansicht.bildschirm().name()));
-    ansicht.setzeWurzel(*wurzel);
-    auto* stockwerke = ohneRand(new QVBoxLayout(wurzel));
-    auto* band = baueBand(ansicht, wurzel); // before the body: the order in which they are read out
-    auto* blatt = new Seitenblatt(wurzel);
+    m_wurzel = new QWidget(eltern);
+    m_wurzel->setObjectName(alsQString(m_bildschirm.name()));
+    meldeWurzel(*m_wurzel, *this);
+    auto* stockwerke = ohneRand(new QVBoxLayout(m_wurzel));
+    auto* band = baueBand(*this, m_wurzel); // before the body: the order in which they are read out
+    auto* blatt = new Seitenblatt(m_wurzel);
     auto* inhalt = new QWidget(blatt->viewport());
-    Anordner(ansicht, *inhalt, !ansicht.bildschirm().istKindfenster)
-        .baueSeite(ansicht.bildschirm().aufbau, *new QVBoxLayout(inhalt));
+    Anordner(*this, *inhalt, !m_bildschirm.istKindfenster).baueSeite(m_bildschirm.aufbau, *new QVBoxLayout(inhalt));
     blatt->setWidget(inhalt);
     inhalt->setAutoFillBackground(false);
     stockwerke->addWidget(band);
     stockwerke->addWidget(blatt, 1);
-    stockwerke->addWidget(baueLeiste(ansicht, wurzel));
-    baueMenü(ansicht, *wurzel);
-    if (auto* titel = ansicht.bildschirm().kopfband.titel; titel != nullptr) {
-        benenneUnbenannte(*wurzel, alsQString(titel->text()));
-        const auto nenneSeite = [wurzel, titel] { wurzel->setAccessibleName(alsQString(titel->text())); };
-        nenneSeite();
-        ansicht.abonniere(titel->geändert, nenneSeite);
+    stockwerke->addWidget(baueLeiste(*this, m_wurzel));
+    baueMenü(*this, *m_wurzel);
+    if (auto* titel = m_bildschirm.kopfband.titel; titel != nullptr) {
+        benenneUnbenannte(*m_wurzel, alsQString(titel->text()));
+        folge(titel->geändert, [this, titel] { m_wurzel->setAccessibleName(alsQString(titel->text())); });
     }
     return blatt;
 }

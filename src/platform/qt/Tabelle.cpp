@@ -3,7 +3,6 @@
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Antwortfeld.h"
 #include "platform/qt/Auswahlbox.h"
-#include "platform/qt/Elementzeichner.h"
 #include "platform/qt/Etikett.h"
 #include "platform/qt/Knoepfe.h"
 #include "platform/qt/Stil.h"
@@ -44,7 +43,7 @@ void benenneZelle(QWidget& zelle, const Tabellenspalte& spalte, const Anordnung&
 
 QWidget* baueZelle(Element& element, int breite, Ansicht& ansicht, QWidget* eltern)
 {
-    auto* zelle = zeichneElement(element, ansicht, eltern);
+    auto* zelle = ansicht.zeichne(element, eltern);
     if (auto* knopf = dynamic_cast<Optionsknopf*>(zelle)) {
         knopf->seiZelle(breite, em(zeileEng) - 1);
     } else if (auto* box = dynamic_cast<Auswahlbox*>(zelle)) {
@@ -58,7 +57,7 @@ QWidget* baueZelle(Element& element, int breite, Ansicht& ansicht, QWidget* elte
 
 Antwortzeile::Antwortzeile(const Anordnung& zeile, const Anordnung& tabelle, const Tabellenkopf& kopf, Ansicht& ansicht,
                            QWidget* eltern)
-    : QWidget(eltern), m_beschriftung(dynamic_cast<Etikett&>(*zeichneElement(*zeile.element, ansicht, this)))
+    : QWidget(eltern), m_beschriftung(dynamic_cast<Etikett&>(*ansicht.zeichne(*zeile.element, this)))
 {
     setAttribute(Qt::WA_Hover);
     auto* gitter = ohneRand(new QGridLayout(this));

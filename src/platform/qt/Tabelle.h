@@ -73,3 +73,7 @@ private:
     int m_spaltenbreite; ///< of all columns with answers
     int m_mindesthöhe;   ///< of the first rows, as many as must always be in sight
 };
+
+/// The diagnosis listing with its scroll bar: heads and the first row stand, the others move inside the element
+/// `frameHinten` as `frameVorne` says. Sideways it scrolls as a whole.
+QWidget* macheListung(const Anordnung& listung, Ansicht& ansicht, QWidget* eltern);

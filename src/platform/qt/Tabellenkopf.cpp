@@ -1,4 +1,4 @@
-#include "platform/qt/Elementzeichner.h"
+#include "platform/qt/Ansicht.h"
 #include "platform/qt/Etikett.h"
 #include "platform/qt/Stil.h"
 #include "platform/qt/Tabelle.h"
@@ -88,7 +88,7 @@ void Tabellenkopf::baueTitel(const Anordnung& tabelle, Ansicht& ansicht, QGridLa
             continue;
         }
         auto* titel = spalte.kopf == nullptr ? new Etikett(alsMehrzeiler(spalte.titel), this)
-                                             : dynamic_cast<Etikett*>(zeichneElement(*spalte.kopf, ansicht, this));
+                                             : dynamic_cast<Etikett*>(ansicht.zeichne(*spalte.kopf, this));
         formeKopf(titel, spalte.breite);
         if (istLinksbündig(tabelle, i)) {
             titel->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
@@ -105,7 +105,7 @@ void Tabellenkopf::baueFüller(const Anordnung& tabelle, Ansicht& ansicht, QGrid
     for (std::size_t i = 0; i < tabelle.spalten.size(); ++i) {
         const auto& spalte = tabelle.spalten[i];
         if (spalte.füller != nullptr) {
-            auto* füller = zeichneElement(*spalte.füller, ansicht, this);
+            auto* füller = ansicht.zeichne(*spalte.füller, this);
             benenneFüller(*füller, verbinde(tabelle.text, ' ', spalte.gruppe, ' ', spalte.titel));
             gitter.setRowMinimumHeight(lücke, em(0.2));
             gitter.setRowMinimumHeight(füllerzeile, füller->maximumHeight()); // its style would take less

@@ -13,6 +13,9 @@
 #include <QLineEdit>
 #include <QTimer>
 
+#include <functional>
+#include <utility>
+
 Vorlesefeld::Vorlesefeld(QWidget& widget, Ansicht& ansicht, QAccessible::Role rolle)
     : QAccessibleWidget(&widget, rolle), m_ansicht(ansicht)
 {}
@@ -111,7 +114,9 @@ private:
 /// elsewhere the name is the question.
 class Vorlesewahl : public Vorlesefeld {
 public:
-    Vorlesewahl(QWidget& widget, Ansicht& ansicht) : Vorlesefeld(widget, ansicht, QAccessible::ComboBox) {}
+    Vorlesewahl(QWidget& widget, Ansicht& ansicht, std::function<QString()> wert)
+        : Vorlesefeld(widget, ansicht, QAccessible::ComboBox), m_wert(std::move(wert))
+    {}
 
     QString text(QAccessible::Text art) const override
     {
@@ -120,29 +125,25 @@ public:
 #else
         const bool istWert = art == QAccessible::Value;
 #endif
-        return istWert ? wert() : Vorlesefeld::text(art);
+        return istWert ? m_wert() : Vorlesefeld::text(art);
     }
 
-protected:
-    virtual QString wert() const = 0;
-};
-
-/// The answer field: a choice that changes by a press or by left and right, without a list. "k.A." is said to be open.
-class Vorleseantwort : public Vorlesewahl {
-public:
-    Vorleseantwort(Antwortfeld& feld, Ansicht& ansicht) : Vorlesewahl(feld, ansicht), m_feld(feld) {}
-
-protected:
-    QString wert() const override { return m_feld.gesprochenerText(); }
-
 private:
-    Antwortfeld& m_feld;
+    std::function<QString()> m_wert;
 };
+
+QString wertVon(const Auswahlbox& box)
+{
+    const auto text = box.gezeigterText();
+    return text.isEmpty() ? QStringLiteral("leer") : text;
+}
 
 /// The combo box; a number combo has the text in it as a child, an open list is a child too.
 class Vorleseauswahl : public Vorlesekinder<Vorlesewahl> {
 public:
-    Vorleseauswahl(Auswahlbox& box, Ansicht& ansicht) : Vorlesekinder(box, ansicht), m_box(box) {}
+    Vorleseauswahl(Auswahlbox& box, Ansicht& ansicht)
+        : Vorlesekinder(box, ansicht, [&box] { return wertVon(box); }), m_box(box)
+    {}
 
     QAccessible::State state() const override
     {
@@ -174,11 +175,6 @@ public:
     }
 
 protected:
-    QString wert() const override
-    {
-        const auto text = m_box.gezeigterText();
-        return text.isEmpty() ? QStringLiteral("leer") : text;
-    }
     /// The list only while it is open: asking for it would build it, which takes its time with all nations.
     QWidgetList kinder() const override
     {
@@ -201,7 +197,8 @@ private:
 QAccessibleInterface* vorlesefeldFür(QWidget& widget, Ansicht& ansicht)
 {
     if (auto* antwort = dynamic_cast<Antwortfeld*>(&widget)) {
-        return new Vorleseantwort(*antwort, ansicht);
+        // a choice that changes by a press or by left and right, without a list
+        return new Vorlesewahl(*antwort, ansicht, [antwort] { return antwort->gesprochenerText(); });
     }
     if (auto* box = dynamic_cast<Auswahlbox*>(&widget)) {
         return new Vorleseauswahl(*box, ansicht);

@@ -6,6 +6,7 @@
 #include <QPointer>
 
 class Ansicht;
+class Listenansicht;
 
 /// The labels of a field, kept with the widget.
 using Etikettenliste = QList<QPointer<QLabel>>;
@@ -35,3 +36,6 @@ private:
 
 /// How a screen reader meets the buttons, the answer fields and the combo boxes; nullptr for all other widgets.
 QAccessibleInterface* vorlesefeldFür(QWidget& widget, Ansicht& ansicht);
+/// The list, as a screen reader meets it: a table of column heads and cells with a name. A row that the reader selects
+/// is the row of the element, so that the next command acts on it; a cell that is gone with its row is no child.
+QAccessibleInterface* vorleselisteFür(Listenansicht& liste, Ansicht& ansicht);

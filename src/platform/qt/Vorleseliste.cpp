@@ -1,5 +1,3 @@
-#include "platform/qt/Vorleseliste.h"
-
 #include "platform/elemente/Elemente.h"
 #include "platform/qt/Ansicht.h"
 #include "platform/qt/Listenansicht.h"

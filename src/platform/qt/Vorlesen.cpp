@@ -8,7 +8,6 @@
 #include "platform/qt/Umschrift.h"
 #include "platform/qt/Vorlesefeld.h"
 #include "platform/qt/Vorlesekinder.h"
-#include "platform/qt/Vorleseliste.h"
 
 #include <QAbstractItemView>
 #include <QCalendarWidget>

@@ -15,6 +15,7 @@
 #include <QStyleOptionComboBox>
 #include <QTableView>
 #include <QTest>
+#include <QToolButton>
 #include <QTreeView>
 #include <QWheelEvent>
 #include <QWindow>
@@ -281,7 +282,8 @@ void wähle(QComboBox& box, int eintrag)
 void wähle(Datumsbox& feld, const QDate& datum)
 {
     const Geduld geduld;
-    klicke(feld.kalenderknopf(), feld.kalenderknopf().rect().center());
+    auto& knopf = *feld.findChild<QToolButton*>();
+    klicke(knopf, knopf.rect().center());
     auto* kalender = feld.kalender();
     if (kalender == nullptr || !kalender->isVisible()) {
         return; // the press was refused
