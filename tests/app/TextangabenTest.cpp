@@ -303,7 +303,6 @@ std::vector<Textangabe> ausDemExportUndDerMappe()
          "Die Liste reicht von " + utf8(jahre.front()) + " bis " + utf8(jahre.back())},
         {mappe, handbuch, "öffnet sie in " + rechnet + ", sonst in Ihrem Programm für .xlsx-Dateien"},
         {mappe, handbuch, "Lassen Sie " + rechnet + " oder ein anderes Programm für .xlsx-Dateien einrichten"},
-        {mappe, leitfaden, rechnet + " Calc, Xvfb"},
     };
 }
 

@@ -4,8 +4,10 @@
 #include "satz/Betreuungsfelder.h"
 #include "satz/Diagnosefelder.h"
 #include "satz/Klientenfelder.h"
+#include "satz/Satzgrenzen.h"
 #include "satz/moHelferlein.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -91,6 +93,43 @@ TEST(Satzaufbau, BetreuungsfelderStimmenMitDerListe)
 TEST(Satzaufbau, DiagnosefelderStimmenMitDerListe)
 {
     prüfeGegenListe(diagnosefelder(), "Diagnosefelder.txt");
+}
+
+/// Only what says one thing together shares a column: the reasons, the ways of use, the main diagnosis and its age.
+TEST(Satzaufbau, ZweiFelderTreffenSichInKeinerSpalte)
+{
+    const std::set gemeinsame{Feldart::hdOhne, Feldart::ivKonsum, Feldart::icd0000, Feldart::hdAlter};
+    std::map<std::string, const Satzfeld*> belegte;
+    for (const auto* felder : {&betreuungsfelder(), &diagnosefelder()}) {
+        for (std::size_t i = 0; i < felder->size(); ++i) {
+            const auto& feld = (*felder)[i];
+            const auto [ort, istNeu] = belegte.try_emplace(quelle(feld), &feld);
+            const bool darf = quelle(feld).empty() || (ort->second->art == feld.art && gemeinsame.contains(feld.art));
+            EXPECT_TRUE(istNeu || darf) << "field " << i + 1 << " (" << feld.name << ") and " << ort->second->name
+                                        << " of another place both go to " << quelle(feld);
+        }
+    }
+}
+
+/// The most that a choice, a number or a nation puts into a field.
+std::size_t höchstlänge(const Satzfeld& feld)
+{
+    constexpr std::size_t kurzerText = 20; // dates, ids, flags, codes of diagnoses
+    std::size_t länge = std::max(kurzerText, feld.vorgabe.size());
+    for (const auto& text : auswahlliste(feld)) {
+        länge = std::max(länge, text.size());
+    }
+    return länge + 1;
+}
+
+TEST(Satzgrenzen, DerLängsteSatzPaßtInEineZeile)
+{
+    std::size_t betreuung = satzgrenze::memolänge;
+    for (const auto& feld : betreuungsfelder()) {
+        betreuung += höchstlänge(feld);
+    }
+    EXPECT_LT(betreuung, satzgrenze::zeilenlänge);
+    EXPECT_LT(satzgrenze::memolänge + klientenfelder().size() * (satzgrenze::eingabelänge + 1), satzgrenze::zeilenlänge);
 }
 
 /// The whole list with texts and codes, in order.

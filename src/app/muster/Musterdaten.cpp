@@ -139,7 +139,11 @@ private:
         if (m_zufall.trifft(35) || feld.werte.empty()) {
             return feld.vorgabe;
         }
-        return std::string(m_zufall.aus(feld.werte).text);
+        const auto* wert = &m_zufall.aus(feld.werte);
+        while (wert->frühere) { // nobody writes it any more
+            wert = &m_zufall.aus(feld.werte);
+        }
+        return std::string(wert->text);
     }
 
     static std::string flagge(bool an) { return std::string(an ? "Wahr"_t : "Falsch"_t); }

@@ -143,6 +143,18 @@ TEST(Handbuchtext, EveryButtonIsCalledAsItIs)
     EXPECT_GE(genannte.size(), 40);
 }
 
+TEST(Handbuchtext, EveryMenuEntryIsExplained)
+{
+    const auto teil = handbuch().section(QStringLiteral("### Hauptmenü\n"), 1).section(QStringLiteral("\n### "), 0, 0);
+    const auto einträge = treffer(inhaltVon(quellen + QStringLiteral("/src/clients/frmHauptmenue.h")),
+                                  "Menüeintrag \\w+\\{\\*this, \"[^\"]+\"_t, \"([^\"]+)\"_t\\}");
+    EXPECT_GE(einträge.size(), 8);
+    for (const auto& eintrag : einträge) {
+        EXPECT_TRUE(teil.contains(eintrag)) << "docs/handbuch/handbuch.md says nothing of the menu's \""
+                                            << eintrag.toStdString() << "\" under \"Hauptmenü\"";
+    }
+}
+
 /// What stands in the parentheses that open at `anfang`.
 QString klammerinhalt(const QString& text, qsizetype anfang)
 {
