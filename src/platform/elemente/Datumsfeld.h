@@ -17,8 +17,8 @@
 /// back. The whole text is selected when the focus comes by key or from the program, with the cursor before it,
 /// so that what is typed begins anew.
 ///
-/// The keys of `Taste::klapptAuf` open the calendar; its keys come here too, so that every surface has the same calendar. The keys
-/// that edit the text are the surface's own; what they make of it comes in through `gibEin` and `setzeStelle`.
+/// The keys of Taste::klapptAuf open and close the calendar; its own come here too, so that every surface has the same.
+/// Those that edit the text are the surface's; what they make of it comes in through `gibEin` and `setzeStelle`.
 ///
 ///     Datumsfeld DTPickerVon{*this, "DTPickerVon"_t};
 ///     DTPickerVon.heute = [] { return zustand().umgebung.heute(); };
