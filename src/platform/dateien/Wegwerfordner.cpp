@@ -17,9 +17,9 @@ namespace {
 void entferneGanz(const fs::path& ordner, Systemgriff& schloss)
 {
     std::error_code egal;
-    for (const auto& eintrag : fs::recursive_directory_iterator(ordner, egal)) {
-        fs::permissions(eintrag.path(), fs::perms::owner_write, fs::perm_options::add | fs::perm_options::nofollow,
-                        egal);
+    std::error_code fehler;
+    for (fs::recursive_directory_iterator ort(ordner, fehler), ende; !fehler && ort != ende; ort.increment(fehler)) {
+        fs::permissions(ort->path(), fs::perms::owner_write, fs::perm_options::add | fs::perm_options::nofollow, egal);
     }
     fs::remove_all(ordner, egal);
     schloss.schließe();
@@ -32,7 +32,8 @@ Wegwerfordner::Wegwerfordner(std::string_view vorsilbe)
 {
     std::error_code fehler;
     const fs::path ablage = fs::temp_directory_path(fehler);
-    std::string grund("die Datei oder der Ordner ist nicht da"_t);
+    constexpr auto nichtDa = "die Datei oder der Ordner ist nicht da"_t;
+    std::string grund(nichtDa);
     // between making and locking, the clearing of another start may take the folder away
     constexpr int versuche = 10;
     for (int versuch = 0; !fehler && versuch < versuche && !m_schloss.istOffen(); ++versuch) {
