@@ -5,6 +5,7 @@
 #include "satz/Diagnosefelder.h"
 #include "satz/Klientenfelder.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -47,6 +48,11 @@ inline constexpr std::array hdSpalten{
     Spalte{"v_AlterErstkonsum"_t, AlterErstkonsum},
     Spalte{"v_Hauptdiagnose"_t, HDMarke},
 };
+
+static_assert(std::ranges::is_sorted(kennungen, {}, &Spalte::feld) &&
+                  std::ranges::is_sorted(klientenspalten, {}, &Spalte::feld) &&
+                  std::ranges::is_sorted(hdSpalten, {}, &Spalte::feld),
+              "a column stands where its field stands in the record");
 
 inline constexpr int fall = 1;
 inline constexpr int betreuungsnummer = 2;

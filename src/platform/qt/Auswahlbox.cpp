@@ -28,6 +28,7 @@
 namespace {
 
 constexpr int sichtbareEinträge = 16;
+constexpr auto listentasteDesBaukastens = Qt::Key_F4;
 
 int stelleIn(const std::vector<std::string>& liste, const std::string& text)
 {
@@ -179,22 +180,32 @@ void Auswahlbox::focusInEvent(QFocusEvent* ereignis)
     }
 }
 
-/// Page keys scroll the page; the toolkit would pick another entry.
+/// Page keys scroll the page; the toolkit would pick another entry. Its own key for lists is no key of the program's,
+/// unless `klapptAuf` says so.
 void Auswahlbox::keyPressEvent(QKeyEvent* ereignis)
 {
-    if (ereignis->key() == Qt::Key_PageUp || ereignis->key() == Qt::Key_PageDown) {
-        ereignis->ignore();
-    } else if (klapptAuf(*ereignis)) {
+    const auto taste = ereignis->key();
+    if (klapptAuf(*ereignis)) {
         showPopup();
+    } else if (taste == Qt::Key_PageUp || taste == Qt::Key_PageDown || taste == listentasteDesBaukastens) {
+        ereignis->ignore();
     } else {
         QComboBox::keyPressEvent(ereignis);
     }
 }
 
+/// The toolkit would close the list by its own key already when it asks whether the key is a shortcut.
 bool Auswahlbox::eventFilter(QObject* objekt, QEvent* ereignis)
 {
-    if (ereignis->type() == QEvent::KeyPress && klapptAuf(*static_cast<QKeyEvent*>(ereignis))) {
+    if (ereignis->type() != QEvent::KeyPress && ereignis->type() != QEvent::ShortcutOverride) {
+        return QComboBox::eventFilter(objekt, ereignis);
+    }
+    const auto& taste = *static_cast<QKeyEvent*>(ereignis);
+    if (klapptAuf(taste) && ereignis->type() == QEvent::KeyPress) {
         hidePopup();
+    }
+    if (klapptAuf(taste) || taste.key() == listentasteDesBaukastens) {
+        ereignis->accept();
         return true;
     }
     return QComboBox::eventFilter(objekt, ereignis);
@@ -205,8 +216,8 @@ void Auswahlbox::showPopup()
     const int breiteste = view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width() + em(1);
     view()->setMinimumWidth(std::min(std::max(breiteste, width()), screen()->availableSize().width()));
     view()->setAccessibleName(accessibleName());
-    view()->installEventFilter(this); // before the toolkit's own, which knows its own keys
     QComboBox::showPopup();
+    view()->installEventFilter(this); // asked before the toolkit's own, which knows its own keys
 }
 
 QSize Auswahlbox::sizeHint() const

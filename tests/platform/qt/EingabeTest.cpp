@@ -273,6 +273,22 @@ TEST_F(Fensterprobe, ComboShowsATextThatIsNotInItsList)
     EXPECT_EQ(box.gezeigterText(), QStringLiteral("zweite Art"));
 }
 
+/// The toolkit would close the list, whatever is held down with its key.
+TEST_F(Fensterprobe, AnOpenListClosesByTheProgramsKeysAlone)
+{
+    öffne();
+    auto& box = widgetAls<Auswahlbox>(bildschirm->comboArt);
+    bildschirm->setzeFokus(&bildschirm->comboArt);
+    drücke(box, Qt::Key_F4, {}, Qt::ShiftModifier);
+    EXPECT_FALSE(box.view()->isVisible());
+    drücke(box, Qt::Key_F4);
+    ASSERT_TRUE(box.view()->isVisible());
+    drücke(*box.view(), Qt::Key_F4, {}, Qt::ShiftModifier);
+    EXPECT_TRUE(box.view()->isVisible());
+    drücke(*box.view(), Qt::Key_F4);
+    EXPECT_FALSE(box.view()->isVisible());
+}
+
 struct Datumseingabe {
     const char* getippt;
     const char* erwartet;
