@@ -3,7 +3,6 @@
 #include "platform/text/Utf8.h"
 #include "platform/text/Zeichensatz.h"
 
-#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -21,31 +20,34 @@ inline void zeichenFehltInDerCodepage()
 {}
 
 template <std::size_t N> struct Festtext {
-    std::array<char, N> bytes{};
-    std::size_t laenge = 0;
+    char bytes[N] = {};
+    std::size_t länge = 0;
 
     // NOLINTNEXTLINE(google-explicit-constructor): a literal operator template needs it
     consteval Festtext(const char (&quelle)[N])
     {
         for (std::size_t i = 0; i + 1 < N;) {
+            if (const char zeichen = quelle[i]; zeichen > 0) { // by far the most of them: compiling takes half as long
+                bytes[länge++] = zeichen;
+                ++i;
+                continue;
+            }
             const auto z = utf8::lies({quelle, N - 1}, i);
             const auto byte = zeichensatz::byteVon(z.wert);
             if (!byte) {
                 zeichenFehltInDerCodepage();
             }
-            bytes[laenge++] = *byte;
+            bytes[länge++] = *byte;
             i += z.länge;
         }
     }
 };
 
-template <Festtext T> inline constexpr auto ablage = T;
-
 } // namespace text_detail
 
 template <text_detail::Festtext T> consteval std::string_view operator""_t()
 {
-    return {text_detail::ablage<T>.bytes.data(), text_detail::ablage<T>.laenge};
+    return {T.bytes, T.länge};
 }
 
 /// The character 183 that separates the fields of a record.
