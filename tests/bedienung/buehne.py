@@ -136,7 +136,7 @@ class Bühne:
         with open(self.pfad("rc.xml"), "w", encoding="utf-8") as datei:
             datei.write(OPENBOX)
         with open(self.pfad("anzeige.log"), "ab") as mitschrift:
-            self.anzeige = Anzeige(self.umwelt, BREITE, HÖHE, xvfb=["-fbdir", self.ordner, "-noreset"],
+            self.anzeige = Anzeige(self.umwelt, BREITE, HÖHE, xvfb=["-fbdir", self.ordner],
                                    openbox=["--sm-disable", "--config-file", self.pfad("rc.xml")], ausgabe=mitschrift)
         self.umwelt = self.anzeige.umgebung
 
