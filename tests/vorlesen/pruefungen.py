@@ -204,11 +204,10 @@ def prüfeAntworten(wurzel, leser, erwartet):
         befunde.append((None, f"{len(felder)} Antwortfelder sprechen, {erwartet} sind da"))
     for _ in ANTWORTEN if felder else ():
         leser.ereignisse.clear()
-        vorher = [leser.name(k) for k in felder]
+        vorher = leser.namen(felder)
         leser.frage_alle([leser.frage_nach_druck(k) for k in felder])
         warteAufRuhe(leser)
-        for k, alt in zip(felder, vorher):
-            neu = leser.name(k)
+        for k, alt, neu in zip(felder, vorher, leser.namen(felder)):
             stelle = ANTWORTEN.index(alt) if alt in ANTWORTEN else -1
             if stelle < 0 or neu != ANTWORTEN[(stelle + 1) % 3]:
                 befunde.append((k, f"nach '{alt}' kommt '{neu}' ({frage(wurzel, k)})"))
