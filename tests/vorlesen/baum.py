@@ -5,6 +5,7 @@ walks, so that an answer is always the program's own.
 """
 
 import time
+from functools import cache
 from dataclasses import dataclass, field
 
 from gi.repository import Gio, GLib
@@ -133,7 +134,12 @@ class Leser:
     @staticmethod
     def eigenschaft(pfad, schnittstelle, name):
         """The question for a property."""
-        return (pfad, EIGENSCHAFTEN, "Get", GLib.Variant("(ss)", (schnittstelle, name)))
+        return (pfad, EIGENSCHAFTEN, "Get", alsArgumente("(ss)", schnittstelle, name))
+
+    @staticmethod
+    def kind(pfad, stelle):
+        """The question for a child."""
+        return (pfad, ZUGANG, "GetChildAtIndex", alsArgumente("(i)", stelle))
 
     def lasse_geschehen(self, sekunden, bis=lambda: False):
         """Takes in events for that long, or until the condition holds after one of them."""
@@ -277,6 +283,12 @@ class Leser:
         """Asks the program to put the focus there; its answer."""
         antwort = self.frage(knoten.pfad, BAUSTEIN, "GrabFocus")
         return bool(antwort and antwort[0])
+
+
+@cache
+def alsArgumente(form, *werte):
+    """Arguments of a call: few, and asked with again and again."""
+    return GLib.Variant(form, werte)
 
 
 def alsZustände(wörter):
