@@ -231,6 +231,12 @@ class Bühne:
         warte(lambda: self.programm.poll() is not None, "das Programm endet nicht")
         return self.programm.returncode
 
+    def rechenzeit(self):
+        """The seconds of a processor that the program has taken until now."""
+        with open(f"/proc/{self.programm.pid}/stat", encoding="utf-8") as datei:
+            werte = datei.read().rpartition(")")[2].split()
+        return (int(werte[11]) + int(werte[12])) / os.sysconf("SC_CLK_TCK")
+
     def datei(self, name):
         return os.path.join(self.programmordner, name)
 
