@@ -91,8 +91,8 @@ class Weg:
         self.besuche(schirm, self)
 
     def zurück(self, anfang, schirm):
-        """Leaves by the button, back to a screen that has been visited; boxes on the way are confirmed."""
-        self.schau()
+        """Leaves by the button of the screen that was looked at last, back to one that has been visited; boxes on the
+        way are confirmed."""
         self.drücke(anfang)
 
         def ist_da():
