@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEvent>
 #include <QMainWindow>
 #include <QPainter>
 #include <QWidget>
@@ -84,6 +85,44 @@ QPixmap fotografiere()
     return bild;
 }
 
+/// Counts who is asked to lay itself out again.
+class Ordnungszähler : public QObject {
+public:
+    Ordnungszähler() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override
+    {
+        if (ereignis->type() == QEvent::LayoutRequest) {
+            m_klassen << QString::fromLatin1(objekt->metaObject()->className());
+        }
+        return false;
+    }
+    /// Those of this round of the event loop alone.
+    QStringList inDieserRunde()
+    {
+        m_klassen.clear();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        m_klassen.removeDuplicates();
+        return m_klassen;
+    }
+
+private:
+    QStringList m_klassen;
+};
+
+/// A screen on which nothing happens comes to rest: one that is laid out again and again takes a whole processor.
+QStringList prüfeRuhe()
+{
+    constexpr int runden = 20; // far more than sizes need to settle
+    Ordnungszähler zähler;
+    for (int i = 0; i < runden; ++i) {
+        if (zähler.inDieserRunde().isEmpty()) {
+            return {};
+        }
+    }
+    return {QStringLiteral("kommt nicht zur Ruhe: %1").arg(zähler.inDieserRunde().join(QStringLiteral(", ")))};
+}
+
 int messe(const Auftrag& auftrag)
 {
     const auto oberfläche = erzeugeOberflächeQt(auftrag.schirm);
@@ -95,7 +134,7 @@ int messe(const Auftrag& auftrag)
         const auto fehlschlag = Rundgang(weg, auftrag.namenslänge).gehe(*oberfläche, [&](const std::string& name) {
             QApplication::processEvents();
             ++halte;
-            for (const auto& befund : prüfeFenster(maß)) {
+            for (const auto& befund : prüfeRuhe() + prüfeFenster(maß)) {
                 ++befunde;
                 std::printf("%s: %s\n", name.c_str(), qPrintable(befund));
             }

@@ -152,11 +152,15 @@ void Kartenreihe::ordne()
     }
     const bool nebeneinander = nötig <= width();
     m_reihe->setDirection(nebeneinander ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    for (const auto& spalte : m_spalten) {
+    for (int stelle = 0; stelle < m_reihe->count(); ++stelle) {
+        const auto& spalte = m_spalten[static_cast<std::size_t>(stelle)];
         const int mindestens = spalte.widget->minimumSizeHint().width();
         const int höchstens = std::max(mindestens, spalte.höchstbreite);
         spalte.widget->setMaximumWidth(höchstens);
         const int gern = std::clamp(spalte.widget->sizeHint().width(), mindestens, höchstens);
-        m_reihe->setStretchFactor(spalte.widget, nebeneinander ? gern : 0);
+        // the layout asks to be laid out again whenever it is told a stretch, the one that it has included
+        if (const int anteil = nebeneinander ? gern : 0; m_reihe->stretch(stelle) != anteil) {
+            m_reihe->setStretch(stelle, anteil);
+        }
     }
 }
