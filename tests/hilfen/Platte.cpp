@@ -16,16 +16,15 @@ namespace {
 std::strong_ordering Plattenstand::operator<=>(const Plattenstand& anderer) const
 {
     const auto dateiweise = [](const auto& a, const auto& b) {
-        const auto nachName = a.first.native() <=> b.first.native();
+        const auto nachName = vergleiche(a.first, b.first);
         return nachName != 0 ? nachName : a.second <=> b.second;
     };
-    const auto ordnerweise = [](const auto& a, const auto& b) { return a.native() <=> b.native(); };
     const auto nachDateien = std::lexicographical_compare_three_way(
         dateien.begin(), dateien.end(), anderer.dateien.begin(), anderer.dateien.end(), dateiweise);
     return nachDateien != 0
                ? nachDateien
                : std::lexicographical_compare_three_way(ordner.begin(), ordner.end(), anderer.ordner.begin(),
-                                                        anderer.ordner.end(), ordnerweise);
+                                                        anderer.ordner.end(), vergleiche);
 }
 
 Platte::Platte(const Plattenstand& stand)

@@ -17,18 +17,27 @@
 /// was last flushed, the names in each folder likewise. So a test can stop after any operation and go on with what
 /// the death of the process, or the loss of power, would have left.
 
-/// Paths by their letters: the disk is asked and compared some hundred thousand times, and part by part takes long.
-struct NachSchreibung {
+/// Paths by their letters where a path is spelt in one way: the disk is asked and compared some hundred thousand times,
+/// and part by part takes long.
+inline std::strong_ordering vergleiche(const std::filesystem::path& a, const std::filesystem::path& b)
+{
+    if constexpr (std::filesystem::path::preferred_separator == '/') {
+        return a.native() <=> b.native();
+    } else {
+        return a.compare(b) <=> 0;
+    }
+}
+struct NachPfad {
     bool operator()(const std::filesystem::path& a, const std::filesystem::path& b) const
     {
-        return a.native() < b.native();
+        return vergleiche(a, b) < 0;
     }
 };
 
 /// What lies on a disk: files with their contents, folders.
 struct Plattenstand {
-    std::map<std::filesystem::path, std::string, NachSchreibung> dateien;
-    std::set<std::filesystem::path, NachSchreibung> ordner;
+    std::map<std::filesystem::path, std::string, NachPfad> dateien;
+    std::set<std::filesystem::path, NachPfad> ordner;
 
     std::strong_ordering operator<=>(const Plattenstand& anderer) const;
     bool operator==(const Plattenstand& anderer) const { return (*this <=> anderer) == std::strong_ordering::equal; }
@@ -69,7 +78,7 @@ private:
     };
     /// A file, or a folder (without content).
     using Knoten = std::shared_ptr<Inhalt>;
-    using Namen = std::map<std::filesystem::path, Knoten, NachSchreibung>;
+    using Namen = std::map<std::filesystem::path, Knoten, NachPfad>;
 
     template <class F> void führeAus(const std::string& name, F operation);
 
