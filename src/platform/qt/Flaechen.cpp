@@ -152,11 +152,13 @@ void Kartenreihe::ordne()
     }
     const bool nebeneinander = nötig <= width();
     m_reihe->setDirection(nebeneinander ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    for (const auto& spalte : m_spalten) {
-        const int mindestens = spalte.widget->minimumSizeHint().width();
-        const int höchstens = std::max(mindestens, spalte.höchstbreite);
-        spalte.widget->setMaximumWidth(höchstens);
-        const int gern = std::clamp(spalte.widget->sizeHint().width(), mindestens, höchstens);
-        m_reihe->setStretchFactor(spalte.widget, nebeneinander ? gern : 0);
+    for (int i = 0; i < m_reihe->count(); ++i) {
+        auto& widget = *m_spalten[static_cast<std::size_t>(i)].widget;
+        const int mindestens = widget.minimumSizeHint().width();
+        const int höchstens = std::max(mindestens, m_spalten[static_cast<std::size_t>(i)].höchstbreite);
+        widget.setMaximumWidth(höchstens);
+        const int gern = std::clamp(widget.sizeHint().width(), mindestens, höchstens);
+        // by its place: by its widget the row would ask to be laid out even where nothing has changed, and so without end
+        m_reihe->setStretch(i, nebeneinander ? gern : 0);
     }
 }

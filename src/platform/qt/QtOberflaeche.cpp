@@ -235,7 +235,7 @@ void QtOberfläche::zeichneRahmen()
             const QSize rand = fensterrand();
             const QSize größe(alsPixel(m_rahmen.breite()), alsPixel(m_rahmen.höhe()));
             const QSize platz = m_fenster.screen()->availableSize() - rand;
-            m_fenster.resize(größe.boundedTo(platz));
+            gibGröße(größe.boundedTo(platz));
             m_fenster.move(
                 inDenSchirm({alsPixel(m_rahmen.links()), alsPixel(m_rahmen.oben())}, m_fenster.size() + rand));
         }
@@ -246,6 +246,16 @@ void QtOberfläche::zeichneRahmen()
         }
         m_fenster.setVisible(m_rahmen.istSichtbar());
     });
+}
+
+/// Without painting at once what is still being changed, where the window system would ask for it on the spot.
+void QtOberfläche::gibGröße(QSize größe)
+{
+    if (größe != m_fenster.size()) {
+        m_fenster.setUpdatesEnabled(false);
+        m_fenster.resize(größe);
+        m_fenster.setUpdatesEnabled(true);
+    }
 }
 
 /// What the desktop puts around the window, so that the bar with OK and Exit stays on a small screen; a title bar

@@ -74,6 +74,7 @@ private:
     void zeichneSeite(Bildschirm* bildschirm);
     void zeichneMenü(const Bildschirm* bildschirm);
     void zeichneRahmen();
+    void gibGröße(QSize größe);
     QSize fensterrand() const;
     void platziereKind(const Platz& platz);
     void entlade(const Bildschirm& bildschirm);
