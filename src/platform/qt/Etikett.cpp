@@ -5,7 +5,7 @@
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 
-#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -130,6 +130,29 @@ void Etikett::brichAmBindestrich()
     zeigeText(text());
 }
 
+qreal Etikett::textbreite() const
+{
+    if (m_gemessenerText != text() || m_gemesseneSchrift != font()) {
+        m_gemessenerText = text();
+        m_gemesseneSchrift = font();
+        m_textbreite = QFontMetricsF(font()).horizontalAdvance(text());
+    }
+    return m_textbreite;
+}
+
+bool Etikett::stehtInEinerZeile(int breite) const
+{
+    return textbreite() <= breite && !text().contains(QChar('\n'));
+}
+
+/// A layout asks again and again, for every width that it considers.
+int Etikett::heightForWidth(int breite) const
+{
+    const auto rand = contentsMargins();
+    const int rest = breite - rand.left() - rand.right() - 2 * margin() - std::max(0, indent());
+    return wordWrap() && stehtInEinerZeile(rest) ? QLabel::minimumSizeHint().height() : QLabel::heightForWidth(breite);
+}
+
 QSize Etikett::sizeHint() const
 {
     return m_umbruchbreite > 0 ? QSize(m_umbruchbreite, heightForWidth(m_umbruchbreite)) : QLabel::sizeHint();
@@ -164,7 +187,8 @@ QRect Etikett::textplatz() const
 
 QString Etikett::gezeigterText() const
 {
-    return kürze(text(), textplatz().size(), font(), wordWrap());
+    const QSize platz = textplatz().size();
+    return stehtInEinerZeile(platz.width()) ? text() : kürze(text(), platz, font(), wordWrap());
 }
 
 void Etikett::paintEvent(QPaintEvent* ereignis)

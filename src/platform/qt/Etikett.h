@@ -20,10 +20,13 @@ public:
     void setzeMindestbreite(double breite) { m_mindestbreite = breite; }
     /// The text as it is painted.
     QString gezeigterText() const;
+    /// How wide the text is where nothing breaks it.
+    qreal textbreite() const;
     /// A row of the diagnosis listing paints the row's kind behind the text.
     void seiListenzelle() { m_istListenzelle = true; }
 
     bool hasHeightForWidth() const override { return wordWrap() && m_umbruchbreite == 0; }
+    int heightForWidth(int breite) const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -38,6 +41,7 @@ private:
     void zeigeText(const QString& text);
     void zeichneZeilenart();
     QRect textplatz() const;
+    bool stehtInEinerZeile(int breite) const;
 
     Beschriftung* m_element = nullptr;
     Ansicht* m_ansicht = nullptr;
@@ -46,4 +50,9 @@ private:
     double m_mindestbreite = 4;
     bool m_istListenzelle = false;
     bool m_gedrückt = false;
+
+    // to measure a text is the dearest part of a layout: once for each text and font
+    mutable QString m_gemessenerText;
+    mutable QFont m_gemesseneSchrift;
+    mutable qreal m_textbreite = 0;
 };

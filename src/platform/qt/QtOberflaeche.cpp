@@ -19,6 +19,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -96,6 +97,9 @@ void QtOberfläche::ereignis(const std::function<void()>& aktion)
     const geduld::Handlung handlung;
     if (m_ablauf.ereignis(aktion)) {
         gleicheFokusAb();
+    }
+    if (std::exchange(m_istSeiteNeu, false)) {
+        ordne(); // a page that is painted before would be painted again, part by part
     }
 }
 
@@ -193,6 +197,7 @@ void QtOberfläche::zeichneSeite(Bildschirm* bildschirm)
     seiten.setCurrentWidget(platz == nullptr ? seiten.widget(0) : platz->fenster);
     if (m_seite != bildschirm) {
         m_seite = bildschirm;
+        m_istSeiteNeu = true;
         zeichneMenü(bildschirm);
     }
     m_fenster.menuBar()->setEnabled(platz != nullptr && m_folge.istFrei(*bildschirm));
@@ -391,4 +396,5 @@ void QtOberfläche::ordne() const
     for (int i = 0; i < runden; ++i) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater); // of what has been shown
 }

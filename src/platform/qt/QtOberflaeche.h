@@ -92,6 +92,7 @@ private:
     Rahmenfenster m_fenster;
     std::vector<Platz> m_plätze;
     const Bildschirm* m_seite = nullptr; ///< whose page the frame shows
+    bool m_istSeiteNeu = false;          ///< it has not been laid out yet
     std::vector<QMenu*> m_menüs;
     bool m_setztFokus = false; ///< the focus that changes is the program's own doing
     Eingabewächter m_wächter;

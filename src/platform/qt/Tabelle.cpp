@@ -83,7 +83,7 @@ Antwortzeile::Antwortzeile(const Anordnung& zeile, const Anordnung& tabelle, con
 
 int Antwortzeile::bevorzugteBeschriftungsbreite() const
 {
-    return m_beschriftung.fontMetrics().horizontalAdvance(m_beschriftung.text()) + em(0.8);
+    return qRound(m_beschriftung.textbreite()) + em(0.8);
 }
 
 void Antwortzeile::paintEvent(QPaintEvent* /*ereignis*/)
