@@ -130,14 +130,29 @@ void Etikett::brichAmBindestrich()
     zeigeText(text());
 }
 
+const Etikett::Textmaß& Etikett::textmaß() const
+{
+    if (m_maß.text != text() || m_maß.schrift != font()) {
+        constexpr int endlos = QWIDGETSIZE_MAX;
+        const QRect zeile = fontMetrics().boundingRect(0, 0, endlos, endlos, Qt::AlignLeft, text());
+        m_maß = {text(), font(), QFontMetricsF(font()).horizontalAdvance(text()), zeile.height()};
+    }
+    return m_maß;
+}
+
 qreal Etikett::textbreite() const
 {
-    if (m_gemessenerText != text() || m_gemesseneSchrift != font()) {
-        m_gemessenerText = text();
-        m_gemesseneSchrift = font();
-        m_textbreite = QFontMetricsF(font()).horizontalAdvance(text());
-    }
-    return m_textbreite;
+    return textmaß().breite;
+}
+
+/// What the base class leaves free round the text.
+QSize Etikett::rand() const
+{
+    const auto ränder = contentsMargins();
+    const int einzug = std::max(0, indent());
+    const bool hebt = alignment().testFlag(Qt::AlignTop) || alignment().testFlag(Qt::AlignBottom);
+    return QSize(ränder.left() + ränder.right() + einzug, ränder.top() + ränder.bottom() + (hebt ? einzug : 0)) +
+           QSize(2 * margin(), 2 * margin());
 }
 
 bool Etikett::stehtInEinerZeile(int breite) const
@@ -145,17 +160,24 @@ bool Etikett::stehtInEinerZeile(int breite) const
     return textbreite() <= breite && !text().contains(QChar('\n'));
 }
 
-/// A layout asks again and again, for every width that it considers.
+/// A layout asks again and again, for every width that it considers; the base class would break the text each time.
 int Etikett::heightForWidth(int breite) const
 {
-    const auto rand = contentsMargins();
-    const int rest = breite - rand.left() - rand.right() - 2 * margin() - std::max(0, indent());
-    return wordWrap() && stehtInEinerZeile(rest) ? QLabel::minimumSizeHint().height() : QLabel::heightForWidth(breite);
+    return wordWrap() && stehtInEinerZeile(breite - rand().width())
+               ? std::max(textmaß().zeilenhöhe + rand().height(), minimumHeight())
+               : QLabel::heightForWidth(breite);
 }
 
 QSize Etikett::sizeHint() const
 {
-    return m_umbruchbreite > 0 ? QSize(m_umbruchbreite, heightForWidth(m_umbruchbreite)) : QLabel::sizeHint();
+    if (m_umbruchbreite > 0) {
+        return {m_umbruchbreite, heightForWidth(m_umbruchbreite)};
+    }
+    if (hasHeightForWidth()) { // the base class would look for the finest proportion of a text in several lines
+        const int breite = qCeil(textbreite()) + rand().width();
+        return {breite, heightForWidth(breite)};
+    }
+    return QLabel::sizeHint();
 }
 
 QSize Etikett::minimumSizeHint() const
@@ -164,7 +186,7 @@ QSize Etikett::minimumSizeHint() const
         return sizeHint();
     }
     constexpr double absatzbreite = 30; // lines that somebody has broken by hand are no name
-    const QSize ganze = QLabel::minimumSizeHint();
+    const QSize ganze = hasHeightForWidth() ? sizeHint() : QLabel::minimumSizeHint();
     const double höchstens = text().contains(QChar('\n')) ? absatzbreite : m_mindestbreite;
     return {std::min(ganze.width(), em(höchstens)), ganze.height()};
 }

@@ -41,7 +41,17 @@ private:
     void zeigeText(const QString& text);
     void zeichneZeilenart();
     QRect textplatz() const;
+    QSize rand() const;
     bool stehtInEinerZeile(int breite) const;
+
+    /// Of the text in one line. To measure is the dearest part of a layout: once for each text and font.
+    struct Textmaß {
+        QString text;
+        QFont schrift;
+        qreal breite = 0;
+        int zeilenhöhe = 0;
+    };
+    const Textmaß& textmaß() const;
 
     Beschriftung* m_element = nullptr;
     Ansicht* m_ansicht = nullptr;
@@ -50,9 +60,5 @@ private:
     double m_mindestbreite = 4;
     bool m_istListenzelle = false;
     bool m_gedrückt = false;
-
-    // to measure a text is the dearest part of a layout: once for each text and font
-    mutable QString m_gemessenerText;
-    mutable QFont m_gemesseneSchrift;
-    mutable qreal m_textbreite = 0;
+    mutable Textmaß m_maß;
 };

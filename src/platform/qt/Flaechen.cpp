@@ -158,7 +158,8 @@ void Kartenreihe::ordne()
         const int höchstens = std::max(mindestens, m_spalten[static_cast<std::size_t>(i)].höchstbreite);
         widget.setMaximumWidth(höchstens);
         const int gern = std::clamp(widget.sizeHint().width(), mindestens, höchstens);
-        // by its place: by its widget the row would ask to be laid out even where nothing has changed, and so without end
+        // by its place: by its widget the row would ask to be laid out even where nothing has changed, and so without
+        // end
         m_reihe->setStretch(i, nebeneinander ? gern : 0);
     }
 }
