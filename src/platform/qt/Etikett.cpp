@@ -209,6 +209,9 @@ QRect Etikett::textplatz() const
 
 QString Etikett::gezeigterText() const
 {
+    if (!wordWrap() && QLabel::sizeHint().boundedTo(size()) == QLabel::sizeHint()) {
+        return text(); // it has all that it wants, which the layout has measured
+    }
     const QSize platz = textplatz().size();
     return stehtInEinerZeile(platz.width()) ? text() : kürze(text(), platz, font(), wordWrap());
 }
