@@ -240,7 +240,9 @@ void QtOberfläche::zeichneRahmen()
             const QSize rand = fensterrand();
             const QSize größe(alsPixel(m_rahmen.breite()), alsPixel(m_rahmen.höhe()));
             const QSize platz = m_fenster.screen()->availableSize() - rand;
-            gibGröße(größe.boundedTo(platz));
+            if (const QSize neue = größe.boundedTo(platz); neue != m_fenster.size() || !m_fenster.isVisible()) {
+                ohneZuMalen([&] { m_fenster.resize(neue); });
+            }
             m_fenster.move(
                 inDenSchirm({alsPixel(m_rahmen.links()), alsPixel(m_rahmen.oben())}, m_fenster.size() + rand));
         }
@@ -249,18 +251,18 @@ void QtOberfläche::zeichneRahmen()
             constexpr int bisDerRandDaIst = 300;
             QTimer::singleShot(bisDerRandDaIst, &m_fenster, [this] { zeichneRahmen(); });
         }
-        m_fenster.setVisible(m_rahmen.istSichtbar());
+        if (m_rahmen.istSichtbar() != m_fenster.isVisible()) {
+            ohneZuMalen([this] { m_fenster.setVisible(m_rahmen.istSichtbar()); });
+        }
     });
 }
 
-/// Without painting at once what is still being changed, where the window system would ask for it on the spot.
-void QtOberfläche::gibGröße(QSize größe)
+/// Some window systems ask for a picture on the spot, of what is still being changed.
+void QtOberfläche::ohneZuMalen(const std::function<void()>& änderung)
 {
-    if (größe != m_fenster.size()) {
-        m_fenster.setUpdatesEnabled(false);
-        m_fenster.resize(größe);
-        m_fenster.setUpdatesEnabled(true);
-    }
+    m_fenster.setUpdatesEnabled(false);
+    änderung();
+    m_fenster.setUpdatesEnabled(true);
 }
 
 /// What the desktop puts around the window, so that the bar with OK and Exit stays on a small screen; a title bar

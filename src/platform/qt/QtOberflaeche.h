@@ -74,7 +74,7 @@ private:
     void zeichneSeite(Bildschirm* bildschirm);
     void zeichneMenü(const Bildschirm* bildschirm);
     void zeichneRahmen();
-    void gibGröße(QSize größe);
+    void ohneZuMalen(const std::function<void()>& änderung);
     QSize fensterrand() const;
     void platziereKind(const Platz& platz);
     void entlade(const Bildschirm& bildschirm);
