@@ -129,6 +129,7 @@ std::vector<Spaltenanweisung> leseSpaltenanweisungen(Dateien& dateien, const std
     const auto inhalt = dateien.lies(pfad);
     Werteleser leser(inhalt->text(), pfad);
     std::vector<Spaltenanweisung> anweisungen;
+    anweisungen.reserve(anzahl);
     for (std::size_t i = 0; i < anzahl; ++i) {
         anweisungen.push_back(leseEine(leser));
     }

@@ -23,7 +23,6 @@
 #include <fstream>
 #include <iterator>
 #include <map>
-#include <regex>
 #include <set>
 
 // Texts for people cannot be made from the tables of the program, so they repeat what stands there. Whoever changes a
@@ -45,12 +44,26 @@ constexpr auto liesmich = "paket/LIESMICH.txt";
 constexpr auto liesmichWindows = "paket/windows/LIESMICH.txt";
 constexpr auto info = "src/clients/frmInfo.cpp";
 
+/// Every run of white space as one blank, as a page is read whatever its lines are.
+std::string inEinerZeile(std::string_view text)
+{
+    std::string zeile;
+    for (const char zeichen : text) {
+        const bool leer = zeichen == ' ' || (zeichen >= '\t' && zeichen <= '\r');
+        if (!leer || zeile.empty() || zeile.back() != ' ') {
+            zeile.push_back(leer ? ' ' : zeichen);
+        }
+    }
+    return zeile;
+}
+
 std::string inhaltVon(const std::string& datei)
 {
     std::ifstream strom(std::string(TOLVEK_QUELLEN) + "/" + datei, std::ios::binary);
     EXPECT_TRUE(strom) << datei;
-    const std::string text{std::istreambuf_iterator<char>(strom), {}};
-    return std::regex_replace(std::regex_replace(text, std::regex(R"(\\)"), ""), std::regex(R"(\s+)"), " ");
+    std::string text{std::istreambuf_iterator<char>(strom), {}};
+    std::erase(text, '\\');
+    return inEinerZeile(text);
 }
 
 std::string utf8(std::string_view text)
@@ -230,7 +243,7 @@ std::vector<Textangabe> ausDemAufruf()
         }
     }
     for (auto& angabe : angaben) {
-        angabe.satz = std::regex_replace(angabe.satz, std::regex(" +"), " ");
+        angabe.satz = inEinerZeile(angabe.satz);
     }
     angaben.push_back({"app/moMain.h", handbuch, "Im Titel steht „" + utf8(mustermarke) + "“"});
     angaben.push_back({"app/moMain.h", manual, "der Titel beginnt mit " + utf8(mustermarke)});

@@ -4,9 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <cstdio>
 #include <iostream>
 #include <map>
-#include <regex>
+#include <optional>
 #include <sstream>
 
 // Whether the preload library sees everything: the same action under strace, which the kernel itself tells of each
@@ -45,27 +46,44 @@ bool ändertNurBeimSchreiben(const std::string& zeile)
            zeile.find("O_RDWR") != std::string::npos || zeile.find("O_TRUNC") != std::string::npos;
 }
 
+/// A line of strace, as far as it tells a call that has come back: "write(3, "x", 1) = 1".
+struct Spurzeile {
+    std::string name;
+    int griff = -1; ///< the descriptor, where the first argument is a number
+    int ergebnis = 0;
+};
+std::optional<Spurzeile> liesSpurzeile(const std::string& zeile)
+{
+    const auto klammer = zeile.find('(');
+    const auto gleich = zeile.rfind(" = ");
+    Spurzeile ruf{zeile.substr(0, klammer)};
+    if (klammer == std::string::npos || gleich == std::string::npos ||
+        std::sscanf(zeile.c_str() + gleich, " = %d", &ruf.ergebnis) != 1) {
+        return std::nullopt;
+    }
+    std::sscanf(zeile.c_str() + klammer, "(%d", &ruf.griff);
+    return ruf;
+}
+
 /// What strace has written: paths stand in the calls that name them, the others are told by the descriptor.
 Zählung ausSpur(const fs::path& spur, const fs::path& ordner)
 {
-    static const std::regex form(R"(^(\w+)\((\d+)?.*\)\s*= (-?\d+).*$)");
     Zählung zählung;
     std::map<int, bool> unsere;
     std::istringstream text(liesDatei(spur));
     for (std::string zeile; std::getline(text, zeile);) {
-        std::smatch teile;
-        if (!std::regex_match(zeile, teile, form)) {
+        const auto ruf = liesSpurzeile(zeile);
+        if (!ruf) {
             continue;
         }
-        const auto name = grundname(teile[1]);
+        const auto name = grundname(ruf->name);
         const bool nenntOrdner = zeile.find("\"" + ordner.string()) != std::string::npos;
-        const int griff = teile[2].matched ? std::stoi(teile[2]) : -1;
         if (name == "open") {
-            unsere[std::stoi(teile[3])] = nenntOrdner;
+            unsere[ruf->ergebnis] = nenntOrdner;
             zählung[name] += nenntOrdner && ändertNurBeimSchreiben(zeile) ? 1 : 0;
         } else if (name == "close") {
-            unsere[griff] = false;
-        } else if (nenntOrdner || (griff >= 0 && unsere[griff])) {
+            unsere[ruf->griff] = false;
+        } else if (nenntOrdner || (ruf->griff >= 0 && unsere[ruf->griff])) {
             ++zählung[name];
         }
     }

@@ -136,7 +136,7 @@ class Bühne:
         with open(self.pfad("rc.xml"), "w", encoding="utf-8") as datei:
             datei.write(OPENBOX)
         with open(self.pfad("anzeige.log"), "ab") as mitschrift:
-            self.anzeige = Anzeige(self.umwelt, BREITE, HÖHE, xvfb=["-fbdir", self.ordner, "-noreset"],
+            self.anzeige = Anzeige(self.umwelt, BREITE, HÖHE, xvfb=["-fbdir", self.ordner],
                                    openbox=["--sm-disable", "--config-file", self.pfad("rc.xml")], ausgabe=mitschrift)
         self.umwelt = self.anzeige.umgebung
 
@@ -230,6 +230,12 @@ class Bühne:
     def warte_auf_ende(self):
         warte(lambda: self.programm.poll() is not None, "das Programm endet nicht")
         return self.programm.returncode
+
+    def rechenzeit(self):
+        """The seconds of a processor that the program has taken until now."""
+        with open(f"/proc/{self.programm.pid}/stat", encoding="utf-8") as datei:
+            werte = datei.read().rpartition(")")[2].split()
+        return (int(werte[11]) + int(werte[12])) / os.sysconf("SC_CLK_TCK")
 
     def datei(self, name):
         return os.path.join(self.programmordner, name)

@@ -1,5 +1,7 @@
 """Which window has the keyboard: a window over a page, the page below it, and the first focus of a page."""
 
+import time
+
 from buehne import ABSEITS, laufe, verlange, warte
 
 KLIENT = "klient 1 Nachname=Adler"
@@ -67,6 +69,20 @@ def prüfe_knopf_im_kopf_kommt_vor_der_leiste(bühne):
     with bühne.neues_fenster():
         bühne.taste("Escape")
     verlange(bühne.fokusfenster() != dialog, "Esc ist nicht Exit des Zeitraums")
+
+
+def prüfe_wer_nichts_tut_braucht_keine_rechenzeit(bühne):
+    bühne.starte(BESTAND)
+
+    def ruht():
+        vorher = bühne.rechenzeit()
+        time.sleep(0.8)
+        return bühne.rechenzeit() - vorher < 0.08
+    warte(ruht, "das Hauptmenü kommt nicht zur Ruhe")
+    bühne.taste("Tab", mal=ZUR_BETREUUNG)
+    bühne.taste("space")
+    bühne.ruhiges_bild()
+    warte(ruht, "die Hauptseite der Betreuung kommt nicht zur Ruhe")
 
 
 def prüfe_doppelklick_auf_leere_liste(bühne):

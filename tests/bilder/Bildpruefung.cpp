@@ -153,14 +153,20 @@ double gemessenerKontrast(const QImage& bild, const QRect& ort, const QColor& st
     std::unordered_map<QRgb, int> häufigkeit;
     QRgb tinte = 0;
     int nächster = 1000;
+    QRgb punkt = 0;
+    int* wieOft = nullptr; // most pixels are like the one before, and need no looking up
     for (int y = ort.top(); y <= ort.bottom(); ++y) {
+        const auto* zeile = reinterpret_cast<const QRgb*>(bild.constScanLine(y));
         for (int x = ort.left(); x <= ort.right(); ++x) {
-            const QRgb punkt = bild.pixel(x, y);
-            ++häufigkeit[punkt];
-            if (abstand(punkt, stift.rgb()) < nächster) {
-                nächster = abstand(punkt, stift.rgb());
-                tinte = punkt;
+            if (wieOft == nullptr || zeile[x] != punkt) {
+                punkt = zeile[x];
+                wieOft = &häufigkeit[punkt];
+                if (abstand(punkt, stift.rgb()) < nächster) {
+                    nächster = abstand(punkt, stift.rgb());
+                    tinte = punkt;
+                }
             }
+            ++*wieOft;
         }
     }
     const auto grund = std::max_element(häufigkeit.begin(), häufigkeit.end(),

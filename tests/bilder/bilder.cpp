@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEvent>
 #include <QMainWindow>
 #include <QPainter>
 #include <QWidget>
@@ -84,32 +85,42 @@ QPixmap fotografiere()
     return bild;
 }
 
-/// Counts how often anything in the windows is laid out anew.
+/// Counts who is asked to lay itself out again.
 class Ordnungszähler : public QObject {
 public:
     Ordnungszähler() { qApp->installEventFilter(this); }
 
-    int anzahl = 0;
-
-    bool eventFilter(QObject* /*objekt*/, QEvent* ereignis) override
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override
     {
-        anzahl += ereignis->type() == QEvent::LayoutRequest ? 1 : 0;
+        if (ereignis->type() == QEvent::LayoutRequest) {
+            m_klassen << QString::fromLatin1(objekt->metaObject()->className());
+        }
         return false;
     }
+    /// Those of this round of the event loop alone.
+    QStringList inDieserRunde()
+    {
+        m_klassen.clear();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        m_klassen.removeDuplicates();
+        return m_klassen;
+    }
+
+private:
+    QStringList m_klassen;
 };
 
-/// A page that lays itself out anew because it has been laid out keeps the processor busy as long as it is open.
-bool kommtZurRuhe()
+/// A screen on which nothing happens comes to rest: one that is laid out again and again takes a whole processor.
+QStringList prüfeRuhe()
 {
-    constexpr int runden = 20; // widths, then heights, from the tables in the cards up to the window
+    constexpr int runden = 20; // far more than sizes need to settle
+    Ordnungszähler zähler;
     for (int i = 0; i < runden; ++i) {
-        Ordnungszähler zähler;
-        QApplication::processEvents();
-        if (zähler.anzahl == 0) {
-            return true;
+        if (zähler.inDieserRunde().isEmpty()) {
+            return {};
         }
     }
-    return false;
+    return {QStringLiteral("kommt nicht zur Ruhe: %1").arg(zähler.inDieserRunde().join(QStringLiteral(", ")))};
 }
 
 int messe(const Auftrag& auftrag)
@@ -121,12 +132,9 @@ int messe(const Auftrag& auftrag)
     int halte = 0;
     for (const auto& weg : auftrag.wege) {
         const auto fehlschlag = Rundgang(weg, auftrag.namenslänge).gehe(*oberfläche, [&](const std::string& name) {
+            QApplication::processEvents();
             ++halte;
-            if (!kommtZurRuhe()) {
-                ++befunde;
-                std::printf("%s: ordnet sich ohne Ende\n", name.c_str());
-            }
-            for (const auto& befund : prüfeFenster(maß)) {
+            for (const auto& befund : prüfeRuhe() + prüfeFenster(maß)) {
                 ++befunde;
                 std::printf("%s: %s\n", name.c_str(), qPrintable(befund));
             }

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int gängeZumWarmwerden = 50;
+constexpr int gängeZumWarmwerden = 25;
 constexpr double höchstensJeGang = 1024;
 
 /// The way to the care main page, and from there to the page and back.
@@ -41,7 +41,7 @@ double belegt()
 
 int main(int anzahl, char** werte)
 {
-    const int gänge = anzahl > 1 ? std::stoi(werte[1]) : 500;
+    const int gänge = anzahl > 1 ? std::stoi(werte[1]) : 200;
     const std::string knopf = anzahl > 2 ? werte[2] : "cmdBetrA";
     const auto oberfläche = erzeugeOberflächeQt();
     double vorher = 0;

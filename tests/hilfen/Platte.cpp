@@ -1,5 +1,7 @@
 #include "hilfen/Platte.h"
 
+#include <algorithm>
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -11,9 +13,24 @@ namespace {
 
 } // namespace
 
+std::strong_ordering Plattenstand::operator<=>(const Plattenstand& anderer) const
+{
+    const auto dateiweise = [](const auto& a, const auto& b) {
+        const auto nachName = a.first.native() <=> b.first.native();
+        return nachName != 0 ? nachName : a.second <=> b.second;
+    };
+    const auto ordnerweise = [](const auto& a, const auto& b) { return a.native() <=> b.native(); };
+    const auto nachDateien = std::lexicographical_compare_three_way(
+        dateien.begin(), dateien.end(), anderer.dateien.begin(), anderer.dateien.end(), dateiweise);
+    return nachDateien != 0
+               ? nachDateien
+               : std::lexicographical_compare_three_way(ordner.begin(), ordner.end(), anderer.ordner.begin(),
+                                                        anderer.ordner.end(), ordnerweise);
+}
+
 Platte::Platte(const Plattenstand& stand)
 {
-    for (const auto& [pfad, da] : stand.ordner) {
+    for (const auto& pfad : stand.ordner) {
         m_namen[pfad] = nullptr;
     }
     for (const auto& [pfad, inhalt] : stand.dateien) {
@@ -39,7 +56,7 @@ Plattenstand Platte::stand(Ende ende) const
         if (knoten) {
             stand.dateien[pfad] = ende == Ende::Getötet ? knoten->jetzt : knoten->gesichert;
         } else {
-            stand.ordner[pfad] = true;
+            stand.ordner.insert(pfad);
         }
     }
     return stand;
@@ -52,12 +69,9 @@ template <class F> void Platte::führeAus(const std::string& name, F operation)
             throw Dateifehler(*grund);
         }
     }
-    if (beiOperation) {
-        beiOperation("vor " + name);
-    }
     operation();
     if (beiOperation) {
-        beiOperation("nach " + name);
+        beiOperation(name);
     }
 }
 

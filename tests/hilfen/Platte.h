@@ -2,12 +2,14 @@
 
 #include "platform/dateien/Dateizugriff.h"
 
+#include <compare>
 #include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -15,13 +17,21 @@
 /// was last flushed, the names in each folder likewise. So a test can stop after any operation and go on with what
 /// the death of the process, or the loss of power, would have left.
 
+/// Paths by their letters: the disk is asked and compared some hundred thousand times, and part by part takes long.
+struct NachSchreibung {
+    bool operator()(const std::filesystem::path& a, const std::filesystem::path& b) const
+    {
+        return a.native() < b.native();
+    }
+};
+
 /// What lies on a disk: files with their contents, folders.
 struct Plattenstand {
-    std::map<std::filesystem::path, std::string> dateien;
-    std::map<std::filesystem::path, bool> ordner;
+    std::map<std::filesystem::path, std::string, NachSchreibung> dateien;
+    std::set<std::filesystem::path, NachSchreibung> ordner;
 
-    bool operator==(const Plattenstand&) const = default;
-    auto operator<=>(const Plattenstand&) const = default;
+    std::strong_ordering operator<=>(const Plattenstand& anderer) const;
+    bool operator==(const Plattenstand& anderer) const { return (*this <=> anderer) == std::strong_ordering::equal; }
 };
 
 /// How a run ends between two operations.
@@ -41,8 +51,8 @@ public:
     /// Puts a file there that was flushed long ago, with the folders on the way.
     void lege(const std::filesystem::path& pfad, std::string inhalt);
 
-    /// Told before and after each operation that changes something, and in the middle of a write. Its name is that
-    /// of the operation.
+    /// Told after each operation that changes something, and in the middle of a write. Its name is that of the
+    /// operation.
     std::function<void(const std::string& name)> beiOperation;
     /// Asked before each such operation; a reason makes it fail.
     std::function<std::optional<std::string>(const std::string& name)> verweigert;
@@ -59,7 +69,7 @@ private:
     };
     /// A file, or a folder (without content).
     using Knoten = std::shared_ptr<Inhalt>;
-    using Namen = std::map<std::filesystem::path, Knoten>;
+    using Namen = std::map<std::filesystem::path, Knoten, NachSchreibung>;
 
     template <class F> void führeAus(const std::string& name, F operation);
 

@@ -6,6 +6,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <ostream>
 #include <stdexcept>
 
@@ -35,13 +36,19 @@ void lege(Platte& platte, const std::filesystem::path& pfad, const std::vector<s
     platte.lege(pfad, Testlauf::alsInhalt(zeilen));
 }
 
-std::string liesQuelle(const std::string& name)
+/// Read once: a disk with them is laid out some hundred times.
+const std::string& liesQuelle(const std::string& name)
 {
-    std::ifstream strom(std::string(TOLVEK_QUELLEN) + "/anweisungen/" + name, std::ios::binary);
-    if (!strom) {
-        throw std::runtime_error("cannot read " + name);
+    static std::map<std::string, std::string> gelesene;
+    auto& inhalt = gelesene[name];
+    if (inhalt.empty()) {
+        std::ifstream strom(std::string(TOLVEK_QUELLEN) + "/anweisungen/" + name, std::ios::binary);
+        inhalt.assign(std::istreambuf_iterator<char>(strom), {});
+        if (inhalt.empty()) {
+            throw std::runtime_error("cannot read " + name);
+        }
     }
-    return {std::istreambuf_iterator<char>(strom), {}};
+    return inhalt;
 }
 
 /// Three clients; the second has two episodes and lines that its list doesn't show.

@@ -32,7 +32,10 @@ class Anzeige:
     def _starte_server(self, *argumente):
         lesen, schreiben = os.pipe()
         try:
-            self._starte(["Xvfb", "-displayfd", str(schreiben), "-nolisten", "tcp", *argumente], pass_fds=[schreiben])
+            # without -noreset the server starts anew whenever its last client goes, and takes a window manager that is
+            # just coming up with it
+            self._starte(["Xvfb", "-displayfd", str(schreiben), "-nolisten", "tcp", "-noreset", *argumente],
+                         pass_fds=[schreiben])
         finally:
             os.close(schreiben)
         with os.fdopen(lesen) as antwort:  # the number may come in pieces

@@ -3,25 +3,48 @@
 #include "import/Altfelder.h"
 #include "import/Anweisungsdatei.h"
 
+#include <cctype>
 #include <fstream>
 #include <map>
-#include <regex>
 #include <set>
 
 namespace {
 
 using Ziele = std::set<std::string>;
 
+/// The numbers of a text, each with the letter before it and the last of its range: 170 to 173 for "D170-D173", 3 to 5
+/// for "3-5".
+struct Bereich {
+    char blatt;
+    int von, bis;
+};
+std::vector<Bereich> bereiche(const std::string& text)
+{
+    std::vector<Bereich> alle;
+    constexpr auto ziffern = "0123456789";
+    for (auto ort = text.find_first_of(ziffern); ort != std::string::npos; ort = text.find_first_of(ziffern, ort)) {
+        const char blatt = ort > 0 ? text[ort - 1] : ' ';
+        std::size_t länge = 0;
+        const int zahl = std::stoi(text.substr(ort), &länge);
+        const bool beendet = ort > 1 && (text[ort - 1] == '-' || (std::isalpha(blatt) != 0 && text[ort - 2] == '-'));
+        if (beendet && !alle.empty()) {
+            alle.back().bis = zahl;
+        } else {
+            alle.push_back({blatt, zahl, zahl});
+        }
+        ort += länge;
+    }
+    return alle;
+}
+
 /// "K95", "D170" to "D173" for "D170-D173".
 Ziele genannteZiele(const std::string& zelle)
 {
-    static const std::regex muster("([KD])(\\d+)(?:-[KD](\\d+))?");
     Ziele ziele;
-    for (auto fund = std::sregex_iterator(zelle.begin(), zelle.end(), muster); fund != std::sregex_iterator(); ++fund) {
-        const int von = std::stoi((*fund)[2]);
-        const int bis = (*fund)[3].matched ? std::stoi((*fund)[3]) : von;
-        for (int spalte = von; spalte <= bis; ++spalte) {
-            ziele.insert((*fund)[1].str() + std::to_string(spalte));
+    for (const auto& bereich : bereiche(zelle)) {
+        for (int spalte = bereich.von; (bereich.blatt == 'K' || bereich.blatt == 'D') && spalte <= bereich.bis;
+             ++spalte) {
+            ziele.insert(bereich.blatt + std::to_string(spalte));
         }
     }
     return ziele;
@@ -31,21 +54,17 @@ Ziele genannteZiele(const std::string& zelle)
 std::map<int, Ziele> beschriebeneZiele()
 {
     std::ifstream strom(std::string(TOLVEK_QUELLEN) + "/docs/altdaten.md");
-    static const std::regex zeile(R"(\| ([\d, -]+) \|.*\| ([^|]*) \|)");
-    static const std::regex nummern(R"((\d+)(?:-(\d+))?)");
     std::map<int, Ziele> ziele;
     bool beiBetreuungen = false;
     for (std::string text; std::getline(strom, text);) {
         beiBetreuungen = text.starts_with("#") ? text == "## Care file" : beiBetreuungen;
-        std::smatch fund;
-        if (!beiBetreuungen || !std::regex_match(text, fund, zeile)) {
+        const auto felder = text.starts_with("| ") ? text.substr(2, text.find(" |", 2) - 2) : "";
+        if (!beiBetreuungen || felder.find_first_not_of("0123456789, -") != std::string::npos) {
             continue;
         }
-        const std::string felder = fund[1];
-        for (auto n = std::sregex_iterator(felder.begin(), felder.end(), nummern); n != std::sregex_iterator(); ++n) {
-            const int bis = std::stoi((*n)[2].matched ? (*n)[2] : (*n)[1]);
-            for (int feld = std::stoi((*n)[1]); feld <= bis; ++feld) {
-                ziele[feld] = genannteZiele(fund[2]);
+        for (const auto& bereich : bereiche(felder)) {
+            for (int feld = bereich.von; feld <= bereich.bis; ++feld) {
+                ziele[feld] = genannteZiele(text.substr(text.rfind('|', text.size() - 2)));
             }
         }
     }

@@ -294,14 +294,14 @@ void Irrgang::prüfeNach(const Urheber& urheber)
     Verstöße verstöße;
     prüfeAbsturz(verstöße);
     const auto ordner = m_lauf.imProgramm(U"Daten");
-    auto neu = liesTabellen(ordner, ".txt", verstöße);
-    if (neu != m_stand) {
+    if (!liegenDa(m_stand, ordner, ".txt")) {
+        auto neu = liesTabellen(ordner, ".txt", verstöße);
         ++m_gespeichert;
         m_hatImportiert = m_hatImportiert || urheber.bildschirm == "frmDatenÜbernahme"_t;
         prüfeMitPrüfer(verstöße);
         prüfeAufbau(neu, verstöße);
         prüfeÄnderung(urheber, m_stand, neu, m_sicherung, verstöße);
-        if (liesTabellen(ordner, ".bak", verstöße) != m_sicherung) {
+        if (!liegenDa(m_sicherung, ordner, ".bak")) {
             verstöße.emplace_back("die Sicherung der Sitzung ist nicht mehr die alte"_t);
         }
         m_stand = std::move(neu);

@@ -128,6 +128,13 @@ Tabellenstand liesTabellen(const std::filesystem::path& daten, const std::string
     return stand;
 }
 
+bool liegenDa(const Tabellenstand& stand, const std::filesystem::path& daten, const std::string& endung)
+{
+    return liesDatei(daten / ("kernDat" + endung)) == stand.kern &&
+           liesDatei(daten / ("betrDat" + endung)) == stand.betr &&
+           liesDatei(daten / ("diagDat" + endung)) == stand.diag;
+}
+
 void prüfeAufbau(const Tabellenstand& stand, Verstöße& verstöße)
 {
     for (const auto& [nummer, zeile] : stand.klienten) {

@@ -26,6 +26,8 @@ struct Tabellenstand {
 /// Reads the tables `kernDat`, `betrDat` and `diagDat` with the ending (".txt", ".bak"). Lines without a
 /// usable key, and keys that stand twice, are added to `verstöße`.
 Tabellenstand liesTabellen(const std::filesystem::path& daten, const std::string& endung, Verstöße& verstöße);
+/// Whether the tables with the ending are, byte for byte, those of the state.
+bool liegenDa(const Tabellenstand& stand, const std::filesystem::path& daten, const std::string& endung);
 
 /// Field counts, every episode with one diagnosis record and a client, begin and end.
 void prüfeAufbau(const Tabellenstand& stand, Verstöße& verstöße);

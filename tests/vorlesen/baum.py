@@ -5,6 +5,7 @@ walks, so that an answer is always the program's own.
 """
 
 import time
+from functools import cache
 from dataclasses import dataclass, field
 
 from gi.repository import Gio, GLib
@@ -24,6 +25,11 @@ EIGENSCHAFTEN = "org.freedesktop.DBus.Properties"
 ZUSTÄNDE = {"aktiv": 1, "angekreuzt": 4, "frei": 8, "fokussierbar": 11, "fokussiert": 12, "modal": 16,
             "markiert": 23, "zu sehen": 25, "sichtbar": 30, "unbestimmt": 32}
 BESCHRIFTET_VON = 2
+# The events that a rule looks at, or that tell of another screen. The program sends all that there are; a page that
+# comes and goes says so for each of its parts, which nobody here listens to.
+GEHÖRT = (("StateChanged", "focused"), ("StateChanged", "checked"), ("StateChanged", "selected"),
+          ("PropertyChange", "accessible-name"), ("PropertyChange", "accessible-value"),
+          ("TextChanged", "insert"), ("TextChanged", "delete"))
 
 
 @dataclass
@@ -77,18 +83,21 @@ class Leser:
             adresse, arten.AUTHENTICATION_CLIENT | arten.MESSAGE_BUS_CONNECTION, None, None)
         self.programm = None
         self.ereignisse = []
-        self.schritte = 0
+        self.gehört = 0
         for was in ("object:", "window:", "focus:"):
             self._registriere(was)
-        self.bus.signal_subscribe(None, None, None, None, None, Gio.DBusSignalFlags.NONE, self._höre)
+        for name, art in GEHÖRT:
+            self.bus.signal_subscribe(None, "org.a11y.atspi.Event.Object", name, None, art, Gio.DBusSignalFlags.NONE,
+                                      self._höre)
 
     def _registriere(self, was):
         self.bus.call_sync("org.a11y.atspi.Registry", "/org/a11y/atspi/registry", "org.a11y.atspi.Registry",
                            "RegisterEvent", GLib.Variant("(s)", (was,)), None, Gio.DBusCallFlags.NONE, 10000, None)
 
-    def _höre(self, _bus, absender, pfad, schnittstelle, name, inhalt):
-        if absender == self.programm and schnittstelle.startswith("org.a11y.atspi.Event."):
+    def _höre(self, _bus, absender, pfad, _schnittstelle, name, inhalt):
+        if absender == self.programm:
             teile = inhalt.unpack()
+            self.gehört += 1
             self.ereignisse.append(Ereignis(pfad, name, teile[0], teile[1], teile[3]))
 
     # --- calls -------------------------------------------------------------------------------------------------
@@ -114,7 +123,6 @@ class Leser:
         umlauf = GLib.MainContext.default()
         while offen > 0:
             umlauf.iteration(True)
-        self.schritte += len(fragen)
         if tot:
             raise Verstummt()
         return antworten
@@ -126,21 +134,33 @@ class Leser:
     @staticmethod
     def eigenschaft(pfad, schnittstelle, name):
         """The question for a property."""
-        return (pfad, EIGENSCHAFTEN, "Get", GLib.Variant("(ss)", (schnittstelle, name)))
+        return (pfad, EIGENSCHAFTEN, "Get", alsArgumente("(ss)", schnittstelle, name))
 
-    def lasse_geschehen(self, sekunden):
-        """Takes in events for that long."""
-        ende = time.monotonic() + sekunden
+    @staticmethod
+    def kind(pfad, stelle):
+        """The question for a child."""
+        return (pfad, ZUGANG, "GetChildAtIndex", alsArgumente("(i)", stelle))
+
+    def lasse_geschehen(self, sekunden, bis=lambda: False):
+        """Takes in events for that long, or until the condition holds after one of them."""
+        vorbei = []
+        wecker = GLib.timeout_add(int(sekunden * 1000), lambda: vorbei.append(True) or GLib.SOURCE_CONTINUE)
         umlauf = GLib.MainContext.default()
-        while time.monotonic() < ende:
-            if not umlauf.iteration(False):
-                time.sleep(0.002)
+        while not vorbei and not bis():
+            umlauf.iteration(True)
+        GLib.source_remove(wecker)
+
+    def warte_auf_neues(self):
+        """Waits until the program tells of something, though not for long: not every change is told."""
+        bisher = self.gehört
+        self.lasse_geschehen(0.1, lambda: self.gehört > bisher)
+        self.lasse_geschehen(0.02)  # what belongs to it comes at once
 
     def warte_bis(self, bedingung, frist=10.0):
         """Waits until the condition holds; whether it did in time."""
         ende = time.monotonic() + frist
         while not (erfüllt := bedingung()) and time.monotonic() < ende:
-            self.lasse_geschehen(0.02)
+            self.warte_auf_neues()
         return erfüllt
 
     # --- the program -------------------------------------------------------------------------------------------
@@ -169,8 +189,9 @@ class Leser:
         # the frame stays active under the windows that stand over it
         return sorted(offene, key=lambda einer: (einer.ist("aktiv"), einer.rolle != "frame"))
 
-    def baum(self, wurzel=None):
-        """The window that is in use (or `wurzel`) with everything in it that is to be seen."""
+    def baum(self, wurzel=None, ganz=False):
+        """The window that is in use (or `wurzel`) with everything in it that is to be seen; `ganz`: with all that the
+        rules ask for, which takes twice the time."""
         if wurzel is None:
             fenster = self.fenster()
             if not fenster:
@@ -188,23 +209,35 @@ class Leser:
             reihe = [einer for einer in nächste if einer.ist("zu sehen")]
             for einer in reihe:
                 einer.eltern.kinder.append(einer)
+        if ganz:
+            self.lies_rest(list(wurzel.alle()))
         return wurzel
 
     def lies(self, knoten):
-        """Fills the objects with their answers."""
+        """Fills the objects with role, name and states."""
         fragen = []
         for einer in knoten:
             p = einer.pfad
             fragen += [(p, ZUGANG, "GetRoleName", None), self.eigenschaft(p, ZUGANG, "Name"),
-                       self.eigenschaft(p, ZUGANG, "Description"), (p, ZUGANG, "GetState", None),
-                       (p, ZUGANG, "GetInterfaces", None), (p, ZUGANG, "GetRelationSet", None)]
+                       (p, ZUGANG, "GetState", None)]
         antworten = iter(self.frage_alle(fragen))
         for einer in knoten:
-            rolle, name, beschreibung, zustand, schnittstellen, beziehungen = (next(antworten) for _ in range(6))
+            rolle, name, zustand = (next(antworten) for _ in range(3))
             einer.rolle = rolle[0] if rolle else "invalid"
             einer.name = name[0] if name else ""
-            einer.beschreibung = beschreibung[0] if beschreibung else ""
             einer.zustand = alsZustände(zustand[0] if zustand else [0, 0])
+
+    def lies_rest(self, knoten):
+        """Fills the objects with what else they say of themselves."""
+        fragen = []
+        for einer in knoten:
+            p = einer.pfad
+            fragen += [self.eigenschaft(p, ZUGANG, "Description"), (p, ZUGANG, "GetInterfaces", None),
+                       (p, ZUGANG, "GetRelationSet", None)]
+        antworten = iter(self.frage_alle(fragen))
+        for einer in knoten:
+            beschreibung, schnittstellen, beziehungen = (next(antworten) for _ in range(3))
+            einer.beschreibung = beschreibung[0] if beschreibung else ""
             einer.schnittstellen = schnittstellen[0] if schnittstellen else []
             einer.etiketten = [ziel[1] for art, ziele in (beziehungen[0] if beziehungen else [])
                                if art == BESCHRIFTET_VON for ziel in ziele if ziel[1] != NICHTS]
@@ -218,10 +251,14 @@ class Leser:
         antwort = self.frage(knoten.pfad, ZUGANG, "GetState")
         return alsZustände(antwort[0] if antwort else [0, 0])
 
+    def namen(self, knoten):
+        """The names that they have now."""
+        antworten = self.frage_alle([self.eigenschaft(einer.pfad, ZUGANG, "Name") for einer in knoten])
+        return [antwort[0] if antwort else "" for antwort in antworten]
+
     def name(self, knoten):
         """The name that it has now."""
-        antwort = self.frage_alle([self.eigenschaft(knoten.pfad, ZUGANG, "Name")])[0]
-        return antwort[0] if antwort else ""
+        return self.namen([knoten])[0]
 
     def benenne(self, pfad):
         """How a message calls an object that was met outside the tree."""
@@ -246,6 +283,12 @@ class Leser:
         """Asks the program to put the focus there; its answer."""
         antwort = self.frage(knoten.pfad, BAUSTEIN, "GrabFocus")
         return bool(antwort and antwort[0])
+
+
+@cache
+def alsArgumente(form, *werte):
+    """Arguments of a call: few, and asked with again and again."""
+    return GLib.Variant(form, werte)
 
 
 def alsZustände(wörter):

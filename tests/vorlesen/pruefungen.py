@@ -127,8 +127,7 @@ def prüfeEltern(wurzel, leser):
 def prüfeVeralteteStellen(wurzel, leser):
     """Asked for a child that is no longer there, every element answers and nothing breaks."""
     alle = list(wurzel.alle())
-    fragen = [(k.pfad, ZUGANG, "GetChildAtIndex", GLib.Variant("(i)", (len(k.kinder) + mehr,)))
-              for k in alle for mehr in (0, 1, 2, 5, 1000)]
+    fragen = [leser.kind(k.pfad, len(k.kinder) + mehr) for k in alle for mehr in (0, 1, 2, 5, 1000)]
     leser.frage_alle(fragen)
     return []
 
@@ -204,11 +203,10 @@ def prüfeAntworten(wurzel, leser, erwartet):
         befunde.append((None, f"{len(felder)} Antwortfelder sprechen, {erwartet} sind da"))
     for _ in ANTWORTEN if felder else ():
         leser.ereignisse.clear()
-        vorher = [leser.name(k) for k in felder]
+        vorher = leser.namen(felder)
         leser.frage_alle([leser.frage_nach_druck(k) for k in felder])
         warteAufRuhe(leser)
-        for k, alt in zip(felder, vorher):
-            neu = leser.name(k)
+        for k, alt, neu in zip(felder, vorher, leser.namen(felder)):
             stelle = ANTWORTEN.index(alt) if alt in ANTWORTEN else -1
             if stelle < 0 or neu != ANTWORTEN[(stelle + 1) % 3]:
                 befunde.append((k, f"nach '{alt}' kommt '{neu}' ({frage(wurzel, k)})"))

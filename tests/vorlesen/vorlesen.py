@@ -1,10 +1,10 @@
 #!/usr/bin/python3
 """Meets the program as a screen reader does, on all its screens, and counts what it does not say.
 
-vorlesen.py PROGRAMM SZENARIO [SCHRIFT] [SEKUNDEN]
+vorlesen.py PROGRAMM SZENARIO [SCHRIFT] [WECHSEL]
 
 SCHRIFT is the size of the desktop's font in percent. At 100 every rule is checked on every screen; then, at any size,
-pages change for SEKUNDEN while readers fetch children that may be gone by then. Exit status 1 on any finding.
+pages change WECHSEL times while readers fetch children that may be gone by then. Exit status 1 on any finding.
 TOLVEK_VORLESEN_BILD names a picture that is taken where the way does not go on.
 """
 
@@ -24,16 +24,14 @@ if "TOLVEK_VORLESEN" not in os.environ:  # a session bus of its own, with the ac
 
 sys.path.insert(0, str(Path(__file__).parent))
 
-from gi.repository import GLib
-
 import pruefungen
-from baum import NICHTS, ZUGANG, Leser, Verstummt
+from baum import NICHTS, Leser, Verstummt
 from buehne import Bühne
 from weg import SEITEN, Verlaufen, Weg, prüfeStation
 
 LÄUFER = 100  # readers at the same time
 SCHRITTE = 12  # of each, for one change of the page
-MINDESTENS = 12  # pages change, however slow the machine is
+WECHSEL = 15  # of the page, there and back: every one comes and goes
 STELLEN = (0, 0, 0, 1, 1, 2, 3, 4, 6, 9)  # children that they ask for, there or no longer there
 
 
@@ -56,25 +54,21 @@ class Zähler:
         print(f"{schirm}: {self.anzahl - vorher} Befunde ({time.monotonic() - beginn:.1f} s)", flush=True)
 
 
-def bedränge(leser, weg, sekunden):
+def bedränge(leser, weg, wechsel):
     """Pages change while readers go down the tree from place to place, as it was a moment ago. The number of their
-    walks from a window to a leaf (or to an object that is gone), and of the pages that have changed."""
+    walks from a window to a leaf (or to an object that is gone)."""
     zufall = random.Random(7)
     weg.zurBetreuung()
     oben = weg.wurzel.pfad
     läufer = [oben] * LÄUFER
-    gänge = wechsel = 0
+    gänge = 0
     knöpfe = itertools.cycle(anfang for knopf in SEITEN.values() for anfang in (knopf, "Exit"))
-    ende = time.monotonic() + sekunden
-    while time.monotonic() < ende or wechsel < MINDESTENS:
-        anfang = next(knöpfe)
+    for anfang in itertools.islice(knöpfe, wechsel):
         if not leser.warte_bis(lambda: weg.schau() is not None and weg.knopf(anfang) is not None, 10):
             raise Verlaufen(f"bei den wechselnden Seiten fehlt der Knopf '{anfang}'")
         druck = leser.frage_nach_druck(weg.knopf(anfang))
-        wechsel += 1
         for schritt in range(SCHRITTE):
-            fragen = [(pfad, ZUGANG, "GetChildAtIndex", GLib.Variant("(i)", (zufall.choice(STELLEN),)))
-                      for pfad in läufer]
+            fragen = [leser.kind(pfad, zufall.choice(STELLEN)) for pfad in läufer]
             if schritt == 1:  # the page changes in the middle of what the readers ask
                 fragen.insert(len(fragen) // 2, druck)
             antworten = leser.frage_alle(fragen)
@@ -84,7 +78,7 @@ def bedränge(leser, weg, sekunden):
                 unten = antwort is None or antwort[0][1] == NICHTS
                 läufer[i] = oben if unten else antwort[0][1]
                 gänge += unten
-    return gänge, wechsel
+    return gänge
 
 
 def beginne(leser, bühne, prozent, leer=False):
@@ -99,7 +93,7 @@ def beginne(leser, bühne, prozent, leer=False):
 def main():
     programm, szenario = sys.argv[1], sys.argv[2]
     prozent = int(sys.argv[3]) if len(sys.argv) > 3 else 100
-    sekunden = float(sys.argv[4]) if len(sys.argv) > 4 else 6
+    wechsel = int(sys.argv[4]) if len(sys.argv) > 4 else WECHSEL
     for werkzeug in ("Xvfb", "openbox", "xdotool"):
         if shutil.which(werkzeug) is None:
             sys.exit(f"{werkzeug} fehlt: werkzeug/einrichten.sh")
@@ -116,7 +110,7 @@ def main():
             weg.ganzer()
         else:
             weg.warte_auf("Hauptmenü")
-        gänge, wechsel = bedränge(leser, weg, sekunden)
+        gänge = bedränge(leser, weg, wechsel)
         print(f"{gänge} Gänge im Baum, während {wechsel} Seiten wechselten", flush=True)
     except Verlaufen as fehler:
         zähler.nimm("Weg", [(None, str(fehler))])

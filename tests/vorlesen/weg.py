@@ -50,9 +50,9 @@ class Weg:
 
     # --- finding and pressing ----------------------------------------------------------------------------------
 
-    def schau(self):
-        """Reads the window that is in use."""
-        self.wurzel = self.leser.baum()
+    def schau(self, ganz=False):
+        """Reads the window that is in use; `ganz`: with all that the rules ask for."""
+        self.wurzel = self.leser.baum(ganz=ganz)
         return self.wurzel
 
     def knopf(self, anfang):
@@ -82,6 +82,7 @@ class Weg:
         if knopf is None:
             raise Verlaufen(f"Knopf '{anfang}' fehlt")
         self.leser.drücke(knopf)
+        self.leser.warte_auf_neues()
 
     def gehe(self, anfang, schirm, wort=None):
         """Presses the button that leads to the screen and visits it."""
@@ -90,8 +91,8 @@ class Weg:
         self.besuche(schirm, self)
 
     def zurück(self, anfang, schirm):
-        """Leaves by the button, back to a screen that has been visited; boxes on the way are confirmed."""
-        self.schau()
+        """Leaves by the button of the screen that was looked at last, back to one that has been visited; boxes on the
+        way are confirmed."""
         self.drücke(anfang)
 
         def ist_da():
@@ -167,6 +168,7 @@ class Weg:
         for erwartet in (None, text):
             self.drücke("Klienten bearbeiten")
             self.warte_auf("Stammdaten")
+            self.schau(ganz=True)
             feld = next(k for k in self.wurzel.alle() if k.rolle == "text" and k.name == frage)
             if erwartet is not None and feld.text != erwartet:
                 raise Verlaufen(f"in '{frage}' steht '{feld.text}' statt des diktierten '{erwartet}'")
@@ -237,7 +239,7 @@ def prüfeStation(schirm, weg):
     leser, bühne = weg.leser, weg.bühne
     _, antworten, band = STATIONEN[schirm]
     befunde = []
-    weg.schau()
+    weg.schau(ganz=True)
     for prüfe in (pruefungen.prüfeNamen, pruefungen.prüfeUnterscheidbar, pruefungen.prüfeFokusDa,
                   pruefungen.prüfeRollen, pruefungen.prüfeWerte, pruefungen.prüfeEltern,
                   pruefungen.prüfeVeralteteStellen):

@@ -166,14 +166,15 @@ void Kartenreihe::ordne()
     }
     const bool nebeneinander = nötig <= width();
     m_reihe->setDirection(nebeneinander ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    for (int i = 0; i < m_reihe->count(); ++i) {
-        auto& widget = *m_spalten[static_cast<std::size_t>(i)].widget;
-        const int mindestens = widget.minimumSizeHint().width();
-        const int höchstens = std::max(mindestens, m_spalten[static_cast<std::size_t>(i)].höchstbreite);
-        widget.setMaximumWidth(höchstens);
-        const int gern = std::clamp(widget.sizeHint().width(), mindestens, höchstens);
-        // by its place: by its widget the row would ask to be laid out even where nothing has changed, and so without
-        // end
-        m_reihe->setStretch(i, nebeneinander ? gern : 0);
+    for (int stelle = 0; stelle < m_reihe->count(); ++stelle) {
+        const auto& spalte = m_spalten[static_cast<std::size_t>(stelle)];
+        const int mindestens = spalte.widget->minimumSizeHint().width();
+        const int höchstens = std::max(mindestens, spalte.höchstbreite);
+        spalte.widget->setMaximumWidth(höchstens);
+        const int gern = std::clamp(spalte.widget->sizeHint().width(), mindestens, höchstens);
+        // the layout asks to be laid out again whenever it is told a stretch, the one that it has included
+        if (const int anteil = nebeneinander ? gern : 0; m_reihe->stretch(stelle) != anteil) {
+            m_reihe->setStretch(stelle, anteil);
+        }
     }
 }

@@ -17,22 +17,22 @@ std::vector<std::string> alle(std::string_view inhalt)
     return ergebnis;
 }
 
-using Liste = std::vector<std::string>;
+using Zeilenliste = std::vector<std::string>;
 
 } // namespace
 
 TEST(Zeilen, AlleZeilenenden)
 {
-    EXPECT_EQ(alle("a\r\nb\nc\rd"), (Liste{"a", "b", "c", "d"}));
-    EXPECT_EQ(alle("a\r\n"), (Liste{"a"}));
-    EXPECT_EQ(alle(""), Liste{});
+    EXPECT_EQ(alle("a\r\nb\nc\rd"), (Zeilenliste{"a", "b", "c", "d"}));
+    EXPECT_EQ(alle("a\r\n"), (Zeilenliste{"a"}));
+    EXPECT_EQ(alle(""), Zeilenliste{});
 }
 
 TEST(Zeilen, LeereZeilenSindZeilen)
 {
-    EXPECT_EQ(alle("\r\n\r\na\n\n"), (Liste{"", "", "a", ""}));
-    EXPECT_EQ(alle("\r\r"), (Liste{"", ""}));
-    EXPECT_EQ(alle("a\n\rb"), (Liste{"a", "", "b"}));
+    EXPECT_EQ(alle("\r\n\r\na\n\n"), (Zeilenliste{"", "", "a", ""}));
+    EXPECT_EQ(alle("\r\r"), (Zeilenliste{"", ""}));
+    EXPECT_EQ(alle("a\n\rb"), (Zeilenliste{"a", "", "b"}));
 }
 
 TEST(Zeilen, NummerUndPosition)

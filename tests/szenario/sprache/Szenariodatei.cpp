@@ -8,7 +8,7 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 
 namespace {
 
@@ -180,6 +180,8 @@ Szenario liesSzenario(const std::filesystem::path& pfad)
     if (!datei || std::filesystem::is_directory(pfad)) {
         throw Sprachfehler(0, "eine lesbare Datei");
     }
-    const std::string text{std::istreambuf_iterator<char>(datei), std::istreambuf_iterator<char>()};
+    std::ostringstream inhalt;
+    inhalt << datei.rdbuf();
+    const auto text = inhalt.str();
     return {pfad, liesAnweisungen(text)};
 }
