@@ -9,6 +9,7 @@
 #include "platform/qt/Vorlesen.h"
 
 #include <QAbstractItemView>
+#include <QCompleter>
 #include <QFocusEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -71,6 +72,9 @@ void Auswahlbox::macheTippbar()
     // the program ends.
     auto* zeile = new QLineEdit;
     zeile->ensurePolished();
+    // It makes a completer for a line that has none, dearer than the box itself, and all for nothing.
+    static QCompleter keiner;
+    zeile->setCompleter(&keiner);
     setLineEdit(zeile);
     setInsertPolicy(QComboBox::NoInsert);
     setCompleter(nullptr);

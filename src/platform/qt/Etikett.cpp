@@ -5,7 +5,7 @@
 #include "platform/qt/Stil.h"
 #include "platform/qt/Umschrift.h"
 
-#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -130,9 +130,54 @@ void Etikett::brichAmBindestrich()
     zeigeText(text());
 }
 
+const Etikett::Textmaß& Etikett::textmaß() const
+{
+    if (m_maß.text != text() || m_maß.schrift != font()) {
+        constexpr int endlos = QWIDGETSIZE_MAX;
+        const QRect zeile = fontMetrics().boundingRect(0, 0, endlos, endlos, Qt::AlignLeft, text());
+        m_maß = {text(), font(), QFontMetricsF(font()).horizontalAdvance(text()), zeile.height()};
+    }
+    return m_maß;
+}
+
+qreal Etikett::textbreite() const
+{
+    return textmaß().breite;
+}
+
+/// What the base class leaves free round the text.
+QSize Etikett::rand() const
+{
+    const auto ränder = contentsMargins();
+    const int einzug = std::max(0, indent());
+    const bool hebt = alignment().testFlag(Qt::AlignTop) || alignment().testFlag(Qt::AlignBottom);
+    return QSize(ränder.left() + ränder.right() + einzug, ränder.top() + ränder.bottom() + (hebt ? einzug : 0)) +
+           QSize(2 * margin(), 2 * margin());
+}
+
+bool Etikett::stehtInEinerZeile(int breite) const
+{
+    return textbreite() <= breite && !text().contains(QChar('\n'));
+}
+
+/// A layout asks again and again, for every width that it considers; the base class would break the text each time.
+int Etikett::heightForWidth(int breite) const
+{
+    return wordWrap() && stehtInEinerZeile(breite - rand().width())
+               ? std::max(textmaß().zeilenhöhe + rand().height(), minimumHeight())
+               : QLabel::heightForWidth(breite);
+}
+
 QSize Etikett::sizeHint() const
 {
-    return m_umbruchbreite > 0 ? QSize(m_umbruchbreite, heightForWidth(m_umbruchbreite)) : QLabel::sizeHint();
+    if (m_umbruchbreite > 0) {
+        return {m_umbruchbreite, heightForWidth(m_umbruchbreite)};
+    }
+    if (hasHeightForWidth()) { // the base class would look for the finest proportion of a text in several lines
+        const int breite = qCeil(textbreite()) + rand().width();
+        return {breite, heightForWidth(breite)};
+    }
+    return QLabel::sizeHint();
 }
 
 QSize Etikett::minimumSizeHint() const
@@ -141,7 +186,7 @@ QSize Etikett::minimumSizeHint() const
         return sizeHint();
     }
     constexpr double absatzbreite = 30; // lines that somebody has broken by hand are no name
-    const QSize ganze = QLabel::minimumSizeHint();
+    const QSize ganze = hasHeightForWidth() ? sizeHint() : QLabel::minimumSizeHint();
     const double höchstens = text().contains(QChar('\n')) ? absatzbreite : m_mindestbreite;
     return {std::min(ganze.width(), em(höchstens)), ganze.height()};
 }
@@ -164,7 +209,11 @@ QRect Etikett::textplatz() const
 
 QString Etikett::gezeigterText() const
 {
-    return kürze(text(), textplatz().size(), font(), wordWrap());
+    if (!wordWrap() && QLabel::sizeHint().boundedTo(size()) == QLabel::sizeHint()) {
+        return text(); // it has all that it wants, which the layout has measured
+    }
+    const QSize platz = textplatz().size();
+    return stehtInEinerZeile(platz.width()) ? text() : kürze(text(), platz, font(), wordWrap());
 }
 
 void Etikett::paintEvent(QPaintEvent* ereignis)

@@ -20,10 +20,13 @@ public:
     void setzeMindestbreite(double breite) { m_mindestbreite = breite; }
     /// The text as it is painted.
     QString gezeigterText() const;
+    /// How wide the text is where nothing breaks it.
+    qreal textbreite() const;
     /// A row of the diagnosis listing paints the row's kind behind the text.
     void seiListenzelle() { m_istListenzelle = true; }
 
     bool hasHeightForWidth() const override { return wordWrap() && m_umbruchbreite == 0; }
+    int heightForWidth(int breite) const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -38,6 +41,17 @@ private:
     void zeigeText(const QString& text);
     void zeichneZeilenart();
     QRect textplatz() const;
+    QSize rand() const;
+    bool stehtInEinerZeile(int breite) const;
+
+    /// Of the text in one line. To measure is the dearest part of a layout: once for each text and font.
+    struct Textmaß {
+        QString text;
+        QFont schrift;
+        qreal breite = 0;
+        int zeilenhöhe = 0;
+    };
+    const Textmaß& textmaß() const;
 
     Beschriftung* m_element = nullptr;
     Ansicht* m_ansicht = nullptr;
@@ -46,4 +60,5 @@ private:
     double m_mindestbreite = 4;
     bool m_istListenzelle = false;
     bool m_gedrückt = false;
+    mutable Textmaß m_maß;
 };

@@ -3,6 +3,8 @@
 #include "platform/qt/Stil.h"
 
 #include <QEvent>
+#include <QPaintEvent>
+#include <QPainter>
 
 #include <algorithm>
 #include <utility>
@@ -38,6 +40,18 @@ void Karte::setzeBreite(int breite)
 {
     m_breite = breite;
     setSizePolicy(QSizePolicy::Maximum, sizePolicy().verticalPolicy());
+}
+
+/// What changes in a card is painted anew with the card behind it, whose round border costs more than the rest.
+void Karte::paintEvent(QPaintEvent* ereignis)
+{
+    constexpr double randbreite = 0.4; // more than the border is round
+    const int rand = em(randbreite);
+    if (rect().adjusted(rand, rand, -rand, -rand).contains(ereignis->rect())) {
+        QPainter(this).fillRect(ereignis->rect(), farben().flaeche);
+    } else {
+        QGroupBox::paintEvent(ereignis);
+    }
 }
 
 QSize Karte::sizeHint() const

@@ -28,6 +28,9 @@ public:
     void setzeBreite(int breite);
     QSize sizeHint() const override;
 
+protected:
+    void paintEvent(QPaintEvent* ereignis) override;
+
 private:
     int m_breite = 0;
 };

@@ -19,6 +19,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -96,6 +97,9 @@ void QtOberfläche::ereignis(const std::function<void()>& aktion)
     const geduld::Handlung handlung;
     if (m_ablauf.ereignis(aktion)) {
         gleicheFokusAb();
+    }
+    if (std::exchange(m_istSeiteNeu, false)) {
+        ordne(); // a page that is painted before would be painted again, part by part
     }
 }
 
@@ -193,6 +197,7 @@ void QtOberfläche::zeichneSeite(Bildschirm* bildschirm)
     seiten.setCurrentWidget(platz == nullptr ? seiten.widget(0) : platz->fenster);
     if (m_seite != bildschirm) {
         m_seite = bildschirm;
+        m_istSeiteNeu = true;
         zeichneMenü(bildschirm);
     }
     m_fenster.menuBar()->setEnabled(platz != nullptr && m_folge.istFrei(*bildschirm));
@@ -235,7 +240,9 @@ void QtOberfläche::zeichneRahmen()
             const QSize rand = fensterrand();
             const QSize größe(alsPixel(m_rahmen.breite()), alsPixel(m_rahmen.höhe()));
             const QSize platz = m_fenster.screen()->availableSize() - rand;
-            m_fenster.resize(größe.boundedTo(platz));
+            if (const QSize neue = größe.boundedTo(platz); neue != m_fenster.size() || !m_fenster.isVisible()) {
+                ohneZuMalen([&] { m_fenster.resize(neue); });
+            }
             m_fenster.move(
                 inDenSchirm({alsPixel(m_rahmen.links()), alsPixel(m_rahmen.oben())}, m_fenster.size() + rand));
         }
@@ -244,8 +251,18 @@ void QtOberfläche::zeichneRahmen()
             constexpr int bisDerRandDaIst = 300;
             QTimer::singleShot(bisDerRandDaIst, &m_fenster, [this] { zeichneRahmen(); });
         }
-        m_fenster.setVisible(m_rahmen.istSichtbar());
+        if (m_rahmen.istSichtbar() != m_fenster.isVisible()) {
+            ohneZuMalen([this] { m_fenster.setVisible(m_rahmen.istSichtbar()); });
+        }
     });
+}
+
+/// Some window systems ask for a picture on the spot, of what is still being changed.
+void QtOberfläche::ohneZuMalen(const std::function<void()>& änderung)
+{
+    m_fenster.setUpdatesEnabled(false);
+    änderung();
+    m_fenster.setUpdatesEnabled(true);
 }
 
 /// What the desktop puts around the window, so that the bar with OK and Exit stays on a small screen; a title bar
@@ -381,4 +398,5 @@ void QtOberfläche::ordne() const
     for (int i = 0; i < runden; ++i) {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater); // of what has been shown
 }

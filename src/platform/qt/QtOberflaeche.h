@@ -74,6 +74,7 @@ private:
     void zeichneSeite(Bildschirm* bildschirm);
     void zeichneMenü(const Bildschirm* bildschirm);
     void zeichneRahmen();
+    void ohneZuMalen(const std::function<void()>& änderung);
     QSize fensterrand() const;
     void platziereKind(const Platz& platz);
     void entlade(const Bildschirm& bildschirm);
@@ -91,6 +92,7 @@ private:
     Rahmenfenster m_fenster;
     std::vector<Platz> m_plätze;
     const Bildschirm* m_seite = nullptr; ///< whose page the frame shows
+    bool m_istSeiteNeu = false;          ///< it has not been laid out yet
     std::vector<QMenu*> m_menüs;
     bool m_setztFokus = false; ///< the focus that changes is the program's own doing
     Eingabewächter m_wächter;

@@ -154,9 +154,9 @@ QScrollArea* Ansicht::baueSeite(QWidget* eltern)
     auto* band = baueBand(*this, m_wurzel); // before the body: the order in which they are read out
     auto* blatt = new Seitenblatt(m_wurzel);
     auto* inhalt = new QWidget(blatt->viewport());
-    Anordner(*this, *inhalt, !m_bildschirm.istKindfenster).baueSeite(m_bildschirm.aufbau, *new QVBoxLayout(inhalt));
-    blatt->setWidget(inhalt);
+    blatt->setWidget(inhalt); // while it is empty: what stands in it would be laid out for a size that it never has
     inhalt->setAutoFillBackground(false);
+    Anordner(*this, *inhalt, !m_bildschirm.istKindfenster).baueSeite(m_bildschirm.aufbau, *new QVBoxLayout(inhalt));
     stockwerke->addWidget(band);
     stockwerke->addWidget(blatt, 1);
     stockwerke->addWidget(baueLeiste(*this, m_wurzel));

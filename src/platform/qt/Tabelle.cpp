@@ -83,7 +83,7 @@ Antwortzeile::Antwortzeile(const Anordnung& zeile, const Anordnung& tabelle, con
 
 int Antwortzeile::bevorzugteBeschriftungsbreite() const
 {
-    return m_beschriftung.fontMetrics().horizontalAdvance(m_beschriftung.text()) + em(0.8);
+    return qRound(m_beschriftung.textbreite()) + em(0.8);
 }
 
 void Antwortzeile::paintEvent(QPaintEvent* /*ereignis*/)
@@ -103,6 +103,10 @@ Tabelle::Tabelle(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern)
       m_mindesthöhe(static_cast<int>(std::min(zeilenInSicht, tabelle.teile.size())) * zeilenhöhe(tabelle))
 {
     auto* blatt = new QWidget(viewport());
+    setWidgetResizable(true);
+    setWidget(blatt); // while it is empty: the rows would be laid out for a width that they never have
+    viewport()->setAutoFillBackground(false);
+    blatt->setAutoFillBackground(false);
     auto* zeilen = ohneRand(new QVBoxLayout(blatt));
     for (const auto& zeile : tabelle.teile) {
         m_zeilen.push_back(new Antwortzeile(zeile, tabelle, *m_kopf, ansicht, blatt));
@@ -116,10 +120,6 @@ Tabelle::Tabelle(const Anordnung& tabelle, Ansicht& ansicht, QWidget* eltern)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
     setViewportMargins(0, m_kopf->sizeHint().height(), 0, 0);
-    setWidgetResizable(true);
-    setWidget(blatt);
-    viewport()->setAutoFillBackground(false);
-    blatt->setAutoFillBackground(false);
 }
 
 QSize Tabelle::sizeHint() const

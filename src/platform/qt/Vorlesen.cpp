@@ -115,8 +115,9 @@ void meldeWurzel(QWidget& wurzel, Ansicht& ansicht)
 Ansicht* ansichtUm(const QWidget& widget)
 {
     for (const auto* um = &widget; um != nullptr; um = um->parentWidget()) {
-        if (const auto ansicht = um->property(schlüsselAnsicht); ansicht.isValid()) {
-            return static_cast<Ansicht*>(ansicht.value<void*>());
+        // the names first: the value of a property that is not there is looked for among all that the class has
+        if (um->dynamicPropertyNames().contains(schlüsselAnsicht)) {
+            return static_cast<Ansicht*>(um->property(schlüsselAnsicht).value<void*>());
         }
     }
     return nullptr;
