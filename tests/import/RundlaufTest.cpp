@@ -172,10 +172,7 @@ const std::vector<std::pair<int, std::vector<int>>> maßnahmen{
 
 class RundlaufTest : public Importfall {
 protected:
-    static std::string spalte(const std::string& zeile, int nummer)
-    {
-        return std::string(getFeld(zeile, nummer, ';'));
-    }
+    static std::string spalte(const std::string& zeile, int nummer) { return std::string(getFeld(zeile, nummer, ';')); }
 
     static std::string codeVon(const Codes& codes, std::string_view text)
     {

@@ -47,7 +47,7 @@ als_nutzer() {
 
 # A screen with a window manager.
 oeffne_anzeige() {
-    Xvfb -displayfd 5 -screen 0 1366x768x24 -nolisten tcp -ac 5> "$werk/anzeige" 2> "$werk/xvfb.log" &
+    Xvfb -displayfd 5 -screen 0 1366x768x24 -nolisten tcp -noreset -ac 5> "$werk/anzeige" 2> "$werk/xvfb.log" &
     kinder+=($!)
     erwarte "Xvfb starts" warte_auf 60 test -s "$werk/anzeige"
     DISPLAY=:$(cat "$werk/anzeige")

@@ -129,7 +129,8 @@ TEST(Satzgrenzen, DerLängsteSatzPaßtInEineZeile)
         betreuung += höchstlänge(feld);
     }
     EXPECT_LT(betreuung, satzgrenze::zeilenlänge);
-    EXPECT_LT(satzgrenze::memolänge + klientenfelder().size() * (satzgrenze::eingabelänge + 1), satzgrenze::zeilenlänge);
+    EXPECT_LT(satzgrenze::memolänge + klientenfelder().size() * (satzgrenze::eingabelänge + 1),
+              satzgrenze::zeilenlänge);
 }
 
 /// The whole list with texts and codes, in order.

@@ -8,8 +8,8 @@
 
 class Zwischenablage;
 
-/// The program that is looked for first, LibreOffice, and the argument by which it makes a new document of a file. One that
-/// works on the file itself has no place here: the file goes as soon as it has been read.
+/// The program that is looked for first, LibreOffice, and the argument by which it makes a new document of a file. One
+/// that works on the file itself has no place here: the file goes as soon as it has been read.
 struct Rechenaufruf {
     const char* name;
     const char* alsNeues;

@@ -165,7 +165,10 @@ public:
         if (m_kind == 0) {
             const int griff = open(ausgabe.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
             dup2(griff, 3);
-            execlp("Xvfb", "Xvfb", "-displayfd", "3", "-screen", "0", "1366x768x24", "-nolisten", "tcp", nullptr);
+            // without -noreset it starts anew whenever a question about its windows was the last client to go, and a
+            // spreadsheet program that is just coming up loses it
+            execlp("Xvfb", "Xvfb", "-displayfd", "3", "-screen", "0", "1366x768x24", "-nolisten", "tcp", "-noreset",
+                   nullptr);
             _exit(127);
         }
         warteBis([&] { return leseDatei(ausgabe).ends_with('\n'); }, 30);
