@@ -6,7 +6,6 @@
 
 #include <fstream>
 #include <iterator>
-#include <map>
 #include <ostream>
 #include <stdexcept>
 
@@ -36,19 +35,13 @@ void lege(Platte& platte, const std::filesystem::path& pfad, const std::vector<s
     platte.lege(pfad, Testlauf::alsInhalt(zeilen));
 }
 
-/// Read once: a disk with them is laid out some hundred times.
-const std::string& liesQuelle(const std::string& name)
+std::string liesQuelle(const std::string& name)
 {
-    static std::map<std::string, std::string> gelesene;
-    auto& inhalt = gelesene[name];
-    if (inhalt.empty()) {
-        std::ifstream strom(std::string(TOLVEK_QUELLEN) + "/anweisungen/" + name, std::ios::binary);
-        inhalt.assign(std::istreambuf_iterator<char>(strom), {});
-        if (inhalt.empty()) {
-            throw std::runtime_error("cannot read " + name);
-        }
+    std::ifstream strom(std::string(TOLVEK_QUELLEN) + "/anweisungen/" + name, std::ios::binary);
+    if (!strom) {
+        throw std::runtime_error("cannot read " + name);
     }
-    return inhalt;
+    return {std::istreambuf_iterator<char>(strom), {}};
 }
 
 /// Three clients; the second has two episodes and lines that its list doesn't show.

@@ -3,7 +3,6 @@
 #include "import/Altfelder.h"
 #include "import/Anweisungsdatei.h"
 
-#include <cctype>
 #include <fstream>
 #include <map>
 #include <set>
@@ -18,21 +17,30 @@ struct Bereich {
     char blatt;
     int von, bis;
 };
+
+/// Whether the letter names a file of the export.
+bool istBlatt(char zeichen)
+{
+    return zeichen == 'K' || zeichen == 'D';
+}
+
 std::vector<Bereich> bereiche(const std::string& text)
 {
     std::vector<Bereich> alle;
     constexpr auto ziffern = "0123456789";
-    for (auto ort = text.find_first_of(ziffern); ort != std::string::npos; ort = text.find_first_of(ziffern, ort)) {
+    std::size_t dahinter = 0; // behind the number before
+    for (auto ort = text.find_first_of(ziffern); ort != std::string::npos;
+         ort = text.find_first_of(ziffern, dahinter)) {
         const char blatt = ort > 0 ? text[ort - 1] : ' ';
+        const auto dazwischen = text.substr(dahinter, ort - dahinter);
         std::size_t länge = 0;
         const int zahl = std::stoi(text.substr(ort), &länge);
-        const bool beendet = ort > 1 && (text[ort - 1] == '-' || (std::isalpha(blatt) != 0 && text[ort - 2] == '-'));
-        if (beendet && !alle.empty()) {
+        if (!alle.empty() && dazwischen == (istBlatt(alle.back().blatt) ? std::string{'-', alle.back().blatt} : "-")) {
             alle.back().bis = zahl;
         } else {
             alle.push_back({blatt, zahl, zahl});
         }
-        ort += länge;
+        dahinter = ort + länge;
     }
     return alle;
 }
@@ -42,8 +50,7 @@ Ziele genannteZiele(const std::string& zelle)
 {
     Ziele ziele;
     for (const auto& bereich : bereiche(zelle)) {
-        for (int spalte = bereich.von; (bereich.blatt == 'K' || bereich.blatt == 'D') && spalte <= bereich.bis;
-             ++spalte) {
+        for (int spalte = bereich.von; istBlatt(bereich.blatt) && spalte <= bereich.bis; ++spalte) {
             ziele.insert(bereich.blatt + std::to_string(spalte));
         }
     }

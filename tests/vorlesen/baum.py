@@ -5,8 +5,8 @@ walks, so that an answer is always the program's own.
 """
 
 import time
-from functools import cache
 from dataclasses import dataclass, field
+from functools import cache
 
 from gi.repository import Gio, GLib
 

@@ -205,10 +205,11 @@ bool Auswahlbox::eventFilter(QObject* objekt, QEvent* ereignis)
         return QComboBox::eventFilter(objekt, ereignis);
     }
     const auto& taste = *static_cast<QKeyEvent*>(ereignis);
-    if (klapptAuf(taste) && ereignis->type() == QEvent::KeyPress) {
+    const bool klappt = klapptAuf(taste);
+    if (klappt && ereignis->type() == QEvent::KeyPress) {
         hidePopup();
     }
-    if (klapptAuf(taste) || taste.key() == listentasteDesBaukastens) {
+    if (klappt || taste.key() == listentasteDesBaukastens) {
         ereignis->accept();
         return true;
     }

@@ -209,7 +209,7 @@ QRect Etikett::textplatz() const
 
 QString Etikett::gezeigterText() const
 {
-    if (!wordWrap() && QLabel::sizeHint().boundedTo(size()) == QLabel::sizeHint()) {
+    if (const QSize gewünscht = QLabel::sizeHint(); !wordWrap() && gewünscht.boundedTo(size()) == gewünscht) {
         return text(); // it has all that it wants, which the layout has measured
     }
     const QSize platz = textplatz().size();

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 #include <fstream>
-#include <sstream>
+#include <iterator>
 
 namespace {
 
@@ -180,8 +180,6 @@ Szenario liesSzenario(const std::filesystem::path& pfad)
     if (!datei || std::filesystem::is_directory(pfad)) {
         throw Sprachfehler(0, "eine lesbare Datei");
     }
-    std::ostringstream inhalt;
-    inhalt << datei.rdbuf();
-    const auto text = inhalt.str();
+    const std::string text{std::istreambuf_iterator<char>(datei), std::istreambuf_iterator<char>()};
     return {pfad, liesAnweisungen(text)};
 }
