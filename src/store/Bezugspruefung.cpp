@@ -4,6 +4,7 @@
 #include "satz/Klientenfelder.h"
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 using namespace befundart;

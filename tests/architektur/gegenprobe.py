@@ -9,6 +9,7 @@ from pathlib import Path
 
 import leitfaden
 import regeln
+from einbindung import einbindung
 from haus import Haus
 
 LINKS = "unten|unten||the ground\noben|oben|unten|the roof\ntolvek7|.|oben|main.cpp: starts\n"
@@ -112,6 +113,35 @@ class Gegenprobe(unittest.TestCase):
             self.erwarte(regeln.elemente, 'src/oben/frmDach.h:2: the element comboOrt calls itself "comboWieder"',
                          'write comboOrt{*this, "comboOrt"_t', src__oben__frmDach_PUNKT_h="\n" + zeile + "\n")
         self.assertEqual(self.pruefe(regeln.elemente, src__oben__a_PUNKT_h='Elementreihe<A> triA{*this, "triA"_t, 1, 9};\n'), "")
+
+    def test_einbindung_fehlt(self):
+        """Found are a name, one of a namespace, a member of what is declared forward, a class's own header, and the standard's."""
+        unten = {"src__unten__Feld_PUNKT_h": "namespace feld::betr {\ninline constexpr int ende = 4;\n}\n"}
+        for datei in ("src__oben__a_PUNKT_cpp", "src__oben__a_PUNKT_h"):
+            ort = datei.replace("__", "/").replace("_PUNKT_", ".")
+            for zeile, name, kopf in (("Boden boden;", "Boden", "Boden"), ("std::array<Boden, 1> f(int);", "Boden", "Boden"),
+                                      ("int f() { return feld::betr::ende; }", "feld::betr::ende", "Feld"),
+                                      ("using namespace feld::betr;", "feld::betr", "Feld"),
+                                      ("struct Boden;\nvoid f(Boden& b) { b.lege(); }", "Boden", "Boden"),
+                                      ("struct Boden;\nvoid f(Boden* b) { g(dynamic_cast<Boden*>(b)); }", "Boden", "Boden"),
+                                      ("struct Boden;\nvoid f() { Boden b; }", "Boden", "Boden")):
+                nummer = 2 + zeile.count("\n")
+                self.erwarte(einbindung, f'{ort}:{nummer} uses {name} without reaching its header: '
+                             f'include "unten/{kopf}.h"', **unten, **{datei: "#include <array>\n" + zeile + "\n"})
+        self.erwarte(einbindung, 'src/oben/Dach.cpp:1 does not know its own header: include "oben/Dach.h"',
+                     src__oben__Dach_PUNKT_cpp="int f();\n")
+        self.erwarte(einbindung, "src/oben/a.cpp does not compile alone: it uses std::string, include <string>",
+                     src__oben__a_PUNKT_cpp="std::string f();\n")
+
+    def test_einbindung_genuegt(self):
+        """Enough are a header of ours that includes the header, a forward declaration, and a name of one's own; what is no
+        code uses nothing."""
+        for text in ('#include "oben/Dach.h"\nBoden boden;', "struct Boden;\nvoid f(Boden& boden);",
+                     "struct A {\n    struct Boden {};\n    Boden boden;\n};", "enum class A { Boden, Decke };",
+                     "void f(int Boden) { g(Boden); }", "void f(A a) { a.Boden(); }",
+                     '// Boden\nconst char* a = "Boden"; /* Boden\nBoden */ auto b = R"(Boden)";'):
+            for datei in ("src__oben__a_PUNKT_cpp", "src__oben__a_PUNKT_h"):
+                self.assertEqual(self.pruefe(einbindung, **{datei: text + "\n"}), "")
 
     def test_allein(self):
         self.erwarte(regeln.allein, "src/oben/a.h does not compile alone", "include in it what it uses",

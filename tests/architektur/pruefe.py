@@ -6,11 +6,12 @@ import sys
 
 import leitfaden
 import regeln
+from einbindung import einbindung
 from haus import Haus
 
 REGELN = {regel.__name__: regel for regel in (regeln.toolkit, regeln.system, regeln.dateien, regeln.pfeile,
-                                              regeln.positionen, regeln.elemente, regeln.sauber,
-                                              regeln.namen, leitfaden.bild, leitfaden.wege, leitfaden.glossar)}
+                                              regeln.positionen, regeln.elemente, einbindung,
+                                              regeln.sauber, regeln.namen, leitfaden.bild, leitfaden.wege, leitfaden.glossar)}
 
 
 def main(regel, wurzel, bau, compiler="g++"):

@@ -1,5 +1,7 @@
 #include "platform/mappe/Blatt.h"
 
+#include <iterator>
+
 const Feldplan alleFelder;
 
 Blatt::Zeile& Blatt::zeileFür(int zeile)

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstddef>
 #include <optional>
+#include <system_error>
 
 namespace {
 

@@ -2,6 +2,8 @@
 
 #include "platform/text/Zeichensatz.h"
 
+#include <QList>
+
 QString alsQString(std::string_view text)
 {
     QString ergebnis;

@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <limits>
+#include <system_error>
 
 namespace {
 
