@@ -18,10 +18,11 @@ ERKLAERUNG = re.compile(r"(?:template\s*)*(?:using (\w+) =|(?:class|struct|enum(
 NAME = re.compile(r"(?<![\w.:])(?<!->)(\w+_cast<(?:const )?)?((?:\w+::)*\w+)([&*>])?")
 VARIABLE = re.compile(r"\b(\w+)[&*>]+ (\w+)")
 ZUGRIFF = re.compile(r"\b(\w+)(?:\([^()]*\))?(?:\.|->)")
-# A name of the file's own: a class with its body, an alias; a function, member, parameter or local, which stands behind a type.
-KEIN_TYP = ("return|throw|case|new|delete|else|const|constexpr|consteval|static|inline|virtual|explicit|mutable|extern|friend|public|"
-            "private|protected|typename|operator|class|struct|co_return")
-EIGEN = re.compile(rf"\b(?:class|struct) (\w+)\b(?!::)(?=[^;(){{]*{{)|"
+# A name of the file's own: a class with its body; one of [several, names] or of a capture; an alias, function, member, parameter
+# or local, which stands behind a word that may be a type.
+KEIN_TYP = ("return|throw|case|new|delete|else|namespace|const|constexpr|consteval|static|inline|virtual|explicit|mutable|extern|"
+            "friend|public|private|protected|typename|operator|class|struct|co_return")
+EIGEN = re.compile(rf"\b(?:class|struct) (\w+)\b(?!::)(?=[^;(){{]*{{)|[\[,]\s*&?(\w+)(?=[\w\s,&]*\] ?[=:]| = )|"
                    rf"(?:\b(?!(?:{KEIN_TYP})\b)[^\W\d]\w*|(?<=[\w>)*])[>&*]|\.\.\.)\s+(?=(\w+)\b(?!::))")
 
 
@@ -55,7 +56,7 @@ class Quellen:
         self.vorweg = {datei: set(VORWEG.findall(text)) for datei, text in texte.items()}
         self.texte = {datei: VORWEG.sub("", text) for datei, text in texte.items()}
         self.variablen = {datei: set(VARIABLE.findall(text)) for datei, text in self.texte.items()}
-        self.eigen = {datei: {a or b for a, b in EIGEN.findall(text)} for datei, text in self.texte.items()}
+        self.eigen = {datei: {"".join(namen) for namen in EIGEN.findall(text)} for datei, text in self.texte.items()}
         self.koepfe = defaultdict(set)  # the headers that declare a name
         for kopf in filter(lambda datei: datei.endswith(".h"), texte):
             for name in erklaert(self.texte[kopf]):

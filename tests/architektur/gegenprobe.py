@@ -116,12 +116,13 @@ class Gegenprobe(unittest.TestCase):
 
     def test_einbindung_fehlt(self):
         """Found are a name, one of a namespace, a member of what is declared forward, a class's own header, and the standard's."""
-        unten = {"src__unten__Feld_PUNKT_h": "namespace feld::betr {\ninline constexpr int ende = 4;\n}\n"}
+        unten = {"src__unten__Feld_PUNKT_h": "namespace feld::betr {\ninline constexpr int ende = 4;\n}\nnamespace zahl {\n}\n"}
         for datei in ("src__oben__a_PUNKT_cpp", "src__oben__a_PUNKT_h"):
             ort = datei.replace("__", "/").replace("_PUNKT_", ".")
             for zeile, name, kopf in (("Boden boden;", "Boden", "Boden"), ("std::array<Boden, 1> f(int);", "Boden", "Boden"),
                                       ("int f() { return feld::betr::ende; }", "feld::betr::ende", "Feld"),
                                       ("using namespace feld::betr;", "feld::betr", "Feld"),
+                                      ("using namespace zahl;", "zahl", "Feld"),
                                       ("struct Boden;\nvoid f(Boden& b) { b.lege(); }", "Boden", "Boden"),
                                       ("struct Boden;\nvoid f(Boden* b) { g(dynamic_cast<Boden*>(b)); }", "Boden", "Boden"),
                                       ("struct Boden;\nvoid f() { Boden b; }", "Boden", "Boden")):
@@ -138,7 +139,8 @@ class Gegenprobe(unittest.TestCase):
         code uses nothing."""
         for text in ('#include "oben/Dach.h"\nBoden boden;', "struct Boden;\nvoid f(Boden& boden);",
                      "struct A {\n    struct Boden {};\n    Boden boden;\n};", "enum class A { Boden, Decke };",
-                     "void f(int Boden) { g(Boden); }", "void f(A a) { a.Boden(); }",
+                     "void f(int Boden) { g(Boden); }",
+                     "void f() { auto [a, Boden] = g(); h(Boden); }", "auto f = [Boden = 3] { return Boden; };", "void f(A a) { a.Boden(); }",
                      '// Boden\nconst char* a = "Boden"; /* Boden\nBoden */ auto b = R"(Boden)";'):
             for datei in ("src__oben__a_PUNKT_cpp", "src__oben__a_PUNKT_h"):
                 self.assertEqual(self.pruefe(einbindung, **{datei: text + "\n"}), "")
