@@ -116,19 +116,20 @@ class Gegenprobe(unittest.TestCase):
 
     def test_einbindung_fehlt(self):
         """Found are a name, one of a namespace, a member of what is declared forward, a class's own header, and the standard's."""
-        unten = {"src__unten__Feld_PUNKT_h": "namespace feld::betr {\ninline constexpr int ende = 4;\n}\nnamespace zahl {\n}\n"}
-        for datei in ("src__oben__a_PUNKT_cpp", "src__oben__a_PUNKT_h"):
-            ort = datei.replace("__", "/").replace("_PUNKT_", ".")
-            for zeile, name, kopf in (("Boden boden;", "Boden", "Boden"), ("std::array<Boden, 1> f(int);", "Boden", "Boden"),
-                                      ("int f() { return feld::betr::ende; }", "feld::betr::ende", "Feld"),
-                                      ("using namespace feld::betr;", "feld::betr", "Feld"),
-                                      ("using namespace zahl;", "zahl", "Feld"),
-                                      ("struct Boden;\nvoid f(Boden& b) { b.lege(); }", "Boden", "Boden"),
-                                      ("struct Boden;\nvoid f(Boden* b) { g(dynamic_cast<Boden*>(b)); }", "Boden", "Boden"),
-                                      ("struct Boden;\nvoid f() { Boden b; }", "Boden", "Boden")):
-                nummer = 2 + zeile.count("\n")
-                self.erwarte(einbindung, f'{ort}:{nummer} uses {name} without reaching its header: '
-                             f'include "unten/{kopf}.h"', **unten, **{datei: "#include <array>\n" + zeile + "\n"})
+        feld = ("namespace feld::betr {\ninline constexpr int ende = 4;\n}\nnamespace zahl {\n}\ntemplate <class T> class Regal : public Brett {};\n"
+                "static_assert(true);\n")
+        for datei, ort in (("src__oben__a_PUNKT_cpp", "src/oben/a.cpp"), ("src__oben__a_PUNKT_h", "src/oben/a.h")):
+            for text, name, kopf in (("Boden boden;", "Boden", "Boden"), ("std::array<Boden, 1> f(int);", "Boden", "Boden"),
+                                     ("int f() { return feld::betr::ende; }", "feld::betr::ende", "Feld"),
+                                     ("using namespace feld::betr;", "feld::betr", "Feld"), ("using namespace zahl;", "zahl", "Feld"),
+                                     ("Regal<int> regal;", "Regal", "Feld"),
+                                     ("struct Boden;\nvoid f() { Boden b; }", "Boden", "Boden"),
+                                     ("struct Boden;\nvoid f(Boden& b) { b.lege(); }", "Boden", "Boden"),
+                                     ("struct Boden;\nBoden& b(int);\nint f() { return b(3).lege(); }", "Boden", "Boden"),
+                                     ("struct Boden;\nvoid f(Boden* b) { g(dynamic_cast<Boden*>(b)); }", "Boden", "Boden")):
+                self.erwarte(einbindung, f'{ort}:{text.count(chr(10)) + 4} uses {name} without reaching its header: '
+                             f'include "unten/{kopf}.h"', src__unten__Feld_PUNKT_h=feld,
+                             **{datei: "/*\n*/\n#include <array>\n" + text + "\n"})
         self.erwarte(einbindung, 'src/oben/Dach.cpp:1 does not know its own header: include "oben/Dach.h"',
                      src__oben__Dach_PUNKT_cpp="int f();\n")
         self.erwarte(einbindung, "src/oben/a.cpp does not compile alone: it uses std::string, include <string>",
@@ -137,13 +138,19 @@ class Gegenprobe(unittest.TestCase):
     def test_einbindung_genuegt(self):
         """Enough are a header of ours that includes the header, a forward declaration, and a name of one's own; what is no
         code uses nothing."""
+        vor = {"src__unten__Vor_PUNKT_h": "struct Boden;\nvoid f(Boden& boden);\nstatic_assert(true);\n",
+               "src__oben__Klasse_PUNKT_h": "struct Klasse {\n    struct Boden {};\n    Boden f();\n};\n"}
         for text in ('#include "oben/Dach.h"\nBoden boden;', "struct Boden;\nvoid f(Boden& boden);",
+                     '#include "unten/Vor.h"\nvoid g(int& boden) { boden.lege(); }', "static_assert(true);",
                      "struct A {\n    struct Boden {};\n    Boden boden;\n};", "enum class A { Boden, Decke };",
-                     "void f(int Boden) { g(Boden); }",
-                     "void f() { auto [a, Boden] = g(); h(Boden); }", "auto f = [Boden = 3] { return Boden; };", "void f(A a) { a.Boden(); }",
-                     '// Boden\nconst char* a = "Boden"; /* Boden\nBoden */ auto b = R"(Boden)";'):
+                     "void f(int Boden) { g(Boden); }", "void f(const A<int>& Boden) { g(Boden); }",
+                     "void f(const A&... Boden) { g(Boden...); }", "void f() { auto [a, Boden] = g(); h(Boden); }",
+                     "auto f = [Boden = 3] { return Boden; };", "void f(A a) { a.Boden(); }", "void f(A* a) { a->Boden(); }",
+                     "// Boden()", "int a; /* Boden()\nBoden() */", 'auto a = "Boden()";', 'auto a = R"(a" Boden() "b)";'):
             for datei in ("src__oben__a_PUNKT_cpp", "src__oben__a_PUNKT_h"):
-                self.assertEqual(self.pruefe(einbindung, **{datei: text + "\n"}), "")
+                self.assertEqual(self.pruefe(einbindung, **vor, **{datei: text + "\n"}), "")
+        klasse = '#include "oben/Klasse.h"\nKlasse::Boden Klasse::f() { return Boden{}; }\n'
+        self.assertEqual(self.pruefe(einbindung, **vor, src__oben__Klasse_PUNKT_cpp=klasse), "")
 
     def test_allein(self):
         self.erwarte(regeln.allein, "src/oben/a.h does not compile alone", "include in it what it uses",
