@@ -1,6 +1,6 @@
 # The two commands for everyone are `make start` and `make test`; the others are their parts.
 
-.PHONY: start test abnahme demo bilder bauen einrichten pruefung windows windows-qt windows-test windows-paket bench ausfall format paket freigabe
+.PHONY: start test gcc pruefung windows bau-gcc bau-pruefung bau-windows abnahme demo bilder bauen einrichten windows-qt windows-test windows-paket bench ausfall format paket freigabe
 
 # The program and nothing else; its folder is Tolvek7/.
 start:
@@ -27,24 +27,38 @@ demo: einrichten
 bilder: bauen
 	werkzeug/handbuchbilder.sh
 
-# Every test: GCC, then Clang with the sanitizers, then what runs on Windows without windows.
+# Every test: GCC, Clang with the sanitizers, then what runs on Windows without windows. While the tests of one run, the
+# next is compiled with what they leave of the processors.
 test: einrichten
-	cmake --preset entwicklung
-	cmake --build --preset entwicklung
-	ctest --preset entwicklung
-	$(MAKE) pruefung
-	$(MAKE) windows
+	$(MAKE) --jobs=2 NACHEINANDER=1 gcc pruefung windows
 
-pruefung: einrichten
-	cmake --preset prüfung
-	cmake --build --preset prüfung
+gcc: bau-gcc
+	ctest --preset test
+
+pruefung: bau-pruefung
 	ctest --preset prüfung
 
 # Everything without windows, cross-built and run by wine.
-windows: einrichten
-	cmake --preset windows
-	cmake --build --preset windows
+windows: bau-windows
 	ctest --preset windows
+
+bau-gcc: einrichten
+	cmake --preset test
+	cmake --build --preset test
+
+bau-pruefung: einrichten
+	cmake --preset prüfung
+	nice cmake --build --preset prüfung
+
+bau-windows: einrichten
+	cmake --preset windows
+	nice cmake --build --preset windows
+
+ifdef NACHEINANDER
+bau-pruefung: bau-gcc
+bau-windows: bau-pruefung
+pruefung: gcc
+endif
 
 # The static Qt of the program for Windows, built once into a cache, and the build tree that uses it.
 windows-qt: einrichten

@@ -1,8 +1,8 @@
 # One target a folder: the link graph is the architecture.
 
-# The presets `start`, `prüfung` and `windows` (CMAKE_UNITY_BUILD) compile all files of a target as one, which takes a third of the
-# time; names that only one file should see must differ within a target for that. `entwicklung` compiles file by file,
-# so that a file of the program that includes too little is found, and the packages are built so.
+# Most presets (CMAKE_UNITY_BUILD) compile all files of a target as one, which takes half of the time; names that only one
+# file should see must differ within a target for that. `entwicklung` and the packages compile file by file; that no file
+# includes too little for that, a house rule sees (tests/architektur/einbindung.py).
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 0)
 
 set(TOLVEK_WARNUNGEN -Wall -Wextra -Wpedantic -Wconversion)
@@ -40,9 +40,7 @@ function(tolvek_ordner name)
   set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_compile_options(${name} PRIVATE ${TOLVEK_WARNUNGEN})
-  if(CMAKE_UNITY_BUILD)
-    # what is read once anyway is not compiled beforehand
-  elseif(ordner_QT)
+  if(ordner_QT)
     tolvek_vorab(${name} QT)
   elseif(name STREQUAL "platform_text")
     tolvek_vorab(${name})

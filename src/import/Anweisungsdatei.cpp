@@ -42,6 +42,11 @@ public:
         if (m_zuEnde) {
             scheitere("sie hat zu wenige Werte"_t);
         }
+        if (m_rest.starts_with(',')) { // nearly all values are empty
+            m_rest.remove_prefix(1);
+            ++m_nummer;
+            return {};
+        }
         überspringeLeerzeichen();
         std::string wert = m_rest.starts_with('"') ? inAnführung() : bisTrennung();
         überspringeLeerzeichen();

@@ -5,7 +5,8 @@ the files, which do not tell everything: overloads in two headers are one name, 
 import re
 from collections import defaultdict
 
-from regeln import EIGENER_INCLUDE, _standard
+from regeln import EIGENER_INCLUDE
+from standard import fehlender_standard
 
 UNGELESEN = re.compile(r'R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|(?<!\w)\'(?:\\.|[^\'\\\n])+\'|//[^\n]*|/\*.*?\*/|^[ \t]*#[^\n]*',
                        re.DOTALL | re.MULTILINE)
@@ -109,4 +110,4 @@ def einbindung(baum):
         includes[datei].append(kopf)
     quellen = Quellen(texte, includes)
     return ([fund for datei in texte for fund in quellen.fehlend(datei)]
-            + [fund for datei in texte if datei.endswith(".cpp") for fund in _standard(baum, datei)])
+            + [fund for datei in texte for fund in fehlender_standard(baum, datei)])

@@ -54,8 +54,9 @@ class Gegenprobe(unittest.TestCase):
             bau = Path(ordner, "bau")
             bau.mkdir()
             (bau / "haus.txt").write_text(links, encoding="utf-8")
-            befehl = {"file": f"{ordner}/src/oben/Dach.cpp", "command": f"g++ -std=c++20 -I{ordner}/src -o x -c Dach.cpp"}
-            (bau / "compile_commands.json").write_text(json.dumps([befehl]), encoding="utf-8")
+            befehle = [{"command": f"g++ -std=c++20 -Dim_ordner_{ziel}=1 -I{ordner}/src -o CMakeFiles/{ziel}.dir/a.o -c a.cpp"}
+                       for ziel in ("platform_qt", "platform_calc")]
+            (bau / "compile_commands.json").write_text(json.dumps(befehle), encoding="utf-8")
             return "\n".join(regel(regeln.Baum(ordner, Haus(bau / "haus.txt"), bau)))
 
     def erwarte(self, regel, *teile, **aenderungen):
@@ -132,8 +133,10 @@ class Gegenprobe(unittest.TestCase):
                              **{datei: "/*\n*/\n#include <array>\n" + text + "\n"})
         self.erwarte(einbindung, 'src/oben/Dach.cpp:1 does not know its own header: include "oben/Dach.h"',
                      src__oben__Dach_PUNKT_cpp="int f();\n")
-        self.erwarte(einbindung, "src/oben/a.cpp does not compile alone: it uses std::string, include <string>",
-                     src__oben__a_PUNKT_cpp="std::string f();\n")
+        for datei in ("src__oben__a_PUNKT_cpp", "src__oben__a_PUNKT_h"):
+            self.erwarte(einbindung, "does not compile alone: it uses std::string, include <string>",
+                         **{datei: "#include <vector>\nstd::string f();\n"})
+        self.erwarte(einbindung, "std::jthread: say in STANDARD", src__oben__a_PUNKT_h="#include <thread>\nstd::jthread f();\n")
 
     def test_einbindung_genuegt(self):
         """Enough are a header of ours that includes the header, a forward declaration, and a name of one's own; what is no
@@ -153,20 +156,13 @@ class Gegenprobe(unittest.TestCase):
         self.assertEqual(self.pruefe(einbindung, **vor, src__oben__Klasse_PUNKT_cpp=klasse), "")
 
     def test_allein(self):
-        self.erwarte(regeln.allein, "src/oben/a.h does not compile alone", "include in it what it uses",
-                     src__oben__a_PUNKT_h="Boden f();\n")
-        self.erwarte(regeln.allein, "it uses std::string, include <string>",
-                     src__oben__a_PUNKT_h="#include <vector>\nstd::string f();\n")
-        self.erwarte(regeln.allein, "std::jthread: say in STANDARD", src__oben__a_PUNKT_h="#include <thread>\nstd::jthread f();\n")
-
-    def test_allein_beim_bau(self):
-        """Only a source that is built, and begins with the header, has compiled it alone."""
-        kopf = {"src__oben__Dach_PUNKT_h": "Ziegel f();\n"}
-        nichts = "src/oben/Dach.h does not compile alone"
-        self.erwarte(regeln.allein, nichts, **kopf, src__oben__Dach_PUNKT_cpp='#include "unten/Boden.h"\n#include "oben/Dach.h"\n')
-        self.erwarte(regeln.allein, nichts, **kopf, src__oben__Dach_PUNKT_cpp='#include <string>\n#include "oben/Dach.h"\n')
-        self.erwarte(regeln.allein, nichts, **kopf, src__oben__First_PUNKT_cpp='#include "oben/Dach.h"\n')
-        self.assertNotIn(nichts, self.pruefe(regeln.allein, **kopf, src__oben__Dach_PUNKT_cpp='#include "oben/Dach.h"\n'))
+        """Held to what the folder is compiled with: the name that it defines is one that the header may use."""
+        links = LINKS + "platform_qt|platform/qt||windows\nplatform_calc|platform/calc||workbooks\n"
+        for ordner in ("qt", "calc"):
+            for text, fund in (("Ziegel f();\n", f"src/platform/{ordner}/a.h does not compile alone: include in it what it uses"),
+                               (f"int f() {{ return im_ordner_platform_{ordner}; }}\n", "")):
+                meldung = self.pruefe(regeln.allein, links, **{f"src__platform__{ordner}__a_PUNKT_h": text})
+                self.assertEqual(meldung.split(".\n")[0], fund)
 
     def test_sauber(self):
         for text in ("a \n", "\ta\n"):

@@ -108,98 +108,35 @@ def pfeile(baum):
     return funde
 
 
-# The headers, of which any brings the name of the standard library, for the names that our sources use.
-STANDARD = defaultdict(set)
-for _kopf, _namen in {
-    "algorithm": "ranges clamp count find_if max min mismatch replace rotate sort stable_sort", "array": "array size ssize end",
-    "bit": "rotl", "charconv": "chars_format from_chars to_chars", "chrono": "chrono", "clocale": "setlocale",
-    "cmath": "abs ceil fabs floor llround lround pow", "cstddef": "size_t ptrdiff_t byte nullptr_t",
-    "cstdint": "int8_t int16_t int32_t int64_t uint8_t uint16_t uint32_t uint64_t intptr_t uintptr_t",
-    "cstdio": "fflush fgetc ftell", "cstdlib": "getenv", "cstring": "memchr", "ctime": "localtime strftime time_t",
-    "deque": "deque", "exception": "exception", "filesystem": "filesystem", "functional": "function less hash",
-    "future": "async future_status launch", "initializer_list": "initializer_list", "iosfwd": "ostream istream",
-    "iostream": "cerr cout", "iterator": "back_inserter next prev size ssize end", "limits": "numeric_limits",
-    "map": "map multimap", "memory": "unique_ptr shared_ptr weak_ptr make_unique make_shared", "numeric": "accumulate iota",
-    "optional": "optional nullopt make_optional", "ostream": "flush", "random": "mt19937_64 random_device", "set": "set multiset",
-    "span": "span", "sstream": "istringstream ostringstream", "stdexcept": "runtime_error logic_error out_of_range invalid_argument",
-    "string": "string u32string u8string wstring erase getline size ssize end to_string to_wstring",
-    "string_view": "string_view u32string_view wstring_view", "system_error": "error_code errc system_error", "tuple": "tuple tie",
-    "type_traits": "is_same_v decay_t enable_if_t", "unordered_map": "unordered_map", "unordered_set": "unordered_set",
-    "utility": "move forward exchange pair swap as_const", "variant": "variant visit get_if monostate",
-    "vector": "vector erase erase_if size ssize end"}.items():
-    for _name in _namen.split():
-        STANDARD[_name].add(_kopf)
-# Containers bring what their own declarations need.
-BRINGT_MIT = {kopf: ["cstddef", "utility", "initializer_list"] for koepfe in STANDARD.values() for kopf in koepfe}
-BRINGT_MIT |= {"iostream": ["iosfwd", "ostream"], "ostream": ["iosfwd"], "string": BRINGT_MIT["string"] + ["string_view"],
-               "filesystem": BRINGT_MIT["string"] + ["string_view", "system_error"]}
-
-
-def _schalter(baum):
-    """What the sources of each target are compiled with, the precompiled header included, as CMake has written it."""
-    schalter = {}
+def _schalter(baum, ziel):
+    """What the sources of a target are compiled with, the precompiled header included, as CMake has written it."""
     for eintrag in json.loads((baum.bau / "compile_commands.json").read_text(encoding="utf-8")):
-        datei = Path(eintrag["file"])
-        if datei.suffix == ".cpp" and datei.is_relative_to(baum.wurzel / "src"):
-            teil = baum.haus.teil_von(datei.relative_to(baum.wurzel / "src"))
+        if re.search(rf" -o \S*CMakeFiles/{ziel}\.dir/", eintrag["command"]) and "c++-header" not in eintrag["command"]:
             worte = shlex.split(eintrag["command"])
             anfang = max(n for n, wort in enumerate(worte) if re.search(r"(^|/)(c|g|clang)\+\+[-\d]*$", wort))
-            ende = min(n for n, wort in enumerate(worte) if wort in ("-MD", "-o"))
-            schalter.setdefault(teil.ziel, worte[anfang + 1:ende])
-    return schalter
+            return worte[anfang + 1:min(n for n, wort in enumerate(worte) if wort in ("-MD", "-o"))]
+    raise LookupError(f"{ziel} is not compiled in {baum.bau}")
 
 
-def _kommt_an(baum, kopf, gesehen):
-    """The standard headers that the header includes, by itself or through ours."""
-    gesehen.add(kopf)
-    for _, zeile in baum.zeilen("src/" + kopf):
-        if treffer := FREMDER_INCLUDE.match(zeile):
-            yield from [treffer[1], *BRINGT_MIT.get(treffer[1], [])]
-        elif (treffer := EIGENER_INCLUDE.match(zeile)) and treffer[1] not in gesehen:
-            yield from _kommt_an(baum, treffer[1], gesehen)
-
-
-def _standard(baum, kopf):
-    text = "\n".join(re.sub(r"//.*", "", zeile) for _, zeile in baum.zeilen("src/" + kopf))
-    da = set(_kommt_an(baum, kopf, set()))
-    for name in sorted(set(re.findall(r"\bstd::(\w+)", text))):
-        if name not in STANDARD:
-            yield f"src/{kopf} uses std::{name}: say in STANDARD (tests/architektur/regeln.py) which header brings it."
-        elif not STANDARD[name] & da:
-            yield (f"src/{kopf} does not compile alone: it uses std::{name}, include "
-                   + " or ".join(f"<{quelle}>" for quelle in sorted(STANDARD[name])) + ".")
-
-
-def _vom_bau_uebersetzt(baum):
-    """The headers with which a source of this build begins, so that the build has compiled them alone."""
-    gebaut = {eintrag["file"] for eintrag in json.loads((baum.bau / "compile_commands.json").read_text(encoding="utf-8"))}
-    for datei in baum.quellen():
-        if str(baum.wurzel / "src" / datei) in gebaut:
-            erste = next((zeile for _, zeile in baum.zeilen("src/" + datei) if zeile.startswith("#include")), "")
-            if treffer := EIGENER_INCLUDE.match(erste):
-                yield treffer[1]
+BIBLIOTHEKEN = ("platform/qt/", "platform/calc/")
 
 
 def allein(baum, compiler="g++"):
-    """Every header compiles alone. The precompiled header of its folder makes that quick, so what it would hide, the
-    standard library's names, is looked up first."""
-    schalter = _schalter(baum)
-    koepfe = [datei for datei in baum.quellen() if datei.endswith(".h")]
-    uebrige = sorted(set(koepfe) - set(_vom_bau_uebersetzt(baum)))
+    """Every header that may know a library of others compiles alone; of all other names `einbindung` knows the headers. The
+    precompiled header of the folder makes that quick."""
 
     def uebersetze(kopf):
-        teil = baum.haus.teil_von(kopf)
+        schalter = _schalter(baum, baum.haus.teil_von(kopf).ziel)
         with tempfile.NamedTemporaryFile("w", suffix=".cpp") as probe:
             probe.write(f'#include "{kopf}"\n')
             probe.flush()
-            lauf = subprocess.run([compiler, *schalter.get(teil.ziel if teil else "", ["-std=c++20", f"-I{baum.wurzel}/src"]),
-                                   "-fsyntax-only", probe.name], capture_output=True, text=True, check=False)
+            lauf = subprocess.run([compiler, *schalter, "-fsyntax-only", probe.name], capture_output=True, text=True, check=False)
         return lauf.returncode and (f"src/{kopf} does not compile alone: include in it what it uses.\n"
                                     + "\n".join(lauf.stderr.splitlines()[:6]))
 
-    funde = [fund for kopf in koepfe for fund in _standard(baum, kopf)]
     with ThreadPoolExecutor(2) as hand:
-        return funde + [fund for fund in hand.map(uebersetze, uebrige) if fund]
+        koepfe = [datei for datei in baum.quellen() if datei.startswith(BIBLIOTHEKEN) and datei.endswith(".h")]
+        return [fund for fund in hand.map(uebersetze, koepfe) if fund]
 
 
 _KLAMMER = r"\((?:[^()]|\((?:[^()]|\([^()]*\))*\))*\)"
