@@ -28,8 +28,8 @@ bilder: bauen
 	werkzeug/handbuchbilder.sh
 
 # Every test: GCC, Clang with the sanitizers, then what runs on Windows without windows. While the tests of one run, the
-# next is compiled with what they leave of the processors.
-test: einrichten
+# next is compiled; beside the tests with real windows, which wait for what they see, with what they leave of the processors.
+test:
 	$(MAKE) --jobs=2 NACHEINANDER=1 gcc pruefung windows
 
 gcc: bau-gcc
@@ -52,11 +52,11 @@ bau-pruefung: einrichten
 
 bau-windows: einrichten
 	cmake --preset windows
-	nice cmake --build --preset windows
+	cmake --build --preset windows
 
 ifdef NACHEINANDER
 bau-pruefung: bau-gcc
-bau-windows: bau-pruefung
+bau-windows: bau-pruefung gcc
 pruefung: gcc
 endif
 

@@ -19,9 +19,10 @@ struct Tabellen {
     auto operator<=>(const Tabellen&) const = default;
 };
 
-Pfade pfade()
+const Pfade& pfade()
 {
-    return bildePfade(plattenordner());
+    static const auto alle = bildePfade(plattenordner());
+    return alle;
 }
 
 std::string inhalt(const Plattenstand& stand, const std::filesystem::path& pfad)

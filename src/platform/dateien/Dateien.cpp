@@ -65,7 +65,6 @@ std::string pfadtext(const fs::path& pfad)
 Schreiber::Schreiber(Dateizugriff& zugriff, const fs::path& pfad, Öffnung wie) : m_pfad(pfad)
 {
     m_datei = mitNamen("Die Datei kann nicht angelegt werden:"_t, pfad, [&] { return zugriff.öffne(pfad, wie); });
-    m_block.reserve(blockgröße);
 }
 
 void Schreiber::text(std::string_view bytes)
