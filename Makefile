@@ -48,7 +48,7 @@ bau-gcc: einrichten
 
 bau-pruefung: einrichten
 	cmake --preset prüfung
-	nice cmake --build --preset prüfung
+	nice -n 19 cmake --build --preset prüfung
 
 bau-windows: einrichten
 	cmake --preset windows

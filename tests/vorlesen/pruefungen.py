@@ -1,6 +1,7 @@
 """What must hold on every screen, each rule a function that gives its findings as pairs of element and fault."""
 
 import re
+import time
 
 from gi.repository import GLib
 
@@ -11,6 +12,8 @@ EINGABEN = {"push button", "check box", "radio button", "combo box", "text", "sp
 # the one real check box: a diagnosis is the main one or is not
 KREUZE = {"Hauptdiagnose"}
 ANTWORTEN = ["k.A. (offen)", "ja", "nein"]
+# seconds until what does not come counts as missing: other programs may keep the processors busy
+GEDULD = 6.0
 
 
 def heißt(knoten):
@@ -167,7 +170,7 @@ def prüfeFokus(wurzel, leser, bühne):
         einer = next(x for x in alle if x.pfad == k)
         leser.nimm_fokus(einer)
         bühne.tasten("Tab", "shift+Tab")
-        if not leser.warte_bis(lambda: hatFokus(leser, einer), 2):
+        if not leser.warte_bis(lambda: hatFokus(leser, einer), GEDULD):
             befunde.append((einer, "verliert den Fokus bei der nächsten Taste"))
     return befunde
 
@@ -179,13 +182,12 @@ def hatFokus(leser, knoten):
 
 
 def warteAufRuhe(leser, frist=6.0):
-    """Waits until no event has come for a moment."""
-    vorher = -1
-    for _ in range(int(frist / 0.15)):
-        if vorher == len(leser.ereignisse):
-            return
-        vorher = len(leser.ereignisse)
+    """Waits until no event has come for a moment and the program has answered in it: a busy one is not at rest."""
+    ende, bisher = time.monotonic() + frist, -1
+    while bisher != len(leser.ereignisse) and time.monotonic() < ende:
+        bisher = len(leser.ereignisse)
         leser.lasse_geschehen(0.15)
+        leser.fenster()
 
 
 def hatGemeldet(leser, pfade):
@@ -224,7 +226,7 @@ def prüfeAntworttasten(wurzel, leser, bühne):
         for taste, antwort in (("Right", "ja"), ("Left", "k.A. (offen)")):
             leser.ereignisse.clear()
             bühne.tasten(taste)
-            if not leser.warte_bis(lambda: leser.name(k) == antwort and hatGemeldet(leser, {k.pfad}), 2):
+            if not leser.warte_bis(lambda: leser.name(k) == antwort and hatGemeldet(leser, {k.pfad}), GEDULD):
                 befunde.append((k, f"meldet '{antwort}' nicht nach der Taste {taste}"))
     return befunde
 
@@ -239,7 +241,7 @@ def prüfeOffeneListen(wurzel, leser, bühne):
         def ist_offen():
             listen[:] = [x for x in leser.baum(Knoten(k.pfad, None)).kinder if x.rolle == "list"]
             return bool(listen)
-        if not leser.warte_bis(ist_offen, 3):
+        if not leser.warte_bis(ist_offen, GEDULD):
             befunde.append((k, "die Liste geht nicht auf"))
             continue
         if not listen[0].name.strip():
@@ -247,11 +249,11 @@ def prüfeOffeneListen(wurzel, leser, bühne):
         leser.ereignisse.clear()
         einträge = {x.pfad for x in listen[0].kinder}
         bühne.tasten("Down", "Up")
-        if not leser.warte_bis(lambda: any(e.pfad in einträge and e.art == "focused" for e in leser.ereignisse), 2):
+        if not leser.warte_bis(lambda: any(e.pfad in einträge and e.art == "focused" for e in leser.ereignisse), GEDULD):
             befunde.append((k, "die offene Liste sagt nicht, wo man steht"))
         prüfeVeralteteStellen(listen[0], leser)
         bühne.tasten("Escape")
-        leser.warte_bis(lambda: not ist_offen(), 2)
+        leser.warte_bis(lambda: not ist_offen(), GEDULD)
     return befunde
 
 
@@ -269,7 +271,7 @@ def prüfeKalender(wurzel, leser, bühne):
         ziele = [e.pfad for e in leser.ereignisse if (e.name, e.art, e.zahl) == ("StateChanged", "focused", 1)]
         return any(re.search(r"\d{1,2}\. \w+ \d{4}", leser.name(Knoten(pfad, None))) for pfad in ziele)
     bühne.tasten("Right")
-    gesagt = leser.warte_bis(sagt_den_tag, 3)
+    gesagt = leser.warte_bis(sagt_den_tag, GEDULD)
     bühne.tasten("Escape")
     leser.lasse_geschehen(0.3)
     return [] if gesagt else [(felder[0], "der Kalender sagt den Tag nicht")]
@@ -290,9 +292,10 @@ def prüfeÄnderungen(wurzel, leser, bühne):
         leser.nimm_fokus(k)
         leser.ereignisse.clear()
         pfade = {x.pfad for x in k.alle()}
-        for folge in tasten:
+        # at one end of a list one of the keys changes nothing: not much patience before the other has been tried
+        for folge, frist in [*((folge, 0.7) for folge in tasten), *((folge, GEDULD) for folge in tasten)]:
             bühne.tasten(*folge)
-            if leser.warte_bis(lambda: hatGemeldet(leser, pfade) or istGewandert(leser, pfade, k), 0.7):
+            if leser.warte_bis(lambda: hatGemeldet(leser, pfade) or istGewandert(leser, pfade, k), frist):
                 break
         else:
             befunde.append((k, f"meldet keine Änderung ({frage(wurzel, k) or k.name})"))
@@ -318,7 +321,7 @@ def prüfeMarken(wurzel, leser):
             if vorher and k.rolle == "radio button":
                 break
             if not leser.warte_bis(lambda: ("angekreuzt" in leser.zustand(k)) != vorher and
-                                   hatGemeldet(leser, {k.pfad}), 1.5):
+                                   hatGemeldet(leser, {k.pfad}), GEDULD):
                 befunde.append((k, "meldet nicht, dass sie markiert ist"))
             if k.rolle == "radio button":
                 break
