@@ -4,7 +4,6 @@
 set(INSTALL_GTEST OFF)
 set(BUILD_GMOCK OFF)
 add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
-target_compile_options(gtest PRIVATE -O0)
 
 # tolvek_wine_heim(HOME): a home of wine's, made before the tests that need it and ended after them.
 function(tolvek_wine_heim heim)

@@ -5,7 +5,7 @@ the files, which do not tell everything: overloads in two headers are one name, 
 import re
 from collections import defaultdict
 
-from regeln import EIGENER_INCLUDE
+from regeln import EIGENER_INCLUDE, FREMDER_INCLUDE
 from standard import fehlender_standard
 
 UNGELESEN = re.compile(r'R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|(?<!\w)\'(?:\\.|[^\'\\\n])+\'|//[^\n]*|/\*.*?\*/|^[ \t]*#[^\n]*',
@@ -104,10 +104,13 @@ class Quellen:
 
 
 def einbindung(baum):
-    texte = {datei: lies((baum.wurzel / "src" / datei).read_text(encoding="utf-8")) for datei in baum.quellen()}
-    includes = defaultdict(list)
-    for datei, _, kopf in baum.includes(EIGENER_INCLUDE):
-        includes[datei].append(kopf)
-    quellen = Quellen(texte, includes)
-    return ([fund for datei in texte for fund in quellen.fehlend(datei)]
-            + [fund for datei in texte for fund in fehlender_standard(baum, datei)])
+    roh = {datei: (baum.wurzel / "src" / datei).read_text(encoding="utf-8") for datei in baum.quellen()}
+    eigene, fremde = defaultdict(list), defaultdict(list)
+    for includes, muster in ((eigene, EIGENER_INCLUDE), (fremde, FREMDER_INCLUDE)):
+        for datei, _, kopf in baum.includes(muster):
+            includes[datei].append(kopf)
+    quellen = Quellen({datei: lies(text) for datei, text in roh.items()}, eigene)
+    funde = [fund for datei in roh for fund in quellen.fehlend(datei)]
+    for datei, text in roh.items():
+        funde += fehlender_standard(datei, text, {kopf for ort in quellen.erreicht(datei, set()) for kopf in fremde[ort]})
+    return funde

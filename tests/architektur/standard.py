@@ -3,8 +3,6 @@
 import re
 from collections import defaultdict
 
-from regeln import EIGENER_INCLUDE, FREMDER_INCLUDE
-
 # The headers, of which any brings the name of the standard library, for the names that our sources use.
 STANDARD = defaultdict(set)
 for _kopf, _namen in {
@@ -32,20 +30,10 @@ BRINGT_MIT |= {"iostream": ["iosfwd", "ostream"], "ostream": ["iosfwd"], "string
                "filesystem": BRINGT_MIT["string"] + ["string_view", "system_error"]}
 
 
-def kommt_an(baum, datei, gesehen):
-    """The standard headers that the file includes, by itself or through ours."""
-    gesehen.add(datei)
-    for _, zeile in baum.zeilen("src/" + datei):
-        if treffer := FREMDER_INCLUDE.match(zeile):
-            yield from [treffer[1], *BRINGT_MIT.get(treffer[1], [])]
-        elif (treffer := EIGENER_INCLUDE.match(zeile)) and treffer[1] not in gesehen:
-            yield from kommt_an(baum, treffer[1], gesehen)
-
-
-def fehlender_standard(baum, datei):
-    text = "\n".join(re.sub(r"//.*", "", zeile) for _, zeile in baum.zeilen("src/" + datei))
-    da = set(kommt_an(baum, datei, set()))
-    for name in sorted(set(re.findall(r"\bstd::(\w+)", text))):
+def fehlender_standard(datei, text, koepfe):
+    """What the file uses of the standard library and none of these standard headers brings, which reach it."""
+    da = {gebracht for kopf in koepfe for gebracht in [kopf, *BRINGT_MIT.get(kopf, [])]}
+    for name in sorted(set(re.findall(r"\bstd::(\w+)", re.sub(r"//.*", "", text)))):
         if name not in STANDARD:
             yield f"src/{datei} uses std::{name}: say in STANDARD (tests/architektur/standard.py) which header brings it."
         elif not STANDARD[name] & da:

@@ -181,9 +181,9 @@ def hatFokus(leser, knoten):
                                                         if k.rolle in ("cell", "tree item", "list item"))
 
 
-def warteAufRuhe(leser, frist=6.0):
+def warteAufRuhe(leser):
     """Waits until no event has come for a moment and the program has answered in it: a busy one is not at rest."""
-    ende, bisher = time.monotonic() + frist, -1
+    ende, bisher = time.monotonic() + GEDULD, -1
     while bisher != len(leser.ereignisse) and time.monotonic() < ende:
         bisher = len(leser.ereignisse)
         leser.lasse_geschehen(0.15)
