@@ -6,23 +6,34 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <vector>
 
 namespace fs = std::filesystem;
 
 namespace {
 
-/// The texts of three files; empty for one that is not there.
-using Dreiertext = std::array<std::string, 3>;
+/// The contents of three files; none for one that is not there.
+using Dreierinhalt = std::array<std::unique_ptr<Dateiinhalt>, 3>;
+/// Their texts; empty for one that is not there.
+using Dreiertext = std::array<std::string_view, 3>;
 
-Dreiertext textDerBak(const Bestand& bestand)
+Dreierinhalt inhaltDerBak(const Bestand& bestand)
 {
-    Dreiertext texte;
+    Dreierinhalt inhalt;
     for (std::size_t i = 0; i < dieSicherungen.size(); ++i) {
         if (!bestand.dateien().fehlt(bestand.pfade().von(dieSicherungen[i]))) {
-            texte[i] = bestand.inhalt(dieSicherungen[i])->text();
+            inhalt[i] = bestand.inhalt(dieSicherungen[i]);
         }
     }
+    return inhalt;
+}
+
+Dreiertext texteVon(const Dreierinhalt& inhalt)
+{
+    Dreiertext texte;
+    std::ranges::transform(inhalt, texte.begin(),
+                           [](const auto& einer) { return einer ? einer->text() : std::string_view(); });
     return texte;
 }
 
@@ -66,7 +77,8 @@ fs::path freierOrdner(const Bestand& bestand, const Dreiertext& texte)
 void stelleBakBeiseite(const Bestand& bestand, const Dreiertext& neue)
 {
     auto& dateien = bestand.dateien();
-    const auto texte = textDerBak(bestand);
+    const auto alte = inhaltDerBak(bestand);
+    const auto texte = texteVon(alte);
     if (texte == neue || texte == Dreiertext()) {
         return;
     }
@@ -145,9 +157,9 @@ void entferneAngefangeneSicherungen(const Bestand& bestand)
 void sichereDateien(const Bestand& bestand)
 {
     Vorgang vorgang(bestand);
-    Dreiertext neue;
+    Dreierinhalt neue;
     for (std::size_t i = 0; i < dieTabellen.size(); ++i) {
-        neue[i] = bestand.inhalt(dieTabellen[i])->text();
+        neue[i] = bestand.inhalt(dieTabellen[i]);
         const auto& bak = bestand.pfade().von(dieSicherungen[i]);
         // a folder without the file of an earlier backup has been tampered with; going on could overwrite what
         // somebody has moved aside
@@ -155,7 +167,7 @@ void sichereDateien(const Bestand& bestand)
             throw Laufzeitfehler(verbinde("Die Sicherungsdatei \""_t, pfadtext(bak), "\" fehlt"_t));
         }
     }
-    stelleBakBeiseite(bestand, neue);
+    stelleBakBeiseite(bestand, texteVon(neue));
     for (std::size_t i = 0; i < dieTabellen.size(); ++i) {
         vorgang.setzeInhalt(dieSicherungen[i], std::move(neue[i]));
     }

@@ -27,10 +27,10 @@ std::size_t jahresanfang(std::string_view datum)
 }
 
 /// A line that ends before or within the field was written by halves: what looks like two digits of a year may be the
-/// first two of four.
+/// first two of four. The fields are counted where it looks so, not in every line.
 bool brauchtReparatur(std::string_view zeile, int feld)
 {
-    return anzahlFelder(zeile) > feld && hatKurzesJahr(getFeld(zeile, feld));
+    return hatKurzesJahr(getFeld(zeile, feld)) && anzahlFelder(zeile) > feld;
 }
 
 /// What the repair wants to know of a table, in one walk.

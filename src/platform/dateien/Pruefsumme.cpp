@@ -26,16 +26,21 @@ std::uint64_t wortAb(const char* ort)
 
 void Prüfsumme::nimm(std::string_view bytes)
 {
-    while (!bytes.empty()) {
-        const std::size_t stelle = m_länge % schritt;
-        const std::size_t menge = stelle == 0 && bytes.size() >= schritt ? schritt : 1;
-        m_rest |= menge == schritt ? wortAb(bytes.data())
-                                   : std::uint64_t{static_cast<unsigned char>(bytes.front())} << (8 * stelle);
-        m_länge += menge;
-        bytes.remove_prefix(menge);
-        if (m_länge % schritt == 0) {
+    const auto nimmEines = [&] {
+        m_rest |= std::uint64_t{static_cast<unsigned char>(bytes.front())} << (8 * (m_länge % schritt));
+        bytes.remove_prefix(1);
+        if (++m_länge % schritt == 0) {
             m_summe = mische(m_summe, std::exchange(m_rest, 0));
         }
+    };
+    while (!bytes.empty() && m_länge % schritt != 0) {
+        nimmEines();
+    }
+    for (; bytes.size() >= schritt; bytes.remove_prefix(schritt), m_länge += schritt) {
+        m_summe = mische(m_summe, wortAb(bytes.data()));
+    }
+    while (!bytes.empty()) {
+        nimmEines();
     }
 }
 
