@@ -12,8 +12,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <initializer_list>
 #include <memory>
+#include <span>
 
 namespace {
 
@@ -26,7 +26,7 @@ struct Lauf {
 
     const Bestand& bestand() { return programm.zustand().bestand; }
     const Pfade& pfade() { return programm.zustand().pfade; }
-    void kopiere(std::initializer_list<Tabelle> tabellen)
+    void kopiere(std::span<const Tabelle> tabellen)
     {
         for (const auto tabelle : tabellen) {
             ::kopiere(umgebung.dateien(), pfade().von(tabelle), pfade().programm / "kopie.txt");
@@ -99,13 +99,12 @@ void speichere(const Bestand& ziel, const Arbeitskopie& kopie, int betrID, bool 
 
 void kopiereDieDrei()
 {
-    lauf().kopiere({Tabelle::Kern, Tabelle::Betr, Tabelle::Diag});
+    lauf().kopiere(dieTabellen);
 }
 
 void kopiereAlleSechs()
 {
-    kopiereDieDrei();
-    lauf().kopiere({Tabelle::KernBak, Tabelle::BetrBak, Tabelle::DiagBak});
+    lauf().kopiere(alleSechs);
 }
 
 void geänderteBetreuung(benchmark::State& stand)
@@ -215,9 +214,7 @@ void wachstum(benchmark::State& stand)
         const auto kopie = öffne(einer.bestand(), klienten);
         Verhältnis beste{1e9, 1e9};
         for (int i = 0; i < wiederholungen; ++i) {
-            beste.grenze = std::min(beste.grenze, stoppe([&] {
-                                        einer.kopiere({Tabelle::Kern, Tabelle::Betr, Tabelle::Diag});
-                                    }));
+            beste.grenze = std::min(beste.grenze, stoppe([&] { einer.kopiere(dieTabellen); }));
             beste.arbeit = std::min(beste.arbeit, stoppe([&] { speichere(einer.bestand(), kopie, 1, false); }));
         }
         return beste;

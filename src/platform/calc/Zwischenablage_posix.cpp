@@ -89,15 +89,16 @@ bool starte(const fs::path& programm, const std::vector<std::string>& argumente,
         }
         setsid();
         löseVonEinUndAusgabe();
-        if (wache == nullptr) { // or the folder would stay locked until this process has come to its end
-            rohr[1] = dup2(rohr[1], ersteEigene);
-            close_range(ersteEigene + 1, ~0U, 0);
-        }
         close_range(ersteEigene, ~0U, CLOSE_RANGE_CLOEXEC);
         pid_t nummer = 0;
         const bool gestartet = posix_spawn(&nummer, programm.c_str(), nullptr, nullptr, zeiger.data(), environ) == 0;
+        const bool wacht = gestartet && wache != nullptr;
+        if (!wacht) { // or the folder would stay locked until this process has come to its end
+            rohr[1] = dup2(rohr[1], ersteEigene);
+            close_range(ersteEigene + 1, ~0U, 0);
+        }
         (void)!write(rohr[1], &gestartet, sizeof gestartet);
-        if (gestartet && wache != nullptr) {
+        if (wacht) {
             bewache(*wache);
         }
         _exit(0);
